@@ -1,0 +1,36 @@
+/// @file
+/// Where a caption stands on the picture.
+
+#ifndef ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
+#define ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
+
+#include <cstdint>
+
+namespace ZelInterchangeData {
+
+/// Bit flags: at most one vertical and one horizontal flag, joined with `|`.
+///
+/// The two axes are read independently. Any value may travel in it; other bits are ignored.
+enum ZelAlignment_tags : std::uint32_t {
+    /// Neither flag of either axis: centred vertically and horizontally.
+    ZelAlignCenter = 0x00,
+    /// Vertical: bottom. Wins over top when both bits are set.
+    ZelAlignBottom = 0x01,
+    /// Vertical: top.
+    ZelAlignTop = 0x02,
+    /// Horizontal: left. Wins over right when both bits are set.
+    ZelAlignLeft = 0x10,
+    /// Horizontal: right.
+    ZelAlignRight = 0x20
+};
+
+/// Joins the flags of @p a and @p b.
+constexpr ZelAlignment_tags operator|(ZelAlignment_tags a, ZelAlignment_tags b) noexcept
+{
+    return static_cast<ZelAlignment_tags>(static_cast<std::uint32_t>(a) |
+                                          static_cast<std::uint32_t>(b));
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,31 @@
+/// @file
+/// The one exception of the library.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATAEXCEPTION_H
+#define ZELINTERCHANGEDATA_ZELDATAEXCEPTION_H
+
+#include "ZelInterchangeData/ZelDataExport.h"
+
+#include <exception>
+#include <string>
+
+namespace ZelInterchangeData {
+
+/// Thrown by ZELDataCreator::createInterchangeData() alone, when no document could be made. Every
+/// other failure travels as a result code.
+class ZELINTERCHANGEDATA_API ZelDataException : public std::exception {
+public:
+    /// Keeps a copy of @p message.
+    explicit ZelDataException(const std::string& message);
+    ~ZelDataException() override;
+
+    /// The message; valid as long as this object lives.
+    const char* what() const noexcept override;
+
+private:
+    std::string message_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

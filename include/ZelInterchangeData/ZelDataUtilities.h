@@ -1,0 +1,145 @@
+/// @file
+/// Factories of all objects, the language catalogue, and the text and value helpers.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATAUTILITIES_H
+#define ZELINTERCHANGEDATA_ZELDATAUTILITIES_H
+
+#include "ZelInterchangeData/ZelAlignment_tags.h"
+#include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataResult_tags.h"
+
+#include <string>
+
+namespace ZelInterchangeData {
+
+class i_ZelDataCaptionFormatter;
+class i_ZelDataCaptionItem;
+class i_ZelDataCaptions;
+class i_ZelDataHeader;
+class i_ZelDataHeaderFormatter;
+class i_ZelDataScreenText;
+class i_ZelDataScreenTextFormatter;
+class i_ZelDataScreenTextItem;
+class i_ZelDataToc;
+class i_ZelDataTocFormatter;
+class i_ZelDataTocItem;
+
+/// Static functions only. They return codes or values and store no last error anywhere. All of them
+/// may be called from any thread.
+class ZELINTERCHANGEDATA_API ZelDataUtilities {
+public:
+    ZelDataUtilities() = delete;
+
+    /// @name Data factories
+    /// Each stores a new object with its defaults in `*out`; the caller owns it.
+    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
+    /// - #ZelData_OutOfMemory: no object was obtained; `*out` stays null.
+    /// @{
+    static ZelDataResult_tags createHeaderData(i_ZelDataHeader** out);
+    static ZelDataResult_tags createCaptionItemData(i_ZelDataCaptionItem** out);
+    static ZelDataResult_tags createCaptionData(i_ZelDataCaptions** out);
+    static ZelDataResult_tags createTocItemData(i_ZelDataTocItem** out);
+    static ZelDataResult_tags createTocData(i_ZelDataToc** out);
+    static ZelDataResult_tags createScreenTextItemData(i_ZelDataScreenTextItem** out);
+    static ZelDataResult_tags createScreenTextData(i_ZelDataScreenText** out);
+    /// @}
+
+    /// @name Formatter factories
+    /// Each stores a new formatter without data in `*out`; the caller owns it. Checked in this
+    /// order:
+    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
+    /// - #ZelData_UnsupportedFormat: @p format is not #ZelDataFormat_Xmp; `*out` stays null.
+    /// - #ZelData_OutOfMemory: no object was obtained; `*out` stays null.
+    /// @{
+    static ZelDataResult_tags createHeaderFormatter(i_ZelDataHeaderFormatter** out,
+                                                    ZelDataFormatType_tags format);
+    static ZelDataResult_tags createCaptionFormatter(i_ZelDataCaptionFormatter** out,
+                                                     ZelDataFormatType_tags format);
+    static ZelDataResult_tags createTocFormatter(i_ZelDataTocFormatter** out,
+                                                 ZelDataFormatType_tags format);
+    static ZelDataResult_tags createScreenTextFormatter(i_ZelDataScreenTextFormatter** out,
+                                                        ZelDataFormatType_tags format);
+    /// @}
+
+    /// @name Language catalogue
+    /// The 184 languages of ISO 639-1. An ID is a two-letter code in any letter case, optionally
+    /// followed by "-" and anything, which is not examined.
+    /// @{
+
+    /// Replaces @p name with the English name of the language of @p id.
+    /// - #ZelData_UnknownLanguage: not in the catalogue; @p name is left alone.
+    /// - #ZelData_OutOfMemory: @p name is left alone.
+    static ZelDataResult_tags englishNameForLanguage(const std::string& id, std::string& name);
+    /// Replaces @p name with the language's own name in UTF-8, which may be empty ("lu").
+    /// - #ZelData_UnknownLanguage: not in the catalogue; @p name is left alone.
+    /// - #ZelData_OutOfMemory: @p name is left alone.
+    static ZelDataResult_tags nativeNameForLanguage(const std::string& id, std::string& name);
+    /// #ZelData_Ok when the catalogue knows the language of @p id, else #ZelData_UnknownLanguage.
+    static ZelDataResult_tags isValidLanguage(const std::string& id);
+    /// @}
+
+    /// @name Text
+    /// The functions that return a string let `std::bad_alloc` through.
+    /// @{
+
+    /// Checks the form of the UTF-8 sequences of @p text. An empty text passes.
+    /// - #ZelData_InvalidUtf8: a stray or missing continuation byte, or one of the leads 0xC0,
+    ///   0xC1, 0xFE and 0xFF.
+    /// - #ZelData_UnsupportedCharacter: @p bmpOnly is true and a lead byte of four or more bytes
+    ///   came first.
+    ///
+    /// Five- and six-byte forms, overlong forms of three and more bytes, encoded surrogates and
+    /// values above U+10FFFF pass.
+    static ZelDataResult_tags verifyUtf8Format(const std::string& text, bool bmpOnly);
+    /// The number of line feeds, plus one when there is one and the last byte is none. 0 for a text
+    /// without any line feed, however long, and for one that is not UTF-8.
+    static unsigned long countLinesInUTF8(const std::string& text);
+    /// @p text without the bytes 0x00 to 0x1F, the line feed excepted. Tab and carriage return go.
+    static std::string stripUnsupportedCharacters(const std::string& text);
+    /// @p text with `"`, `&`, `'`, `<` and `>` as the entities of XML.
+    static std::string htmlTagsToText(const std::string& text);
+    /// @p text with the five entities of XML as characters, decoded once.
+    ///
+    /// An entity that ends at the last byte is not decoded. Where a `&` begins no entity, the byte
+    /// that decided so is dropped: the third one after `&a`, else the second ("&nbsp;" gives
+    /// "&bsp;").
+    static std::string htmlTagsFromText(const std::string& text);
+    /// "bottom", "top" or "center"; bottom wins over top.
+    static std::string getVerticalAlignment(ZelAlignment_tags alignment);
+    /// "left", "right" or "center"; left wins over right.
+    static std::string getHorizontalAlignment(ZelAlignment_tags alignment);
+    /// @}
+
+    /// @name Values
+    /// The text forms that the packet uses; they never depend on a locale. They let
+    /// `std::bad_alloc` through.
+    /// @{
+
+    /// Six significant digits, shortest general notation ("2", "0.1", "1.23457e+06", "nan").
+    static std::string getValueString(float value);
+    /// Plain decimal.
+    static std::string getValueString(unsigned long long value);
+    /// Plain decimal.
+    static std::string getValueString(unsigned long value);
+    /// The letter f and the plain decimal rate ("f1000").
+    static std::string getRateString(unsigned long rate);
+    /// Major (all bits from 16 up), minor (bits 8 to 15) and patch (bits 0 to 7), joined by dots.
+    static std::string getVersionString(unsigned long version);
+    /// The date and time of @p seconds since the Unix epoch, or of now when null, in UTC, followed
+    /// by an offset in hours ("2009-03-05T14:07:09+2:00"). Empty when the instant has no calendar
+    /// date.
+    ///
+    /// The offset is the local hour minus the UTC hour and nothing else: no minutes, no day
+    /// boundary, no zero before a digit, and "-0:00" where the hours agree. The time zone is the
+    /// one that the process has set; `tzset` is not called.
+    static std::string getDateString(long* seconds);
+    /// @}
+};
+
+/// Plain decimal, with a leading "-" when negative. Lets `std::bad_alloc` through.
+ZELINTERCHANGEDATA_API std::string getValueString(long value);
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,37 @@
+/// @file
+/// What the document and the formatters of the data sets have in common.
+
+#ifndef ZELINTERCHANGEDATA_I_ZELDATAFORMATTERBASE_H
+#define ZELINTERCHANGEDATA_I_ZELDATAFORMATTERBASE_H
+
+#include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/i_ZelDataResult.h"
+
+#include <string>
+
+namespace ZelInterchangeData {
+
+/// Writes data in a format. Reading is part of the interface but never supported.
+///
+/// The derived interfaces say what @p format and @p flag mean to each operation and which codes
+/// they give.
+class ZELINTERCHANGEDATA_API i_ZelDataFormatterBase : public i_ZelDataResult {
+public:
+    ~i_ZelDataFormatterBase() override;
+
+    /// Writes the data into @p out, which stays as it was on failure.
+    virtual ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                           bool flag) const = 0;
+    /// Not supported; nothing is read.
+    virtual ZelDataResult_tags readString(const std::string& text, ZelDataFormatType_tags format,
+                                          bool flag) = 0;
+    /// Writes the data into the file at @p path. Supported by the document alone.
+    virtual ZelDataResult_tags writeFile(const std::string& path, ZelDataFormatType_tags format,
+                                         bool flag) const = 0;
+    /// Not supported; nothing is read.
+    virtual ZelDataResult_tags readFile(const std::string& path, ZelDataFormatType_tags format) = 0;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

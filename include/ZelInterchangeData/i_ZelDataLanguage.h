@@ -1,0 +1,64 @@
+/// @file
+/// The ordered list of languages of a header, of captions and of a table of contents.
+
+#ifndef ZELINTERCHANGEDATA_I_ZELDATALANGUAGE_H
+#define ZELINTERCHANGEDATA_I_ZELDATALANGUAGE_H
+
+#include "ZelInterchangeData/i_ZelDataResult.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// An ordered list of language IDs.
+///
+/// A language ID is a two-letter ISO 639-1 code that the catalogue knows, in any letter case,
+/// optionally followed by "-" and anything ("en", "EN", "en-US"). IDs are stored as given and
+/// compared byte for byte, so "en", "EN" and "en-GB" are three different entries.
+class ZELINTERCHANGEDATA_API i_ZelDataLanguage : public i_ZelDataResult {
+public:
+    ~i_ZelDataLanguage() override;
+
+    /// Empties the list.
+    virtual ZelDataResult_tags clearLanguages() = 0;
+    /// Appends @p id.
+    /// - #ZelData_InvalidUtf8: @p id is not UTF-8.
+    /// - #ZelData_UnknownLanguage: the catalogue does not know its language.
+    /// - #ZelData_WarnAlreadyExists: an identical ID is listed; the list stays as it is.
+    virtual ZelDataResult_tags addLanguage(const std::string& id) = 0;
+    /// Removes the first entry that is identical to @p id.
+    /// - #ZelData_WarnNoChange from a header, #ZelData_NotFound from captions and a table of
+    ///   contents: there is none.
+    virtual ZelDataResult_tags removeLanguage(const std::string& id) = 0;
+    /// Puts the list in the order of @p ids.
+    /// - #ZelData_InvalidArgument: @p ids has another number of entries than the list, or one that
+    ///   is not listed.
+    ///
+    /// Only count and membership are checked: an ID that stands twice in @p ids is accepted, and
+    /// another one then disappears. The next copy of such a list stops at the second entry.
+    virtual ZelDataResult_tags setOrderedLanguageIDs(const std::vector<std::string>& ids) = 0;
+    /// Replaces @p ids with the list.
+    virtual ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const = 0;
+    /// The number of entries.
+    virtual ZelDataResult_tags getLanguageCount(unsigned long& count) const = 0;
+    /// Replaces @p names with the English name of each entry, in order.
+    /// - #ZelData_InternalError: a name is missing; @p names holds those that were found.
+    /// - #ZelData_OutOfMemory: @p names holds those that were found.
+    virtual ZelDataResult_tags getLanguageDisplayNames(std::vector<std::string>& names) const = 0;
+    /// Replaces @p names with each language's own name, in order. The name may be empty ("lu").
+    /// - #ZelData_InternalError: a name is missing; @p names holds those that were found.
+    /// - #ZelData_OutOfMemory: @p names holds those that were found.
+    virtual ZelDataResult_tags
+    getLanguageNativeDisplayNames(std::vector<std::string>& names) const = 0;
+    /// Sets @p exists to whether an entry identical to @p id is listed; @p id is only read.
+    virtual ZelDataResult_tags doesLanguageExist(std::string& id, bool& exists) const = 0;
+    /// Replaces the list with that of @p other, entry by entry through addLanguage().
+    /// - #ZelData_InternalError: @p other is this object; nothing changes.
+    /// - A failing step's code, warnings included: the entries added so far remain.
+    virtual ZelDataResult_tags copyFrom(const i_ZelDataLanguage& other);
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,36 @@
+/// @file
+/// The formatter of screen text.
+
+#ifndef ZELINTERCHANGEDATA_I_ZELDATASCREENTEXTFORMATTER_H
+#define ZELINTERCHANGEDATA_I_ZELDATASCREENTEXTFORMATTER_H
+
+#include "ZelInterchangeData/i_ZelDataFormatterBase.h"
+
+namespace ZelInterchangeData {
+
+class i_ZelDataScreenText;
+
+/// Holds a copy of screen text and writes it as one `rdf:li` of the packet's track list.
+///
+/// - `writeString` (the flag is not used): #ZelData_InternalError for a format other than
+///   #ZelDataFormat_Xmp; #ZelData_InvalidData when nothing was ever set. A collection without items
+///   gives #ZelData_Ok and leaves the text alone. The held copy is made consistent first.
+/// - `writeFile` writes no file: #ZelData_InternalError for another format, the code of a failing
+///   `writeString`, else #ZelData_NotImplemented.
+/// - `readString`, `readFile`: #ZelData_InternalError for another format, else
+///   #ZelData_NotImplemented.
+class ZELINTERCHANGEDATA_API i_ZelDataScreenTextFormatter : public i_ZelDataFormatterBase {
+public:
+    ~i_ZelDataScreenTextFormatter() override;
+
+    /// Replaces the held copy with a copy of @p screenText.
+    /// - The code of the copying (see i_ZelDataScreenText::copyFrom()): the held copy is partly
+    ///   filled.
+    virtual ZelDataResult_tags setScreenText(const i_ZelDataScreenText& screenText) = 0;
+    /// Not supported: always #ZelData_NotImplemented.
+    virtual ZelDataResult_tags getScreenText(i_ZelDataScreenText& screenText) const = 0;
+};
+
+} // namespace ZelInterchangeData
+
+#endif
