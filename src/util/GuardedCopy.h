@@ -1,0 +1,24 @@
+/// @file
+/// Copies in and out of objects.
+
+#ifndef ZELINTERCHANGEDATA_UTIL_GUARDEDCOPY_H
+#define ZELINTERCHANGEDATA_UTIL_GUARDEDCOPY_H
+
+#include "util/Guard.h"
+
+namespace ZelInterchangeData {
+
+/// Makes @p target a copy of @p source, or leaves it alone and gives #ZelData_OutOfMemory.
+template <class Value>
+[[nodiscard]] ZelDataResult_tags guardedCopy(Value& target, const Value& source) noexcept
+{
+    return guarded([&] {
+        Value copy(source);
+        target.swap(copy);
+        return ZelData_Ok;
+    });
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,112 @@
+/// @file
+/// Numbers, rates, versions and dates as the packet writes them.
+
+#include "util/ValueStrings.h"
+
+#include "ZelInterchangeData/ZelDataUtilities.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
+namespace ZelInterchangeData {
+
+namespace {
+
+/// Room for every 64-bit number in decimal and for every double with six digits.
+using NumberBuffer = std::array<char, 32>;
+
+/// The number that @p format, the arguments of std::to_chars behind the value, makes of @p value.
+template <class Number, class... Format>
+std::string numberText(Number value, Format... format)
+{
+    NumberBuffer buffer;
+    char* const begin = buffer.data();
+    const auto result = std::to_chars(begin, begin + buffer.size(), value, format...);
+    return std::string(begin, result.ptr);
+}
+
+/// The calendar date and the time of day; the year in 64 bits, as the calendar's may exceed an int.
+std::string dateAndTime(const std::tm& utc)
+{
+    std::array<char, 128> buffer;
+    const int length = std::snprintf(
+        buffer.data(), buffer.size(), "%04lld-%02d-%02dT%02d:%02d:%02d", utc.tm_year + 1900LL,
+        utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
+    return std::string(buffer.data(), static_cast<std::size_t>(length));
+}
+
+/// The zone offset of a date, from the hour fields alone.
+std::string hourOffset(int utcHour, int localHour)
+{
+    // Meant: equal hours give "-0:00"; with <= here they would give "+0:00".
+    std::string offset = utcHour < localHour ? "+" : "-";
+    // Meant: no day boundary; with it, 23:00 here and 01:00 there would be "+2:00", not "-22:00".
+    const long long hours = std::abs(localHour - utcHour);
+    // Meant: no minutes and no leading zero; a real offset would be "+05:30" where this is "+5:00".
+    return offset.append(decimalText(hours)).append(":00");
+}
+
+} // namespace
+
+std::string decimalText(long long value)
+{
+    return numberText(value);
+}
+
+std::string decimalText(unsigned long long value)
+{
+    return numberText(value);
+}
+
+std::string generalText(double value)
+{
+    constexpr int significantDigits = 6;
+    return numberText(value, std::chars_format::general, significantDigits);
+}
+
+std::string ZelDataUtilities::getValueString(float value)
+{
+    return generalText(double{value});
+}
+
+std::string getValueString(long value)
+{
+    return decimalText(static_cast<long long>(value));
+}
+
+std::string ZelDataUtilities::getValueString(unsigned long long value)
+{
+    return decimalText(value);
+}
+
+std::string ZelDataUtilities::getValueString(unsigned long value)
+{
+    return decimalText(static_cast<unsigned long long>(value));
+}
+
+std::string ZelDataUtilities::getRateString(unsigned long rate)
+{
+    return std::string("f").append(getValueString(rate));
+}
+
+std::string ZelDataUtilities::getVersionString(unsigned long version)
+{
+    // The major field takes every higher bit: masking it to 16 bits would cut the value.
+    return getValueString(version >> 16U) + "." + getValueString((version >> 8U) & 0xFFU) + "." +
+           getValueString(version & 0xFFU);
+}
+
+std::string ZelDataUtilities::getDateString(long* seconds)
+{
+    const std::time_t instant = seconds == nullptr ? std::time(nullptr) : *seconds;
+    std::tm utc{};
+    std::tm local{};
+    if (gmtime_r(&instant, &utc) == nullptr || localtime_r(&instant, &local) == nullptr) return {};
+    // Meant: the date is in UTC under the local offset; local fields would move it by that offset.
+    return dateAndTime(utc) + hourOffset(utc.tm_hour, local.tm_hour);
+}
+
+} // namespace ZelInterchangeData

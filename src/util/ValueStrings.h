@@ -1,0 +1,23 @@
+/// @file
+/// Numbers as text, the same in every locale.
+
+#ifndef ZELINTERCHANGEDATA_UTIL_VALUESTRINGS_H
+#define ZELINTERCHANGEDATA_UTIL_VALUESTRINGS_H
+
+#include <string>
+
+namespace ZelInterchangeData {
+
+/// Plain decimal, with a leading "-" when negative.
+[[nodiscard]] std::string decimalText(long long value);
+
+/// Plain decimal.
+[[nodiscard]] std::string decimalText(unsigned long long value);
+
+/// What a default output stream of the classic locale writes: six significant digits, the shorter
+/// of fixed and exponent notation, no zeros at the end ("0.1", "1e+06", "inf", "-nan", "-0").
+[[nodiscard]] std::string generalText(double value);
+
+} // namespace ZelInterchangeData
+
+#endif
