@@ -1,0 +1,24 @@
+/// @file
+/// The markup of texts by language, for use as the text of an element.
+
+#ifndef ZELINTERCHANGEDATA_XML_LANGUAGEALTERNATIVE_H
+#define ZELINTERCHANGEDATA_XML_LANGUAGEALTERNATIVE_H
+
+#include <string>
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Opens a name that has one text for each language; the items follow.
+inline constexpr std::string_view nameAlternativeStart = "<xmpDM:name><rdf:Alt>";
+/// Ends what #nameAlternativeStart opened.
+inline constexpr std::string_view nameAlternativeEnd = "</rdf:Alt></xmpDM:name>";
+
+/// Appends `<rdf:li xml:lang="ID">text</rdf:li>` to @p markup. Nothing is escaped here: @p text is
+/// handed over as it is to be written, and so is @p languageID.
+void appendLanguageItem(std::string& markup, const std::string& languageID,
+                        const std::string& text);
+
+} // namespace ZelInterchangeData
+
+#endif

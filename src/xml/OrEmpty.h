@@ -1,0 +1,17 @@
+/// @file
+/// What stands in for a null character pointer.
+
+#ifndef ZELINTERCHANGEDATA_XML_OREMPTY_H
+#define ZELINTERCHANGEDATA_XML_OREMPTY_H
+
+namespace ZelInterchangeData {
+
+/// @p text, or the empty string when it is null.
+inline const char* orEmpty(const char* text) noexcept
+{
+    return text != nullptr ? text : "";
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,38 @@
+/// @file
+/// What a builder verb returns where there is no node to return to.
+
+#ifndef ZELINTERCHANGEDATA_XML_SINK_H
+#define ZELINTERCHANGEDATA_XML_SINK_H
+
+#include "xml/ZelDataXmlNode.h"
+
+#include <memory>
+
+namespace ZelInterchangeData {
+
+/// A node that takes every verb and leads nowhere: it belongs to no tree, so nothing that is built
+/// on it is ever written.
+///
+/// It is its own parent and the end of each of its paths. An expression that reaches it therefore
+/// stays on it, and however long the expression is, no second sink and no child is made.
+class Sink final : public ZelDataXmlNode {
+public:
+    /// Its text leads back to itself even where the text verb was not used.
+    Sink() : ZelDataXmlNode(this) { *this < static_cast<void**>(nullptr); }
+
+    using ZelDataXmlNode::operator<;
+    /// This node, whatever @p path is.
+    ZelDataXmlNode& operator<([[maybe_unused]] const char* path) override { return *this; }
+};
+
+/// @p node, or the sink in @p sink when it is null. The sink is made when it is first needed.
+inline ZelDataXmlNode& orSink(ZelDataXmlNode* node, std::unique_ptr<ZelDataXmlNode>& sink)
+{
+    if (node != nullptr) return *node;
+    if (sink == nullptr) sink = std::make_unique<Sink>();
+    return *sink;
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,38 @@
+/// @file
+/// An attribute of an element.
+
+#ifndef ZELINTERCHANGEDATA_XML_ZELDATAXMLATTRIBUTE_H
+#define ZELINTERCHANGEDATA_XML_ZELDATAXMLATTRIBUTE_H
+
+#include "xml/ZelDataXmlAttributeValue.h"
+
+#include <string>
+
+namespace ZelInterchangeData {
+
+class ZelDataXmlNode;
+
+/// A name and a value; both are written as they were given.
+class ZelDataXmlAttribute {
+public:
+    /// An attribute of @p owner with empty name and value. The owner does not know of it.
+    explicit ZelDataXmlAttribute(ZelDataXmlNode* owner);
+
+    /// Replaces the name; null is an empty name. Returns the value, which leads back to the owner.
+    ZelDataXmlAttributeValue& operator<(const char* name);
+
+    /// Appends the name, `="`, the value, `"` and one blank to @p out.
+    void write(std::string& out) const;
+
+    ZelDataXmlAttribute(const ZelDataXmlAttribute&) = delete;
+    ZelDataXmlAttribute& operator=(const ZelDataXmlAttribute&) = delete;
+
+private:
+    std::string name_;
+    ZelDataXmlAttributeValue value_;
+    ZelDataXmlNode* owner_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,41 @@
+/// @file
+/// The root of an element tree, and the escaping of text.
+
+#ifndef ZELINTERCHANGEDATA_XML_ZELDATAXMLSTREAM_H
+#define ZELINTERCHANGEDATA_XML_ZELDATAXMLSTREAM_H
+
+#include "xml/ZelDataXmlNode.h"
+
+#include <string>
+
+namespace ZelInterchangeData {
+
+/// An unnamed root, of which only the children are written, and the XML declaration.
+class ZelDataXmlStream : public ZelDataXmlNode {
+public:
+    /// A root without children.
+    ZelDataXmlStream();
+    ~ZelDataXmlStream() override;
+
+    using ZelDataXmlNode::operator=;
+
+    /// The children, one directly after the other; before them the XML declaration, without a line
+    /// break, when @p withDeclaration is true.
+    std::string getXml(bool withDeclaration) const;
+    /// Not supported: the tree stays as it is.
+    void parseXml(const std::string& text);
+    /// @p text with `&`, `<`, `>`, `"` and `'` as the entities of XML. Entities that it holds
+    /// already are escaped again; every other byte stays.
+    static std::string getSafeXmlString(std::string text);
+
+private:
+    std::string declaration_;
+};
+
+/// Replaces every @p from in @p subject by @p to and returns @p subject. What was put in is not
+/// searched again. @p from must not be empty: it would be found at every position, without end.
+std::string& replaceAll(std::string& subject, const std::string& from, const std::string& to);
+
+} // namespace ZelInterchangeData
+
+#endif
