@@ -1,0 +1,108 @@
+#include "core/FileStreams.h"
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+#include <locale>
+
+namespace ZelInterchangeData {
+
+namespace {
+
+/// Widens a narrow character to the number of its byte. The standard facet asks the C library,
+/// whose answer for bytes above 0x7F depends on the locale.
+class ByteCharacters : public std::ctype<wchar_t> {
+protected:
+    wchar_t do_widen(char narrow) const override
+    {
+        return static_cast<wchar_t>(static_cast<unsigned char>(narrow));
+    }
+
+    const char* do_widen(const char* first, const char* last, wchar_t* out) const override
+    {
+        std::transform(first, last, out, [this](char narrow) { return do_widen(narrow); });
+        return last;
+    }
+};
+
+/// One byte of the file for each wide character up to 255.
+class ByteConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
+protected:
+    result do_out(std::mbstate_t& /*state*/, const wchar_t* from, const wchar_t* fromEnd,
+                  const wchar_t*& fromNext, char* to, char* toEnd, char*& toNext) const override
+    {
+        for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
+            if (*fromNext < 0 || *fromNext > 255) return error;
+            if (toNext == toEnd) return partial;
+            *toNext = static_cast<char>(static_cast<unsigned char>(*fromNext));
+        }
+        return ok;
+    }
+
+    result do_in(std::mbstate_t& /*state*/, const char* from, const char* fromEnd,
+                 const char*& fromNext, wchar_t* to, wchar_t* toEnd,
+                 wchar_t*& toNext) const override
+    {
+        for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
+            if (toNext == toEnd) return partial;
+            *toNext = static_cast<wchar_t>(static_cast<unsigned char>(*fromNext));
+        }
+        return ok;
+    }
+
+    result do_unshift(std::mbstate_t& /*state*/, char* to, char* /*toEnd*/,
+                      char*& toNext) const override
+    {
+        toNext = to;
+        return noconv;
+    }
+
+    int do_length(std::mbstate_t& /*state*/, const char* from, const char* end,
+                  std::size_t max) const override
+    {
+        return static_cast<int>(std::min(max, static_cast<std::size_t>(end - from)));
+    }
+
+    int do_encoding() const noexcept override { return 1; }
+    int do_max_length() const noexcept override { return 1; }
+    bool do_always_noconv() const noexcept override { return false; }
+};
+
+std::locale byteLocale()
+{
+    const std::locale characters(std::locale::classic(), new ByteCharacters);
+    return std::locale(characters, new ByteConversion);
+}
+
+/// A base, so that it outlives the stream that is built after it.
+struct StreamBuffer {
+    std::array<wchar_t, 4096> buffer{};
+};
+
+/// A file stream with its buffer and locale in place before the file is opened: the stream's own
+/// buffer would be obtained after the opening, which empties the file.
+template <class Stream>
+class ByteFileStream : private StreamBuffer, public Stream {
+public:
+    explicit ByteFileStream(const std::string& path)
+    {
+        this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+        this->imbue(byteLocale());
+        // A path ends at its first zero byte for the system, so it would name another file.
+        if (path.find('\0') == std::string::npos) this->open(path);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<std::wofstream> createWofstreamWithFile(const std::string& path)
+{
+    return std::make_unique<ByteFileStream<std::wofstream>>(path);
+}
+
+std::unique_ptr<std::wifstream> createWifstreamWithFile(const std::string& path)
+{
+    return std::make_unique<ByteFileStream<std::wifstream>>(path);
+}
+
+} // namespace ZelInterchangeData

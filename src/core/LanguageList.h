@@ -1,0 +1,40 @@
+/// @file
+/// An ordered list of language IDs.
+
+#ifndef ZELINTERCHANGEDATA_CORE_LANGUAGELIST_H
+#define ZELINTERCHANGEDATA_CORE_LANGUAGELIST_H
+
+#include "ZelInterchangeData/ZelDataResult_tags.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// Language IDs in the order of their addition, without identical ones unless reorder() let them
+/// in.
+class LanguageList {
+public:
+    /// The catalogue's answer for one language: a name, or a code.
+    using NameLookup = ZelDataResult_tags (*)(const std::string& id, std::string& name);
+
+    const std::vector<std::string>& ids() const noexcept { return ids_; }
+    bool contains(const std::string& id) const;
+
+    void clear() noexcept { ids_.clear(); }
+    /// The code of the UTF-8 check, #ZelData_UnknownLanguage or #ZelData_WarnAlreadyExists.
+    ZelDataResult_tags add(const std::string& id);
+    /// Removes the first identical entry; false when there is none.
+    bool remove(const std::string& id);
+    /// #ZelData_InvalidArgument when @p ids has another count or an entry that is not listed.
+    ZelDataResult_tags reorder(const std::vector<std::string>& ids);
+    /// Replaces @p names with what @p lookup finds; #ZelData_InternalError when a name is missing.
+    ZelDataResult_tags names(std::vector<std::string>& names, NameLookup lookup) const;
+
+private:
+    std::vector<std::string> ids_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,29 @@
+#include "core/TrackInsertion.h"
+
+#include "util/Guard.h"
+
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+namespace {
+
+constexpr std::string_view emptyTracks = "<xmpDM:Tracks><rdf:Bag></rdf:Bag></xmpDM:Tracks>";
+constexpr std::string_view tracksOpening = "<xmpDM:Tracks><rdf:Bag>";
+static_assert(emptyTracks.size() == 48 && tracksOpening.size() == 23);
+
+} // namespace
+
+ZelDataResult_tags insertTracks(std::string& packet, const std::string& tracks) noexcept
+{
+    return guarded([&] {
+        // The last list is the header's own: a creator, written as given, may hold another before
+        // it.
+        const auto position = packet.rfind(emptyTracks);
+        if (position == std::string::npos) return ZelData_InternalError;
+        packet.insert(position + tracksOpening.size(), tracks);
+        return ZelData_Ok;
+    });
+}
+
+} // namespace ZelInterchangeData

@@ -1,0 +1,82 @@
+/// @file
+/// What the XMP formatters of all data sets have in common.
+
+#ifndef ZELINTERCHANGEDATA_CORE_XMPFORMATTER_H
+#define ZELINTERCHANGEDATA_CORE_XMPFORMATTER_H
+
+#include "ZelInterchangeData/i_ZelDataFormatterBase.h"
+#include "core/ReplaceContents.h"
+#include "util/Guard.h"
+
+#include <memory>
+#include <string>
+
+namespace ZelInterchangeData {
+
+/// Holds a copy of the @p Data to write, and refuses to read.
+template <class Interface, class Data>
+class XmpFormatter : public Interface {
+public:
+    ZelDataResult_tags readString(const std::string& /*text*/, ZelDataFormatType_tags format,
+                                  bool /*flag*/) override
+    {
+        return this->store(notImplementedIn(format));
+    }
+
+    ZelDataResult_tags readFile(const std::string& /*path*/, ZelDataFormatType_tags format) override
+    {
+        return this->store(notImplementedIn(format));
+    }
+
+protected:
+    /// #ZelData_InternalError for a format that is unknown here, else #ZelData_NotImplemented.
+    static ZelDataResult_tags notImplementedIn(ZelDataFormatType_tags format) noexcept
+    {
+        return format == ZelDataFormat_Xmp ? ZelData_NotImplemented : ZelData_InternalError;
+    }
+
+    /// Replaces the held copy, which @p create makes at the first call, with a copy of @p source.
+    ZelDataResult_tags hold(const Data& source, ZelDataResult_tags (*create)(Data**),
+                            ZelDataResult_tags (Data::*clear)())
+    {
+        return this->store(guarded([&] {
+            if (held_ == nullptr) {
+                Data* made = nullptr;
+                const auto created = create(&made);
+                if (failed(created)) return created;
+                held_.reset(made);
+            }
+            return replaceContents(*held_, clear, source) ? ZelData_Ok : held_->getLastError();
+        }));
+    }
+
+    /// Null until the first hold().
+    Data* held() const noexcept { return held_.get(); }
+
+private:
+    std::unique_ptr<Data> held_;
+};
+
+/// An XMP formatter that writes one track of the packet.
+template <class Interface, class Data>
+class XmpTrackFormatter : public XmpFormatter<Interface, Data> {
+public:
+    /// Writes the string first and then refuses. That is meant: a caller who tests what a set lacks
+    /// with this call gets the code of the writing.
+    ZelDataResult_tags writeFile(const std::string& /*path*/, ZelDataFormatType_tags format,
+                                 bool /*flag*/) const override
+    {
+        return this->store(guarded([&] {
+            if (format == ZelDataFormat_Xmp) {
+                std::string scratch;
+                const auto written = this->writeString(scratch, format, false);
+                if (failed(written)) return written;
+            }
+            return this->notImplementedIn(format);
+        }));
+    }
+};
+
+} // namespace ZelInterchangeData
+
+#endif

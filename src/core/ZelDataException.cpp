@@ -1,0 +1,14 @@
+#include "ZelInterchangeData/ZelDataException.h"
+
+namespace ZelInterchangeData {
+
+ZelDataException::ZelDataException(const std::string& message) : message_(message) {}
+
+ZelDataException::~ZelDataException() = default;
+
+const char* ZelDataException::what() const noexcept
+{
+    return message_.c_str();
+}
+
+} // namespace ZelInterchangeData
