@@ -1,0 +1,72 @@
+/// @file
+/// The header of a document.
+
+#ifndef ZELINTERCHANGEDATA_HEADER_ZELDATAHEADER_H
+#define ZELINTERCHANGEDATA_HEADER_ZELDATAHEADER_H
+
+#include "ZelInterchangeData/i_ZelDataHeader.h"
+#include "core/LanguageListOwner.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// The header that the library makes. Removing an absent language is a warning here.
+class ZelDataHeader : public LanguageListOwner<i_ZelDataHeader, ZelData_WarnNoChange> {
+public:
+    ZelDataResult_tags isValid() const override;
+    ZelDataResult_tags clearHeader() override;
+
+    ZelDataResult_tags setAppName(const std::string& name) override;
+    ZelDataResult_tags setAppVersion(const std::string& version) override;
+    ZelDataResult_tags setTitle(const std::string& title) override;
+    ZelDataResult_tags setCreator(const std::string& creator) override;
+    ZelDataResult_tags setDescription(const std::string& description) override;
+    ZelDataResult_tags setKeywords(const std::vector<std::string>& keywords) override;
+    ZelDataResult_tags setIPodExplicit(bool isExplicit) override;
+    ZelDataResult_tags setVideoLength(unsigned long milliseconds) override;
+    ZelDataResult_tags setVideoWidth(unsigned long pixels) override;
+    ZelDataResult_tags setVideoHeight(unsigned long pixels) override;
+
+    ZelDataResult_tags getAppName(std::string& name) const override;
+    ZelDataResult_tags getAppVersion(std::string& version) const override;
+    ZelDataResult_tags getTitle(std::string& title) const override;
+    ZelDataResult_tags getCreator(std::string& creator) const override;
+    ZelDataResult_tags getDescription(std::string& description) const override;
+    ZelDataResult_tags getKeywords(std::vector<std::string>& keywords) const override;
+    ZelDataResult_tags getIPodExplicit(bool& isExplicit) const override;
+    ZelDataResult_tags getVideoLength(unsigned long& milliseconds) const override;
+    ZelDataResult_tags getVideoWidth(unsigned long& pixels) const override;
+    ZelDataResult_tags getVideoHeight(unsigned long& pixels) const override;
+
+    ZelDataResult_tags clearContentNames() override;
+    ZelDataResult_tags addContentName(const std::string& name) override;
+    ZelDataResult_tags removeContentName(const std::string& name) override;
+    ZelDataResult_tags getContentNameCount(unsigned long& count) const override;
+    ZelDataResult_tags getContentNames(std::vector<std::string>& names) const override;
+    ZelDataResult_tags doesContentNameExist(std::string& name, bool& exists) const override;
+
+    ZelDataResult_tags setShowSearchBar(bool show) override;
+    ZelDataResult_tags getShowSearchBar(bool& show) const override;
+
+private:
+    ZelDataResult_tags storeNonZero(unsigned long& field, unsigned long value) const;
+
+    bool iPodExplicit_ = false;
+    bool showSearchBar_ = true;
+    std::string appName_;
+    std::string appVersion_;
+    std::string title_;
+    std::string creator_;
+    std::string description_;
+    unsigned long videoLength_ = 0;
+    unsigned long videoWidth_ = 0;
+    unsigned long videoHeight_ = 0;
+    std::vector<std::string> keywords_;
+    std::vector<std::string> contentNames_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif
