@@ -1,0 +1,36 @@
+#include "captions/CaptionStyle.h"
+
+namespace ZelInterchangeData {
+
+namespace {
+
+void repairComponent(float& component, float standard) noexcept
+{
+    if (!isFraction(component)) component = standard;
+}
+
+} // namespace
+
+bool CaptionStyle::isInRange() const noexcept
+{
+    return frameRate.isInRange() && !fontFamily.empty() && isFontSize(fontSize) &&
+           foreground.isInRange() && background.isInRange() && isFraction(backgroundOpacity);
+}
+
+void CaptionStyle::repair()
+{
+    frameRate.repair();
+    if (fontFamily.empty()) fontFamily = standardFontFamily;
+    // Meant to be smaller than the standard size, which would change the captions of old documents.
+    if (!isFontSize(fontSize)) fontSize = repairedFontSize;
+    repairComponent(foreground.red, 1.0F);
+    repairComponent(foreground.green, 1.0F);
+    repairComponent(foreground.blue, 1.0F);
+    repairComponent(background.red, 0.0F);
+    repairComponent(background.blue, 0.0F);
+    // Meant to clear the red and to keep the green: another repair would write other colours.
+    if (!isFraction(background.green)) background.red = 0.0F;
+    repairComponent(backgroundOpacity, 0.0F);
+}
+
+} // namespace ZelInterchangeData

@@ -1,0 +1,201 @@
+#include "captions/ZelDataCaptions.h"
+
+#include "core/ItemTexts.h"
+
+namespace ZelInterchangeData {
+
+ZelDataResult_tags ZelDataUtilities::createCaptionData(i_ZelDataCaptions** out)
+{
+    return createObject<ZelDataCaptions>(out);
+}
+
+// Checking and repairing
+
+/// The first finding of the items, in stored order.
+ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
+{
+    const auto& items = items_.all();
+    const auto earliestLater = earliestLaterStarts(items);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        // Without `strict` the items' own validity is meant not to matter, only their texts and
+        // times.
+        if (strict && failed(items[i]->isValid(true))) return items[i]->getLastError();
+        if (const Ending ending = findMissingText(*items[i], languageIDs())) return *ending;
+        long long end = 0;
+        if (failed(items[i]->getEnd(end))) return items[i]->getLastError();
+        if (end > earliestLater[i]) return ZelData_WarnTiming;
+    }
+    return ZelData_Ok;
+}
+
+ZelDataResult_tags ZelDataCaptions::isValid(bool strict) const
+{
+    return store(
+        guarded([&] { return style_.isInRange() ? checkItems(strict) : ZelData_InvalidArgument; }));
+}
+
+ZelDataResult_tags ZelDataCaptions::orderCaptions()
+{
+    return store(guarded([&] {
+        items_.order();
+        return ZelData_Ok;
+    }));
+}
+
+ZelDataResult_tags ZelDataCaptions::makeCaptionsConsistent()
+{
+    return store(guarded([&] {
+        items_.order();
+        for (const auto& item : items_.all()) {
+            if (const Ending ending = fillMissingTexts(*item, languageIDs())) return *ending;
+        }
+        style_.repair();
+        return ZelData_Ok;
+    }));
+}
+
+// Styling
+
+ZelDataResult_tags ZelDataCaptions::setFrameRate(unsigned long rate)
+{
+    return store(style_.frameRate.set(rate) ? ZelData_Ok : ZelData_InvalidArgument);
+}
+
+ZelDataResult_tags ZelDataCaptions::getFrameRate(unsigned long& rate) const
+{
+    rate = style_.frameRate.value;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::setFontFamily(const std::string& family)
+{
+    if (family.empty()) return store(ZelData_InvalidArgument);
+    return store(guardedCopy(style_.fontFamily, family));
+}
+
+ZelDataResult_tags ZelDataCaptions::getFontFamily(std::string& family) const
+{
+    return store(guardedCopy(family, style_.fontFamily));
+}
+
+ZelDataResult_tags ZelDataCaptions::setFontSize(unsigned long size)
+{
+    if (!CaptionStyle::isFontSize(size)) return store(ZelData_InvalidArgument);
+    style_.fontSize = size;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::getFontSize(unsigned long& size) const
+{
+    size = style_.fontSize;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::storeColor(CaptionColor& field, CaptionColor color) const
+{
+    if (!color.isInRange()) return store(ZelData_InvalidArgument);
+    field = color;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::setForegroundColor(float red, float green, float blue)
+{
+    return storeColor(style_.foreground, {red, green, blue});
+}
+
+ZelDataResult_tags ZelDataCaptions::getForegroundColor(float& red, float& green, float& blue) const
+{
+    red = style_.foreground.red;
+    green = style_.foreground.green;
+    blue = style_.foreground.blue;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::setBackgroundColor(float red, float green, float blue)
+{
+    return storeColor(style_.background, {red, green, blue});
+}
+
+ZelDataResult_tags ZelDataCaptions::getBackgroundColor(float& red, float& green, float& blue) const
+{
+    red = style_.background.red;
+    green = style_.background.green;
+    blue = style_.background.blue;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::setBackgroundOpacity(float opacity)
+{
+    // A NaN is meant to pass: refusing it would refuse documents that callers write today.
+    if (!isFraction(opacity)) return store(ZelData_InvalidArgument);
+    style_.backgroundOpacity = opacity;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::getBackgroundOpacity(float& opacity) const
+{
+    opacity = style_.backgroundOpacity;
+    return store(ZelData_Ok);
+}
+
+// Items
+
+ZelDataResult_tags ZelDataCaptions::clearCaptionItems()
+{
+    items_.clear();
+    // The languages are meant to go, too: they are those of the items.
+    emptyLanguageList();
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& item)
+{
+    return store(guarded([&] {
+        auto copy = copyItem(item, newItem());
+        if (!copy.item) return copy.code;
+        if (const Ending ending = addLanguagesOf(*copy.item)) return *ending;
+        items_.append(std::move(copy.item));
+        return ZelData_Ok;
+    }));
+}
+
+ZelDataResult_tags ZelDataCaptions::createCaptionItem(i_ZelDataCaptionItem** out) const
+{
+    return store(ZelDataUtilities::createCaptionItemData(out));
+}
+
+ZelDataResult_tags ZelDataCaptions::removeCaptionItemAt(unsigned long index)
+{
+    return store(items_.removeAt(index));
+}
+
+ZelDataResult_tags ZelDataCaptions::removeCaptionItemsForLanguage(const std::string& languageID)
+{
+    return store(guarded([&] { return removeTexts(items_.all(), languageID); }));
+}
+
+ZelDataResult_tags ZelDataCaptions::getCaptionItemCount(unsigned long& count)
+{
+    count = items_.count();
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataCaptions::getCaptionItemAt(i_ZelDataCaptionItem** out,
+                                                     unsigned long index) const
+{
+    return store(guarded([&] { return items_.copyOut(out, index, newItem()); }));
+}
+
+ZelDataResult_tags ZelDataCaptions::getCaptionItems(std::vector<i_ZelDataCaptionItem*>& items) const
+{
+    return store(guarded([&] { return items_.copyOutAll(items, newItem()); }));
+}
+
+ZelDataResult_tags
+ZelDataCaptions::getCaptionItemsForLanguage(std::vector<i_ZelDataCaptionItem*>& /*items*/,
+                                            const std::string& /*languageID*/) const
+{
+    return store(ZelData_NotImplemented);
+}
+
+} // namespace ZelInterchangeData

@@ -1,0 +1,66 @@
+/// @file
+/// The captions of a document.
+
+#ifndef ZELINTERCHANGEDATA_CAPTIONS_ZELDATACAPTIONS_H
+#define ZELINTERCHANGEDATA_CAPTIONS_ZELDATACAPTIONS_H
+
+#include "ZelInterchangeData/i_ZelDataCaptionItem.h"
+#include "ZelInterchangeData/i_ZelDataCaptions.h"
+#include "captions/CaptionStyle.h"
+#include "core/ItemList.h"
+#include "core/LanguageListOwner.h"
+
+namespace ZelInterchangeData {
+
+/// The captions that the library makes. Removing an absent language is an error here.
+class ZelDataCaptions : public LanguageListOwner<i_ZelDataCaptions, ZelData_NotFound> {
+public:
+    ZelDataResult_tags isValid(bool strict) const override;
+    ZelDataResult_tags makeCaptionsConsistent() override;
+
+    ZelDataResult_tags setFrameRate(unsigned long rate) override;
+    ZelDataResult_tags getFrameRate(unsigned long& rate) const override;
+    ZelDataResult_tags setFontFamily(const std::string& family) override;
+    ZelDataResult_tags getFontFamily(std::string& family) const override;
+    ZelDataResult_tags setFontSize(unsigned long size) override;
+    ZelDataResult_tags getFontSize(unsigned long& size) const override;
+    ZelDataResult_tags setForegroundColor(float red, float green, float blue) override;
+    ZelDataResult_tags getForegroundColor(float& red, float& green, float& blue) const override;
+    ZelDataResult_tags setBackgroundColor(float red, float green, float blue) override;
+    ZelDataResult_tags getBackgroundColor(float& red, float& green, float& blue) const override;
+    ZelDataResult_tags setBackgroundOpacity(float opacity) override;
+    ZelDataResult_tags getBackgroundOpacity(float& opacity) const override;
+
+    ZelDataResult_tags clearCaptionItems() override;
+    ZelDataResult_tags addCaptionItem(const i_ZelDataCaptionItem& item) override;
+    ZelDataResult_tags createCaptionItem(i_ZelDataCaptionItem** out) const override;
+    ZelDataResult_tags removeCaptionItemAt(unsigned long index) override;
+    ZelDataResult_tags removeCaptionItemsForLanguage(const std::string& languageID) override;
+    ZelDataResult_tags getCaptionItemCount(unsigned long& count) override;
+    ZelDataResult_tags getCaptionItemAt(i_ZelDataCaptionItem** out,
+                                        unsigned long index) const override;
+    ZelDataResult_tags getCaptionItems(std::vector<i_ZelDataCaptionItem*>& items) const override;
+    ZelDataResult_tags getCaptionItemsForLanguage(std::vector<i_ZelDataCaptionItem*>& items,
+                                                  const std::string& languageID) const override;
+
+    /// Orders the items by start, as makeCaptionsConsistent() does.
+    ZelDataResult_tags orderCaptions();
+
+protected:
+    CaptionStyle style_;
+
+private:
+    ZelDataResult_tags storeColor(CaptionColor& field, CaptionColor color) const;
+    ZelDataResult_tags checkItems(bool strict) const;
+    /// createCaptionItem() as a callable.
+    auto newItem() const
+    {
+        return [this](i_ZelDataCaptionItem** out) { return createCaptionItem(out); };
+    }
+
+    ItemList<i_ZelDataCaptionItem> items_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,35 @@
+/// @file
+/// Writes captions as a track.
+
+#ifndef ZELINTERCHANGEDATA_CAPTIONS_ZELDATAXMPCAPTIONFORMATTER_H
+#define ZELINTERCHANGEDATA_CAPTIONS_ZELDATAXMPCAPTIONFORMATTER_H
+
+#include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
+#include "ZelInterchangeData/i_ZelDataCaptions.h"
+#include "core/XmpFormatter.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+class i_ZelDataCaptionItem;
+
+/// Appends the texts of @p item in the languages of @p languageIDs as markup to @p text; a language
+/// without text is skipped. Whether every language had one.
+bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCaptionItem& item,
+                      std::string& text);
+
+/// Writes the caption track: its styling, and one marker for each item.
+class ZelDataXmpCaptionFormatter
+    : public XmpTrackFormatter<i_ZelDataCaptionFormatter, i_ZelDataCaptions> {
+public:
+    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                   bool flag) const override;
+    ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) override;
+    ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const override;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

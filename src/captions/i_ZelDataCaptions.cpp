@@ -1,0 +1,65 @@
+#include "ZelInterchangeData/i_ZelDataCaptions.h"
+
+#include "ZelInterchangeData/i_ZelDataCaptionItem.h"
+#include "core/FieldCopy.h"
+#include "core/ItemCopies.h"
+#include "util/Guard.h"
+
+namespace ZelInterchangeData {
+
+namespace {
+
+using Captions = i_ZelDataCaptions;
+
+/// FieldCopy for a colour, which is got and set as three numbers.
+Ending copyColor(const Captions& source, Captions& target,
+                 ZelDataResult_tags (Captions::*get)(float&, float&, float&) const,
+                 ZelDataResult_tags (Captions::*set)(float, float, float))
+{
+    float red = 0;
+    float green = 0;
+    float blue = 0;
+    if (failed((source.*get)(red, green, blue))) return source.getLastError();
+    if (failed((target.*set)(red, green, blue))) return target.getLastError();
+    return {};
+}
+
+Ending copyStyle(const Captions& source, Captions& target)
+{
+    FieldCopy fields(source, target, [&](ZelDataResult_tags) { return target.getLastError(); });
+    fields.field(&Captions::getFrameRate, &Captions::setFrameRate)
+        .field(&Captions::getFontFamily, &Captions::setFontFamily)
+        .field(&Captions::getFontSize, &Captions::setFontSize);
+    if (const Ending ending = fields.ending()) return ending;
+    if (const Ending ending = copyColor(source, target, &Captions::getForegroundColor,
+                                        &Captions::setForegroundColor)) {
+        return ending;
+    }
+    if (const Ending ending = copyColor(source, target, &Captions::getBackgroundColor,
+                                        &Captions::setBackgroundColor)) {
+        return ending;
+    }
+    fields.field(&Captions::getBackgroundOpacity, &Captions::setBackgroundOpacity);
+    return fields.ending();
+}
+
+} // namespace
+
+i_ZelDataCaptions::~i_ZelDataCaptions() = default;
+
+ZelDataResult_tags i_ZelDataCaptions::copyFrom(const i_ZelDataCaptions& other)
+{
+    if (&other == this) return store(ZelData_InternalError);
+    return store(guarded([&] {
+        if (failed(clearCaptionItems())) return getLastError();
+        if (failed(i_ZelDataLanguage::copyFrom(other))) return getLastError();
+        if (const Ending ending = copyStyle(other, *this)) return *ending;
+        ReceivedItems<i_ZelDataCaptionItem> items;
+        if (failed(other.getCaptionItems(items.vector()))) return other.getLastError();
+        // The list just copied is meant to go: it is rebuilt from the items, as players expect it.
+        if (failed(clearLanguages())) return getLastError();
+        return items.addTo(*this, &i_ZelDataCaptions::addCaptionItem).value_or(ZelData_Ok);
+    }));
+}
+
+} // namespace ZelInterchangeData
