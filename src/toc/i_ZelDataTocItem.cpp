@@ -1,0 +1,26 @@
+#include "ZelInterchangeData/i_ZelDataTocItem.h"
+
+#include "core/FieldCopy.h"
+#include "core/TextCopy.h"
+#include "util/Guard.h"
+
+namespace ZelInterchangeData {
+
+i_ZelDataTocItem::~i_ZelDataTocItem() = default;
+
+ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
+{
+    using Item = i_ZelDataTocItem;
+    if (&source == this) return store(ZelData_InternalError);
+    return store(guarded([&] {
+        if (const Ending ending = copyTexts(source, *this)) return *ending;
+        FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
+        fields.field(&Item::getStart, &Item::setStart)
+            .field(&Item::getImageFile, &Item::setImageFile)
+            .field(&Item::getImageIndex, &Item::setImageIndex)
+            .field(&Item::getImageOffset, &Item::setImageOffset);
+        return fields.ending().value_or(ZelData_Ok);
+    }));
+}
+
+} // namespace ZelInterchangeData
