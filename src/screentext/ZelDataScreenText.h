@@ -1,0 +1,56 @@
+/// @file
+/// The screen text of a document.
+
+#ifndef ZELINTERCHANGEDATA_SCREENTEXT_ZELDATASCREENTEXT_H
+#define ZELINTERCHANGEDATA_SCREENTEXT_ZELDATASCREENTEXT_H
+
+#include "ZelInterchangeData/i_ZelDataScreenText.h"
+#include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
+#include "core/FrameRate.h"
+#include "core/ItemList.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// The screen text that the library makes.
+class ZelDataScreenText : public i_ZelDataScreenText {
+public:
+    ZelDataResult_tags isValid(bool deep) const override;
+    ZelDataResult_tags makeScreenTextConsistent() override;
+
+    ZelDataResult_tags setFrameRate(unsigned long rate) override;
+    ZelDataResult_tags getFrameRate(unsigned long& rate) const override;
+
+    ZelDataResult_tags clearScreenTextItems() override;
+    ZelDataResult_tags addScreenTextItem(const i_ZelDataScreenTextItem& item) override;
+    ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override;
+    ZelDataResult_tags removeScreenTextItemAt(unsigned long index) override;
+    ZelDataResult_tags getScreenTextItemCount(unsigned long& count) override;
+    ZelDataResult_tags getScreenTextItemAt(i_ZelDataScreenTextItem** out,
+                                           unsigned long index) const override;
+    ZelDataResult_tags
+    getScreenTextItems(std::vector<i_ZelDataScreenTextItem*>& items) const override;
+
+    /// Orders the items by start, as makeScreenTextConsistent() does.
+    ZelDataResult_tags orderScreenTextItems();
+
+protected:
+    FrameRate frameRate_;
+
+private:
+    ZelDataResult_tags checkItems(bool deep) const;
+    /// createScreenTextItem() as a callable.
+    auto newItem() const
+    {
+        return [this](i_ZelDataScreenTextItem** out) { return createScreenTextItem(out); };
+    }
+
+    ItemList<i_ZelDataScreenTextItem> items_;
+    std::vector<std::string> reserved_; // no operation fills it
+};
+
+} // namespace ZelInterchangeData
+
+#endif

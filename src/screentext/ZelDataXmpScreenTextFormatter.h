@@ -1,0 +1,25 @@
+/// @file
+/// Writes screen text as a track.
+
+#ifndef ZELINTERCHANGEDATA_SCREENTEXT_ZELDATAXMPSCREENTEXTFORMATTER_H
+#define ZELINTERCHANGEDATA_SCREENTEXT_ZELDATAXMPSCREENTEXTFORMATTER_H
+
+#include "ZelInterchangeData/i_ZelDataScreenText.h"
+#include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
+#include "core/XmpFormatter.h"
+
+namespace ZelInterchangeData {
+
+/// Writes the screen-text track: its properties, and one marker for each item.
+class ZelDataXmpScreenTextFormatter
+    : public XmpTrackFormatter<i_ZelDataScreenTextFormatter, i_ZelDataScreenText> {
+public:
+    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                   bool flag) const override;
+    ZelDataResult_tags setScreenText(const i_ZelDataScreenText& screenText) override;
+    ZelDataResult_tags getScreenText(i_ZelDataScreenText& screenText) const override;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,26 @@
+#include "ZelInterchangeData/i_ZelDataScreenText.h"
+
+#include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
+#include "core/FieldCopy.h"
+#include "core/ItemCopies.h"
+#include "util/Guard.h"
+
+namespace ZelInterchangeData {
+
+i_ZelDataScreenText::~i_ZelDataScreenText() = default;
+
+ZelDataResult_tags i_ZelDataScreenText::copyFrom(const i_ZelDataScreenText& source)
+{
+    if (&source == this) return store(ZelData_InternalError);
+    return store(guarded([&] {
+        if (failed(clearScreenTextItems())) return getLastError();
+        FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
+        fields.field(&i_ZelDataScreenText::getFrameRate, &i_ZelDataScreenText::setFrameRate);
+        if (const Ending ending = fields.ending()) return *ending;
+        ReceivedItems<i_ZelDataScreenTextItem> items;
+        if (failed(source.getScreenTextItems(items.vector()))) return source.getLastError();
+        return items.addTo(*this, &i_ZelDataScreenText::addScreenTextItem).value_or(ZelData_Ok);
+    }));
+}
+
+} // namespace ZelInterchangeData

@@ -1,0 +1,7 @@
+#include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
+
+namespace ZelInterchangeData {
+
+i_ZelDataScreenTextFormatter::~i_ZelDataScreenTextFormatter() = default;
+
+} // namespace ZelInterchangeData

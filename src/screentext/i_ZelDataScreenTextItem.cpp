@@ -1,0 +1,29 @@
+#include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
+
+#include "core/FieldCopy.h"
+#include "util/Guard.h"
+
+namespace ZelInterchangeData {
+
+i_ZelDataScreenTextItem::~i_ZelDataScreenTextItem() = default;
+
+ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextItem& source)
+{
+    using Item = i_ZelDataScreenTextItem;
+    if (&source == this) return store(ZelData_InternalError);
+    return store(guarded([&] {
+        if (failed(clearText())) return getLastError();
+        FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
+        fields.field(&Item::getText, &Item::setText)
+            .field(&Item::getStart, &Item::setStart)
+            // The duration, not the end: an item without a length can be copied.
+            .field(&Item::getDuration, &Item::setDuration)
+            .field(&Item::getImageFile, &Item::setImageFile)
+            .field(&Item::getImageIndex, &Item::setImageIndex)
+            .field(&Item::getImageOffset, &Item::setImageOffset)
+            .field(&Item::getGroupId, &Item::setGroupId);
+        return fields.ending().value_or(ZelData_Ok);
+    }));
+}
+
+} // namespace ZelInterchangeData
