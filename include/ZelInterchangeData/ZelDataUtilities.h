@@ -86,8 +86,8 @@ public:
     /// Checks the form of the UTF-8 sequences of @p text. An empty text passes.
     /// - #ZelData_InvalidUtf8: a stray or missing continuation byte, or one of the leads 0xC0,
     ///   0xC1, 0xFE and 0xFF.
-    /// - #ZelData_UnsupportedCharacter: @p bmpOnly is true and a lead byte of four or more bytes
-    ///   came first.
+    /// - #ZelData_UnsupportedCharacter: @p bmpOnly is true and a byte from 0xF0 up, 0xFE and 0xFF
+    ///   included, came first.
     ///
     /// Five- and six-byte forms, overlong forms of three and more bytes, encoded surrogates and
     /// values above U+10FFFF pass.

@@ -17,8 +17,8 @@ ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
     const auto& items = items_.all();
     const auto earliestLater = earliestLaterStarts(items);
     for (std::size_t i = 0; i < items.size(); ++i) {
-        // Without `strict` the items' own validity is meant not to matter, only their texts and
-        // times.
+        // Without `strict` the items' own validity is meant not to matter: with it, captions
+        // that are written today would be called invalid.
         if (strict && failed(items[i]->isValid(true))) return items[i]->getLastError();
         if (const Ending ending = findMissingText(*items[i], languageIDs())) return *ending;
         long long end = 0;

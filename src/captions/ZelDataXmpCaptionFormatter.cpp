@@ -8,6 +8,7 @@
 #include "xml/Track.h"
 
 #include <cmath>
+#include <new>
 
 namespace ZelInterchangeData {
 
@@ -133,7 +134,9 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
     text += nameAlternativeStart;
     for (const std::string& id : languageIDs) {
         std::string caption;
-        if (failed(item.getTextForLanguage(caption, id))) {
+        const auto got = item.getTextForLanguage(caption, id);
+        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // no sign of a missing text
+        if (failed(got)) {
             complete = false;
             continue;
         }

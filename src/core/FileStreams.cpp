@@ -12,6 +12,9 @@ namespace {
 /// Widens a narrow character to the number of its byte. The standard facet asks the C library,
 /// whose answer for bytes above 0x7F depends on the locale.
 class ByteCharacters : public std::ctype<wchar_t> {
+public:
+    ~ByteCharacters() override = default;
+
 protected:
     wchar_t do_widen(char narrow) const override
     {
@@ -27,6 +30,9 @@ protected:
 
 /// One byte of the file for each wide character up to 255.
 class ByteConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
+public:
+    ~ByteConversion() override = default;
+
 protected:
     result do_out(std::mbstate_t& /*state*/, const wchar_t* from, const wchar_t* fromEnd,
                   const wchar_t*& fromNext, char* to, char* toEnd, char*& toNext) const override
@@ -68,10 +74,19 @@ protected:
     bool do_always_noconv() const noexcept override { return false; }
 };
 
+/// @p base with @p Facet in place of its own. A locale that cannot be made leaves the facet to us.
+template <class Facet>
+std::locale withFacet(const std::locale& base)
+{
+    auto facet = std::make_unique<Facet>();
+    std::locale combined(base, facet.get());
+    static_cast<void>(facet.release()); // the locale owns it from here on
+    return combined;
+}
+
 std::locale byteLocale()
 {
-    const std::locale characters(std::locale::classic(), new ByteCharacters);
-    return std::locale(characters, new ByteConversion);
+    return withFacet<ByteConversion>(withFacet<ByteCharacters>(std::locale::classic()));
 }
 
 /// A base, so that it outlives the stream that is built after it.

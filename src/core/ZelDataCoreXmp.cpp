@@ -148,7 +148,9 @@ ZelDataResult_tags ZelDataCoreXmp::writeFile(const std::string& path, ZelDataFor
         if (failed(writeString(text, format, false))) return getLastError();
         const auto stream = createWofstreamWithFile(path);
         if (!stream->is_open()) return ZelData_FileOpenFailed;
-        writeBytes(*stream, xmlDeclaration);
+        writeBytes(
+            *stream,
+            xmlDeclaration); // Meant to end at the first zero byte: no XML goes on behind it.
         writeBytes(*stream, {text.data(), std::strlen(text.c_str())});
         stream->close(); // what fails from the opening on is not reported
         return ZelData_Ok;

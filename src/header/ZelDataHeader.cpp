@@ -174,7 +174,8 @@ ZelDataResult_tags ZelDataHeader::addContentName(const std::string& name)
         const auto form = ZelDataUtilities::verifyUtf8Format(name, false);
         if (failed(form)) return form;
         const auto found = std::find(contentNames_.begin(), contentNames_.end(), name);
-        // Meant to be another code than the one for a language that is listed already.
+        // Meant to be another code than for a language that is listed already: callers tell the two
+        // apart, and with that code they would take the name for a language.
         if (found != contentNames_.end()) return ZelData_WarnNoChange;
         contentNames_.push_back(name);
         return ZelData_Ok;

@@ -25,7 +25,8 @@ ZelDataScreenTextItem& ZelDataScreenTextItem::operator=(const ZelDataScreenTextI
     return *this;
 }
 
-/// The flag is meant to change nothing: only the text can be wrong.
+/// The flag is meant to change nothing: checking more would refuse items that are written
+/// today.
 ZelDataResult_tags ZelDataScreenTextItem::isValid(bool /*deep*/) const
 {
     const bool valid = !failed(ZelDataUtilities::verifyUtf8Format(text_, false));

@@ -16,7 +16,8 @@ Ending describeTrack(Track& track, const i_ZelDataScreenText& screenText)
 {
     unsigned long rate = 0;
     if (failed(screenText.getFrameRate(rate))) return screenText.getLastError();
-    // Another order than that of the table of contents, and no image: both are meant.
+    // Another order than that of the table of contents, and no image: both are meant, players
+    // compare these bytes.
     track.description()
         .attribute("xmpDM:trackType", "ScreenText")
         .attribute("xmpDM:frameRate", Utilities::getRateString(rate))
@@ -44,7 +45,9 @@ Ending addMarker(Track& track, const i_ZelDataScreenTextItem& item)
         .attribute("xmpDM:name", text)
         .attribute("xmpDM:startTime", start)
         .attribute("xmpDM:duration", duration)
-        .attribute("xmpDM:image", image) // meant to go in as stored: callers escape it themselves
+        // The prefix is meant to be another one than in the table of contents, and the name to go
+        // in as stored: players look for this one, and callers escape the name themselves.
+        .attribute("xmpDM:image", image)
         .attribute("zelDM:imageindex", Utilities::getValueString(index))
         .attribute("zelDM:imageoffset", Utilities::getValueString(offset))
         .attribute("zelDM:tocEntry", Utilities::getValueString(group));

@@ -14,7 +14,9 @@ ZelDataResult_tags i_ZelDataScreenText::copyFrom(const i_ZelDataScreenText& sour
     if (&source == this) return store(ZelData_InternalError);
     return store(guarded([&] {
         if (failed(clearScreenTextItems())) return getLastError();
-        FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
+        FieldCopy fields(source, *this, [this](ZelDataResult_tags) {
+            return getLastError();
+        }); // Meant to be copied, unlike a table of contents' rate: the written track states it.
         fields.field(&i_ZelDataScreenText::getFrameRate, &i_ZelDataScreenText::setFrameRate);
         if (const Ending ending = fields.ending()) return *ending;
         ReceivedItems<i_ZelDataScreenTextItem> items;

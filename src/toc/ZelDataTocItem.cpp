@@ -24,7 +24,8 @@ ZelDataTocItem& ZelDataTocItem::operator=(const ZelDataTocItem& other)
     return *this;
 }
 
-/// The flag is meant to change nothing: an entry has no parts to look into.
+/// The flag is meant to change nothing: an entry has no parts, and a second answer would
+/// tell callers that it has.
 ZelDataResult_tags ZelDataTocItem::isValid(bool /*deep*/) const
 {
     for (const auto& [languageID, text] : texts_.all()) {

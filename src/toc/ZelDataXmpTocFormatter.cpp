@@ -7,6 +7,8 @@
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
+#include <new>
+
 namespace ZelInterchangeData {
 
 namespace {
@@ -97,7 +99,9 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
     out = nameAlternativeStart;
     for (const std::string& id : languages) {
         std::string title;
-        if (failed(item.getTextForLanguage(title, id))) {
+        const auto got = item.getTextForLanguage(title, id);
+        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // no sign of a missing text
+        if (failed(got)) {
             complete = false;
             continue;
         }
