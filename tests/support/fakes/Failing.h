@@ -1,0 +1,95 @@
+/// @file
+/// Objects of the library whose operations can be made to fail.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILING_H
+#define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILING_H
+
+#include "ZelInterchangeData/ZelDataResult_tags.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// A @p Base that fails where a test asks for it. A class that derives from it overrides operations
+/// and passes each through run(). It counts the objects of its kind that are alive.
+template <class Base>
+class Failing : public Base {
+public:
+    Failing() { ++alive(); }
+    Failing(const Failing&) = delete;
+    Failing& operator=(const Failing&) = delete;
+    ~Failing() override { --alive(); }
+
+    /// Makes call number @p nth of @p operation do nothing but return @p returned; from then on the
+    /// last error reads @p lastError.
+    void failAt(std::string operation, ZelDataResult_tags returned, ZelDataResult_tags lastError,
+                int nth = 1)
+    {
+        actAt(
+            std::move(operation),
+            [this, returned, lastError] {
+                tripped_ = true;
+                lastError_ = lastError;
+                return returned;
+            },
+            nth);
+    }
+
+    /// Makes call number @p nth of @p operation throw @p exception.
+    template <class Exception>
+    void throwAt(std::string operation, Exception exception, int nth = 1)
+    {
+        actAt(
+            std::move(operation),
+            [exception = std::move(exception)]() -> ZelDataResult_tags { throw exception; }, nth);
+    }
+
+    ZelDataResult_tags getLastError() const override
+    {
+        return tripped_ ? lastError_ : Base::getLastError();
+    }
+
+    /// What the library stored, whatever getLastError() was made to read.
+    ZelDataResult_tags storedError() const { return Base::getLastError(); }
+
+    /// The operations that were called so far, in order.
+    const std::vector<std::string>& calls() const { return calls_; }
+
+    /// The number of living objects.
+    static long& alive()
+    {
+        static long count = 0;
+        return count;
+    }
+
+protected:
+    template <class Operation>
+    ZelDataResult_tags run(const char* name, Operation&& operation) const
+    {
+        calls_.emplace_back(name);
+        if (name != operation_ || --remaining_ != 0) return operation();
+        return action_();
+    }
+
+private:
+    void actAt(std::string operation, std::function<ZelDataResult_tags()> action, int nth)
+    {
+        operation_ = std::move(operation);
+        action_ = std::move(action);
+        remaining_ = nth;
+    }
+
+    std::string operation_;
+    std::function<ZelDataResult_tags()> action_;
+    mutable int remaining_ = 0;
+    mutable std::vector<std::string> calls_;
+    bool tripped_ = false;
+    ZelDataResult_tags lastError_ = ZelData_Ok;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

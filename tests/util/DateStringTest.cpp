@@ -1,0 +1,166 @@
+/// @file
+/// Dates in UTC with the hours of the local zone behind them.
+
+#include "ZelInterchangeData/ZelDataUtilities.h"
+#include "util/AllocationWatch.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdlib>
+#include <ctime>
+#include <new>
+#include <optional>
+#include <string>
+
+namespace ZelInterchangeData {
+namespace {
+
+/// Sets the time zone of the process while it lives.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone)
+    {
+        if (const char* const before = std::getenv("TZ")) before_ = before;
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+    ~TimeZone()
+    {
+        if (before_) {
+            setenv("TZ", before_->c_str(), 1);
+        } else {
+            unsetenv("TZ");
+        }
+        tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    std::optional<std::string> before_;
+};
+
+// The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus.
+const char* const utc = "UTC0";
+const char* const twoHoursEast = "EET-2";
+const char* const fiveHoursWest = "EST5";
+const char* const fiveAndAHalfHoursEast = "IST-5:30";
+const char* const centralEurope = "CET-1CEST,M3.5.0,M10.5.0/3";
+
+std::string dateIn(const char* zone, long seconds)
+{
+    const TimeZone timeZone(zone);
+    return ZelDataUtilities::getDateString(&seconds);
+}
+
+constexpr long march5 = 1236262029; // 2009-03-05 14:07:09 in UTC
+
+TEST(GetDateString, WritesTheUtcDateAndTheLocalHours)
+{
+    EXPECT_EQ(dateIn(twoHoursEast, march5), "2009-03-05T14:07:09+2:00");
+    EXPECT_EQ(dateIn(fiveHoursWest, march5), "2009-03-05T14:07:09-5:00");
+}
+
+TEST(GetDateString, WritesAMinusWhereTheHoursAgree)
+{
+    EXPECT_EQ(dateIn(utc, march5), "2009-03-05T14:07:09-0:00");
+    EXPECT_EQ(dateIn("HALF-0:30", march5), "2009-03-05T14:07:09-0:00");
+    EXPECT_EQ(dateIn(utc, 0), "1970-01-01T00:00:00-0:00");
+}
+
+TEST(GetDateString, TakesNoMinutesIntoTheOffset)
+{
+    EXPECT_EQ(dateIn(fiveAndAHalfHoursEast, march5), "2009-03-05T14:07:09+5:00");
+    EXPECT_EQ(dateIn(fiveAndAHalfHoursEast, 1236264300), "2009-03-05T14:45:00+6:00");
+}
+
+TEST(GetDateString, IgnoresTheDayBoundary)
+{
+    EXPECT_EQ(dateIn(twoHoursEast, 1236294000), "2009-03-05T23:00:00-22:00");
+    EXPECT_EQ(dateIn(fiveHoursWest, 1236218400), "2009-03-05T02:00:00+19:00");
+    EXPECT_EQ(dateIn("WEST12", 1236214800), "2009-03-05T01:00:00+12:00");
+    EXPECT_EQ(dateIn("EAST-14", march5), "2009-03-05T14:07:09-10:00");
+}
+
+TEST(GetDateString, FollowsSummerTime)
+{
+    EXPECT_EQ(dateIn(centralEurope, 1230768000), "2009-01-01T00:00:00+1:00");
+    EXPECT_EQ(dateIn(centralEurope, 1246406400), "2009-07-01T00:00:00+2:00");
+}
+
+TEST(GetDateString, FillsTheFieldsWithZeros)
+{
+    EXPECT_EQ(dateIn(utc, 951782400), "2000-02-29T00:00:00-0:00");
+    EXPECT_EQ(dateIn(utc, -1), "1969-12-31T23:59:59-0:00");
+    EXPECT_EQ(dateIn(utc, -62135596800), "0001-01-01T00:00:00-0:00");
+    EXPECT_EQ(dateIn(utc, -62167219200), "0000-01-01T00:00:00-0:00");
+}
+
+TEST(GetDateString, WritesYearsOfMoreThanFourDigits)
+{
+    EXPECT_EQ(dateIn(utc, 253402300800), "10000-01-01T00:00:00-0:00");
+    EXPECT_EQ(dateIn(utc, -62198755200), "-001-01-01T00:00:00-0:00");
+}
+
+TEST(GetDateString, WritesTheFirstAndTheLastDateOfTheCalendar)
+{
+    EXPECT_EQ(dateIn(utc, 67768036191676799), "2147485547-12-31T23:59:59-0:00");
+    EXPECT_EQ(dateIn(utc, -67768040609740800), "-2147481748-01-01T00:00:00-0:00");
+}
+
+TEST(GetDateString, IsEmptyWhereUtcHasNoDate)
+{
+    EXPECT_EQ(dateIn(utc, 67768036191676800), "");
+    EXPECT_EQ(dateIn(utc, -67768040609740801), "");
+    EXPECT_EQ(dateIn(utc, LONG_MAX), "");
+    EXPECT_EQ(dateIn(utc, LONG_MIN), "");
+    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "the local date alone exists";
+    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "the local date alone exists";
+}
+
+TEST(GetDateString, IsEmptyWhereTheZoneHasNoDate)
+{
+    EXPECT_EQ(dateIn(twoHoursEast, 67768036191676799), "");
+    EXPECT_EQ(dateIn(fiveHoursWest, -67768040609740800), "");
+}
+
+TEST(GetDateString, TakesTheCurrentTimeForNull)
+{
+    const TimeZone timeZone(twoHoursEast);
+    const long before = std::time(nullptr);
+    const std::string now = ZelDataUtilities::getDateString(nullptr);
+    const long after = std::time(nullptr);
+    bool found = false;
+    for (long second = before; second <= after && !found; ++second) {
+        long argument = second;
+        found = now == ZelDataUtilities::getDateString(&argument);
+    }
+    EXPECT_TRUE(found) << now;
+    EXPECT_GT(before, march5) << "the clock must be set for this test to tell anything";
+}
+
+TEST(GetDateString, LeavesTheArgumentAlone)
+{
+    long seconds = march5;
+    EXPECT_NE(ZelDataUtilities::getDateString(&seconds), "");
+    EXPECT_EQ(seconds, march5);
+}
+
+TEST(GetDateString, LetsExhaustedMemoryThrough)
+{
+    long seconds = march5;
+    bool thrown = false;
+    {
+        const AllocationWatch watch(0);
+        try {
+            ZelDataUtilities::getDateString(&seconds);
+        } catch (const std::bad_alloc&) {
+            thrown = true;
+        }
+    }
+    EXPECT_TRUE(thrown);
+}
+
+} // namespace
+} // namespace ZelInterchangeData

@@ -1,0 +1,156 @@
+/// @file
+/// Each verb when memory runs out: the tree stays whole and nothing leaks.
+
+#include "xml/FailingAllocation.h"
+#include "xml/Track.h"
+#include "xml/TreeVerbs.h"
+#include "xml/ZelDataXmlStream.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+namespace ZelInterchangeData {
+namespace {
+
+/// Too long for any string to hold it without an allocation.
+const char* const longName = "a-name-that-is-too-long-to-be-kept-inside-a-string-object";
+
+/// Lets @p verb run out of memory at each of its allocations in turn, each time on a new tree that
+/// holds one "first", and hands the tree to @p check afterwards. The number of failures.
+template <class Verb, class Check>
+std::size_t failAtEachAllocation(const Verb& verb, const Check& check)
+{
+    for (std::size_t granted = 0;; ++granted) {
+        SCOPED_TRACE("allocations granted: " + std::to_string(granted));
+        const long long before = liveAllocations();
+        auto tree = std::make_unique<ZelDataXmlStream>();
+        tree->element("first");
+        if (!runsOutOfMemory(granted, [&] { verb(*tree); })) return granted;
+        check(*tree);
+        tree.reset();
+        EXPECT_EQ(liveAllocations(), before);
+    }
+}
+
+TEST(ExhaustedMemory, AChildIsThereForBothLookupAndWritingOrForNeither)
+{
+    const std::string made = std::string("<") + longName + "></" + longName + ">";
+    const auto failures =
+        failAtEachAllocation([](ZelDataXmlStream& tree) { tree < longName; },
+                             [&](ZelDataXmlStream& tree) {
+                                 EXPECT_EQ(tree.getXml(false), "<first></first>");
+                                 tree < longName;
+                                 EXPECT_EQ(tree.getXml(false), "<first></first>" + made);
+                             });
+    EXPECT_GE(failures, 4U);
+}
+
+TEST(ExhaustedMemory, APathIsMadeAsFarAsMemoryReaches)
+{
+    const auto failures = failAtEachAllocation(
+        [](ZelDataXmlStream& tree) { tree < "a/b/c"; },
+        [](ZelDataXmlStream& tree) {
+            const std::string text = tree.getXml(false);
+            EXPECT_TRUE(text == "<first></first>" || text == "<first></first><a></a>" ||
+                        text == "<first></first><a><b></b></a>")
+                << text;
+            tree < "a/b/d";
+            EXPECT_EQ(tree.getXml(false), "<first></first><a><b><d></d></b></a>");
+        });
+    EXPECT_GE(failures, 9U);
+}
+
+TEST(ExhaustedMemory, WithoutANewGroupTheOldOneStaysCurrent)
+{
+    const auto failures =
+        failAtEachAllocation([](ZelDataXmlStream& tree) { tree < groupVerb; },
+                             [](ZelDataXmlStream& tree) {
+                                 tree < "first/x";
+                                 EXPECT_EQ(tree.getXml(false), "<first><x></x></first>");
+                             });
+    EXPECT_GE(failures, 1U);
+}
+
+TEST(ExhaustedMemory, AnAttributeThatCouldNotBeMadeIsNotThere)
+{
+    const auto failures = failAtEachAllocation(
+        [](ZelDataXmlStream& tree) { tree < attributeVerb; },
+        [](ZelDataXmlStream& tree) { EXPECT_EQ(written(tree), "<><first></first></>"); });
+    EXPECT_GE(failures, 2U);
+}
+
+TEST(ExhaustedMemory, ANamedAttributeIsWritableAtEachStage)
+{
+    const auto failures = failAtEachAllocation(
+        [](ZelDataXmlStream& tree) { tree.attribute(longName, longName); },
+        [](ZelDataXmlStream& tree) {
+            const std::string text = written(tree);
+            EXPECT_TRUE(text == "<><first></first></>" || text == "< =\"\" ><first></first></>" ||
+                        text == std::string("< ") + longName + "=\"\" ><first></first></>")
+                << text;
+        });
+    EXPECT_GE(failures, 4U);
+}
+
+TEST(ExhaustedMemory, ATextThatCouldNotBeKeptLeavesTheOldOne)
+{
+    ZelDataXmlNode node(nullptr);
+    ZelDataXmlNode child(&node);
+    child.text("old");
+    EXPECT_TRUE(runsOutOfMemory(0, [&] { child < textVerb < longName; }));
+    EXPECT_EQ(written(child), "<>old</>");
+}
+
+TEST(ExhaustedMemory, ARootWhoseTextLeadsNowhereStaysWhole)
+{
+    const auto failures = failAtEachAllocation([](ZelDataXmlStream& tree) { (tree = 5L) < "lost"; },
+                                               [](ZelDataXmlStream& tree) {
+                                                   (tree = 5L) < "lost";
+                                                   EXPECT_EQ(tree.getXml(false), "<first></first>");
+                                               });
+    EXPECT_GE(failures, 1U);
+}
+
+TEST(ExhaustedMemory, WritingLeavesTheTreeAsItWas)
+{
+    const auto failures = failAtEachAllocation(
+        [](ZelDataXmlStream& tree) { const std::string text = tree.getXml(true); },
+        [](ZelDataXmlStream& tree) { EXPECT_EQ(tree.getXml(false), "<first></first>"); });
+    EXPECT_GE(failures, 2U);
+}
+
+TEST(ExhaustedMemory, ADeepTreeIsDestroyedWithoutAnyAllocation)
+{
+    std::string path = "a";
+    for (int step = 0; step < 1000; ++step)
+        path += "/a";
+    auto tree = std::make_unique<ZelDataXmlStream>();
+    tree->element(path);
+    EXPECT_FALSE(runsOutOfMemory(0, [&] { tree.reset(); }));
+}
+
+TEST(ExhaustedMemory, ReplacingLeavesTheSubjectAsItWas)
+{
+    std::string subject = "a-b-c";
+    const std::string from = "-";
+    const std::string to = longName;
+    EXPECT_TRUE(runsOutOfMemory(0, [&] { replaceAll(subject, from, to); }));
+    EXPECT_EQ(subject, "a-b-c");
+}
+
+TEST(ExhaustedMemory, ATrackThatCouldNotBeMadeLeaksNothing)
+{
+    const long long before = liveAllocations();
+    std::size_t granted = 0;
+    while (runsOutOfMemory(granted, [] { Track().addMarker().text("t"); })) {
+        EXPECT_EQ(liveAllocations(), before);
+        ++granted;
+    }
+    EXPECT_GE(granted, 10U);
+}
+
+} // namespace
+} // namespace ZelInterchangeData
