@@ -1,0 +1,222 @@
+/// @file
+/// The rules of all operations that hand out a new object: the factories, the document's and the
+/// collections' operations.
+
+#include "captions/ZelDataCaptionItem.h"
+#include "captions/ZelDataCaptions.h"
+#include "captions/ZelDataXmpCaptionFormatter.h"
+#include "core/ZelDataCore.h"
+#include "header/ZelDataHeader.h"
+#include "header/ZelDataXmpHeaderFormatter.h"
+#include "screentext/ZelDataScreenText.h"
+#include "screentext/ZelDataScreenTextItem.h"
+#include "screentext/ZelDataXmpScreenTextFormatter.h"
+#include "support/Checks.h"
+#include "toc/ZelDataToc.h"
+#include "toc/ZelDataTocItem.h"
+#include "toc/ZelDataXmpTocFormatter.h"
+#include "xml/FailingAllocation.h"
+
+#include <typeinfo>
+
+namespace ZelInterchangeData {
+namespace {
+
+using Code = ZelDataResult_tags;
+using Format = ZelDataFormatType_tags;
+
+template <class Made, class Interface_, Code (*function)(Interface_**)>
+struct Factory {
+    using Object = Made;
+    using Interface = Interface_;
+    Code create(Interface** out) { return function(out); }
+    void expectLastError(Code /*code*/) const {} // A static function stores nothing.
+};
+
+template <class Made, class Interface_, Code (*function)(Interface_**, Format)>
+struct FormatterFactory {
+    using Object = Made;
+    using Interface = Interface_;
+    static Code createAs(Interface** out, Format format) { return function(out, format); }
+    Code create(Interface** out) { return function(out, ZelDataFormat_Xmp); }
+    void expectLastError(Code /*code*/) const {} // A static function stores nothing.
+};
+
+template <class Made, class Owner, class Interface_, auto operation>
+struct Member {
+    using Object = Made;
+    using Interface = Interface_;
+    Owner owner;
+    Code create(Interface** out)
+    {
+        owner.setLastError(ZelData_WarnTiming);
+        return (owner.*operation)(out);
+    }
+    void expectLastError(Code code) const { EXPECT_EQ(code, owner.getLastError()); }
+};
+
+using Make = ZelDataUtilities;
+using Core = i_ZelInterchangeDataCore;
+
+using FormatterMakers = ::testing::Types<
+    FormatterFactory<ZelDataXmpHeaderFormatter, i_ZelDataHeaderFormatter,
+                     &Make::createHeaderFormatter>,
+    FormatterFactory<ZelDataXmpCaptionFormatter, i_ZelDataCaptionFormatter,
+                     &Make::createCaptionFormatter>,
+    FormatterFactory<ZelDataXmpTocFormatter, i_ZelDataTocFormatter, &Make::createTocFormatter>,
+    FormatterFactory<ZelDataXmpScreenTextFormatter, i_ZelDataScreenTextFormatter,
+                     &Make::createScreenTextFormatter>>;
+
+using AllMakers = ::testing::Types<
+    Factory<ZelDataHeader, i_ZelDataHeader, &Make::createHeaderData>,
+    Factory<ZelDataCaptionItem, i_ZelDataCaptionItem, &Make::createCaptionItemData>,
+    Factory<ZelDataCaptions, i_ZelDataCaptions, &Make::createCaptionData>,
+    Factory<ZelDataTocItem, i_ZelDataTocItem, &Make::createTocItemData>,
+    Factory<ZelDataToc, i_ZelDataToc, &Make::createTocData>,
+    Factory<ZelDataScreenTextItem, i_ZelDataScreenTextItem, &Make::createScreenTextItemData>,
+    Factory<ZelDataScreenText, i_ZelDataScreenText, &Make::createScreenTextData>,
+    FormatterFactory<ZelDataXmpHeaderFormatter, i_ZelDataHeaderFormatter,
+                     &Make::createHeaderFormatter>,
+    FormatterFactory<ZelDataXmpCaptionFormatter, i_ZelDataCaptionFormatter,
+                     &Make::createCaptionFormatter>,
+    FormatterFactory<ZelDataXmpTocFormatter, i_ZelDataTocFormatter, &Make::createTocFormatter>,
+    FormatterFactory<ZelDataXmpScreenTextFormatter, i_ZelDataScreenTextFormatter,
+                     &Make::createScreenTextFormatter>,
+    Member<ZelDataHeader, ZelDataCore, i_ZelDataHeader, &Core::createDataHeader>,
+    Member<ZelDataCaptions, ZelDataCore, i_ZelDataCaptions, &Core::createDataCaptions>,
+    Member<ZelDataToc, ZelDataCore, i_ZelDataToc, &Core::createDataToc>,
+    Member<ZelDataScreenText, ZelDataCore, i_ZelDataScreenText, &Core::createDataScreenText>,
+    Member<ZelDataCaptionItem, ZelDataCaptions, i_ZelDataCaptionItem,
+           &i_ZelDataCaptions::createCaptionItem>,
+    Member<ZelDataTocItem, ZelDataToc, i_ZelDataTocItem, &i_ZelDataToc::createTocItem>,
+    Member<ZelDataScreenTextItem, ZelDataScreenText, i_ZelDataScreenTextItem,
+           &i_ZelDataScreenText::createScreenTextItem>>;
+
+template <class Maker>
+class OutPointer : public ::testing::Test {
+protected:
+    using Interface = typename Maker::Interface;
+
+    /// A new object; the maker answers and stores success.
+    std::unique_ptr<Interface> created()
+    {
+        Interface* made = nullptr;
+        EXPECT_EQ(ZelData_Ok, maker_.create(&made));
+        maker_.expectLastError(ZelData_Ok);
+        return std::unique_ptr<Interface>(made);
+    }
+
+    Maker maker_;
+};
+
+TYPED_TEST_SUITE(OutPointer, AllMakers, );
+
+TYPED_TEST(OutPointer, NoPointerIsRefused)
+{
+    EXPECT_EQ(ZelData_InvalidArgument, this->maker_.create(nullptr));
+    this->maker_.expectLastError(ZelData_InvalidArgument);
+}
+
+TYPED_TEST(OutPointer, AnOccupiedPointerIsRefusedAndLeftAlone)
+{
+    const auto occupant = this->created();
+    auto* pointer = occupant.get();
+    EXPECT_EQ(ZelData_InvalidArgument, this->maker_.create(&pointer));
+    this->maker_.expectLastError(ZelData_InvalidArgument);
+    EXPECT_EQ(occupant.get(), pointer);
+}
+
+TYPED_TEST(OutPointer, ANullPointerGetsAnObjectOfTheRightClass)
+{
+    const auto object = this->created();
+    ASSERT_NE(nullptr, object);
+    const auto& reference = *object;
+    EXPECT_EQ(typeid(typename TypeParam::Object), typeid(reference));
+}
+
+TYPED_TEST(OutPointer, ANewObjectReportsSuccess)
+{
+    EXPECT_EQ(ZelData_Ok, this->created()->getLastError());
+}
+
+TYPED_TEST(OutPointer, EveryCallMakesAnObjectOfItsOwn)
+{
+    const auto first = this->created();
+    const auto second = this->created();
+    EXPECT_NE(first, second);
+    first->setLastError(ZelData_NotFound);
+    EXPECT_EQ(ZelData_Ok, second->getLastError());
+}
+
+TYPED_TEST(OutPointer, TheCallerOwnsTheObject)
+{
+    const auto before = liveAllocations();
+    this->created().reset();
+    EXPECT_EQ(before, liveAllocations());
+}
+
+TYPED_TEST(OutPointer, WithoutMemoryThePointerStaysNull)
+{
+    typename TypeParam::Interface* pointer = nullptr;
+    Code code = ZelData_Ok;
+    {
+        const FailingAllocation failing(0);
+        code = this->maker_.create(&pointer);
+    }
+    EXPECT_EQ(ZelData_OutOfMemory, code);
+    this->maker_.expectLastError(ZelData_OutOfMemory);
+    EXPECT_EQ(nullptr, pointer);
+}
+
+constexpr Format foreignFormats[] = {static_cast<Format>(0), static_cast<Format>(2),
+                                     static_cast<Format>(0xFFFFFFFFU)};
+
+template <class Maker>
+class FormatterOutPointer : public OutPointer<Maker> {
+};
+
+TYPED_TEST_SUITE(FormatterOutPointer, FormatterMakers, );
+
+TYPED_TEST(FormatterOutPointer, AnotherFormatIsUnsupportedAndThePointerStaysNull)
+{
+    for (const auto format : foreignFormats) {
+        typename TypeParam::Interface* pointer = nullptr;
+        EXPECT_EQ(ZelData_UnsupportedFormat, TypeParam::createAs(&pointer, format));
+        EXPECT_EQ(nullptr, pointer);
+    }
+}
+
+TYPED_TEST(FormatterOutPointer, ThePointerIsCheckedBeforeTheFormat)
+{
+    const auto occupant = this->created();
+    for (const auto format : foreignFormats) {
+        auto* pointer = occupant.get();
+        EXPECT_EQ(ZelData_InvalidArgument, TypeParam::createAs(nullptr, format));
+        EXPECT_EQ(ZelData_InvalidArgument, TypeParam::createAs(&pointer, format));
+        EXPECT_EQ(occupant.get(), pointer);
+    }
+}
+
+TYPED_TEST(FormatterOutPointer, NothingIsAllocatedForAnotherFormat)
+{
+    typename TypeParam::Interface* pointer = nullptr;
+    Code code = ZelData_Ok;
+    {
+        const FailingAllocation failing(0);
+        code = TypeParam::createAs(&pointer, static_cast<Format>(2));
+    }
+    EXPECT_EQ(ZelData_UnsupportedFormat, code);
+}
+
+TEST(HeaderFactory, TwoHeadersAreIndependent)
+{
+    const auto first = make(&ZelDataUtilities::createHeaderData);
+    const auto second = make(&ZelDataUtilities::createHeaderData);
+    EXPECT_EQ(ZelData_Ok, first->setTitle("first"));
+    std::string title = "?";
+    EXPECT_EQ(ZelData_Ok, second->getTitle(title));
+    EXPECT_EQ("", title);
+}
+
+} // namespace
+} // namespace ZelInterchangeData

@@ -1,0 +1,262 @@
+/// @file
+/// The screen-text track, byte for byte.
+
+#include "screentext/ZelDataXmpScreenTextFormatter.h"
+
+#include "screentext/Items.h"
+#include "support/fakes/FailingScreenText.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+namespace ZelInterchangeData {
+namespace {
+
+const auto unknownFormat = static_cast<ZelDataFormatType_tags>(0);
+const auto otherFormat = static_cast<ZelDataFormatType_tags>(2);
+
+/// A track of @p markers that states @p rate.
+std::string track(const std::string& rate, const std::string& markers)
+{
+    return R"(<rdf:li><rdf:Description xmpDM:trackType="ScreenText" xmpDM:frameRate=")" + rate +
+           R"(" xmpDM:trackName="Screen Text" ><xmpDM:markers><rdf:Seq>)" + markers +
+           "</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>";
+}
+
+/// A marker without image and group.
+std::string marker(const std::string& name, const std::string& start, const std::string& duration)
+{
+    return R"(<rdf:li><rdf:Description xmpDM:name=")" + name + R"(" xmpDM:startTime=")" + start +
+           R"(" xmpDM:duration=")" + duration +
+           R"(" xmpDM:image="" zelDM:imageindex="0" zelDM:imageoffset="0" zelDM:tocEntry="0" >)"
+           "</rdf:Description></rdf:li>";
+}
+
+class ScreenTextFormatter : public testing::Test {
+protected:
+    void give(const std::vector<Shown>& items, unsigned long rate = 1000)
+    {
+        const auto texts = screenTextOf(items);
+        EXPECT_EQ(ZelData_Ok, texts->setFrameRate(rate));
+        EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(*texts));
+    }
+
+    std::string written()
+    {
+        std::string out = "replaced";
+        EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->writeString(out, ZelDataFormat_Xmp, true));
+        return out;
+    }
+
+    std::unique_ptr<i_ZelDataScreenTextFormatter> formatter_ =
+        make(ZelDataUtilities::createScreenTextFormatter);
+};
+
+TEST_F(ScreenTextFormatter, WritesTextTimesImageAndGroup)
+{
+    give({{2000, 1500, "Click Save", "shots.png", 3, 4096, 1}});
+    EXPECT_EQ(R"(<rdf:li><rdf:Description xmpDM:trackType="ScreenText" xmpDM:frameRate="f1000" )"
+              R"(xmpDM:trackName="Screen Text" ><xmpDM:markers><rdf:Seq>)"
+              R"(<rdf:li><rdf:Description xmpDM:name="Click Save" xmpDM:startTime="2000" )"
+              R"(xmpDM:duration="1500" xmpDM:image="shots.png" zelDM:imageindex="3" )"
+              R"(zelDM:imageoffset="4096" zelDM:tocEntry="1" ></rdf:Description></rdf:li>)"
+              R"(</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>)",
+              written());
+}
+
+TEST_F(ScreenTextFormatter, BeforeACollectionWasSetThereIsNothingToWrite)
+{
+    std::string out = "kept";
+    EXPECT_CODE(*formatter_, ZelData_InvalidData,
+                formatter_->writeString(out, ZelDataFormat_Xmp, false));
+    EXPECT_EQ("kept", out);
+}
+
+TEST_F(ScreenTextFormatter, AnotherFormatIsRefusedBeforeAndAfterACollectionWasSet)
+{
+    std::string out = "kept";
+    for (const auto format : {unknownFormat, otherFormat})
+        EXPECT_CODE(*formatter_, ZelData_InternalError,
+                    formatter_->writeString(out, format, false));
+    give({{1}});
+    for (const auto format : {unknownFormat, otherFormat})
+        EXPECT_CODE(*formatter_, ZelData_InternalError,
+                    formatter_->writeString(out, format, false));
+    EXPECT_EQ("kept", out);
+}
+
+TEST_F(ScreenTextFormatter, AnEmptyCollectionWritesNothingAndLeavesTheTextAlone)
+{
+    give({});
+    EXPECT_EQ("replaced", written());
+}
+
+TEST_F(ScreenTextFormatter, StatesTheCollectionsOwnFrameRate)
+{
+    give({{1, 2, "a"}}, 25);
+    EXPECT_EQ(track("f25", marker("a", "1", "2")), written());
+    give({{1, 2, "a"}}, 10000);
+    EXPECT_EQ(track("f10000", marker("a", "1", "2")), written());
+}
+
+TEST_F(ScreenTextFormatter, WritesItemsInTheOrderOfTheirStarts)
+{
+    give({{500, 1, "c"}, {9, 1, "a"}, {100, 1, "b"}});
+    EXPECT_EQ(
+        track("f1000", marker("a", "9", "1") + marker("b", "100", "1") + marker("c", "500", "1")),
+        written());
+}
+
+TEST_F(ScreenTextFormatter, ItemsWithEqualStartsComeInTheOrderOfTheExchangeSort)
+{
+    give({{5, 1, "first"}, {5, 1, "second"}, {3, 1, "early"}});
+    EXPECT_EQ(track("f1000", marker("early", "3", "1") + marker("second", "5", "1") +
+                                 marker("first", "5", "1")),
+              written());
+}
+
+TEST_F(ScreenTextFormatter, SortingAffectsTheHeldCopyAlone)
+{
+    const auto texts = screenTextOf({{500}, {100}});
+    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(*texts));
+    written();
+    EXPECT_EQ((std::vector<Shown>{{500}, {100}}), itemsOf(*texts));
+}
+
+TEST_F(ScreenTextFormatter, ADurationOfZeroIsWritten)
+{
+    give({{7, 0, "a"}});
+    EXPECT_EQ(track("f1000", marker("a", "7", "0")), written());
+}
+
+TEST_F(ScreenTextFormatter, EscapesTheTextButNotTheImage)
+{
+    give({{0, 0, "\"&'<>", "a&b<'c'>\".png"}});
+    EXPECT_EQ(track("f1000",
+                    R"(<rdf:li><rdf:Description xmpDM:name="&quot;&amp;&apos;&lt;&gt;" )"
+                    R"(xmpDM:startTime="0" xmpDM:duration="0" xmpDM:image="a&b<'c'>".png" )"
+                    R"(zelDM:imageindex="0" zelDM:imageoffset="0" zelDM:tocEntry="0" >)"
+                    R"(</rdf:Description></rdf:li>)"),
+              written());
+}
+
+TEST_F(ScreenTextFormatter, DropsControlCharactersFromTheTextButNotFromTheImage)
+{
+    give({{0, 0,
+           "a\tb\r\n\x01"
+           "c\x7F",
+           "e\t\x02.png"}});
+    EXPECT_EQ(track("f1000", "<rdf:li><rdf:Description xmpDM:name=\"ab\nc\x7F\" "
+                             "xmpDM:startTime=\"0\" xmpDM:duration=\"0\" "
+                             "xmpDM:image=\"e\t\x02.png\" zelDM:imageindex=\"0\" "
+                             "zelDM:imageoffset=\"0\" zelDM:tocEntry=\"0\" >"
+                             "</rdf:Description></rdf:li>"),
+              written());
+}
+
+TEST_F(ScreenTextFormatter, WritesTheLargestNumbersWhole)
+{
+    const auto latest = std::numeric_limits<long long>::max();
+    const auto largest = std::numeric_limits<unsigned long>::max();
+    static_assert(sizeof(largest) == 8, "the expected numbers are those of 64 bits");
+    give({{latest, latest, "", "", largest, largest, largest}});
+    EXPECT_EQ(track("f1000",
+                    R"(<rdf:li><rdf:Description xmpDM:name="" )"
+                    R"(xmpDM:startTime="9223372036854775807" )"
+                    R"(xmpDM:duration="9223372036854775807" xmpDM:image="" )"
+                    R"(zelDM:imageindex="18446744073709551615" )"
+                    R"(zelDM:imageoffset="18446744073709551615" )"
+                    R"(zelDM:tocEntry="18446744073709551615" ></rdf:Description></rdf:li>)"),
+              written());
+}
+
+TEST_F(ScreenTextFormatter, TheFlagOfWritingMeansNothingAndWritingAgainGivesTheSame)
+{
+    give({{2, 1, "b"}, {1, 1, "a"}});
+    std::string out;
+    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->writeString(out, ZelDataFormat_Xmp, false));
+    EXPECT_EQ(track("f1000", marker("a", "1", "1") + marker("b", "2", "1")), out);
+    EXPECT_EQ(out, written());
+}
+
+TEST_F(ScreenTextFormatter, HoldsACopyThatTheNextCollectionReplaces)
+{
+    const auto texts = screenTextOf({{1, 1, "a"}});
+    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(*texts));
+    EXPECT_EQ(ZelData_Ok, texts->clearScreenTextItems());
+    EXPECT_EQ(track("f1000", marker("a", "1", "1")), written());
+    give({{2, 2, "b"}}, 30);
+    EXPECT_EQ(track("f30", marker("b", "2", "2")), written());
+    give({});
+    EXPECT_EQ("replaced", written());
+}
+
+TEST_F(ScreenTextFormatter, AsksTheGivenCollectionForNoValidity)
+{
+    FailingScreenText texts;
+    texts.failAt("isValid", ZelData_InvalidData, ZelData_InvalidData);
+    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(texts));
+    EXPECT_EQ("replaced", written());
+}
+
+TEST_F(ScreenTextFormatter, ACollectionThatCannotBeCopiedGivesItsLastErrorAndIsHeldAsFarAsItGot)
+{
+    give({{1, 1, "a"}});
+    FailingScreenText texts;
+    add(texts, {{2, 1, "b"}});
+    texts.failAt("getScreenTextItems", ZelData_InvalidItem, ZelData_NotFound);
+    EXPECT_CODE(*formatter_, ZelData_NotFound, formatter_->setScreenText(texts));
+    EXPECT_EQ("replaced", written());
+}
+
+TEST_F(ScreenTextFormatter, ExceptionsOfAGivenCollectionBecomeCodes)
+{
+    FailingScreenText texts;
+    texts.throwAt("getFrameRate", std::bad_alloc());
+    EXPECT_CODE(*formatter_, ZelData_OutOfMemory, formatter_->setScreenText(texts));
+    FailingScreenText other;
+    other.throwAt("getFrameRate", std::runtime_error("foreign"));
+    EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->setScreenText(other));
+}
+
+TEST_F(ScreenTextFormatter, WritesNoFile)
+{
+    const auto path = std::filesystem::temp_directory_path() / "screen-text-that-is-never-written";
+    EXPECT_CODE(*formatter_, ZelData_InvalidData,
+                formatter_->writeFile(path.string(), ZelDataFormat_Xmp, false));
+    EXPECT_CODE(*formatter_, ZelData_InternalError,
+                formatter_->writeFile(path.string(), unknownFormat, false));
+    give({{1, 1, "a"}});
+    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
+                formatter_->writeFile(path.string(), ZelDataFormat_Xmp, true));
+    EXPECT_CODE(*formatter_, ZelData_InternalError,
+                formatter_->writeFile(path.string(), otherFormat, false));
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST_F(ScreenTextFormatter, ReadsNothing)
+{
+    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
+                formatter_->readString("<a></a>", ZelDataFormat_Xmp, false));
+    EXPECT_CODE(*formatter_, ZelData_InternalError,
+                formatter_->readString("<a></a>", unknownFormat, false));
+    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
+                formatter_->readFile("texts.xmp", ZelDataFormat_Xmp));
+    EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->readFile("texts.xmp", otherFormat));
+}
+
+TEST_F(ScreenTextFormatter, NeverGivesTheCollectionBack)
+{
+    const auto texts = screenTextOf({{1}});
+    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getScreenText(*texts));
+    give({{2}});
+    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getScreenText(*texts));
+    EXPECT_EQ(std::vector<Shown>{{1}}, itemsOf(*texts));
+}
+
+} // namespace
+} // namespace ZelInterchangeData

@@ -1,0 +1,408 @@
+/// @file
+/// The table of contents: properties, languages, entries, checking and repairing.
+
+#include "support/fakes/FailingToc.h"
+#include "toc/Entries.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+namespace ZelInterchangeData {
+namespace {
+
+using Ids = std::vector<std::string>;
+
+class Toc : public testing::Test {
+protected:
+    std::unique_ptr<i_ZelDataToc> toc_ = make(ZelDataUtilities::createTocData);
+};
+
+TEST_F(Toc, StartsEmpty)
+{
+    EXPECT_EQ(ZelData_Ok, toc_->getLastError());
+    EXPECT_EQ(1000UL, frameRateOf(*toc_));
+    EXPECT_EQ("", imageOf(*toc_));
+    EXPECT_TRUE(entriesOf(*toc_).empty());
+    EXPECT_TRUE(languagesOf(*toc_).empty());
+}
+
+TEST_F(Toc, AcceptsFrameRatesFrom1To10000)
+{
+    for (const unsigned long rate : {1UL, 30UL, 10000UL}) {
+        EXPECT_CODE(*toc_, ZelData_Ok, toc_->setFrameRate(rate));
+        unsigned long stored = 0;
+        EXPECT_CODE(*toc_, ZelData_Ok, toc_->getFrameRate(stored));
+        EXPECT_EQ(rate, stored);
+    }
+}
+
+TEST_F(Toc, RefusesOtherFrameRatesAndKeepsTheEarlierOne)
+{
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setFrameRate(25));
+    for (const unsigned long rate : {0UL, 10001UL, 0x100000001UL}) {
+        EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setFrameRate(rate));
+    }
+    EXPECT_EQ(25UL, frameRateOf(*toc_));
+}
+
+TEST_F(Toc, TheImageFileIsStoredUnchecked)
+{
+    const std::string anyBytes("\xFF\0<&>", 5);
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setImageFile(anyBytes));
+    std::string name;
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->getImageFile(name));
+    EXPECT_EQ(anyBytes, name);
+}
+
+TEST_F(Toc, RefusesALanguageThatIsNotUtf8OrUnknownOrListed)
+{
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("en"));
+    EXPECT_CODE(*toc_, ZelData_InvalidUtf8, toc_->addLanguage("en-\xC3"));
+    EXPECT_CODE(*toc_, ZelData_UnknownLanguage, toc_->addLanguage("xx"));
+    EXPECT_CODE(*toc_, ZelData_WarnAlreadyExists, toc_->addLanguage("en"));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("EN"));
+    EXPECT_EQ((Ids{"en", "EN"}), languagesOf(*toc_));
+}
+
+TEST_F(Toc, RemovingAnAbsentLanguageReturnsNotFound)
+{
+    add(*toc_, {{0, {{"de", "1"}, {"en", "2"}}}});
+    EXPECT_CODE(*toc_, ZelData_NotFound, toc_->removeLanguage("fr"));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeLanguage("de"));
+    EXPECT_EQ(Ids{"en"}, languagesOf(*toc_));
+    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "1"}, {"en", "2"}}}}), entriesOf(*toc_));
+}
+
+TEST_F(Toc, AnOrderOfLanguagesMayRepeatOneButNotBringAnother)
+{
+    add(*toc_, {{0, {{"de", "1"}, {"en", "2"}}}});
+    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setOrderedLanguageIDs({"en"}));
+    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setOrderedLanguageIDs({"en", "fr"}));
+    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setOrderedLanguageIDs({"en", "de", "en"}));
+    EXPECT_EQ((Ids{"de", "en"}), languagesOf(*toc_));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setOrderedLanguageIDs({"en", "de"}));
+    EXPECT_EQ((Ids{"en", "de"}), languagesOf(*toc_));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setOrderedLanguageIDs({"en", "en"}));
+    EXPECT_EQ((Ids{"en", "en"}), languagesOf(*toc_));
+}
+
+TEST_F(Toc, TellsCountAndMembershipOfItsLanguages)
+{
+    add(*toc_, {{0, {{"de", "1"}, {"en", "2"}}}});
+    unsigned long count = 0;
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->getLanguageCount(count));
+    EXPECT_EQ(2UL, count);
+    std::string id = "en";
+    bool exists = false;
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->doesLanguageExist(id, exists));
+    EXPECT_TRUE(exists);
+    id = "EN";
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->doesLanguageExist(id, exists));
+    EXPECT_FALSE(exists);
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->clearLanguages());
+    EXPECT_TRUE(languagesOf(*toc_).empty());
+}
+
+TEST_F(Toc, AnEntryListsItsLanguagesInByteOrder)
+{
+    add(*toc_, {{0, {{"fr", "Un"}, {"de", "Eins"}}}});
+    EXPECT_EQ((Ids{"de", "fr"}), languagesOf(*toc_));
+}
+
+TEST_F(Toc, LanguagesThatAreListedKeepTheirPlace)
+{
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("fr"));
+    add(*toc_, {{0, {{"de", "Eins"}, {"fr", "Un"}}}, {1, {{"EN", "Two"}, {"fr", "Deux"}}}});
+    EXPECT_EQ((Ids{"fr", "de", "EN"}), languagesOf(*toc_));
+}
+
+TEST_F(Toc, ClearingTheEntriesClearsTheLanguagesToo)
+{
+    add(*toc_, {{0, {{"de", "Eins"}}}});
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("fr"));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setFrameRate(25));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setImageFile("t.png"));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->clearTocItems());
+    EXPECT_TRUE(entriesOf(*toc_).empty());
+    EXPECT_TRUE(languagesOf(*toc_).empty());
+    EXPECT_EQ(25UL, frameRateOf(*toc_));
+    EXPECT_EQ("t.png", imageOf(*toc_));
+}
+
+TEST_F(Toc, RemovingAnEntryLeavesTheLanguages)
+{
+    add(*toc_, {{0, {{"de", "Eins"}}}, {1, {{"en", "Two"}}}});
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeTocItemAt(0));
+    EXPECT_EQ((Ids{"de", "en"}), languagesOf(*toc_));
+}
+
+TEST_F(Toc, RemovingALanguagesTextsLeavesEntriesAndLanguage)
+{
+    add(*toc_, {{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"de", "Zwei"}}}});
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeTocItemsForLanguage("de"));
+    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "One"}}}, {1}}), entriesOf(*toc_));
+    EXPECT_EQ((Ids{"de", "en"}), languagesOf(*toc_));
+}
+
+TEST_F(Toc, RemovingALanguagesTextsStopsAtAnEntryWithout)
+{
+    add(*toc_, {{0, {{"de", "Eins"}}}, {1, {{"en", "Two"}}}, {2, {{"de", "Drei"}}}});
+    EXPECT_CODE(*toc_, ZelData_NotFound, toc_->removeTocItemsForLanguage("de"));
+    EXPECT_EQ((std::vector<Entry>{{0}, {1, {{"en", "Two"}}}, {2, {{"de", "Drei"}}}}),
+              entriesOf(*toc_));
+}
+
+TEST_F(Toc, RemovingTheTextsOfAnEmptyTableSucceeds)
+{
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeTocItemsForLanguage("xx"));
+}
+
+TEST_F(Toc, EntriesForALanguageAreNotProvided)
+{
+    i_ZelDataTocItem* const kept = nullptr;
+    std::vector<i_ZelDataTocItem*> items{kept};
+    EXPECT_CODE(*toc_, ZelData_NotImplemented, toc_->getTocItemsForLanguage(items, "de"));
+    add(*toc_, {{0, {{"de", "Eins"}}}});
+    EXPECT_CODE(*toc_, ZelData_NotImplemented, toc_->getTocItemsForLanguage(items, "de"));
+    EXPECT_EQ(std::vector<i_ZelDataTocItem*>{kept}, items);
+}
+
+// Checking
+
+TEST_F(Toc, ANewTableIsValidEvenWithLanguages)
+{
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("de"));
+    for (const bool deep : {false, true})
+        EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(deep));
+}
+
+TEST_F(Toc, DisorderIsAWarningUntilTheTableIsMadeConsistent)
+{
+    add(*toc_, {{500, {{"en", "b"}}}, {100, {{"en", "a"}}}});
+    for (const bool deep : {false, true})
+        EXPECT_CODE(*toc_, ZelData_WarnTiming, toc_->isValid(deep));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{100, {{"en", "a"}}}, {500, {{"en", "b"}}}}), entriesOf(*toc_));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(false));
+}
+
+TEST_F(Toc, EqualStartsAreInOrder)
+{
+    add(*toc_, {{100}, {100}, {200}, {200}});
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(true));
+}
+
+TEST_F(Toc, AMissingTextIsAnErrorUntilTheTableIsMadeConsistent)
+{
+    add(*toc_, {{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"en", "Two"}}}});
+    for (const bool deep : {false, true})
+        EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->isValid(deep));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "Eins"}, {"en", "One"}}},
+                                  {1, {{"de", ""}, {"en", "Two"}}}}),
+              entriesOf(*toc_));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(false));
+}
+
+TEST_F(Toc, TextsInUnlistedLanguagesAreLeftAlone)
+{
+    add(*toc_, {{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"en", "Two"}}}});
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeLanguage("de"));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(true));
+    EXPECT_CODE(*toc_, ZelData_Ok, toc_->makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"en", "Two"}}}}),
+              entriesOf(*toc_));
+}
+
+TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+{
+    add(*toc_, {{100, {{"en", "a"}}}, {100}, {50, {{"en", "c"}}}});
+    EXPECT_CODE(*toc_, ZelData_WarnTiming, toc_->isValid(false));
+}
+
+TEST_F(Toc, AMissingTextIsFoundBeforeTheSameEntrysDisorder)
+{
+    add(*toc_, {{100}, {50, {{"en", "b"}}}});
+    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->isValid(false));
+}
+
+/// A table whose rate is out of range, as no setter would leave it.
+class TocWithRate : public ZelDataToc {
+public:
+    explicit TocWithRate(unsigned long rate) { frameRate_.value = rate; }
+};
+
+TEST(TocWithABadRate, IsInvalidEvenWithoutEntries)
+{
+    for (const unsigned long rate : {0UL, 10001UL}) {
+        const TocWithRate toc(rate);
+        EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(false));
+        EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(true));
+    }
+}
+
+TEST(TocWithABadRate, TheRateIsFoundBeforeDisorder)
+{
+    TocWithRate toc(0);
+    add(toc, {{500}, {100}});
+    EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(false));
+}
+
+TEST(TocWithABadRate, IsRepairedToTheStandardRate)
+{
+    for (const unsigned long rate : {0UL, 10001UL}) {
+        TocWithRate toc(rate);
+        EXPECT_CODE(toc, ZelData_Ok, toc.makeTocConsistent());
+        EXPECT_EQ(1000UL, frameRateOf(toc));
+    }
+}
+
+TEST(TocWithAGoodRate, KeepsItWhenMadeConsistent)
+{
+    for (const unsigned long rate : {1UL, 10000UL}) {
+        TocWithRate toc(rate);
+        EXPECT_CODE(toc, ZelData_Ok, toc.makeTocConsistent());
+        EXPECT_EQ(rate, frameRateOf(toc));
+    }
+}
+
+TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
+{
+    ZelDataToc toc;
+    add(toc, {{5, {{"en", "b"}}}, {3}});
+    EXPECT_CODE(toc, ZelData_Ok, toc.orderTocItems());
+    EXPECT_EQ((std::vector<Entry>{{3}, {5, {{"en", "b"}}}}), entriesOf(toc));
+}
+
+// Stored entries that fail
+
+/// A table whose entries are those of the tests, so that stored ones can fail.
+class TocOfFailing : public ZelDataToc {
+public:
+    ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
+    {
+        auto item = std::make_unique<FailingTocItem>();
+        last_ = item.get();
+        *out = item.release();
+        return ZelData_Ok;
+    }
+    /// Adds @p entry and gives the stored one.
+    FailingTocItem& added(const Entry& entry)
+    {
+        EXPECT_EQ(ZelData_Ok, addTocItem(*itemOf(entry)));
+        return *last_;
+    }
+
+private:
+    mutable FailingTocItem* last_ = nullptr;
+};
+
+TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
+{
+    TocOfFailing toc;
+    toc.added({0, {{"en", "a"}}}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
+    EXPECT_CODE(toc, ZelData_Ok, toc.isValid(false));
+    EXPECT_CODE(toc, ZelData_NotFound, toc.isValid(true));
+}
+
+TEST(StoredEntry, AWarningOfItsValidityCountsAsFinding)
+{
+    TocOfFailing toc;
+    toc.added({}).failAt("isValid", ZelData_WarnItemGuidelines, ZelData_WarnItemGuidelines);
+    EXPECT_CODE(toc, ZelData_WarnItemGuidelines, toc.isValid(true));
+}
+
+TEST(StoredEntry, ItsValidityIsFoundBeforeItsMissingTextAndItsDisorder)
+{
+    TocOfFailing toc;
+    toc.added({500}).failAt("isValid", ZelData_InvalidItem, ZelData_InvalidItem);
+    toc.added({100, {{"en", "b"}}});
+    EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(false));
+    EXPECT_CODE(toc, ZelData_InvalidItem, toc.isValid(true));
+}
+
+TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
+{
+    TocOfFailing toc;
+    toc.added({0, {{"en", "a"}}}).failAt("getTextForLanguage", ZelData_NotFound, ZelData_NoData);
+    EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
+}
+
+TEST(StoredEntry, ThatCannotLoseItsTextEndsTheRemoval)
+{
+    TocOfFailing toc;
+    toc.added({0, {{"en", "a"}}})
+        .failAt("removeTextForLanguage", ZelData_NotImplemented, ZelData_NoData);
+    EXPECT_CODE(toc, ZelData_NoData, toc.removeTocItemsForLanguage("en"));
+}
+
+TEST(StoredEntry, ThatCannotTakeAnEmptyTextEndsTheRepair)
+{
+    TocOfFailing toc;
+    auto& item = toc.added({0});
+    EXPECT_EQ(ZelData_Ok, toc.addLanguage("en"));
+    item.failAt("setTextForLanguage", ZelData_InvalidItem, ZelData_NoData);
+    EXPECT_CODE(toc, ZelData_NoData, toc.makeTocConsistent());
+}
+
+TEST(StoredEntry, ThatRunsOutOfMemoryIsNotTakenForOneWithoutText)
+{
+    TocOfFailing returning;
+    returning.added({0, {{"en", "a"}}})
+        .failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
+    EXPECT_CODE(returning, ZelData_OutOfMemory, returning.makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "a"}}}}), entriesOf(returning));
+
+    TocOfFailing throwing;
+    throwing.added({0, {{"en", "a"}}}).throwAt("getTextForLanguage", std::bad_alloc());
+    EXPECT_CODE(throwing, ZelData_OutOfMemory, throwing.makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "a"}}}}), entriesOf(throwing));
+}
+
+// Languages of an added entry
+
+TEST(AddedEntry, WhoseLanguagesCannotBeReadIsNotAdded)
+{
+    class Unreadable : public ZelDataToc {
+    public:
+        ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
+        {
+            auto item = std::make_unique<FailingTocItem>();
+            item->failAt("getLanguageIDs", ZelData_InvalidItem, ZelData_NotFound);
+            *out = item.release();
+            return ZelData_Ok;
+        }
+    };
+    Unreadable toc;
+    const long before = FailingTocItem::alive();
+    EXPECT_CODE(toc, ZelData_NotFound, toc.addTocItem(*itemOf({0, {{"en", "a"}}})));
+    EXPECT_EQ(before, FailingTocItem::alive());
+    unsigned long count = 1;
+    EXPECT_CODE(toc, ZelData_Ok, toc.getTocItemCount(count));
+    EXPECT_EQ(0UL, count);
+}
+
+TEST(AddedEntry, WhoseLanguageIsRefusedIsNotAddedButItsEarlierLanguagesStay)
+{
+    FailingToc toc;
+    toc.failAt("addLanguage", ZelData_UnknownLanguage, ZelData_NoData, 2);
+    EXPECT_CODE(toc, ZelData_NoData, toc.addTocItem(*itemOf({0, {{"de", "1"}, {"en", "2"}}})));
+    EXPECT_EQ(ZelData_NoData, toc.storedError());
+    EXPECT_EQ(Ids{"de"}, languagesOf(toc));
+    EXPECT_TRUE(entriesOf(toc).empty());
+}
+
+TEST(AddedEntry, AWarningForItsLanguageIsNoHindrance)
+{
+    FailingToc toc;
+    toc.failAt("addLanguage", ZelData_WarnTiming, ZelData_Ok);
+    EXPECT_CODE(toc, ZelData_Ok, toc.addTocItem(*itemOf({0, {{"de", "1"}, {"en", "2"}}})));
+    EXPECT_EQ(Ids{"en"}, languagesOf(toc));
+    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "1"}, {"en", "2"}}}}), entriesOf(toc));
+}
+
+} // namespace
+} // namespace ZelInterchangeData
