@@ -1,0 +1,77 @@
+#include "Fake.h"
+
+#include <cstring>
+#include <new>
+#include <stdexcept>
+
+namespace model {
+
+std::string noted(const std::string& value)
+{
+    return shown(value);
+}
+
+std::string noted(const std::vector<std::string>& values)
+{
+    std::string out;
+    for (const std::string& value : values)
+        out += (out.empty() ? "" : ",") + shown(value);
+    return "[" + out + "]";
+}
+
+std::string noted(float value)
+{
+    std::uint32_t bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    return std::to_string(bits);
+}
+
+void FakeControl::begin(const std::string& name, Notes* notes)
+{
+    name_ = name;
+    notes_ = notes;
+    setScript(script_);
+}
+
+void FakeControl::setScript(const FakeScript& script)
+{
+    script_ = script;
+    calls_ = 0;
+    lastErrorThrows_ = 0;
+}
+
+void FakeControl::note(const std::string& call) const
+{
+    if (notes_) notes_->push_back(name_ + ":" + call);
+}
+
+void FakeControl::throwIfLastErrorDoes() const
+{
+    if (lastErrorThrows_ == 'l') throw std::bad_alloc();
+    if (lastErrorThrows_ == 'm') throw std::runtime_error("foreign");
+}
+
+ZelDataResult_tags FakeControl::call(const std::string& operation, const Work& work,
+                                     const std::string& arguments,
+                                     const std::function<void()>& half) const
+{
+    note(operation + arguments);
+    ++calls_;
+    return calls_ == script_.at ? goWrong(work, half) : keep(work());
+}
+
+ZelDataResult_tags FakeControl::goWrong(const Work& work, const std::function<void()>& half) const
+{
+    const char mode = script_.mode;
+    const auto isOneOf = [mode](const char* modes) { return std::strchr(modes, mode) != nullptr; };
+    if (half && isOneOf("hBX")) half();
+    if (mode == 'd') work();
+    if (isOneOf("bB")) throw std::bad_alloc();
+    if (mode == 'x') throw std::runtime_error("foreign");
+    if (mode == 'X') throw 42;
+    if (isOneOf("lm")) lastErrorThrows_ = mode;
+    keep(script_.last);
+    return script_.code;
+}
+
+} // namespace model

@@ -1,0 +1,152 @@
+/// @file
+/// What the fakes have in common: their notes, the call that goes wrong, and the last error.
+///
+/// Fakes are implementations of the interfaces as a caller might write them. They check nothing.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_MODEL_FAKE_H
+#define ZELINTERCHANGEDATA_TESTS_MODEL_FAKE_H
+
+#include "Script.h"
+
+#include "ZelInterchangeData/i_ZelDataResult.h"
+
+#include <functional>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace model {
+
+using ZelInterchangeData::ZelDataResult_tags;
+
+/// What the n-th call does; 0 for nothing.
+///
+/// c: fails; d: does its work, then fails; h: hands out half of the items, then fails; b, x: throws
+/// exhausted memory, something else; B, X: the same after handing out half of the items; l, m:
+/// fails, and from then on getLastError() throws exhausted memory, something else.
+struct FakeScript {
+    unsigned long at = 0;
+    char mode = 'c';
+    ZelDataResult_tags code = ZelInterchangeData::ZelData_Ok;
+    ZelDataResult_tags last = ZelInterchangeData::ZelData_Ok;
+    bool keepsOwn = false;
+};
+
+std::string noted(const std::string& value);
+std::string noted(const std::vector<std::string>& values);
+std::string noted(float value);
+inline std::string noted(bool value)
+{
+    return value ? "1" : "0";
+}
+template <class T>
+std::string noted(T value)
+{
+    return shown(value);
+}
+
+/// A list of arguments as it appears in the notes.
+template <class T, class... Ts>
+std::string notedList(const T& first, const Ts&... more)
+{
+    return "(" + noted(first) + (std::string() + ... + ("," + noted(more))) + ")";
+}
+
+/// The part of a fake that does not depend on its interface.
+class FakeControl {
+public:
+    using Work = std::function<ZelDataResult_tags()>;
+    using Notes = std::vector<std::string>;
+
+    /// How many fakes there are.
+    static int alive() { return alive_; }
+
+    virtual ~FakeControl() { --alive_; }
+
+    /// Calls are noted in @p notes under @p name; null for no notes. Counting starts anew.
+    void begin(const std::string& name, Notes* notes);
+    void setScript(const FakeScript& script);
+
+protected:
+    FakeControl() { ++alive_; }
+    FakeControl(const FakeControl& other) : script_(other.script_) { ++alive_; }
+    FakeControl& operator=(const FakeControl&) = delete;
+
+    const std::string& name() const { return name_; }
+    Notes* notes() const { return notes_; }
+    bool keepsOwn() const { return script_.keepsOwn; }
+
+    void note(const std::string& call) const;
+    /// Notes the call, then does @p work or what the script says. @p half hands out half of the
+    /// items.
+    ZelDataResult_tags call(const std::string& operation, const Work& work,
+                            const std::string& arguments = {},
+                            const std::function<void()>& half = {}) const;
+    void throwIfLastErrorDoes() const;
+    /// Keeps @p code as the last error and gives it back.
+    virtual ZelDataResult_tags keep(ZelDataResult_tags code) const = 0;
+
+private:
+    ZelDataResult_tags goWrong(const Work& work, const std::function<void()>& half) const;
+
+    inline static int alive_ = 0;
+
+    std::string name_;
+    Notes* notes_ = nullptr;
+    FakeScript script_;
+    mutable unsigned long calls_ = 0;
+    mutable char lastErrorThrows_ = 0;
+};
+
+/// A fake of @p Interface. Its last error stands in the interface's field or in one of its own.
+template <class Interface>
+class Fake : public Interface, public FakeControl {
+public:
+    void setLastError(ZelDataResult_tags code) const override
+    {
+        note("setLastError" + notedList(code));
+        keep(code);
+    }
+    ZelDataResult_tags getLastError() const override
+    {
+        throwIfLastErrorDoes();
+        return keepsOwn() ? own_ : Interface::getLastError();
+    }
+
+protected:
+    ZelDataResult_tags keep(ZelDataResult_tags code) const override
+    {
+        if (keepsOwn()) return own_ = code;
+        return this->store(code);
+    }
+    template <class T, class V>
+    ZelDataResult_tags put(const std::string& operation, T& field, const V& value)
+    {
+        return call(operation, doing([&] { field = value; }), notedList(value));
+    }
+    template <class T>
+    ZelDataResult_tags fetch(const std::string& operation, const T& field, T& out) const
+    {
+        return call(operation, doing([&] { out = field; }));
+    }
+    ZelDataResult_tags done(const std::string& operation, const std::string& arguments = {}) const
+    {
+        return call(operation, doing([] {}), arguments);
+    }
+    template <class Action>
+    static Work doing(Action action)
+    {
+        return [action] {
+            action();
+            return ZelInterchangeData::ZelData_Ok;
+        };
+    }
+
+private:
+    mutable ZelDataResult_tags own_ = ZelInterchangeData::ZelData_Ok;
+};
+
+} // namespace model
+
+#endif

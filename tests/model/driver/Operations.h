@@ -1,0 +1,104 @@
+/// @file
+/// The operations that a script can name, and how a member or a static function becomes one.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
+#define ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
+
+#include "Arguments.h"
+#include "Session.h"
+
+#include <functional>
+#include <new>
+#include <string>
+#include <tuple>
+
+namespace model {
+
+/// Operations on the four data sets and their items.
+void addLanguageOperations(Operations& operations);
+void addHeaderOperations(Operations& operations);
+void addCaptionOperations(Operations& operations);
+void addTocOperations(Operations& operations);
+void addScreenTextOperations(Operations& operations);
+/// Operations on formatters and documents.
+void addDocumentOperations(Operations& operations);
+/// The static functions.
+void addFunctionOperations(Operations& operations);
+/// Operations on an element tree.
+void addTreeOperations(Operations& operations);
+/// Making and destroying objects, and the script of a fake.
+void addObjectOperations(Operations& operations);
+
+/// The code that @p call gives as eight digits, or the kind of exception that it throws.
+template <class Call>
+std::string codeOf(Call&& call)
+{
+    try {
+        return hexadecimal(call());
+    } catch (const std::bad_alloc&) {
+        return "bad_alloc";
+    } catch (...) {
+        return "exception";
+    }
+}
+
+template <class I, class Method, class... Args>
+void callMember(Session& session, Method method)
+{
+    I& object = session.object<I>(session.script().read<int>());
+    std::tuple<Argument<Args>...> arguments{Argument<Args>(session)...};
+    const auto call = [&](auto&... argument) {
+        return codeOf([&] { return std::invoke(method, object, argument.pass()...); });
+    };
+    session.answer(std::apply(call, arguments));
+    session.answer(lastError(object));
+    std::apply([&](auto&... argument) { (argument.report(session), ...); }, arguments);
+}
+
+/// The operation that calls @p method on an object: its number first, then the arguments.
+template <class I, class... Args>
+Session::Operation member(ZelInterchangeData::ZelDataResult_tags (I::*method)(Args...))
+{
+    return
+        [method](Session& session) { callMember<I, decltype(method), Args...>(session, method); };
+}
+
+template <class I, class... Args>
+Session::Operation member(ZelInterchangeData::ZelDataResult_tags (I::*method)(Args...) const)
+{
+    return
+        [method](Session& session) { callMember<I, decltype(method), Args...>(session, method); };
+}
+
+/// The operation that copies one @p I from another.
+template <class I>
+Session::Operation copying()
+{
+    return member(
+        static_cast<ZelInterchangeData::ZelDataResult_tags (I::*)(const I&)>(&I::copyFrom));
+}
+
+inline std::string resultWord(const std::string& result)
+{
+    return shown(result);
+}
+inline std::string resultWord(unsigned long result)
+{
+    return hexadecimal(result);
+}
+
+/// The operation that calls a static function with the arguments.
+template <class Result, class... Args>
+Session::Operation function(Result (*body)(Args...))
+{
+    return [body](Session& session) {
+        std::tuple<Argument<Args>...> arguments{Argument<Args>(session)...};
+        session.answer(std::apply(
+            [&](auto&... argument) { return resultWord(body(argument.pass()...)); }, arguments));
+        std::apply([&](auto&... argument) { (argument.report(session), ...); }, arguments);
+    };
+}
+
+} // namespace model
+
+#endif

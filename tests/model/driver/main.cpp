@@ -1,0 +1,56 @@
+/// @file
+/// Runs a script of operations from standard input, one a line, and prints what each one did.
+
+#include "Operations.h"
+
+#include <cstdio>
+#include <ctime>
+#include <exception>
+#include <iostream>
+#include <string>
+
+namespace {
+
+model::Operations allOperations()
+{
+    model::Operations operations;
+    model::addLanguageOperations(operations);
+    model::addHeaderOperations(operations);
+    model::addCaptionOperations(operations);
+    model::addTocOperations(operations);
+    model::addScreenTextOperations(operations);
+    model::addDocumentOperations(operations);
+    model::addFunctionOperations(operations);
+    model::addTreeOperations(operations);
+    model::addObjectOperations(operations);
+    return operations;
+}
+
+void runAll(const std::string& folder)
+{
+    const model::Operations operations = allOperations();
+    model::Session session(folder);
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        // Flushed, so that the answers up to a crash are there.
+        std::cout << session.run(line, operations) << std::endl;
+    }
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    if (count != 2) {
+        std::fputs("usage: model_driver FOLDER < script\n", stderr);
+        return 2;
+    }
+    tzset();
+    try {
+        runAll(arguments[1]);
+    } catch (const std::exception& problem) {
+        std::fprintf(stderr, "%s\n", problem.what());
+        return 1;
+    }
+    return 0;
+}
