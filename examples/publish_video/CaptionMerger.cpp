@@ -1,0 +1,53 @@
+/// @file
+/// See CaptionMerger.h.
+
+#include "CaptionMerger.h"
+
+#include <cstddef>
+#include <map>
+#include <utility>
+
+namespace publish {
+
+namespace {
+
+/// The captions with one start and end.
+struct Simultaneous {
+    std::vector<std::size_t> captions;
+    /// For each language, how many captions have a text in it. These are always the first ones,
+    /// because a language fills the first caption that lacks it.
+    std::map<std::string, std::size_t> filled;
+};
+
+class CaptionMerger {
+public:
+    void take(const Cue& cue, const std::string& language)
+    {
+        Simultaneous& same = simultaneous_[{cue.start, cue.end}];
+        const std::size_t position = same.filled[language]++;
+        if (position == same.captions.size()) {
+            same.captions.push_back(captions_.size());
+            captions_.push_back({cue.start, cue.end, {}});
+        }
+        captions_[same.captions[position]].texts.push_back({language, cue.text});
+    }
+
+    std::vector<MergedCaption> captions() && { return std::move(captions_); }
+
+private:
+    std::vector<MergedCaption> captions_;
+    std::map<std::pair<long long, long long>, Simultaneous> simultaneous_;
+};
+
+} // namespace
+
+std::vector<MergedCaption> mergeCaptions(const std::vector<CueFile>& files)
+{
+    CaptionMerger merger;
+    for (const CueFile& file : files)
+        for (const Cue& cue : file.cues)
+            merger.take(cue, file.language);
+    return std::move(merger).captions();
+}
+
+} // namespace publish

@@ -1,0 +1,34 @@
+/// @file
+/// Brings the languages of a caption together.
+
+#ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_CAPTIONMERGER_H
+#define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_CAPTIONMERGER_H
+
+#include "CueFile.h"
+
+#include <string>
+#include <vector>
+
+namespace publish {
+
+struct LanguageText {
+    std::string language;
+    std::string text;
+};
+
+/// A caption in the making.
+struct MergedCaption {
+    long long start = 0;
+    long long end = 0;
+    /// In the order of the files.
+    std::vector<LanguageText> texts;
+};
+
+/// Makes captions from the cues of @p files, in that order and in file order: a cue joins the first
+/// caption made so far with the same start and end and no text in its language yet, else it makes a
+/// new one.
+std::vector<MergedCaption> mergeCaptions(const std::vector<CueFile>& files);
+
+} // namespace publish
+
+#endif

@@ -1,0 +1,64 @@
+/// @file
+/// See Check.h.
+
+#include "Check.h"
+
+#include "PublishError.h"
+
+#include <sstream>
+
+namespace publish {
+
+using namespace ZelInterchangeData;
+
+namespace {
+
+std::string hexadecimal(ZelDataResult_tags code)
+{
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << "0x" << std::hex << static_cast<std::uint32_t>(code);
+    return text.str();
+}
+
+/// The codes that this program can meet, in words.
+std::string describe(ZelDataResult_tags code)
+{
+    switch (code) {
+    case ZelData_InvalidArgument:
+        return "the value is out of range";
+    case ZelData_OutOfMemory:
+        return "memory ran out";
+    case ZelData_InvalidUtf8:
+        return "the text is not UTF-8";
+    case ZelData_UnknownLanguage:
+        return "the language is unknown";
+    case ZelData_InvalidItem:
+        return "the item is not valid";
+    case ZelData_FileOpenFailed:
+        return "the file cannot be opened";
+    case ZelData_InvalidData:
+        return "the data are not valid";
+    default:
+        return "the library answers " + hexadecimal(code);
+    }
+}
+
+[[noreturn]] void fail(ZelDataResult_tags code, const std::string& what)
+{
+    throw PublishError(what + ": " + describe(code));
+}
+
+} // namespace
+
+void check(ZelDataResult_tags code, const std::string& what)
+{
+    if (failed(code)) fail(code, what);
+}
+
+void checkError(ZelDataResult_tags code, const std::string& what)
+{
+    if (isError(code)) fail(code, what);
+}
+
+} // namespace publish

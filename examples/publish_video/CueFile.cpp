@@ -1,0 +1,103 @@
+/// @file
+/// See CueFile.h.
+
+#include "CueFile.h"
+
+#include "PlainText.h"
+#include "PublishError.h"
+#include "Text.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+namespace publish {
+
+namespace {
+
+[[noreturn]] void failToRead(const std::string& name)
+{
+    throw PublishError(name + ": cannot be read: " + std::strerror(errno));
+}
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+/// Reads through the C library, because a stream does not tell a failure, such as that of reading a
+/// folder, from the end of the file.
+std::string contentsOf(const std::string& path, const std::string& name)
+{
+    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr) failToRead(name);
+    std::string bytes;
+    char block[65536];
+    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get()))
+        bytes.append(block, count);
+    if (std::ferror(file.get()) != 0) failToRead(name);
+    return bytes;
+}
+
+CueFile readCueFile(const LanguageFile& source, const std::string& name, const Options& options)
+{
+    CueFile file = makeCueFile(name, contentsOf(source.path, name), options);
+    file.language = source.language;
+    return file;
+}
+
+std::optional<long long> lastEndOf(const std::vector<Cue>& cues)
+{
+    const auto endsFirst = [](const Cue& a, const Cue& b) { return a.end < b.end; };
+    const auto last = std::max_element(cues.begin(), cues.end(), endsFirst);
+    if (last == cues.end()) return std::nullopt;
+    return last->end;
+}
+
+} // namespace
+
+CueFile makeCueFile(const std::string& name, const std::string& bytes, const Options& options)
+{
+    std::optional<Subtitles> subtitles = readSubtitles(bytes);
+    if (!subtitles) throw PublishError(name + ": the file is not UTF-8");
+    CueFile file;
+    file.name = name;
+    file.malformed = subtitles->malformed;
+    file.withoutLength = subtitles->withoutLength;
+    file.lastEnd = lastEndOf(subtitles->cues);
+    for (Cue& cue : subtitles->cues) {
+        if (options.plainText) cue.text = plainText(cue.text, subtitles->isWebVtt);
+        const bool isEmpty = isNothingButBlanks(cue.text);
+        if (isEmpty) ++file.empty;
+        if (!(isEmpty && options.skipEmpty)) file.cues.push_back(std::move(cue));
+    }
+    return file;
+}
+
+CueFiles readCueFiles(const Options& options)
+{
+    CueFiles files;
+    for (const LanguageFile& captions : options.captions)
+        files.captions.push_back(
+            readCueFile(captions, printable(captions.language + "=" + captions.path), options));
+    if (options.toc)
+        files.toc = readCueFile(*options.toc, printable("--toc " + options.toc->path), options);
+    if (options.screenText)
+        files.screenText = readCueFile({{}, *options.screenText},
+                                       printable("--screen-text " + *options.screenText), options);
+    return files;
+}
+
+std::optional<long long> lastEnd(const CueFiles& files)
+{
+    // An empty optional is less than every value.
+    std::optional<long long> last;
+    for (const CueFile& captions : files.captions)
+        last = std::max(last, captions.lastEnd);
+    if (files.toc) last = std::max(last, files.toc->lastEnd);
+    if (files.screenText) last = std::max(last, files.screenText->lastEnd);
+    return last;
+}
+
+} // namespace publish

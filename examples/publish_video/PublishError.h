@@ -1,0 +1,19 @@
+/// @file
+/// The one way in which the program fails.
+
+#ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_PUBLISHERROR_H
+#define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_PUBLISHERROR_H
+
+#include <stdexcept>
+
+namespace publish {
+
+/// Ends the program. The message is one line that names the option, file or operation at fault.
+class PublishError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace publish
+
+#endif

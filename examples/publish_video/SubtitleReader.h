@@ -1,0 +1,44 @@
+/// @file
+/// Reads SubRip (SRT) and WebVTT files, the way they are found rather than the way they should be.
+
+#ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_SUBTITLEREADER_H
+#define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_SUBTITLEREADER_H
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace publish {
+
+/// One cue; its end lies after its start. Times are in milliseconds.
+struct Cue {
+    long long start = 0;
+    long long end = 0;
+    /// The lines joined by line feeds, without blanks and tabs at their ends.
+    std::string text;
+};
+
+/// What a file holds.
+struct Subtitles {
+    /// Whether the first line says WEBVTT; the file is SRT otherwise.
+    bool isWebVtt = false;
+    /// In file order.
+    std::vector<Cue> cues;
+    /// The lines with an arrow that are no timing line. They and their text are left out.
+    std::size_t malformed = 0;
+    /// The cues whose end is not after their start. They are left out.
+    std::size_t withoutLength = 0;
+};
+
+/// Reads the contents of a file; nothing when they are not strict UTF-8. A byte order mark, line
+/// ends of all three kinds, and U+FFFE and U+FFFF, which are dropped, are taken care of.
+///
+/// A line with an arrow (`-->`) opens a cue whatever stands before it, so numbers, names, notes and
+/// styles need not be understood. A blank line or the next arrow ends its text.
+std::optional<Subtitles> readSubtitles(std::string_view bytes);
+
+} // namespace publish
+
+#endif

@@ -1,0 +1,106 @@
+/// @file
+/// Publishes a video's side data: reads subtitle files and writes one XMP packet.
+
+#include "Check.h"
+#include "CueFile.h"
+#include "DataSets.h"
+#include "Options.h"
+#include "PacketWriter.h"
+#include "PublishError.h"
+#include "Report.h"
+#include "Text.h"
+
+#include "ZelInterchangeData/ZelInterchangeData.h"
+
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace publish {
+
+using namespace ZelInterchangeData;
+
+namespace {
+
+constexpr int failure = 2;
+
+void checkLanguage(const LanguageFile& file)
+{
+    if (failed(ZelDataUtilities::isValidLanguage(file.language)))
+        throw PublishError("unknown language '" + file.language + "' for " + printable(file.path));
+}
+
+void checkLanguages(const Options& options)
+{
+    for (const LanguageFile& captions : options.captions)
+        checkLanguage(captions);
+    if (options.toc) checkLanguage(*options.toc);
+}
+
+std::vector<std::string> describe(const Options& options, const CueFiles& files,
+                                  const i_ZelDataCaptions& captions)
+{
+    std::vector<std::string> lines;
+    for (const CueFile& file : files.captions)
+        lines.push_back(describeFile(file, options.skipEmpty));
+    if (files.toc) lines.push_back(describeFile(*files.toc, options.skipEmpty));
+    if (files.screenText) lines.push_back(describeFile(*files.screenText, options.skipEmpty));
+    for (const std::string& line : describeCaptions(captions))
+        lines.push_back(line);
+    lines.push_back(describeLanguages(captions));
+    return lines;
+}
+
+void publishVideo(const Options& options)
+{
+    checkLanguages(options);
+    const CueFiles files = readCueFiles(options);
+
+    const std::unique_ptr<i_ZelInterchangeDataCore> document(
+        ZELDataCreator::createInterchangeData());
+    const auto header = makeHeader(*document, options, files);
+    check(document->setDataHeader(*header), "the header");
+    const auto captions = makeCaptions(*document, options, files.captions);
+    if (!files.captions.empty()) check(document->setDataCaptions(*captions), "the captions");
+    if (files.toc)
+        check(document->setDataToc(*makeToc(*document, *files.toc)), "the table of contents");
+    if (files.screenText)
+        check(document->setDataScreenText(*makeScreenText(*document, *files.screenText, files.toc)),
+              "the screen text");
+
+    const std::vector<std::string> report = describe(options, files, *captions);
+    const std::size_t bytes = writePacket(*document, options.output);
+    for (const std::string& line : report)
+        std::cerr << line << '\n';
+    std::cerr << bytes << " bytes written to " << printable(options.output) << '\n';
+}
+
+int run(int argc, char** argv)
+{
+    try {
+        const Options options = parseOptions(argc, argv);
+        if (options.help)
+            std::cout << usage();
+        else
+            publishVideo(options);
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "publish_video: " << error.what() << '\n';
+        return failure;
+    }
+}
+
+} // namespace
+
+} // namespace publish
+
+int main(int argc, char** argv)
+{
+    // A closed pipe and a file beyond the allowed size are then failures of writing, not the end.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    return publish::run(argc, argv);
+}
