@@ -1,0 +1,110 @@
+"""The include checker, run on small made-up trees."""
+
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+CHECKER = Path(os.environ["CHECK_INCLUDES"])
+
+
+class CheckIncludes(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = Path(folder.name)
+        self.write("include/ZelInterchangeData/Thing.h", "#include <string>\n")
+
+    def write(self, name, text):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+    def run_checker(self):
+        return subprocess.run([sys.executable, CHECKER, self.root], capture_output=True, text=True,
+                              check=False)
+
+    def assert_accepted(self):
+        result = self.run_checker()
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+
+    def assert_refused(self, offence):
+        result = self.run_checker()
+        self.assertEqual(result.returncode, 1, result.stdout)
+        self.assertEqual(result.stderr, offence + "\n")
+
+    def test_own_room_and_lower_rooms_are_accepted(self):
+        self.write("src/toc/A.cpp", '#include "toc/A.h"\n#include "core/B.h"\n#include "xml/C.h"\n'
+                                    '#include "util/D.h"\n#include "ZelInterchangeData/Thing.h"\n'
+                                    "#include <vector>\n")
+        self.assert_accepted()
+
+    def test_an_upward_include_is_refused(self):
+        self.write("src/xml/A.cpp", '#include "xml/A.h"\n#include "core/B.h"\n')
+        self.assert_refused('src/xml/A.cpp:2: "core/B.h" reaches upward from xml')
+
+    def test_a_sideways_include_is_refused(self):
+        self.write("src/toc/A.h", '#include "captions/B.h"\n')
+        self.assert_refused('src/toc/A.h:1: "captions/B.h" reaches sideways from toc')
+
+    def test_a_public_header_may_not_include_an_internal_one(self):
+        self.write("include/ZelInterchangeData/Other.h", '#include "util/D.h"\n')
+        self.assert_refused('include/ZelInterchangeData/Other.h:1: "util/D.h" reaches upward from '
+                            "ZelInterchangeData")
+
+    def test_every_pair_of_set_rooms_is_kept_apart(self):
+        sets = ("captions", "header", "screentext", "toc")
+        for room in sets:
+            for other in sets:
+                with self.subTest(room=room, other=other):
+                    self.write(f"src/{room}/A.cpp", f'#include "{other}/B.h"\n')
+                    self.assertEqual(self.run_checker().returncode, 0 if room == other else 1)
+            self.write(f"src/{room}/A.cpp", "")
+
+    def test_blanks_around_the_directive_hide_nothing(self):
+        self.write("src/xml/A.cpp", '  #  include   "core/B.h"\n')
+        self.assert_refused('src/xml/A.cpp:1: "core/B.h" reaches upward from xml')
+
+    def test_angle_brackets_hide_nothing(self):
+        self.write("src/xml/A.cpp", "#include <core/B.h>\n")
+        self.assert_refused(
+            "src/xml/A.cpp:1: <core/B.h> belongs to the project and is written in quotes")
+
+    def test_a_name_without_its_room_is_refused(self):
+        self.write("src/xml/A.cpp", '#include "A.h"\n')
+        self.assert_refused(
+            'src/xml/A.cpp:1: "A.h" is not written from the root of src/ or include/')
+
+    def test_a_way_out_of_the_folder_is_refused(self):
+        self.write("src/xml/A.cpp", '#include "xml/../core/B.h"\n')
+        self.assert_refused('src/xml/A.cpp:1: "xml/../core/B.h" leaves its folder')
+
+    def test_a_name_made_by_a_macro_is_refused(self):
+        self.write("src/xml/A.cpp", "#include CORE_HEADER\n")
+        self.assert_refused(
+            "src/xml/A.cpp:1: the included file must be named in the line itself")
+
+    def test_a_file_outside_the_rooms_is_refused(self):
+        self.write("src/attic/A.cpp", "")
+        self.assert_refused("src/attic/A.cpp:1: lies in no room of the table")
+
+    def test_a_file_beside_the_rooms_is_refused(self):
+        self.write("src/A.cpp", "")
+        self.assert_refused("src/A.cpp:1: lies in no room of the table")
+
+    def test_an_example_uses_the_public_headers_alone(self):
+        self.write("examples/a.cpp", '#include "ZelInterchangeData/Thing.h"\n#include "own.h"\n')
+        self.assert_accepted()
+        self.write("examples/a.cpp", '#include "util/Text.h"\n')
+        self.assert_refused('examples/a.cpp:1: "util/Text.h" is internal; an example uses the '
+                            "public headers alone")
+
+    def test_an_empty_tree_is_no_success(self):
+        (self.root / "include/ZelInterchangeData/Thing.h").unlink()
+        self.assert_refused("check-includes: no C++ file found")
+
+
+if __name__ == "__main__":
+    unittest.main()
