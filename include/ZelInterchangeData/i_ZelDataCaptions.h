@@ -36,7 +36,8 @@ public:
     /// and puts styling values that are out of range back into it. Overlaps stay.
     ///
     /// The order is that of an exchange sort: items with equal starts may change places.
-    /// - #ZelData_OutOfMemory: the items may be in order and have some of the missing texts already.
+    /// - #ZelData_OutOfMemory: the items may be in order and have some of the missing texts
+    ///   already.
     virtual ZelDataResult_tags makeCaptionsConsistent() = 0;
 
     /// @name Styling

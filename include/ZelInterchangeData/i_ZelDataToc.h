@@ -34,7 +34,8 @@ public:
     /// lacks, and puts a frame rate that is out of range to 1000.
     ///
     /// The order is that of an exchange sort: entries with equal starts may change places.
-    /// - #ZelData_OutOfMemory: the entries may be in order and have some of the missing texts already.
+    /// - #ZelData_OutOfMemory: the entries may be in order and have some of the missing texts
+    ///   already.
     virtual ZelDataResult_tags makeTocConsistent() = 0;
 
     /// Ticks per second of the entries' starts, 1 to 10000. Default 1000. It is never copied, so

@@ -19,8 +19,8 @@ namespace ZelInterchangeData {
 /// Implements the operations of i_ZelDataLanguage for @p Interface, which derives from it.
 ///
 /// @tparam AbsentCode what removing an absent language gives. It is meant to differ: a header
-///         warns, captions and a table of contents report an error. With one code for all, callers that
-///         look for errors alone would stop at a header or go on at captions.
+///         warns, captions and a table of contents report an error. With one code for all, callers
+///         that look for errors alone would stop at a header or go on at captions.
 template <class Interface, ZelDataResult_tags AbsentCode>
 class LanguageListOwner : public Interface {
 public:

@@ -17,8 +17,8 @@ class i_ZelDataTocItem;
 
 /// Replaces @p out with the titles of @p item in the languages of @p languages as markup; a
 /// language without title is skipped. Whether every language had one. The track does not use it: a
-/// marker carries the title of one language alone. Throws `std::bad_alloc` when memory
-/// runs out, also when the item says so.
+/// marker carries the title of one language alone. Throws `std::bad_alloc` when memory runs out,
+/// also when the item says so.
 bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& item,
                   std::string& out);
 

@@ -1,5 +1,6 @@
-"""What the shared library exports against the list in exports.txt: each name of the list, and no other
-one. The library's own inline members stay hidden, so the list is the same for every compiler."""
+"""What the shared library exports against the list in exports.txt: each name of the list, and no
+other one. The library's own inline members stay hidden, so the list is the same for every
+compiler."""
 
 import os
 import subprocess

@@ -1,7 +1,8 @@
 """The virtual tables inside the built shared library, entry by entry, against the slot lists.
 
 The tables are read from the file: symbols with nm, the table entries from the dynamic relocations
-with readelf. The classes behind the interfaces must have tables of exactly the interface's length."""
+with readelf. The classes behind the interfaces must have tables of exactly the interface's
+length."""
 
 import os
 import re
@@ -70,7 +71,7 @@ def nested(name):
 
 
 def plain(signature):
-    """A demangled operation without its class, be that a plain class or one made from a template."""
+    """A demangled operation without its class, which may have been made from a template."""
     return shortened(re.sub(r"^[\w:]+?(<.*?>)?::(?=(\w+|operator<)\()", "", signature))
 
 

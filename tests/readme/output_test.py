@@ -14,7 +14,7 @@ DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
 
 
 def in_one_line(block):
-    """The shown packet as it is printed: tags follow each other at once, attributes after a blank."""
+    """The shown packet as it is printed: a tag follows a tag at once, an attribute a blank."""
     lines = [line.strip() for line in block.splitlines()]
     text = lines[0]
     for line in lines[1:]:
