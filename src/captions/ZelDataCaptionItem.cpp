@@ -3,8 +3,6 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "core/Factory.h"
 
-#include <utility>
-
 namespace ZelInterchangeData {
 
 namespace {
@@ -21,99 +19,114 @@ ZelDataResult_tags ZelDataUtilities::createCaptionItemData(i_ZelDataCaptionItem*
 
 ZelDataCaptionItem& ZelDataCaptionItem::operator=(const ZelDataCaptionItem& other)
 {
-    if (&other == this) return *this;
-    LanguageTexts texts(other.texts_);
-    std::swap(texts_, texts);
-    time_ = other.time_;
-    alignment_ = other.alignment_;
+    if (&other != this) state_ = other.state_;
     return *this;
+}
+
+ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    state_.shareTextsOf(other.state_);
+    state_.time.start = other.state_.time.start;
+    if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
+    state_.time.duration = other.state_.time.duration;
+    state_.alignment = other.state_.alignment;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags CaptionState::check(bool strict) const
+{
+    if (time.duration <= 0) return ZelData_InvalidItem;
+    if (strict && time.duration < recommendedDuration) return ZelData_WarnItemGuidelines;
+    for (const auto& [languageID, text] : texts().all()) {
+        if (failed(LanguageTexts::check(text, languageID))) return ZelData_InvalidItem;
+        if (strict && ZelDataUtilities::countLinesInUTF8(text) > recommendedLines) {
+            return ZelData_WarnItemGuidelines;
+        }
+    }
+    return ZelData_Ok;
 }
 
 ZelDataResult_tags ZelDataCaptionItem::isValid(bool strict) const
 {
-    if (time_.duration <= 0) return store(ZelData_InvalidItem);
-    if (strict && time_.duration < recommendedDuration) return store(ZelData_WarnItemGuidelines);
-    for (const auto& [languageID, text] : texts_.all()) {
-        if (failed(LanguageTexts::check(text, languageID))) return store(ZelData_InvalidItem);
-        if (strict && ZelDataUtilities::countLinesInUTF8(text) > recommendedLines) {
-            return store(ZelData_WarnItemGuidelines);
-        }
-    }
-    return store(ZelData_Ok);
+    return store(state_.check(strict));
 }
 
 ZelDataResult_tags ZelDataCaptionItem::clearText()
 {
-    texts_.clear();
+    state_.clearTexts();
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::setTextForLanguage(const std::string& text,
                                                           const std::string& languageID)
 {
-    return store(texts_.set(text, languageID));
+    const auto checked = LanguageTexts::check(text, languageID);
+    if (failed(checked)) return store(checked);
+    return store(state_.changeTexts().set(text, languageID));
 }
 
 ZelDataResult_tags ZelDataCaptionItem::setStart(long long start)
 {
-    return store(time_.setStart(start) ? ZelData_Ok : ZelData_InvalidArgument);
+    return store(state_.time.setStart(start) ? ZelData_Ok : ZelData_InvalidArgument);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::setEnd(long long end)
 {
-    return store(time_.setEnd(end) ? ZelData_Ok : ZelData_InvalidArgument);
+    return store(state_.time.setEnd(end) ? ZelData_Ok : ZelData_InvalidArgument);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::setDuration(long long duration)
 {
     if (duration <= 0) return store(ZelData_InvalidArgument);
-    time_.duration = duration;
+    state_.time.duration = duration;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::setAlignment(ZelAlignment_tags alignment)
 {
-    alignment_ = alignment;
+    state_.alignment = alignment;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::removeTextForLanguage(const std::string& languageID)
 {
-    return store(texts_.remove(languageID));
+    if (state_.texts().find(languageID) == nullptr) return store(ZelData_NotFound);
+    return store(state_.changeTexts().remove(languageID));
 }
 
 ZelDataResult_tags ZelDataCaptionItem::getLanguageIDs(std::vector<std::string>& ids) const
 {
-    return store(texts_.getLanguageIDs(ids));
+    return store(state_.texts().getLanguageIDs(ids));
 }
 
 ZelDataResult_tags ZelDataCaptionItem::getTextForLanguage(std::string& text,
                                                           const std::string& languageID) const
 {
-    return store(texts_.get(text, languageID));
+    return store(state_.texts().get(text, languageID));
 }
 
 ZelDataResult_tags ZelDataCaptionItem::getStart(long long& start) const
 {
-    start = time_.start;
+    start = state_.time.start;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::getEnd(long long& end) const
 {
-    end = time_.end();
+    end = state_.time.end();
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::getDuration(long long& duration) const
 {
-    duration = time_.duration;
+    duration = state_.time.duration;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptionItem::getAlignment(ZelAlignment_tags& alignment) const
 {
-    alignment = alignment_;
+    alignment = state_.alignment;
     return store(ZelData_Ok);
 }
 

@@ -6,14 +6,38 @@
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "core/LanguageTexts.h"
+#include "util/CopyOnWrite.h"
 #include "util/TimeSpan.h"
 
+#include <utility>
+
 namespace ZelInterchangeData {
+
+/// What a caption consists of. Copies share the texts.
+class CaptionState {
+public:
+    TimeSpan time;
+    ZelAlignment_tags alignment = ZelAlignBottom;
+
+    long long start() const noexcept { return time.start; }
+    const LanguageTexts& texts() const noexcept { return texts_.read(); }
+    LanguageTexts& changeTexts() { return texts_.write(); }
+    void clearTexts() { texts_.reset(); }
+    void shareTextsOf(const CaptionState& other) { texts_ = other.texts_; }
+    /// What i_ZelDataCaptionItem::isValid() gives.
+    ZelDataResult_tags check(bool strict) const;
+
+private:
+    CopyOnWrite<LanguageTexts> texts_;
+};
 
 /// The caption item that the library makes. Exhausted memory passes through as `std::bad_alloc`.
 class ZelDataCaptionItem : public i_ZelDataCaptionItem {
 public:
+    using State = CaptionState;
+
     ZelDataCaptionItem() = default;
+    explicit ZelDataCaptionItem(CaptionState state) : state_(std::move(state)) {}
     ZelDataCaptionItem(const ZelDataCaptionItem&) = delete;
     /// Copies all fields but the last error, without checks.
     ZelDataCaptionItem& operator=(const ZelDataCaptionItem& other);
@@ -35,10 +59,13 @@ public:
     ZelDataResult_tags getDuration(long long& duration) const override;
     ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const override;
 
+    const CaptionState& state() const noexcept { return state_; }
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
+    /// texts: those of an own item were checked when they were set.
+    ZelDataResult_tags copyOwn(const ZelDataCaptionItem& other);
+
 private:
-    TimeSpan time_;
-    ZelAlignment_tags alignment_ = ZelAlignBottom;
-    LanguageTexts texts_;
+    CaptionState state_;
 };
 
 } // namespace ZelInterchangeData

@@ -11,19 +11,38 @@ ZelDataResult_tags ZelDataUtilities::createCaptionData(i_ZelDataCaptions** out)
 
 // Checking and repairing
 
+bool ZelDataCaptions::canHandOutItems() const
+{
+    for (unsigned long i = 0; i < items_.count(); ++i) {
+        if (!items_.state(i).time.hasLength()) return false;
+    }
+    return true;
+}
+
+/// The finding of one item, which no later item of those that start at @p earliestLater or after may
+/// overlap.
+Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
+                                  long long earliestLater) const
+{
+    // Without `strict` the items' own validity is meant not to matter: with it, captions that are
+    // written today would be called invalid.
+    if (strict && failed(item.isValid(true))) return item.getLastError();
+    if (const Ending ending = findMissingText(item, languageIDs())) return ending;
+    long long end = 0;
+    if (failed(item.getEnd(end))) return item.getLastError();
+    if (end > earliestLater) return ZelData_WarnTiming;
+    return {};
+}
+
 /// The first finding of the items, in stored order.
 ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
 {
-    const auto& items = items_.all();
-    const auto earliestLater = earliestLaterStarts(items);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        // Without `strict` the items' own validity is meant not to matter: with it, captions
-        // that are written today would be called invalid.
-        if (strict && failed(items[i]->isValid(true))) return items[i]->getLastError();
-        if (const Ending ending = findMissingText(*items[i], languageIDs())) return *ending;
-        long long end = 0;
-        if (failed(items[i]->getEnd(end))) return items[i]->getLastError();
-        if (end > earliestLater[i]) return ZelData_WarnTiming;
+    const auto earliestLater = earliestLaterStarts(items_.starts());
+    for (unsigned long i = 0; i < items_.count(); ++i) {
+        const Ending ending = items_.use(i, [&](const i_ZelDataCaptionItem& item) {
+            return checkItem(item, strict, earliestLater[i]);
+        });
+        if (ending) return *ending;
     }
     return ZelData_Ok;
 }
@@ -46,9 +65,7 @@ ZelDataResult_tags ZelDataCaptions::makeCaptionsConsistent()
 {
     return store(guarded([&] {
         items_.order();
-        for (const auto& item : items_.all()) {
-            if (const Ending ending = fillMissingTexts(*item, languageIDs())) return *ending;
-        }
+        if (const Ending ending = fillMissingTexts(items_, languageIDs())) return *ending;
         style_.repair();
         return ZelData_Ok;
     }));
@@ -142,10 +159,12 @@ ZelDataResult_tags ZelDataCaptions::getBackgroundOpacity(float& opacity) const
 
 ZelDataResult_tags ZelDataCaptions::clearCaptionItems()
 {
-    items_.clear();
-    // The languages are meant to go, too: they are those of the items.
-    emptyLanguageList();
-    return store(ZelData_Ok);
+    return store(guarded([&] {
+        items_.clear();
+        // The languages are meant to go, too: they are those of the items.
+        languages().clear();
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& item)
@@ -159,6 +178,27 @@ ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& i
     }));
 }
 
+ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    return store(guarded([&] {
+        items_.clear();
+        const auto listed = languages().copyFrom(other.languages());
+        if (failed(listed)) return listed;
+        style_ = other.style_;
+        if (!other.canHandOutItems()) {
+            other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
+            return ZelData_InvalidArgument;
+        }
+        languages().clear();
+        for (unsigned long i = 0; i < other.items_.count(); ++i) {
+            addCheckedLanguagesOf(other.items_.state(i).texts());
+        }
+        items_ = other.items_;
+        return ZelData_Ok;
+    }));
+}
+
 ZelDataResult_tags ZelDataCaptions::createCaptionItem(i_ZelDataCaptionItem** out) const
 {
     return store(ZelDataUtilities::createCaptionItemData(out));
@@ -166,12 +206,12 @@ ZelDataResult_tags ZelDataCaptions::createCaptionItem(i_ZelDataCaptionItem** out
 
 ZelDataResult_tags ZelDataCaptions::removeCaptionItemAt(unsigned long index)
 {
-    return store(items_.removeAt(index));
+    return store(guarded([&] { return items_.removeAt(index); }));
 }
 
 ZelDataResult_tags ZelDataCaptions::removeCaptionItemsForLanguage(const std::string& languageID)
 {
-    return store(guarded([&] { return removeTexts(items_.all(), languageID); }));
+    return store(guarded([&] { return removeTexts(items_, languageID); }));
 }
 
 ZelDataResult_tags ZelDataCaptions::getCaptionItemCount(unsigned long& count)

@@ -7,14 +7,18 @@
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/CaptionStyle.h"
+#include "captions/ZelDataCaptionItem.h"
 #include "core/ItemList.h"
 #include "core/LanguageListOwner.h"
+#include "util/Ending.h"
 
 namespace ZelInterchangeData {
 
 /// The captions that the library makes. Removing an absent language is an error here.
 class ZelDataCaptions : public LanguageListOwner<i_ZelDataCaptions, ZelData_NotFound> {
 public:
+    using Items = ItemList<i_ZelDataCaptionItem, ZelDataCaptionItem>;
+
     ZelDataResult_tags isValid(bool strict) const override;
     ZelDataResult_tags makeCaptionsConsistent() override;
 
@@ -43,6 +47,16 @@ public:
     ZelDataResult_tags getCaptionItemsForLanguage(std::vector<i_ZelDataCaptionItem*>& items,
                                                   const std::string& languageID) const override;
 
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
+    /// items: those of an own collection, and its styling, were checked on their way in.
+    ZelDataResult_tags copyOwn(const ZelDataCaptions& other);
+    /// Whether each item can be copied. One that cannot is a foreign item whose copying stopped
+    /// half-way while its last error said that all was well.
+    bool canHandOutItems() const;
+    const CaptionStyle& style() const noexcept { return style_; }
+    const Items& items() const noexcept { return items_; }
+    using LanguageListOwner::languageIDs;
+
     /// Orders the items by start, as makeCaptionsConsistent() does.
     ZelDataResult_tags orderCaptions();
 
@@ -51,6 +65,7 @@ protected:
 
 private:
     ZelDataResult_tags storeColor(CaptionColor& field, CaptionColor color) const;
+    Ending checkItem(const i_ZelDataCaptionItem& item, bool strict, long long earliestLater) const;
     ZelDataResult_tags checkItems(bool strict) const;
     /// createCaptionItem() as a callable.
     auto newItem() const
@@ -58,7 +73,7 @@ private:
         return [this](i_ZelDataCaptionItem** out) { return createCaptionItem(out); };
     }
 
-    ItemList<i_ZelDataCaptionItem> items_;
+    Items items_;
 };
 
 } // namespace ZelInterchangeData

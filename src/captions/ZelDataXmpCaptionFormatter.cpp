@@ -3,77 +3,31 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "core/Factory.h"
-#include "util/Ending.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
 #include <cmath>
 #include <new>
+#include <utility>
 
 namespace ZelInterchangeData {
 
 namespace {
 
-using Captions = i_ZelDataCaptions;
 using Utilities = ZelDataUtilities;
 
 /// What stands for an empty text: players take it for a caption that shows nothing.
-constexpr const char* emptyCaption = "{\\rtf1 }";
+constexpr std::string_view emptyCaption = "{\\rtf1 }";
 
-Ending describeTrack(Track& track, const Captions& captions)
+void describeTrack(Track& track, const CaptionStyle& style)
 {
-    unsigned long rate = 0;
-    std::string fontFamily;
-    unsigned long fontSize = 0;
-    float opacity = 0;
-    if (failed(captions.getFrameRate(rate)) || failed(captions.getFontFamily(fontFamily)) ||
-        failed(captions.getFontSize(fontSize)) || failed(captions.getBackgroundOpacity(opacity))) {
-        return captions.getLastError();
-    }
     track.description()
         .attribute("xmpDM:trackType", "Caption")
-        .attribute("xmpDM:frameRate", Utilities::getRateString(rate))
+        .attribute("xmpDM:frameRate", Utilities::getRateString(style.frameRate.value))
         .attribute("xmpDM:trackName", "Captioning")
-        .attribute("stFnt:fontFamily", fontFamily) // goes in as stored
-        .attribute("zelDM:fontSize", Utilities::getValueString(fontSize))
-        .attribute("zelDM:bgOpacity", Utilities::getValueString(opacity));
-    return {};
-}
-
-Ending addMarker(Track& track, const i_ZelDataCaptionItem& item,
-                 const std::vector<std::string>& languageIDs)
-{
-    long long start = 0;
-    long long duration = 0;
-    ZelAlignment_tags alignment = ZelAlignCenter;
-    if (failed(item.getStart(start)) || failed(item.getDuration(duration)) ||
-        failed(item.getAlignment(alignment))) {
-        return item.getLastError();
-    }
-    std::string texts;
-    if (!buildCaptionList(languageIDs, item, texts)) return ZelData_InternalError;
-    track.addMarker()
-        .attribute("xmpDM:startTime", start)
-        .attribute("xmpDM:duration", duration)
-        .attribute("zelDM:valign", Utilities::getVerticalAlignment(alignment))
-        .attribute("zelDM:halign", Utilities::getHorizontalAlignment(alignment))
-        .text(texts);
-    return {};
-}
-
-Ending addMarkers(Track& track, const Captions& captions, unsigned long count)
-{
-    std::vector<std::string> languageIDs;
-    if (failed(captions.getOrderedLanguageIDs(languageIDs))) return captions.getLastError();
-    for (unsigned long i = 0; i < count; ++i) {
-        i_ZelDataCaptionItem* handedOut = nullptr;
-        const auto got = captions.getCaptionItemAt(&handedOut, i);
-        const std::unique_ptr<i_ZelDataCaptionItem> item(handedOut);
-        if (failed(got)) return captions.getLastError();
-        if (!item) return ZelData_InternalError;
-        if (const Ending ending = addMarker(track, *item, languageIDs)) return ending;
-    }
-    return {};
+        .attribute("stFnt:fontFamily", style.fontFamily) // goes in as stored
+        .attribute("zelDM:fontSize", Utilities::getValueString(style.fontSize))
+        .attribute("zelDM:bgOpacity", Utilities::getValueString(style.backgroundOpacity));
 }
 
 /// 0 to 255, cut and not rounded; a NaN gives 0.
@@ -83,39 +37,95 @@ long long colorByte(float component)
                                  : static_cast<long long>(static_cast<double>(component) * 255.0);
 }
 
-Ending addColor(Track& track, const char* name, const Captions& captions,
-                ZelDataResult_tags (Captions::*get)(float&, float&, float&) const)
+void addColor(Track& track, const char* name, const CaptionColor& color)
 {
-    float red = 0;
-    float green = 0;
-    float blue = 0;
-    if (failed((captions.*get)(red, green, blue))) return captions.getLastError();
     track.addProperty(name)
-        .attribute("xmpG:red", colorByte(red))
-        .attribute("xmpG:green", colorByte(green))
-        .attribute("xmpG:blue", colorByte(blue))
+        .attribute("xmpG:red", colorByte(color.red))
+        .attribute("xmpG:green", colorByte(color.green))
+        .attribute("xmpG:blue", colorByte(color.blue))
         .attribute("xmpG:mode", "RGB");
-    return {};
 }
 
-ZelDataResult_tags writeTrack(Captions& captions, std::string& out)
+std::size_t lengthOf(const std::string& markup)
 {
-    unsigned long count = 0;
-    if (failed(captions.getCaptionItemCount(count))) return captions.getLastError();
-    if (count == 0) return ZelData_Ok;
+    return markup.size();
+}
+
+std::size_t lengthOf(const TextBlock& markup)
+{
+    return markup.position();
+}
+
+template <class Markup>
+void appendCaption(Markup& markup, const std::string& languageID, const std::string& text)
+{
+    openLanguageItem(markup, languageID);
+    const std::size_t begin = lengthOf(markup);
+    appendEscapedStripped(markup, text);
+    if (lengthOf(markup) == begin) markup.append(emptyCaption);
+    closeLanguageItem(markup);
+}
+
+/// buildCaptionList() for an item of our own, whose texts are not copied. False when one is missing.
+bool appendCaptions(TextBlock& markup, const CaptionState& item,
+                    const std::vector<std::string>& languageIDs)
+{
+    markup.append(nameAlternativeStart);
+    for (const std::string& id : languageIDs) {
+        const std::string* text = item.texts().find(id);
+        if (text == nullptr) return false;
+        appendCaption(markup, id, *text);
+    }
+    markup.append(nameAlternativeEnd);
+    return true;
+}
+
+bool writeMarker(MarkerWriter& markers, const CaptionState& item,
+                 const std::vector<std::string>& languageIDs)
+{
+    markers.begin()
+        .attribute("xmpDM:startTime", item.time.start)
+        .attribute("xmpDM:duration", item.time.duration)
+        .attribute("zelDM:valign", verticalWord(item.alignment))
+        .attribute("zelDM:halign", horizontalWord(item.alignment));
+    const bool complete = appendCaptions(markers.content(), item, languageIDs);
+    markers.endContent();
+    return complete;
+}
+
+/// About how many bytes the markers take: the texts with a little room for entities, and the markup.
+std::size_t expectedSize(const ZelDataCaptions& captions)
+{
+    constexpr std::size_t markerMarkup = 210;
+    constexpr std::size_t languageMarkup = 40;
+    std::size_t size =
+        captions.items().count() * (markerMarkup + captions.languageIDs().size() * languageMarkup);
+    for (unsigned long i = 0; i < captions.items().count(); ++i) {
+        const CaptionState& item = captions.items().state(i);
+        for (const auto& entry : item.texts().all())
+            size += entry.second.size();
+    }
+    return size;
+}
+
+ZelDataResult_tags writeTrack(ZelDataCaptions& captions, std::string& out)
+{
+    if (captions.items().count() == 0) return ZelData_Ok;
     if (failed(captions.makeCaptionsConsistent())) return captions.getLastError();
+    if (!captions.canHandOutItems()) return ZelData_InvalidArgument;
     Track track;
-    if (const Ending ending = describeTrack(track, captions)) return *ending;
-    if (const Ending ending = addMarkers(track, captions, count)) return *ending;
-    if (const Ending ending =
-            addColor(track, "zel:fgColor", captions, &Captions::getForegroundColor)) {
-        return *ending;
-    }
-    if (const Ending ending =
-            addColor(track, "zel:bgColor", captions, &Captions::getBackgroundColor)) {
-        return *ending;
-    }
-    out = track.text();
+    describeTrack(track, captions.style());
+    addColor(track, "zel:fgColor", captions.style().foreground);
+    addColor(track, "zel:bgColor", captions.style().background);
+    bool complete = true;
+    std::string text = track.text(expectedSize(captions), [&](MarkerWriter& markers) {
+        for (unsigned long i = 0; i < captions.items().count(); ++i) {
+            const CaptionState& item = captions.items().state(i);
+            complete = writeMarker(markers, item, captions.languageIDs()) && complete;
+        }
+    });
+    if (!complete) return ZelData_InternalError;
+    out = std::move(text);
     return ZelData_Ok;
 }
 
@@ -140,8 +150,7 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
             complete = false;
             continue;
         }
-        caption = Utilities::stripUnsupportedCharacters(Utilities::htmlTagsToText(caption));
-        appendLanguageItem(text, id, caption.empty() ? emptyCaption : caption);
+        appendCaption(text, id, caption);
     }
     text += nameAlternativeEnd;
     return complete;

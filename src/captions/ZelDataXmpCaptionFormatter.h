@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
+#include "captions/ZelDataCaptions.h"
 #include "core/XmpFormatter.h"
 
 #include <string>
@@ -23,7 +24,7 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
 
 /// Writes the caption track: its styling, and one marker for each item.
 class ZelDataXmpCaptionFormatter
-    : public XmpTrackFormatter<i_ZelDataCaptionFormatter, i_ZelDataCaptions> {
+    : public XmpTrackFormatter<i_ZelDataCaptionFormatter, i_ZelDataCaptions, ZelDataCaptions> {
 public:
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
                                    bool flag) const override;

@@ -1,7 +1,9 @@
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
+#include "captions/ZelDataCaptionItem.h"
 #include "core/FieldCopy.h"
 #include "core/TextCopy.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -12,6 +14,10 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
 {
     using Item = i_ZelDataCaptionItem;
     if (&other == this) return store(ZelData_InternalError);
+    // Between two items of our own the steps below lead where sharing the texts does.
+    auto* own = exactly<ZelDataCaptionItem>(*this);
+    const auto* ownOther = exactly<ZelDataCaptionItem>(other);
+    if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
     return store(guardedButForMemory([&] {
         if (const Ending ending = copyTexts(other, *this)) return *ending;
         FieldCopy fields(other, *this, [this](ZelDataResult_tags) { return getLastError(); });

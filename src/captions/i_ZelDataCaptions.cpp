@@ -1,8 +1,10 @@
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
+#include "captions/ZelDataCaptions.h"
 #include "core/FieldCopy.h"
 #include "core/ItemCopies.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -50,6 +52,10 @@ i_ZelDataCaptions::~i_ZelDataCaptions() = default;
 ZelDataResult_tags i_ZelDataCaptions::copyFrom(const i_ZelDataCaptions& other)
 {
     if (&other == this) return store(ZelData_InternalError);
+    // Between two collections of our own the steps below lead where sharing the items does.
+    auto* own = exactly<ZelDataCaptions>(*this);
+    const auto* ownOther = exactly<ZelDataCaptions>(other);
+    if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
     return store(guarded([&] {
         if (failed(clearCaptionItems())) return getLastError();
         if (failed(i_ZelDataLanguage::copyFrom(other))) return getLastError();

@@ -1,5 +1,5 @@
 /// @file
-/// The owned items of a collection.
+/// The items of a collection.
 
 #ifndef ZELINTERCHANGEDATA_CORE_ITEMLIST_H
 #define ZELINTERCHANGEDATA_CORE_ITEMLIST_H
@@ -7,6 +7,8 @@
 #include "core/Factory.h"
 #include "core/ItemCopies.h"
 #include "core/ItemOrder.h"
+#include "util/CopyOnWrite.h"
+#include "util/ExactType.h"
 
 #include <memory>
 #include <utility>
@@ -14,48 +16,110 @@
 
 namespace ZelInterchangeData {
 
-/// Owns items in their stored order. @p create is always a factory that takes an out-pointer.
-template <class Item>
+/// The items of a collection in their stored order.
+///
+/// An item of our own is kept as its bare state, and a copy of the list shares all states with it
+/// until one of the two changes. A collection that makes other items, as a derived one may, has
+/// them kept as they are; such a list is not copied.
+///
+/// @tparam Item the interface of the items.
+/// @tparam Own our implementation of it. It has a `State` with a `start()`, is made from one, and
+///         gives it with `state()`.
+template <class Item, class Own>
 class ItemList {
 public:
-    using Items = std::vector<std::unique_ptr<Item>>;
+    using State = typename Own::State;
 
-    unsigned long count() const noexcept { return items_.size(); }
-    /// All items, for walking over them.
-    const Items& all() const noexcept { return items_; }
+    unsigned long count() const noexcept { return slots_.read().size(); }
+    void clear() { slots_.reset(); }
 
-    void clear() noexcept { items_.clear(); }
-    void append(std::unique_ptr<Item> item) { items_.push_back(std::move(item)); }
-    void order() { orderByStart(items_); }
+    /// Whether the item at @p index is one of our own.
+    bool isOwn(unsigned long index) const noexcept { return !slots_.read()[index].foreign; }
+    /// The state of the item at @p index, which is one of our own.
+    const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
+
+    void append(std::unique_ptr<Item> item)
+    {
+        Slot slot;
+        if (const auto* own = exactly<Own>(std::as_const(*item))) {
+            slot.state = own->state();
+        } else {
+            slot.foreign = std::move(item);
+        }
+        slots_.write().push_back(std::move(slot));
+    }
+
+    /// What @p use, a callable for an item, gives for the item at @p index.
+    template <class Use>
+    auto use(unsigned long index, Use&& use) const
+    {
+        const Slot& slot = slots_.read()[index];
+        if (slot.foreign) return use(std::as_const(*slot.foreign));
+        const Own item(slot.state);
+        return use(static_cast<const Item&>(item));
+    }
+
+    /// What @p change, a callable for an item that it may change, gives for the item at @p index.
+    template <class Change>
+    auto change(unsigned long index, Change&& change)
+    {
+        Slot& slot = slots_.write()[index];
+        if (slot.foreign) return change(*slot.foreign);
+        Borrowed borrowed(slot.state);
+        return change(static_cast<Item&>(borrowed.item));
+    }
+
+    std::vector<long long> starts() const
+    {
+        std::vector<long long> starts;
+        starts.reserve(count());
+        for (const Slot& slot : slots_.read())
+            starts.push_back(slot.start());
+        return starts;
+    }
+
+    /// Orders the items by start, as exchangeOrder() says.
+    void order()
+    {
+        const auto places = exchangeOrder(starts());
+        if (places.empty()) return;
+        Slots ordered;
+        ordered.reserve(places.size());
+        for (const std::size_t place : places)
+            ordered.push_back(slots_.read()[place]);
+        slots_ = CopyOnWrite<Slots>(std::move(ordered));
+    }
 
     /// #ZelData_InvalidArgument when there is no item at @p index.
     ZelDataResult_tags removeAt(unsigned long index)
     {
         if (index >= count()) return ZelData_InvalidArgument;
-        items_.erase(items_.begin() + static_cast<typename Items::difference_type>(index));
+        Slots& slots = slots_.write();
+        slots.erase(slots.begin() + static_cast<typename Slots::difference_type>(index));
         return ZelData_Ok;
     }
 
-    /// Hands out a copy of the item at @p index, owned by the caller. #ZelData_InvalidArgument when
-    /// @p out cannot take one or there is no such item.
+    /// Hands out a copy of the item at @p index, made by @p create, a factory, and owned by the
+    /// caller. #ZelData_InvalidArgument when @p out cannot take one or there is no such item.
     template <class Create>
     ZelDataResult_tags copyOut(Item** out, unsigned long index, Create&& create) const
     {
         if (!isEmptyOutPointer(out) || index >= count()) return ZelData_InvalidArgument;
-        auto copy = copyItem(*items_[index], create);
+        auto copy = use(index, [&](const Item& item) { return copyItem(item, create); });
         *out = copy.item.release();
         return copy.code;
     }
 
-    /// Replaces @p out with copies of all items, owned by the caller; empty when one fails.
+    /// Replaces @p out with copies of all items, made by @p create and owned by the caller; empty
+    /// when one fails.
     template <class Create>
     ZelDataResult_tags copyOutAll(std::vector<Item*>& out, Create&& create) const
     {
         out.clear();
-        Items copies;
-        copies.reserve(items_.size());
-        for (const auto& item : items_) {
-            auto copy = copyItem(*item, create);
+        std::vector<std::unique_ptr<Item>> copies;
+        copies.reserve(count());
+        for (unsigned long i = 0; i < count(); ++i) {
+            auto copy = use(i, [&](const Item& item) { return copyItem(item, create); });
             if (!copy.item) return copy.code;
             copies.push_back(std::move(copy.item));
         }
@@ -66,7 +130,33 @@ public:
     }
 
 private:
-    Items items_;
+    /// One item: our own as its state, any other as it is.
+    struct Slot {
+        long long start() const
+        {
+            if (!foreign) return state.start();
+            long long start = 0;
+            static_cast<void>(foreign->getStart(start));
+            return start;
+        }
+
+        State state;
+        std::shared_ptr<Item> foreign;
+    };
+    using Slots = std::vector<Slot>;
+
+    /// An item with a state that is given back, changed, in the end.
+    struct Borrowed {
+        explicit Borrowed(State& from) : home(from), item(std::move(from)) {}
+        Borrowed(const Borrowed&) = delete;
+        Borrowed& operator=(const Borrowed&) = delete;
+        ~Borrowed() { home = item.state(); }
+
+        State& home;
+        Own item;
+    };
+
+    CopyOnWrite<Slots> slots_;
 };
 
 } // namespace ZelInterchangeData

@@ -5,52 +5,21 @@
 #define ZELINTERCHANGEDATA_CORE_ITEMORDER_H
 
 #include <cstddef>
-#include <limits>
-#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
 
-/// The starts of @p items, a vector of pointers to items, in order.
-template <class Items>
-std::vector<long long> startsOf(const Items& items)
-{
-    std::vector<long long> starts(items.size());
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        static_cast<void>(
-            items[i]->getStart(starts[i])); // an item of our own always knows its start
-    }
-    return starts;
-}
+/// For each start the smallest of those after it; the largest number where none follows.
+std::vector<long long> earliestLaterStarts(std::vector<long long> starts);
 
-/// For each item the smallest start of those after it; the largest number where none follows.
-template <class Items>
-std::vector<long long> earliestLaterStarts(const Items& items)
-{
-    std::vector<long long> earliest = startsOf(items);
-    long long smallest = std::numeric_limits<long long>::max();
-    for (auto start = earliest.rbegin(); start != earliest.rend(); ++start) {
-        const long long smallestWithThis = *start < smallest ? *start : smallest;
-        *start = std::exchange(smallest, smallestWithThis);
-    }
-    return earliest;
-}
-
-/// Orders @p items by start with an exchange sort. It is meant to be this sort and no stable one:
-/// another one would put items with equal starts in another order, and so change the packet.
-template <class Items>
-void orderByStart(Items& items)
-{
-    std::vector<long long> starts = startsOf(items);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        for (std::size_t j = i + 1; j < items.size(); ++j) {
-            if (starts[j] < starts[i]) {
-                std::swap(starts[i], starts[j]);
-                std::swap(items[i], items[j]);
-            }
-        }
-    }
-}
+/// The order that an exchange sort gives items with @p starts: the place of the item that comes
+/// first, then of the second, and so on. Empty when the items stand in order already.
+///
+/// The exchange sort compares each item with every later one and exchanges the two when the later
+/// start is smaller. It is meant to be this sort and no stable one: items with equal starts that an
+/// earlier start jumped over change places, and another order would change the packet. This
+/// function gets to the same order in n log n steps.
+std::vector<std::size_t> exchangeOrder(const std::vector<long long>& starts);
 
 } // namespace ZelInterchangeData
 

@@ -4,12 +4,22 @@
 #ifndef ZELINTERCHANGEDATA_CORE_ITEMTEXTS_H
 #define ZELINTERCHANGEDATA_CORE_ITEMTEXTS_H
 
+#include "core/ItemList.h"
+#include "core/LanguageTexts.h"
 #include "util/Ending.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
+
+/// Whether @p texts has one for each of @p languageIDs.
+inline bool hasAllTexts(const LanguageTexts& texts, const std::vector<std::string>& languageIDs)
+{
+    return std::all_of(languageIDs.begin(), languageIDs.end(),
+                       [&](const std::string& id) { return texts.find(id) != nullptr; });
+}
 
 /// Ends with the item's last error when @p item has no text for one of @p languageIDs.
 template <class Item>
@@ -38,14 +48,31 @@ Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
     return {};
 }
 
-/// Removes the text for @p languageID from each of @p items, a vector of pointers. It is meant to
-/// stop at the first item without such a text, with the item's last error: callers tell from the
-/// code that the language was not complete.
-template <class Items>
-ZelDataResult_tags removeTexts(const Items& items, const std::string& languageID)
+/// The same for all items. One of our own that lacks nothing is not touched and so goes on sharing.
+template <class Item, class Own>
+Ending fillMissingTexts(ItemList<Item, Own>& items, const std::vector<std::string>& languageIDs)
 {
-    for (const auto& item : items) {
-        if (failed(item->removeTextForLanguage(languageID))) return item->getLastError();
+    for (unsigned long i = 0; i < items.count(); ++i) {
+        if (items.isOwn(i) && hasAllTexts(items.state(i).texts(), languageIDs)) continue;
+        const Ending ending =
+            items.change(i, [&](Item& item) { return fillMissingTexts(item, languageIDs); });
+        if (ending) return ending;
+    }
+    return {};
+}
+
+/// Removes the text for @p languageID from each item. It is meant to stop at the first item without
+/// such a text, with the item's last error: callers tell from the code that the language was not
+/// complete.
+template <class Item, class Own>
+ZelDataResult_tags removeTexts(ItemList<Item, Own>& items, const std::string& languageID)
+{
+    for (unsigned long i = 0; i < items.count(); ++i) {
+        const Ending ending = items.change(i, [&](Item& item) -> Ending {
+            if (failed(item.removeTextForLanguage(languageID))) return item.getLastError();
+            return {};
+        });
+        if (ending) return *ending;
     }
     return ZelData_Ok;
 }

@@ -21,6 +21,21 @@ ZelDataResult_tags LanguageList::add(const std::string& id)
     return ZelData_Ok;
 }
 
+void LanguageList::addChecked(const std::string& id)
+{
+    if (!contains(id)) ids_.push_back(id);
+}
+
+ZelDataResult_tags LanguageList::copyFrom(const LanguageList& other)
+{
+    clear();
+    for (const std::string& id : other.ids_) {
+        if (contains(id)) return ZelData_WarnAlreadyExists;
+        ids_.push_back(id);
+    }
+    return ZelData_Ok;
+}
+
 bool LanguageList::remove(const std::string& id)
 {
     const auto found = std::find(ids_.begin(), ids_.end(), id);

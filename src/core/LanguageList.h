@@ -24,6 +24,11 @@ public:
     void clear() noexcept { ids_.clear(); }
     /// The code of the UTF-8 check, #ZelData_UnknownLanguage or #ZelData_WarnAlreadyExists.
     ZelDataResult_tags add(const std::string& id);
+    /// As clear() and add() for each entry of @p other, which stands checked in its list: stops at
+    /// an entry that reorder() let in twice, with #ZelData_WarnAlreadyExists.
+    ZelDataResult_tags copyFrom(const LanguageList& other);
+    /// Lists @p id, which was checked before, unless it is listed.
+    void addChecked(const std::string& id);
     /// Removes the first identical entry; false when there is none.
     bool remove(const std::string& id);
     /// #ZelData_InvalidArgument when @p ids has another count or an entry that is not listed.

@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataLanguage.h"
 #include "core/LanguageList.h"
+#include "core/LanguageTexts.h"
 #include "util/Ending.h"
 #include "util/Guard.h"
 #include "util/GuardedCopy.h"
@@ -75,7 +76,8 @@ public:
 protected:
     const std::vector<std::string>& languageIDs() const noexcept { return languages_.ids(); }
 
-    void emptyLanguageList() noexcept { languages_.clear(); }
+    const LanguageList& languages() const noexcept { return languages_; }
+    LanguageList& languages() noexcept { return languages_; }
 
     /// Lists the languages of @p item, ascending. An error ends it; that a language is listed
     /// already is no error.
@@ -88,6 +90,13 @@ protected:
             if (isError(this->addLanguage(id))) return this->getLastError();
         }
         return {};
+    }
+
+    /// The same for @p texts that were checked when they were set.
+    void addCheckedLanguagesOf(const LanguageTexts& texts)
+    {
+        for (const auto& entry : texts.all())
+            languages_.addChecked(entry.first);
     }
 
 private:

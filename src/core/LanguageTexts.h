@@ -6,8 +6,8 @@
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 
-#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -16,14 +16,17 @@ namespace ZelInterchangeData {
 /// `std::bad_alloc` and changes nothing.
 class LanguageTexts {
 public:
-    using Map = std::map<std::string, std::string>;
+    /// A language ID and its text.
+    using Entry = std::pair<std::string, std::string>;
 
     /// #ZelData_Ok when both are UTF-8 and the catalogue knows the language, else
     /// #ZelData_InvalidItem.
     static ZelDataResult_tags check(const std::string& text, const std::string& languageID);
 
     /// All texts, for walking over them.
-    const Map& all() const noexcept { return texts_; }
+    const std::vector<Entry>& all() const noexcept { return texts_; }
+    /// The text for @p languageID, or null when there is none.
+    const std::string* find(const std::string& languageID) const noexcept;
 
     void clear() noexcept { texts_.clear(); }
     /// Stores a copy of @p text. The code of check(), or #ZelData_WarnAlreadyExists when it
@@ -37,7 +40,7 @@ public:
     ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const;
 
 private:
-    Map texts_;
+    std::vector<Entry> texts_;
 };
 
 } // namespace ZelInterchangeData

@@ -13,8 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// Holds a copy of the @p Data to write, and refuses to read.
-template <class Interface, class Data>
+/// Holds a copy of the @p Data to write, and refuses to read. @p Own is the class of the copy.
+template <class Interface, class Data, class Own>
 class XmpFormatter : public Interface {
 public:
     ZelDataResult_tags readString(const std::string& /*text*/, ZelDataFormatType_tags format,
@@ -44,22 +44,23 @@ protected:
                 Data* made = nullptr;
                 const auto created = create(&made);
                 if (failed(created)) return created;
-                held_.reset(made);
+                held_.reset(static_cast<Own*>(made)); // that is what our factory makes
             }
-            return replaceContents(*held_, clear, source) ? ZelData_Ok : held_->getLastError();
+            Data& held = *held_;
+            return replaceContents(held, clear, source) ? ZelData_Ok : held.getLastError();
         }));
     }
 
     /// Null until the first hold().
-    Data* held() const noexcept { return held_.get(); }
+    Own* held() const noexcept { return held_.get(); }
 
 private:
-    std::unique_ptr<Data> held_;
+    std::unique_ptr<Own> held_;
 };
 
 /// An XMP formatter that writes one track of the packet.
-template <class Interface, class Data>
-class XmpTrackFormatter : public XmpFormatter<Interface, Data> {
+template <class Interface, class Data, class Own>
+class XmpTrackFormatter : public XmpFormatter<Interface, Data, Own> {
 public:
     /// Writes the string first and then refuses. That is meant: a caller who tests what a set lacks
     /// with this call gets the code of the writing.

@@ -9,6 +9,7 @@
 #include "core/TrackInsertion.h"
 #include "util/Guard.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <ostream>
@@ -21,21 +22,19 @@ namespace {
 
 constexpr std::string_view xmlDeclaration = R"(<?xml version="1.0" encoding="utf-8" ?>)";
 
-/// Appends the text that a formatter, which @p create makes, writes for @p data.
+/// Gets the text that a formatter, which @p create makes, writes for @p data.
 template <class Formatter, class Data>
-Ending appendFormatted(std::string& text, const Data& data, ZelDataFormatType_tags format,
-                       ZelDataResult_tags (*create)(Formatter**, ZelDataFormatType_tags),
-                       ZelDataResult_tags (Formatter::*set)(const Data&))
+Ending writeWith(std::string& text, const Data& data, ZelDataFormatType_tags type,
+                 ZelDataResult_tags (*create)(Formatter**, ZelDataFormatType_tags),
+                 ZelDataResult_tags (Formatter::*set)(const Data&))
 {
     Formatter* made = nullptr;
-    const auto created = create(&made, format);
+    const auto created = create(&made, type);
     const std::unique_ptr<Formatter> formatter(made);
     if (failed(created)) return created;
-    std::string piece;
-    if (failed((made->*set)(data)) || failed(made->writeString(piece, format, false))) {
+    if (failed((made->*set)(data)) || failed(made->writeString(text, type, false))) {
         return made->getLastError();
     }
-    text += piece;
     return {};
 }
 
@@ -89,22 +88,23 @@ Ending ZelDataCoreXmp::replaceHeaderLanguages() const
     return {};
 }
 
-Ending ZelDataCoreXmp::appendTracks(std::string& tracks, ZelDataFormatType_tags format) const
+Ending ZelDataCoreXmp::writeTracks(std::vector<std::string>& tracks,
+                                   ZelDataFormatType_tags format) const
 {
     Ending ending;
     if (captions() != nullptr) {
-        ending =
-            appendFormatted(tracks, *captions(), format, &ZelDataUtilities::createCaptionFormatter,
-                            &i_ZelDataCaptionFormatter::setCaptions);
+        ending = writeWith(tracks.emplace_back(), *captions(), format,
+                           &ZelDataUtilities::createCaptionFormatter,
+                           &i_ZelDataCaptionFormatter::setCaptions);
     }
     if (!ending && toc() != nullptr) {
-        ending = appendFormatted(tracks, *toc(), format, &ZelDataUtilities::createTocFormatter,
-                                 &i_ZelDataTocFormatter::setToc);
+        ending = writeWith(tracks.emplace_back(), *toc(), format,
+                           &ZelDataUtilities::createTocFormatter, &i_ZelDataTocFormatter::setToc);
     }
     if (!ending && screenText() != nullptr) {
-        ending = appendFormatted(tracks, *screenText(), format,
-                                 &ZelDataUtilities::createScreenTextFormatter,
-                                 &i_ZelDataScreenTextFormatter::setScreenText);
+        ending = writeWith(tracks.emplace_back(), *screenText(), format,
+                           &ZelDataUtilities::createScreenTextFormatter,
+                           &i_ZelDataScreenTextFormatter::setScreenText);
     }
     return ending;
 }
@@ -115,13 +115,15 @@ ZelDataResult_tags ZelDataCoreXmp::assemble(std::string& packet,
     if (const Ending ending = checkHeader()) return *ending;
     if (const Ending ending = replaceHeaderLanguages()) return *ending;
     if (const Ending ending =
-            appendFormatted(packet, *header(), format, &ZelDataUtilities::createHeaderFormatter,
-                            &i_ZelDataHeaderFormatter::setHeader)) {
+            writeWith(packet, *header(), format, &ZelDataUtilities::createHeaderFormatter,
+                      &i_ZelDataHeaderFormatter::setHeader)) {
         return *ending;
     }
-    std::string tracks;
-    if (const Ending ending = appendTracks(tracks, format)) return *ending;
-    return tracks.empty() ? ZelData_Ok : insertTracks(packet, tracks);
+    std::vector<std::string> tracks; // a set without items leaves its text empty
+    if (const Ending ending = writeTracks(tracks, format)) return *ending;
+    const bool isEmpty = std::all_of(tracks.begin(), tracks.end(),
+                                     [](const std::string& track) { return track.empty(); });
+    return isEmpty ? ZelData_Ok : insertTracks(packet, tracks);
 }
 
 ZelDataResult_tags ZelDataCoreXmp::writeString(std::string& out, ZelDataFormatType_tags format,
@@ -148,9 +150,8 @@ ZelDataResult_tags ZelDataCoreXmp::writeFile(const std::string& path, ZelDataFor
         if (failed(writeString(text, format, false))) return getLastError();
         const auto stream = createWofstreamWithFile(path);
         if (!stream->is_open()) return ZelData_FileOpenFailed;
-        writeBytes(
-            *stream,
-            xmlDeclaration); // Meant to end at the first zero byte: no XML goes on behind it.
+        writeBytes(*stream, xmlDeclaration);
+        // Meant to end at the first zero byte: no XML goes on behind it.
         writeBytes(*stream, {text.data(), std::strlen(text.c_str())});
         stream->close(); // what fails from the opening on is not reported
         return ZelData_Ok;

@@ -30,7 +30,7 @@ ZelDataResult_tags ZelDataHeader::clearHeader()
     videoWidth_ = 0;
     videoHeight_ = 0;
     keywords_.clear();
-    emptyLanguageList();
+    languages().clear();
     return store(ZelData_Ok);
 }
 

@@ -7,12 +7,14 @@
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 #include "ZelInterchangeData/i_ZelDataHeaderFormatter.h"
 #include "core/XmpFormatter.h"
+#include "header/ZelDataHeader.h"
 
 namespace ZelInterchangeData {
 
 /// Writes the frame of every document: namespaces, header properties, an empty track list, and the
 /// player's controller.
-class ZelDataXmpHeaderFormatter : public XmpFormatter<i_ZelDataHeaderFormatter, i_ZelDataHeader> {
+class ZelDataXmpHeaderFormatter
+    : public XmpFormatter<i_ZelDataHeaderFormatter, i_ZelDataHeader, ZelDataHeader> {
 public:
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
                                    bool flag) const override;

@@ -12,16 +12,26 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextData(i_ZelDataScreenText** 
 
 // Checking and repairing
 
+/// The finding of one item; no later one starts before @p earliestLater.
+Ending ZelDataScreenText::checkItem(const i_ZelDataScreenTextItem& item, bool deep,
+                                    long long earliestLater)
+{
+    if (deep && failed(item.isValid(true))) return item.getLastError();
+    long long start = 0;
+    if (failed(item.getStart(start))) return item.getLastError();
+    if (start > earliestLater) return ZelData_WarnTiming;
+    return {};
+}
+
 /// The first finding of the items, in stored order.
 ZelDataResult_tags ZelDataScreenText::checkItems(bool deep) const
 {
-    const auto& items = items_.all();
-    const auto earliestLater = earliestLaterStarts(items);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (deep && failed(items[i]->isValid(true))) return items[i]->getLastError();
-        long long start = 0;
-        if (failed(items[i]->getStart(start))) return items[i]->getLastError();
-        if (start > earliestLater[i]) return ZelData_WarnTiming;
+    const auto earliestLater = earliestLaterStarts(items_.starts());
+    for (unsigned long i = 0; i < items_.count(); ++i) {
+        const Ending ending = items_.use(i, [&](const i_ZelDataScreenTextItem& item) {
+            return checkItem(item, deep, earliestLater[i]);
+        });
+        if (ending) return *ending;
     }
     return ZelData_Ok;
 }
@@ -64,17 +74,31 @@ ZelDataResult_tags ZelDataScreenText::getFrameRate(unsigned long& rate) const
 
 ZelDataResult_tags ZelDataScreenText::clearScreenTextItems()
 {
-    items_.clear();
-    reserved_.clear();
-    return store(ZelData_Ok);
+    return store(guarded([&] {
+        items_.clear();
+        reserved_.clear();
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataScreenText::addScreenTextItem(const i_ZelDataScreenTextItem& item)
 {
     return store(guarded([&] {
         auto copy = copyItem(item, newItem());
-        if (copy.item) items_.append(std::move(copy.item));
-        return copy.code;
+        if (!copy.item) return copy.code;
+        items_.append(std::move(copy.item));
+        return ZelData_Ok;
+    }));
+}
+
+ZelDataResult_tags ZelDataScreenText::copyOwn(const ZelDataScreenText& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    return store(guarded([&] {
+        reserved_.clear();
+        frameRate_ = other.frameRate_;
+        items_ = other.items_;
+        return ZelData_Ok;
     }));
 }
 
@@ -85,7 +109,7 @@ ZelDataResult_tags ZelDataScreenText::createScreenTextItem(i_ZelDataScreenTextIt
 
 ZelDataResult_tags ZelDataScreenText::removeScreenTextItemAt(unsigned long index)
 {
-    return store(items_.removeAt(index));
+    return store(guarded([&] { return items_.removeAt(index); }));
 }
 
 ZelDataResult_tags ZelDataScreenText::getScreenTextItemCount(unsigned long& count)

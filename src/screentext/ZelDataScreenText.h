@@ -8,6 +8,8 @@
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 #include "core/FrameRate.h"
 #include "core/ItemList.h"
+#include "screentext/ZelDataScreenTextItem.h"
+#include "util/Ending.h"
 
 #include <string>
 #include <vector>
@@ -17,6 +19,8 @@ namespace ZelInterchangeData {
 /// The screen text that the library makes.
 class ZelDataScreenText : public i_ZelDataScreenText {
 public:
+    using Items = ItemList<i_ZelDataScreenTextItem, ZelDataScreenTextItem>;
+
     ZelDataResult_tags isValid(bool deep) const override;
     ZelDataResult_tags makeScreenTextConsistent() override;
 
@@ -33,6 +37,11 @@ public:
     ZelDataResult_tags
     getScreenTextItems(std::vector<i_ZelDataScreenTextItem*>& items) const override;
 
+    /// As copyFrom(), with the same codes and last errors, but sharing the items: those of an own
+    /// collection were checked on their way in.
+    ZelDataResult_tags copyOwn(const ZelDataScreenText& other);
+    const Items& items() const noexcept { return items_; }
+
     /// Orders the items by start, as makeScreenTextConsistent() does.
     ZelDataResult_tags orderScreenTextItems();
 
@@ -40,6 +49,8 @@ protected:
     FrameRate frameRate_;
 
 private:
+    static Ending checkItem(const i_ZelDataScreenTextItem& item, bool deep,
+                            long long earliestLater);
     ZelDataResult_tags checkItems(bool deep) const;
     /// createScreenTextItem() as a callable.
     auto newItem() const
@@ -47,7 +58,7 @@ private:
         return [this](i_ZelDataScreenTextItem** out) { return createScreenTextItem(out); };
     }
 
-    ItemList<i_ZelDataScreenTextItem> items_;
+    Items items_;
     std::vector<std::string> reserved_; // no operation fills it
 };
 

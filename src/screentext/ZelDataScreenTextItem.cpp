@@ -4,8 +4,6 @@
 #include "core/Factory.h"
 #include "util/GuardedCopy.h"
 
-#include <utility>
-
 namespace ZelInterchangeData {
 
 ZelDataResult_tags ZelDataUtilities::createScreenTextItemData(i_ZelDataScreenTextItem** out)
@@ -15,52 +13,63 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextItemData(i_ZelDataScreenTex
 
 ZelDataScreenTextItem& ZelDataScreenTextItem::operator=(const ZelDataScreenTextItem& other)
 {
-    if (&other == this) return *this;
-    std::string text(other.text_);
-    ImageReference image(other.image_);
-    std::swap(text_, text);
-    std::swap(image_, image);
-    time_ = other.time_;
-    groupId_ = other.groupId_;
+    if (&other != this) state_ = other.state_;
     return *this;
 }
 
-/// The flag is meant to change nothing: checking more would refuse items that are written
-/// today.
+ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    state_ = other.state_;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags ScreenTextState::check() const
+{
+    const bool valid = !failed(ZelDataUtilities::verifyUtf8Format(text(), false));
+    return valid ? ZelData_Ok : ZelData_InvalidItem;
+}
+
+/// The flag is meant to change nothing: checking more would refuse items that are written today.
 ZelDataResult_tags ZelDataScreenTextItem::isValid(bool /*deep*/) const
 {
-    const bool valid = !failed(ZelDataUtilities::verifyUtf8Format(text_, false));
-    return store(valid ? ZelData_Ok : ZelData_InvalidItem);
+    return store(state_.check());
 }
 
 // Text and group
 
 ZelDataResult_tags ZelDataScreenTextItem::clearText()
 {
-    text_.clear();
-    return store(ZelData_Ok);
+    return store(guarded([&] {
+        state_.changeText().clear();
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::setText(const std::string& text)
 {
     if (failed(ZelDataUtilities::verifyUtf8Format(text, false))) return store(ZelData_InvalidItem);
-    return store(guardedCopy(text_, text));
+    return store(guarded([&] {
+        std::string copy(text);
+        state_.changeText().swap(copy);
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getText(std::string& text) const
 {
-    return store(guardedCopy(text, text_));
+    return store(guardedCopy(text, state_.text()));
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::setGroupId(unsigned long id)
 {
-    groupId_ = id;
+    state_.groupId = id;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getGroupId(unsigned long& id) const
 {
-    id = groupId_;
+    id = state_.groupId;
     return store(ZelData_Ok);
 }
 
@@ -68,23 +77,23 @@ ZelDataResult_tags ZelDataScreenTextItem::getGroupId(unsigned long& id) const
 
 ZelDataResult_tags ZelDataScreenTextItem::setStart(long long start)
 {
-    return store(time_.setStart(start) ? ZelData_Ok : ZelData_InvalidArgument);
+    return store(state_.time.setStart(start) ? ZelData_Ok : ZelData_InvalidArgument);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getStart(long long& start) const
 {
-    start = time_.start;
+    start = state_.time.start;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::setEnd(long long end)
 {
-    return store(time_.setEnd(end) ? ZelData_Ok : ZelData_InvalidArgument);
+    return store(state_.time.setEnd(end) ? ZelData_Ok : ZelData_InvalidArgument);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getEnd(long long& end) const
 {
-    end = time_.end();
+    end = state_.time.end();
     return store(ZelData_Ok);
 }
 
@@ -92,13 +101,13 @@ ZelDataResult_tags ZelDataScreenTextItem::getEnd(long long& end) const
 ZelDataResult_tags ZelDataScreenTextItem::setDuration(long long duration)
 {
     if (duration < 0) return store(ZelData_InvalidArgument);
-    time_.duration = duration;
+    state_.time.duration = duration;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getDuration(long long& duration) const
 {
-    duration = time_.duration;
+    duration = state_.time.duration;
     return store(ZelData_Ok);
 }
 
@@ -106,35 +115,39 @@ ZelDataResult_tags ZelDataScreenTextItem::getDuration(long long& duration) const
 
 ZelDataResult_tags ZelDataScreenTextItem::setImageFile(const std::string& name)
 {
-    return store(guardedCopy(image_.file, name));
+    return store(guarded([&] {
+        std::string copy(name);
+        state_.changeImageFile().swap(copy);
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getImageFile(std::string& name) const
 {
-    return store(guardedCopy(name, image_.file));
+    return store(guardedCopy(name, state_.imageFile()));
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::setImageIndex(unsigned long index)
 {
-    image_.index = index;
+    state_.imageIndex = index;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getImageIndex(unsigned long& index) const
 {
-    index = image_.index;
+    index = state_.imageIndex;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::setImageOffset(unsigned long long offset)
 {
-    image_.offset = offset;
+    state_.imageOffset = offset;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::getImageOffset(unsigned long long& offset) const
 {
-    offset = image_.offset;
+    offset = state_.imageOffset;
     return store(ZelData_Ok);
 }
 

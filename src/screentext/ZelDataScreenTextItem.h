@@ -5,18 +5,47 @@
 #define ZELINTERCHANGEDATA_SCREENTEXT_ZELDATASCREENTEXTITEM_H
 
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/ImageReference.h"
+#include "util/CopyOnWrite.h"
 #include "util/TimeSpan.h"
 
+#include <utility>
+
 namespace ZelInterchangeData {
+
+/// What a screen text consists of. Copies share text and file name.
+class ScreenTextState {
+public:
+    TimeSpan time;
+    unsigned long imageIndex = 0;
+    unsigned long long imageOffset = 0;
+    unsigned long groupId = 0;
+
+    long long start() const noexcept { return time.start; }
+    const std::string& text() const noexcept { return strings_.read().text; }
+    std::string& changeText() { return strings_.write().text; }
+    const std::string& imageFile() const noexcept { return strings_.read().imageFile; }
+    std::string& changeImageFile() { return strings_.write().imageFile; }
+    /// What i_ZelDataScreenTextItem::isValid() gives.
+    ZelDataResult_tags check() const;
+
+private:
+    struct Strings {
+        std::string text;
+        std::string imageFile;
+    };
+
+    CopyOnWrite<Strings> strings_;
+};
 
 /// The screen-text item that the library makes.
 class ZelDataScreenTextItem : public i_ZelDataScreenTextItem {
 public:
+    using State = ScreenTextState;
+
     ZelDataScreenTextItem() = default;
+    explicit ZelDataScreenTextItem(ScreenTextState state) : state_(std::move(state)) {}
     ZelDataScreenTextItem(const ZelDataScreenTextItem&) = delete;
-    /// Copies all fields but the last error, without checks. Lets `std::bad_alloc` through and then
-    /// leaves the item as it was.
+    /// Copies all fields but the last error, without checks.
     ZelDataScreenTextItem& operator=(const ZelDataScreenTextItem& other);
 
     ZelDataResult_tags isValid(bool deep) const override;
@@ -38,11 +67,13 @@ public:
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
     ZelDataResult_tags getGroupId(unsigned long& id) const override;
 
+    const ScreenTextState& state() const noexcept { return state_; }
+    /// As copyFrom(), with the same codes and last errors, but sharing the strings: those of an own
+    /// item were checked when they were set.
+    ZelDataResult_tags copyOwn(const ZelDataScreenTextItem& other);
+
 private:
-    TimeSpan time_;
-    std::string text_;
-    ImageReference image_;
-    unsigned long groupId_ = 0;
+    ScreenTextState state_;
 };
 
 } // namespace ZelInterchangeData

@@ -7,12 +7,14 @@
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
 #include "core/XmpFormatter.h"
+#include "screentext/ZelDataScreenText.h"
 
 namespace ZelInterchangeData {
 
 /// Writes the screen-text track: its properties, and one marker for each item.
 class ZelDataXmpScreenTextFormatter
-    : public XmpTrackFormatter<i_ZelDataScreenTextFormatter, i_ZelDataScreenText> {
+    : public XmpTrackFormatter<i_ZelDataScreenTextFormatter, i_ZelDataScreenText,
+                               ZelDataScreenText> {
 public:
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
                                    bool flag) const override;

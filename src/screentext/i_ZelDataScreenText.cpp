@@ -3,6 +3,8 @@
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 #include "core/FieldCopy.h"
 #include "core/ItemCopies.h"
+#include "screentext/ZelDataScreenText.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -12,11 +14,14 @@ i_ZelDataScreenText::~i_ZelDataScreenText() = default;
 ZelDataResult_tags i_ZelDataScreenText::copyFrom(const i_ZelDataScreenText& source)
 {
     if (&source == this) return store(ZelData_InternalError);
+    // Between two collections of our own the steps below lead where sharing the items does.
+    auto* own = exactly<ZelDataScreenText>(*this);
+    const auto* ownSource = exactly<ZelDataScreenText>(source);
+    if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
     return store(guarded([&] {
         if (failed(clearScreenTextItems())) return getLastError();
-        FieldCopy fields(source, *this, [this](ZelDataResult_tags) {
-            return getLastError();
-        }); // Meant to be copied, unlike a table of contents' rate: the written track states it.
+        FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
+        // Meant to be copied, unlike a table of contents' rate: the written track states it.
         fields.field(&i_ZelDataScreenText::getFrameRate, &i_ZelDataScreenText::setFrameRate);
         if (const Ending ending = fields.ending()) return *ending;
         ReceivedItems<i_ZelDataScreenTextItem> items;

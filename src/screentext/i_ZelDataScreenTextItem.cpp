@@ -1,6 +1,8 @@
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
 #include "core/FieldCopy.h"
+#include "screentext/ZelDataScreenTextItem.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -11,6 +13,10 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
 {
     using Item = i_ZelDataScreenTextItem;
     if (&source == this) return store(ZelData_InternalError);
+    // Between two items of our own the steps below lead where sharing the strings does.
+    auto* own = exactly<ZelDataScreenTextItem>(*this);
+    const auto* ownSource = exactly<ZelDataScreenTextItem>(source);
+    if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
     return store(guarded([&] {
         if (failed(clearText())) return getLastError();
         FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });

@@ -11,17 +11,26 @@ ZelDataResult_tags ZelDataUtilities::createTocData(i_ZelDataToc** out)
 
 // Checking and repairing
 
-/// The first finding of the entries, in stored order.
+/// The finding of one entry; no later one starts before @p earliestLater.
+Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep, long long earliestLater) const
+{
+    if (deep && failed(item.isValid(true))) return item.getLastError();
+    if (const Ending ending = findMissingText(item, languageIDs())) return ending;
+    long long start = 0;
+    if (failed(item.getStart(start))) return item.getLastError();
+    if (start > earliestLater) return ZelData_WarnTiming;
+    return {};
+}
+
+/// The first finding of the items, in stored order.
 ZelDataResult_tags ZelDataToc::checkItems(bool deep) const
 {
-    const auto& items = items_.all();
-    const auto earliestLater = earliestLaterStarts(items);
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (deep && failed(items[i]->isValid(true))) return items[i]->getLastError();
-        if (const Ending ending = findMissingText(*items[i], languageIDs())) return *ending;
-        long long start = 0;
-        if (failed(items[i]->getStart(start))) return items[i]->getLastError();
-        if (start > earliestLater[i]) return ZelData_WarnTiming;
+    const auto earliestLater = earliestLaterStarts(items_.starts());
+    for (unsigned long i = 0; i < items_.count(); ++i) {
+        const Ending ending = items_.use(i, [&](const i_ZelDataTocItem& item) {
+            return checkItem(item, deep, earliestLater[i]);
+        });
+        if (ending) return *ending;
     }
     return ZelData_Ok;
 }
@@ -44,9 +53,7 @@ ZelDataResult_tags ZelDataToc::makeTocConsistent()
 {
     return store(guarded([&] {
         items_.order();
-        for (const auto& item : items_.all()) {
-            if (const Ending ending = fillMissingTexts(*item, languageIDs())) return *ending;
-        }
+        if (const Ending ending = fillMissingTexts(items_, languageIDs())) return *ending;
         frameRate_.repair();
         return ZelData_Ok;
     }));
@@ -79,9 +86,11 @@ ZelDataResult_tags ZelDataToc::getImageFile(std::string& name) const
 
 ZelDataResult_tags ZelDataToc::clearTocItems()
 {
-    items_.clear();
-    emptyLanguageList(); // the languages are those of the entries
-    return store(ZelData_Ok);
+    return store(guarded([&] {
+        items_.clear();
+        languages().clear(); // the languages are those of the entries
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
@@ -95,6 +104,23 @@ ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
     }));
 }
 
+ZelDataResult_tags ZelDataToc::copyOwn(const ZelDataToc& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    return store(guarded([&] {
+        items_.clear();
+        const auto listed = languages().copyFrom(other.languages());
+        if (failed(listed)) return listed;
+        imageFile_ = other.imageFile_;
+        languages().clear();
+        for (unsigned long i = 0; i < other.items_.count(); ++i) {
+            addCheckedLanguagesOf(other.items_.state(i).texts());
+        }
+        items_ = other.items_;
+        return ZelData_Ok;
+    }));
+}
+
 ZelDataResult_tags ZelDataToc::createTocItem(i_ZelDataTocItem** out) const
 {
     return store(ZelDataUtilities::createTocItemData(out));
@@ -102,13 +128,13 @@ ZelDataResult_tags ZelDataToc::createTocItem(i_ZelDataTocItem** out) const
 
 ZelDataResult_tags ZelDataToc::removeTocItemAt(unsigned long index)
 {
-    return store(items_.removeAt(index));
+    return store(guarded([&] { return items_.removeAt(index); }));
 }
 
 /// Entries and the listed language are meant to stay: what goes is the text alone.
 ZelDataResult_tags ZelDataToc::removeTocItemsForLanguage(const std::string& languageID)
 {
-    return store(guarded([&] { return removeTexts(items_.all(), languageID); }));
+    return store(guarded([&] { return removeTexts(items_, languageID); }));
 }
 
 ZelDataResult_tags ZelDataToc::getTocItemCount(unsigned long& count)

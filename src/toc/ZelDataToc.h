@@ -9,12 +9,16 @@
 #include "core/FrameRate.h"
 #include "core/ItemList.h"
 #include "core/LanguageListOwner.h"
+#include "toc/ZelDataTocItem.h"
+#include "util/Ending.h"
 
 namespace ZelInterchangeData {
 
 /// The table that the library makes. Removing an absent language is an error here.
 class ZelDataToc : public LanguageListOwner<i_ZelDataToc, ZelData_NotFound> {
 public:
+    using Items = ItemList<i_ZelDataTocItem, ZelDataTocItem>;
+
     ZelDataResult_tags isValid(bool deep) const override;
     ZelDataResult_tags makeTocConsistent() override;
 
@@ -34,6 +38,12 @@ public:
     ZelDataResult_tags getTocItemsForLanguage(std::vector<i_ZelDataTocItem*>& items,
                                               const std::string& languageID) const override;
 
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
+    /// entries: those of an own table were checked on their way in.
+    ZelDataResult_tags copyOwn(const ZelDataToc& other);
+    const Items& items() const noexcept { return items_; }
+    using LanguageListOwner::languageIDs;
+
     /// Orders the entries by start, as makeTocConsistent() does.
     ZelDataResult_tags orderTocItems();
 
@@ -41,6 +51,7 @@ protected:
     FrameRate frameRate_;
 
 private:
+    Ending checkItem(const i_ZelDataTocItem& item, bool deep, long long earliestLater) const;
     ZelDataResult_tags checkItems(bool deep) const;
     /// createTocItem() as a callable.
     auto newItem() const
@@ -49,7 +60,7 @@ private:
     }
 
     std::string imageFile_;
-    ItemList<i_ZelDataTocItem> items_;
+    Items items_;
 };
 
 } // namespace ZelInterchangeData

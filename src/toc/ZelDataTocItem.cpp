@@ -4,8 +4,6 @@
 #include "core/Factory.h"
 #include "util/GuardedCopy.h"
 
-#include <utility>
-
 namespace ZelInterchangeData {
 
 ZelDataResult_tags ZelDataUtilities::createTocItemData(i_ZelDataTocItem** out)
@@ -15,100 +13,118 @@ ZelDataResult_tags ZelDataUtilities::createTocItemData(i_ZelDataTocItem** out)
 
 ZelDataTocItem& ZelDataTocItem::operator=(const ZelDataTocItem& other)
 {
-    if (&other == this) return *this;
-    LanguageTexts texts(other.texts_);
-    ImageReference image(other.image_);
-    std::swap(texts_, texts);
-    std::swap(image_, image);
-    time_ = other.time_;
+    if (&other != this) state_ = other.state_;
     return *this;
 }
 
-/// The flag is meant to change nothing: an entry has no parts, and a second answer would
-/// tell callers that it has.
+ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    state_ = other.state_;
+    return store(ZelData_Ok);
+}
+
+ZelDataResult_tags TocEntryState::check() const
+{
+    for (const auto& [languageID, text] : texts().all()) {
+        if (failed(LanguageTexts::check(text, languageID))) return ZelData_InvalidItem;
+    }
+    return ZelData_Ok;
+}
+
+/// The flag is meant to change nothing: an entry has no parts, and a second answer would tell callers
+/// that it has.
 ZelDataResult_tags ZelDataTocItem::isValid(bool /*deep*/) const
 {
-    for (const auto& [languageID, text] : texts_.all()) {
-        if (failed(LanguageTexts::check(text, languageID))) return store(ZelData_InvalidItem);
-    }
-    return store(ZelData_Ok);
+    return store(state_.check());
 }
 
 // Titles
 
 ZelDataResult_tags ZelDataTocItem::clearText()
 {
-    texts_.clear();
-    return store(ZelData_Ok);
+    return store(guarded([&] {
+        state_.changeTexts().clear();
+        return ZelData_Ok;
+    }));
 }
 
 /// Replacing a title is meant to be a warning and no error: callers that look for errors go on.
 ZelDataResult_tags ZelDataTocItem::setTextForLanguage(const std::string& text,
                                                       const std::string& languageID)
 {
-    return store(guarded([&] { return texts_.set(text, languageID); }));
+    const auto checked = LanguageTexts::check(text, languageID);
+    if (failed(checked)) return store(checked);
+    return store(guarded([&] { return state_.changeTexts().set(text, languageID); }));
 }
 
 ZelDataResult_tags ZelDataTocItem::getTextForLanguage(std::string& text,
                                                       const std::string& languageID) const
 {
-    return store(guarded([&] { return texts_.get(text, languageID); }));
+    return store(guarded([&] { return state_.texts().get(text, languageID); }));
 }
 
 ZelDataResult_tags ZelDataTocItem::removeTextForLanguage(const std::string& languageID)
 {
-    return store(texts_.remove(languageID));
+    if (state_.texts().find(languageID) == nullptr) return store(ZelData_NotFound);
+    return store(guarded([&] { return state_.changeTexts().remove(languageID); }));
 }
 
 ZelDataResult_tags ZelDataTocItem::getLanguageIDs(std::vector<std::string>& ids) const
 {
-    return store(guarded([&] { return texts_.getLanguageIDs(ids); }));
+    return store(guarded([&] { return state_.texts().getLanguageIDs(ids); }));
 }
 
 // Start and thumbnail
 
 ZelDataResult_tags ZelDataTocItem::setStart(long long start)
 {
-    return store(time_.setStart(start) ? ZelData_Ok : ZelData_InvalidArgument);
+    if (start < 0) return store(ZelData_InvalidArgument);
+    state_.startTime = start;
+    return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataTocItem::getStart(long long& start) const
 {
-    start = time_.start;
+    start = state_.startTime;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataTocItem::setImageFile(const std::string& name)
 {
-    return store(guardedCopy(image_.file, name));
+    return store(guarded([&] {
+        std::string copy(name);
+        state_.changeImageFile().swap(copy);
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataTocItem::getImageFile(std::string& name) const
 {
-    return store(guardedCopy(name, image_.file));
+    return store(guardedCopy(name, state_.imageFile()));
 }
 
 ZelDataResult_tags ZelDataTocItem::setImageIndex(unsigned long index)
 {
-    image_.index = index;
+    state_.imageIndex = index;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataTocItem::getImageIndex(unsigned long& index) const
 {
-    index = image_.index;
+    index = state_.imageIndex;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataTocItem::setImageOffset(unsigned long long offset)
 {
-    image_.offset = offset;
+    state_.imageOffset = offset;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataTocItem::getImageOffset(unsigned long long& offset) const
 {
-    offset = image_.offset;
+    offset = state_.imageOffset;
     return store(ZelData_Ok);
 }
 

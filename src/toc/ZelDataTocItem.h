@@ -5,19 +5,46 @@
 #define ZELINTERCHANGEDATA_TOC_ZELDATATOCITEM_H
 
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/ImageReference.h"
 #include "core/LanguageTexts.h"
-#include "util/TimeSpan.h"
+#include "util/CopyOnWrite.h"
+
+#include <utility>
 
 namespace ZelInterchangeData {
+
+/// What an entry consists of. Copies share titles and file name.
+class TocEntryState {
+public:
+    long long startTime = 0;
+    unsigned long imageIndex = 0;
+    unsigned long long imageOffset = 0;
+
+    long long start() const noexcept { return startTime; }
+    const LanguageTexts& texts() const noexcept { return strings_.read().titles; }
+    LanguageTexts& changeTexts() { return strings_.write().titles; }
+    const std::string& imageFile() const noexcept { return strings_.read().imageFile; }
+    std::string& changeImageFile() { return strings_.write().imageFile; }
+    /// What i_ZelDataTocItem::isValid() gives.
+    ZelDataResult_tags check() const;
+
+private:
+    struct Strings {
+        LanguageTexts titles;
+        std::string imageFile;
+    };
+
+    CopyOnWrite<Strings> strings_;
+};
 
 /// The entry that the library makes.
 class ZelDataTocItem : public i_ZelDataTocItem {
 public:
+    using State = TocEntryState;
+
     ZelDataTocItem() = default;
+    explicit ZelDataTocItem(TocEntryState state) : state_(std::move(state)) {}
     ZelDataTocItem(const ZelDataTocItem&) = delete;
-    /// Copies all fields but the last error, without checks. Lets `std::bad_alloc` through and then
-    /// leaves the entry as it was.
+    /// Copies all fields but the last error, without checks.
     ZelDataTocItem& operator=(const ZelDataTocItem& other);
 
     ZelDataResult_tags isValid(bool deep) const override;
@@ -37,10 +64,13 @@ public:
     ZelDataResult_tags getImageIndex(unsigned long& index) const override;
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
 
+    const TocEntryState& state() const noexcept { return state_; }
+    /// As copyFrom(), with the same codes and last errors, but sharing the strings: those of an own
+    /// entry were checked when they were set.
+    ZelDataResult_tags copyOwn(const ZelDataTocItem& other);
+
 private:
-    TimeSpan time_; // an entry has no duration
-    ImageReference image_;
-    LanguageTexts texts_;
+    TocEntryState state_;
 };
 
 } // namespace ZelInterchangeData

@@ -3,7 +3,6 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "core/Factory.h"
-#include "util/Ending.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -15,72 +14,59 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-Ending describeTrack(Track& track, const i_ZelDataToc& toc)
+/// The title that the marker carries. One alone is meant: players read the name as a plain text.
+std::string_view titleOf(const TocEntryState& entry, const std::vector<std::string>& languageIDs)
+{
+    if (languageIDs.empty()) return {};
+    const std::string* title = entry.texts().find(languageIDs.front());
+    return title == nullptr ? std::string_view() : *title;
+}
+
+void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
+                 const std::vector<std::string>& languageIDs)
+{
+    markers.begin()
+        .escapedStripped("xmpDM:name", titleOf(entry, languageIDs))
+        .attribute("xmpDM:startTime", entry.startTime)
+        .escaped("zelDM:image", entry.imageFile())
+        .attribute("zelDM:imageindex", static_cast<unsigned long long>(entry.imageIndex))
+        .attribute("zelDM:imageoffset", entry.imageOffset)
+        .end();
+}
+
+/// About how many bytes the markers take: the texts with a little room for entities, and the markup.
+std::size_t expectedSize(const ZelDataToc& toc)
+{
+    constexpr std::size_t markerMarkup = 210;
+    std::size_t size = toc.items().count() * markerMarkup;
+    for (unsigned long i = 0; i < toc.items().count(); ++i) {
+        const TocEntryState& entry = toc.items().state(i);
+        size += titleOf(entry, toc.languageIDs()).size() + entry.imageFile().size();
+    }
+    return size;
+}
+
+ZelDataResult_tags writeTrack(ZelDataToc& toc, std::string& out)
 {
     unsigned long rate = 0;
     std::string image;
-    if (failed(toc.getFrameRate(rate)) || failed(toc.getImageFile(image))) {
+    if (failed(toc.makeTocConsistent()) || failed(toc.getFrameRate(rate)) ||
+        failed(toc.getImageFile(image))) {
         return toc.getLastError();
     }
+    if (toc.items().count() == 0) return ZelData_Ok;
+    Track track;
     track.description()
         .attribute("xmpDM:trackType", "TableOfContents")
         .attribute("xmpDM:trackName", "Table of Contents")
         .attribute("xmpDM:frameRate", Utilities::getRateString(rate))
         .attribute("zelDM:image", Utilities::htmlTagsToText(image));
-    return {};
-}
-
-Ending addMarker(Track& track, const i_ZelDataTocItem& item,
-                 const std::vector<std::string>& languageIDs)
-{
-    long long start = 0;
-    std::string image;
-    unsigned long index = 0;
-    unsigned long long offset = 0;
-    std::string title;
-    if (failed(item.getStart(start)) || failed(item.getImageFile(image)) ||
-        failed(item.getImageIndex(index)) || failed(item.getImageOffset(offset))) {
-        return item.getLastError();
-    }
-    // One title alone is meant: players read the marker's name as a plain text.
-    if (!languageIDs.empty() && failed(item.getTextForLanguage(title, languageIDs.front()))) {
-        return item.getLastError();
-    }
-    title = Utilities::htmlTagsToText(title);
-    track.addMarker()
-        .attribute("xmpDM:name", Utilities::stripUnsupportedCharacters(title))
-        .attribute("xmpDM:startTime", start)
-        .attribute("zelDM:image", Utilities::htmlTagsToText(image))
-        .attribute("zelDM:imageindex", Utilities::getValueString(index))
-        .attribute("zelDM:imageoffset", Utilities::getValueString(offset));
-    return {};
-}
-
-Ending addMarkers(Track& track, const i_ZelDataToc& toc, unsigned long count)
-{
-    std::vector<std::string> languageIDs;
-    if (failed(toc.getOrderedLanguageIDs(languageIDs))) return toc.getLastError();
-    for (unsigned long i = 0; i < count; ++i) {
-        i_ZelDataTocItem* handedOut = nullptr;
-        const auto got = toc.getTocItemAt(&handedOut, i);
-        const std::unique_ptr<i_ZelDataTocItem> item(handedOut);
-        if (failed(got)) return toc.getLastError();
-        if (!item) return ZelData_InternalError;
-        if (const Ending ending = addMarker(track, *item, languageIDs)) return ending;
-    }
-    return {};
-}
-
-ZelDataResult_tags writeTrack(i_ZelDataToc& toc, std::string& out)
-{
-    if (failed(toc.makeTocConsistent())) return toc.getLastError();
-    unsigned long count = 0;
-    if (failed(toc.getTocItemCount(count))) return toc.getLastError();
-    if (count == 0) return ZelData_Ok;
-    Track track;
-    if (const Ending ending = describeTrack(track, toc)) return *ending;
-    if (const Ending ending = addMarkers(track, toc, count)) return *ending;
-    out = track.text();
+    out = track.text(expectedSize(toc), [&](MarkerWriter& markers) {
+        for (unsigned long i = 0; i < toc.items().count(); ++i) {
+            const TocEntryState& entry = toc.items().state(i);
+            writeMarker(markers, entry, toc.languageIDs());
+        }
+    });
     return ZelData_Ok;
 }
 

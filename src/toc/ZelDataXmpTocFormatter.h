@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocFormatter.h"
 #include "core/XmpFormatter.h"
+#include "toc/ZelDataToc.h"
 
 #include <string>
 #include <vector>
@@ -23,7 +24,8 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
                   std::string& out);
 
 /// Writes the table-of-contents track: its properties, and one marker for each entry.
-class ZelDataXmpTocFormatter : public XmpTrackFormatter<i_ZelDataTocFormatter, i_ZelDataToc> {
+class ZelDataXmpTocFormatter
+    : public XmpTrackFormatter<i_ZelDataTocFormatter, i_ZelDataToc, ZelDataToc> {
 public:
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
                                    bool flag) const override;

@@ -3,6 +3,8 @@
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "core/FieldCopy.h"
 #include "core/ItemCopies.h"
+#include "toc/ZelDataToc.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -13,6 +15,10 @@ i_ZelDataToc::~i_ZelDataToc() = default;
 ZelDataResult_tags i_ZelDataToc::copyFrom(const i_ZelDataToc& source)
 {
     if (&source == this) return store(ZelData_InternalError);
+    // Between two tables of our own the steps below lead where sharing the entries does.
+    auto* own = exactly<ZelDataToc>(*this);
+    const auto* ownSource = exactly<ZelDataToc>(source);
+    if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
     return store(guarded([&] {
         if (failed(clearTocItems())) return getLastError();
         if (failed(i_ZelDataLanguage::copyFrom(source))) return getLastError();

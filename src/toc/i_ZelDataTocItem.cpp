@@ -2,6 +2,8 @@
 
 #include "core/FieldCopy.h"
 #include "core/TextCopy.h"
+#include "toc/ZelDataTocItem.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -12,6 +14,10 @@ ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
 {
     using Item = i_ZelDataTocItem;
     if (&source == this) return store(ZelData_InternalError);
+    // Between two entries of our own the steps below lead where sharing the strings does.
+    auto* own = exactly<ZelDataTocItem>(*this);
+    const auto* ownSource = exactly<ZelDataTocItem>(source);
+    if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
     return store(guarded([&] {
         if (const Ending ending = copyTexts(source, *this)) return *ending;
         FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });

@@ -2,6 +2,8 @@
 /// Checks and transformations of UTF-8 texts, and the alignment words.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "util/ByteBlocks.h"
+#include "util/MarkupText.h"
 
 #include <algorithm>
 #include <array>
@@ -42,15 +44,36 @@ constexpr bool isContinuation(char c) noexcept
     return (byteOf(c) & 0xC0U) == 0x80U;
 }
 
-/// Whether @p text, which is not empty, begins with a whole sequence; takes it off @p text.
-bool takeSequence(std::string_view& text) noexcept
+/// Behind the ASCII characters that begin at @p text.
+const char* skipAscii(const char* text, const char* end) noexcept
 {
-    const int count = continuationCount(byteOf(text.front()));
-    if (count == invalidLead) return false;
-    const std::string_view following = text.substr(1, static_cast<std::size_t>(count));
-    text.remove_prefix(1 + following.size());
-    return following.size() == static_cast<std::size_t>(count) &&
-           std::all_of(following.begin(), following.end(), isContinuation);
+    while (end - text >= static_cast<std::ptrdiff_t>(blockSize)) {
+        if (const ByteBlock high = highBits(loadBlock(text))) return text + bytesBeforeFirst(high);
+        text += blockSize;
+    }
+    while (text != end && byteOf(*text) < 0x80)
+        ++text;
+    return text;
+}
+
+/// Behind the whole sequences of three bytes that begin at @p text: nearly all that a CJK text has.
+const char* skipThreeByteSequences(const char* text, const char* end) noexcept
+{
+    while (end - text >= 3 && (byteOf(text[0]) & 0xF0U) == 0xE0U && isContinuation(text[1]) &&
+           isContinuation(text[2])) {
+        text += 3;
+    }
+    return text;
+}
+
+/// Behind the sequence of more than one byte that begins at @p text, or null where there is no whole
+/// one.
+const char* skipSequence(const char* text, const char* end) noexcept
+{
+    const int count = continuationCount(byteOf(*text));
+    if (count == invalidLead || end - text <= count) return nullptr;
+    if (count == 1) return isContinuation(text[1]) ? text + 2 : nullptr; // most often: no loop
+    return std::all_of(text + 1, text + 1 + count, isContinuation) ? text + 1 + count : nullptr;
 }
 
 /// The control characters below the blank, most of which XML forbids. Only the line feed stays.
@@ -96,6 +119,78 @@ constexpr bool needsEntity(char c) noexcept
     return entityPlaces[byteOf(c)] != noEntity;
 }
 
+/// Marks the bytes of @p block that need an entity, the first one exactly.
+constexpr ByteBlock needingEntity(ByteBlock block) noexcept
+{
+    // Two of the characters differ in one bit, and another two: one test serves both.
+    return zeroBytes(block ^ repeated('"')) | zeroBytes((block & repeated(0xFE)) ^ repeated('&')) |
+           zeroBytes((block & repeated(0xFD)) ^ repeated('<'));
+}
+
+/// Marks the bytes of @p block that need an entity or are below the blank, the first one exactly.
+constexpr ByteBlock needingEntityOrControl(ByteBlock block) noexcept
+{
+    return needingEntity(block) | zeroBytes(block & repeated(0xE0));
+}
+
+/// Behind the bytes from @p text on that go in as they are. @p mark marks those of a block that may not,
+/// and @p isHarmless tells for one byte.
+template <class Mark, class IsHarmless>
+const char* skipHarmless(const char* text, const char* end, Mark mark,
+                         IsHarmless isHarmless) noexcept
+{
+    while (end - text >= static_cast<std::ptrdiff_t>(blockSize)) {
+        const ByteBlock marked = mark(loadBlock(text));
+        if (marked == 0) {
+            text += blockSize;
+            continue;
+        }
+        text += bytesBeforeFirst(marked);
+        if (!isHarmless(*text)) return text;
+        ++text; // a line feed
+    }
+    return std::find_if_not(text, end, isHarmless);
+}
+
+/// Appends runs of harmless bytes as they are, and what @p replace appends for each byte between them.
+template <class Out, class Mark, class IsHarmless, class Replace>
+void appendRuns(Out& out, std::string_view text, Mark mark, IsHarmless isHarmless, Replace replace)
+{
+    const char* run = text.data();
+    const char* const end = run + text.size();
+    for (;;) {
+        const char* const stop = skipHarmless(run, end, mark, isHarmless);
+        out.append(std::string_view(run, static_cast<std::size_t>(stop - run)));
+        if (stop == end) return;
+        replace(*stop);
+        run = stop + 1;
+    }
+}
+
+std::string_view entityFor(char character)
+{
+    return entities[entityPlaces[byteOf(character)]].markup;
+}
+
+template <class Out>
+void appendEscapedTo(Out& out, std::string_view text)
+{
+    appendRuns(
+        out, text, needingEntity, [](char c) { return !needsEntity(c); },
+        [&](char c) { out.append(entityFor(c)); });
+}
+
+template <class Out>
+void appendEscapedStrippedTo(Out& out, std::string_view text)
+{
+    appendRuns(
+        out, text, needingEntityOrControl,
+        [](char c) { return !needsEntity(c) && !isUnsupported(c); },
+        [&](char c) {
+            if (needsEntity(c)) out.append(entityFor(c));
+        });
+}
+
 /// Whether @p text begins with the markup of @p entity and goes on behind it.
 bool beginsWith(std::string_view text, const Entity& entity) noexcept
 {
@@ -134,15 +229,37 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
-    std::string_view rest = text;
-    while (!rest.empty()) {
+    const char* position = text.data();
+    const char* const end = position + text.size();
+    for (;;) {
+        position = skipThreeByteSequences(skipAscii(position, end), end);
+        if (position == end) return ZelData_Ok;
+        if (byteOf(*position) < 0x80) continue;
         // Before any look at the sequence itself: a malformed one is refused for its range, too.
-        if (bmpOnly && byteOf(rest.front()) >= firstLeadBeyondBmp) {
-            return ZelData_UnsupportedCharacter;
-        }
-        if (!takeSequence(rest)) return ZelData_InvalidUtf8;
+        if (bmpOnly && byteOf(*position) >= firstLeadBeyondBmp) return ZelData_UnsupportedCharacter;
+        position = skipSequence(position, end);
+        if (position == nullptr) return ZelData_InvalidUtf8;
     }
-    return ZelData_Ok;
+}
+
+void appendEscaped(std::string& out, std::string_view text)
+{
+    appendEscapedTo(out, text);
+}
+
+void appendEscaped(TextBlock& out, std::string_view text)
+{
+    appendEscapedTo(out, text);
+}
+
+void appendEscapedStripped(std::string& out, std::string_view text)
+{
+    appendEscapedStrippedTo(out, text);
+}
+
+void appendEscapedStripped(TextBlock& out, std::string_view text)
+{
+    appendEscapedStrippedTo(out, text);
 }
 
 unsigned long ZelDataUtilities::countLinesInUTF8(const std::string& text)
@@ -170,14 +287,8 @@ std::string ZelDataUtilities::htmlTagsToText(const std::string& text)
 {
     std::string result;
     result.reserve(text.size());
-    auto run = text.begin();
-    for (;;) {
-        const auto special = std::find_if(run, text.end(), needsEntity);
-        result.append(run, special);
-        if (special == text.end()) return result;
-        result.append(entities[entityPlaces[byteOf(*special)]].markup);
-        run = special + 1;
-    }
+    appendEscaped(result, text);
+    return result;
 }
 
 std::string ZelDataUtilities::htmlTagsFromText(const std::string& text)
@@ -194,16 +305,26 @@ std::string ZelDataUtilities::htmlTagsFromText(const std::string& text)
     return result;
 }
 
-std::string ZelDataUtilities::getVerticalAlignment(ZelAlignment_tags alignment)
+std::string_view verticalWord(ZelAlignment_tags alignment) noexcept
 {
     if (has(alignment, ZelAlignBottom)) return "bottom";
     return has(alignment, ZelAlignTop) ? "top" : "center";
 }
 
-std::string ZelDataUtilities::getHorizontalAlignment(ZelAlignment_tags alignment)
+std::string_view horizontalWord(ZelAlignment_tags alignment) noexcept
 {
     if (has(alignment, ZelAlignLeft)) return "left";
     return has(alignment, ZelAlignRight) ? "right" : "center";
+}
+
+std::string ZelDataUtilities::getVerticalAlignment(ZelAlignment_tags alignment)
+{
+    return std::string(verticalWord(alignment));
+}
+
+std::string ZelDataUtilities::getHorizontalAlignment(ZelAlignment_tags alignment)
+{
+    return std::string(horizontalWord(alignment));
 }
 
 } // namespace ZelInterchangeData

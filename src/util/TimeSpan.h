@@ -18,6 +18,9 @@ struct TimeSpan {
                                       static_cast<unsigned long long>(duration));
     }
 
+    /// Whether setEnd() would take the end.
+    constexpr bool hasLength() const noexcept { return end() > start; }
+
     /// False, and nothing changes, for a negative start. The duration stays.
     constexpr bool setStart(long long value) noexcept
     {

@@ -7,8 +7,9 @@ namespace ZelInterchangeData {
 
 void appendLanguageItem(std::string& markup, const std::string& languageID, const std::string& text)
 {
-    markup.append("<rdf:li xml:lang=\"").append(languageID).append("\">");
-    markup.append(text).append("</rdf:li>");
+    openLanguageItem(markup, languageID);
+    markup += text;
+    closeLanguageItem(markup);
 }
 
 } // namespace ZelInterchangeData

@@ -14,6 +14,23 @@ inline constexpr std::string_view nameAlternativeStart = "<xmpDM:name><rdf:Alt>"
 /// Ends what #nameAlternativeStart opened.
 inline constexpr std::string_view nameAlternativeEnd = "</rdf:Alt></xmpDM:name>";
 
+/// Appends `<rdf:li xml:lang="ID">` to @p markup, a text that pieces can be appended to; the ID is
+/// written as given.
+template <class Markup>
+void openLanguageItem(Markup& markup, std::string_view languageID)
+{
+    markup.append(std::string_view("<rdf:li xml:lang=\""));
+    markup.append(languageID);
+    markup.append(std::string_view("\">"));
+}
+
+/// Ends what openLanguageItem() opened.
+template <class Markup>
+void closeLanguageItem(Markup& markup)
+{
+    markup.append(std::string_view("</rdf:li>"));
+}
+
 /// Appends `<rdf:li xml:lang="ID">text</rdf:li>` to @p markup. Nothing is escaped here: @p text is
 /// handed over as it is to be written, and so is @p languageID.
 void appendLanguageItem(std::string& markup, const std::string& languageID,

@@ -5,16 +5,9 @@
 
 namespace ZelInterchangeData {
 
-Track::Track()
-    : description_(stream_.element("rdf:li/rdf:Description")),
-      markers_(description_.element("xmpDM:markers/rdf:Seq"))
+Track::Track() : description_(stream_.element("rdf:li/rdf:Description"))
 {
-}
-
-ZelDataXmlNode& Track::addMarker()
-{
-    // In the old group the path would lead into the marker before.
-    return markers_.newGroup().element("rdf:li/rdf:Description");
+    description_.element("xmpDM:markers/rdf:Seq");
 }
 
 ZelDataXmlNode& Track::addProperty(const char* name)
@@ -22,9 +15,15 @@ ZelDataXmlNode& Track::addProperty(const char* name)
     return description_ < name;
 }
 
-std::string Track::text() const
+/// Ends @p text behind the start tag of the marker sequence and gives what stood there.
+std::string Track::cutBehindMarkersTag(std::string& text)
 {
-    return stream_.getXml(false);
+    // The last such pair is the track's own: an attribute that goes in as given may hold another.
+    constexpr std::string_view startTag = "<rdf:Seq>";
+    const std::size_t place = text.rfind("<rdf:Seq></rdf:Seq>") + startTag.size();
+    std::string rest = text.substr(place);
+    text.resize(place);
+    return rest;
 }
 
 } // namespace ZelInterchangeData

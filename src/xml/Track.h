@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_XML_TRACK_H
 #define ZELINTERCHANGEDATA_XML_TRACK_H
 
+#include "xml/MarkerWriter.h"
 #include "xml/ZelDataXmlNode.h"
 #include "xml/ZelDataXmlStream.h"
 
@@ -24,18 +25,29 @@ public:
 
     /// The description of the track, for its attributes.
     ZelDataXmlNode& description() noexcept { return description_; }
-    /// Appends a marker and returns its description, for the marker's attributes and text.
-    ZelDataXmlNode& addMarker();
     /// Appends an element called @p name after the markers and returns it. A name is used once per
     /// track: a second element of the same name would stand inside the first.
     ZelDataXmlNode& addProperty(const char* name);
-    /// The track as it is written into the packet.
-    std::string text() const;
+    /// The track as it is written into the packet. @p writeMarkers is called with a MarkerWriter
+    /// for the track's markers; @p markersSize is about how many bytes it will write.
+    template <class WriteMarkers>
+    std::string text(std::size_t markersSize, WriteMarkers&& writeMarkers) const
+    {
+        std::string text = stream_.getXml(false);
+        const std::string rest = cutBehindMarkersTag(text);
+        text.reserve(text.size() + markersSize + rest.size());
+        MarkerWriter markers(text);
+        writeMarkers(markers);
+        markers.finish();
+        text += rest;
+        return text;
+    }
 
 private:
+    static std::string cutBehindMarkersTag(std::string& text);
+
     ZelDataXmlStream stream_;
     ZelDataXmlNode& description_;
-    ZelDataXmlNode& markers_;
 };
 
 } // namespace ZelInterchangeData

@@ -2,6 +2,7 @@
 /// Captions when memory runs out, at each allocation in turn.
 
 #include "captions/Captions.h"
+#include "captions/ZelDataCaptions.h"
 #include "xml/FailingAllocation.h"
 
 namespace ZelInterchangeData {
@@ -97,9 +98,13 @@ TEST(CaptionsOutOfMemory, HandingOutOneLeavesThePointerNull)
     EXPECT_EQ(full, contentsOf(*item));
 }
 
+/// Captions of a caller: a copy of them takes every step.
+class CallersCaptions : public ZelDataCaptions {};
+
 TEST(CaptionsOutOfMemory, ACopyIsRepeatable)
 {
-    const auto source = captionsOf({full, full});
+    const auto source = std::make_unique<CallersCaptions>();
+    ASSERT_EQ(ZelData_Ok, source->copyFrom(*captionsOf({full, full})));
     const auto target = captionsOf({full});
     exhaust([&] { return target->copyFrom(*source); },
             [&] { EXPECT_EQ(ZelData_OutOfMemory, target->getLastError()); });

@@ -10,7 +10,7 @@ const std::string emptyList = "<xmpDM:Tracks><rdf:Bag></rdf:Bag></xmpDM:Tracks>"
 
 std::string inserted(std::string packet, const std::string& tracks)
 {
-    EXPECT_EQ(ZelData_Ok, insertTracks(packet, tracks));
+    EXPECT_EQ(ZelData_Ok, insertTracks(packet, {tracks}));
     return packet;
 }
 
@@ -51,7 +51,7 @@ TEST(TrackInsertion, WithoutAnEmptyListItIsAnInternalErrorAndNothingChanges)
                                       "<xmpDM:Tracks ><rdf:Bag></rdf:Bag></xmpDM:Tracks>",
                                       "<xmpDM:Tracks><rdf:Bag></rdf:Bag></xmpDM:Tracks"}) {
         std::string packet = without;
-        EXPECT_EQ(ZelData_InternalError, insertTracks(packet, "t"));
+        EXPECT_EQ(ZelData_InternalError, insertTracks(packet, {"t"}));
         EXPECT_EQ(without, packet);
     }
 }
@@ -60,7 +60,7 @@ TEST(TrackInsertion, WithoutMemoryThePacketStaysAsItWas)
 {
     std::string packet = emptyList;
     packet.shrink_to_fit();
-    const std::string tracks(1000, 't');
+    const std::vector<std::string> tracks{std::string(1000, 't')};
     ZelDataResult_tags code = ZelData_Ok;
     {
         const FailingAllocation failing(0);

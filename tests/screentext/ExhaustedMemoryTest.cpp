@@ -2,12 +2,20 @@
 /// Screen text and its formatter when memory runs out, at each allocation in turn.
 
 #include "screentext/Items.h"
+#include "screentext/ZelDataScreenText.h"
+#include "screentext/ZelDataScreenTextItem.h"
 #include "support/MemorySweep.h"
 
 #include <gtest/gtest.h>
 
 namespace ZelInterchangeData {
 namespace {
+
+/// An item of a caller: a copy of it takes every step.
+class CallersItem : public ZelDataScreenTextItem {};
+
+/// A collection of a caller: a copy of it takes every step.
+class CallersTexts : public ZelDataScreenText {};
 
 /// Too long for any string to hold it without an allocation.
 const std::string longText(60, 'x');
@@ -53,13 +61,24 @@ TEST(ScreenTextItemWithoutMemory, LeavesATextAloneThatItCannotReplace)
 
 TEST(ScreenTextItemWithoutMemory, EndsACopy)
 {
-    const auto source = itemOf(longItem);
+    const auto source = std::make_unique<CallersItem>();
+    ASSERT_EQ(ZelData_Ok, source->copyFrom(*itemOf(longItem)));
     sweepMemory([] { return itemOf(heldItem); }, ZelData_Ok,
                 [&](i_ZelDataScreenTextItem& item) { return item.copyFrom(*source); },
                 [&](const i_ZelDataScreenTextItem& item) {
                     EXPECT_EQ(5U, contentsOf(item).group); // copied last, so not at all
                     EXPECT_EQ(longItem, contentsOf(*source));
                 });
+}
+
+TEST(ScreenTextWithoutMemory, TakesACopyOfAnotherOfOurOwn)
+{
+    const auto source = heldTexts();
+    const auto texts = screenTextOf({});
+    ZelDataResult_tags code = ZelData_NoData;
+    EXPECT_FALSE(runsOutOfMemory(0, [&] { code = texts->copyFrom(*source); }));
+    EXPECT_EQ(ZelData_Ok, code);
+    EXPECT_EQ(heldItems, itemsOf(*texts));
 }
 
 TEST(ScreenTextWithoutMemory, AddsTheItemWholeOrNotAtAll)
@@ -102,7 +121,8 @@ TEST(ScreenTextWithoutMemory, HandsOutAllItemsOrNone)
 
 TEST(ScreenTextWithoutMemory, EndsACopyAfterSomeOfTheItems)
 {
-    const auto source = heldTexts();
+    const auto source = std::make_unique<CallersTexts>();
+    ASSERT_EQ(ZelData_Ok, source->copyFrom(*heldTexts()));
     sweepMemory(
         [] {
             return screenTextOf({{1, 1, "old"}});

@@ -3,11 +3,19 @@
 
 #include "support/MemorySweep.h"
 #include "toc/Entries.h"
+#include "toc/ZelDataToc.h"
+#include "toc/ZelDataTocItem.h"
 
 #include <gtest/gtest.h>
 
 namespace ZelInterchangeData {
 namespace {
+
+/// An entry of a caller: a copy of it takes every step.
+class CallersItem : public ZelDataTocItem {};
+
+/// A table of a caller: a copy of it takes every step.
+class CallersToc : public ZelDataToc {};
 
 /// Too long for any string to hold it without an allocation.
 const std::string longText(60, 'x');
@@ -76,13 +84,24 @@ TEST(TocItemWithoutMemory, LeavesATextAloneThatItCannotReplace)
 
 TEST(TocItemWithoutMemory, EndsACopy)
 {
-    const auto source = itemOf(longEntry);
+    const auto source = std::make_unique<CallersItem>();
+    ASSERT_EQ(ZelData_Ok, source->copyFrom(*itemOf(longEntry)));
     sweepMemory(
         heldItem, ZelData_Ok, [&](i_ZelDataTocItem& item) { return item.copyFrom(*source); },
         [&](const i_ZelDataTocItem& item) {
             EXPECT_EQ(4U, contentsOf(item).offset); // copied last, so not at all
             EXPECT_EQ(longEntry, contentsOf(*source));
         });
+}
+
+TEST(TocItemWithoutMemory, TakesACopyOfAnotherOfOurOwn)
+{
+    const auto source = itemOf(longEntry);
+    const auto item = heldItem();
+    ZelDataResult_tags code = ZelData_NoData;
+    EXPECT_FALSE(runsOutOfMemory(0, [&] { code = item->copyFrom(*source); }));
+    EXPECT_EQ(ZelData_Ok, code);
+    EXPECT_EQ(longEntry, contentsOf(*item));
 }
 
 TEST(TocWithoutMemory, AddsTheEntryWholeOrNotAtAll)
@@ -158,7 +177,8 @@ TEST(TocWithoutMemory, KeepsEveryEntryWhenItCannotBeMadeConsistent)
 
 TEST(TocWithoutMemory, EndsACopyAfterSomeOfTheEntries)
 {
-    const auto source = tocOf(heldEntries);
+    const auto source = std::make_unique<CallersToc>();
+    ASSERT_EQ(ZelData_Ok, source->copyFrom(*tocOf(heldEntries)));
     sweepMemory(
         [] {
             return tocOf({{1, {{"it", "Uno"}}}});

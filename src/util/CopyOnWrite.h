@@ -1,0 +1,80 @@
+/// @file
+/// Values that are shared until one of their owners changes its own.
+
+#ifndef ZELINTERCHANGEDATA_UTIL_COPYONWRITE_H
+#define ZELINTERCHANGEDATA_UTIL_COPYONWRITE_H
+
+#include <atomic>
+#include <cstddef>
+#include <utility>
+
+namespace ZelInterchangeData {
+
+/// Behaves like a @p Value of its own. Copies share one value, which costs a count and neither time
+/// nor memory for its size; the first change through an owner that shares gives that owner a copy.
+///
+/// Owners that share a value may be used from different threads, each from one at a time.
+template <class Value>
+class CopyOnWrite {
+public:
+    CopyOnWrite() : shared_(new Shared) {}
+    explicit CopyOnWrite(Value value) : shared_(new Shared(std::move(value))) {}
+
+    CopyOnWrite(const CopyOnWrite& other) noexcept : shared_(other.shared_)
+    {
+        shared_->owners.fetch_add(1, std::memory_order_relaxed);
+    }
+
+    /// @p other can then only be assigned to and destroyed.
+    CopyOnWrite(CopyOnWrite&& other) noexcept : shared_(std::exchange(other.shared_, nullptr)) {}
+
+    CopyOnWrite& operator=(CopyOnWrite other) noexcept
+    {
+        std::swap(shared_, other.shared_);
+        return *this;
+    }
+
+    ~CopyOnWrite()
+    {
+        // The last owner must see what the others did before they let go.
+        if (shared_ != nullptr && shared_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+            delete shared_;
+        }
+    }
+
+    const Value& read() const noexcept { return shared_->value; }
+
+    /// The value, no longer shared. When memory runs out it is shared as before.
+    Value& write()
+    {
+        if (isShared()) *this = CopyOnWrite(shared_->value);
+        return shared_->value;
+    }
+
+    /// Makes it a value as constructed, without memory unless it is shared.
+    void reset()
+    {
+        if (isShared()) {
+            *this = CopyOnWrite();
+        } else {
+            shared_->value = Value();
+        }
+    }
+
+    bool isShared() const noexcept { return shared_->owners.load(std::memory_order_acquire) != 1; }
+
+private:
+    struct Shared {
+        Shared() = default;
+        explicit Shared(Value&& initial) : value(std::move(initial)) {}
+
+        Value value{};
+        std::atomic<std::size_t> owners{1};
+    };
+
+    Shared* shared_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

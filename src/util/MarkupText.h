@@ -1,0 +1,32 @@
+/// @file
+/// Text on its way into markup, without a copy between.
+
+#ifndef ZELINTERCHANGEDATA_UTIL_MARKUPTEXT_H
+#define ZELINTERCHANGEDATA_UTIL_MARKUPTEXT_H
+
+#include "ZelInterchangeData/ZelAlignment_tags.h"
+#include "util/TextBlock.h"
+
+#include <string>
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() gives it.
+void appendEscaped(std::string& out, std::string_view text);
+void appendEscaped(TextBlock& out, std::string_view text);
+
+/// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() and then
+/// ZelDataUtilities::stripUnsupportedCharacters() give it.
+void appendEscapedStripped(std::string& out, std::string_view text);
+void appendEscapedStripped(TextBlock& out, std::string_view text);
+
+/// "bottom", "top" or "center", as ZelDataUtilities::getVerticalAlignment() gives it.
+std::string_view verticalWord(ZelAlignment_tags alignment) noexcept;
+
+/// "left", "right" or "center", as ZelDataUtilities::getHorizontalAlignment() gives it.
+std::string_view horizontalWord(ZelAlignment_tags alignment) noexcept;
+
+} // namespace ZelInterchangeData
+
+#endif
