@@ -1,0 +1,39 @@
+/// @file
+/// The library's side of the benchmarks: fill, set, write.
+
+#ifndef ZELINTERCHANGEDATA_BENCH_LIBRARYRUN_H
+#define ZELINTERCHANGEDATA_BENCH_LIBRARYRUN_H
+
+#include "ZelInterchangeData/ZelInterchangeData.h"
+#include "bench/Documents.h"
+
+#include <memory>
+#include <string>
+
+namespace ZelInterchangeData::bench {
+
+/// The caller's own data objects.
+struct Sets {
+    std::unique_ptr<i_ZelDataHeader> header;
+    std::unique_ptr<i_ZelDataCaptions> captions;
+    std::unique_ptr<i_ZelDataToc> toc;
+    std::unique_ptr<i_ZelDataScreenText> screenText;
+};
+
+// Each of these throws std::runtime_error when an operation does not succeed.
+
+/// Makes data objects that hold @p document, the way an application does.
+Sets fill(const Document& document);
+
+/// Hands @p sets to a new document object.
+std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
+
+/// The packet of @p core, in a string of its own.
+std::string write(const i_ZelInterchangeDataCore& core);
+
+/// A set of screen texts that start at @p starts, in this order.
+std::unique_ptr<i_ZelDataScreenText> screenTextAt(const std::vector<long long>& starts);
+
+} // namespace ZelInterchangeData::bench
+
+#endif

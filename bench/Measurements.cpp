@@ -1,0 +1,248 @@
+/// @file
+/// Interleaved rounds and their medians.
+
+#include "bench/Measurements.h"
+
+#include "bench/LibraryRun.h"
+#include "bench/Peers.h"
+#include "bench/StraightAppender.h"
+#include "bench/TextSamples.h"
+
+#include <algorithm>
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+namespace ZelInterchangeData::bench {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+std::size_t repeatsOf(std::size_t size, const Effort& effort)
+{
+    return std::max<std::size_t>(1, effort.captionsInTurn / size);
+}
+
+/// Short turns and more of them, where the document allows it: the less a disturbance spoils.
+int roundsOf(std::size_t size, const Effort& effort)
+{
+    return effort.rounds * static_cast<int>(std::clamp<std::size_t>(20000 / size, 1, 5));
+}
+
+class Stopwatch {
+public:
+    /// The seconds since the construction or the last lap.
+    double lap()
+    {
+        const auto now = Clock::now();
+        const std::chrono::duration<double> passed = now - last_;
+        last_ = now;
+        return passed.count();
+    }
+
+private:
+    Clock::time_point last_ = Clock::now();
+};
+
+template <class Operation>
+double secondsOf(Operation&& operation)
+{
+    Stopwatch watch;
+    operation();
+    return watch.lap();
+}
+
+double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// The samples of all rounds; what they are is known by their place.
+template <std::size_t Count>
+struct Samples {
+    void add(const std::array<double, Count>& round)
+    {
+        for (std::size_t i = 0; i < Count; ++i)
+            values[i].push_back(round[i]);
+    }
+
+    std::array<double, Count> medians() const
+    {
+        std::array<double, Count> result{};
+        for (std::size_t i = 0; i < Count; ++i)
+            result[i] = median(values[i]);
+        return result;
+    }
+
+    std::array<std::vector<double>, Count> values;
+};
+
+/// Fill, set, write and release, in seconds.
+std::array<double, 4> libraryTurn(const Document& document, std::size_t repeats)
+{
+    std::array<double, 4> sums{};
+    for (std::size_t i = 0; i < repeats; ++i) {
+        Stopwatch watch;
+        Sets sets = fill(document);
+        sums[0] += watch.lap();
+        auto core = set(sets);
+        sums[1] += watch.lap();
+        write(*core); // the packet is released here
+        sums[2] += watch.lap();
+        core.reset();
+        sets = {};
+        sums[3] += watch.lap();
+    }
+    return sums;
+}
+
+template <class Write>
+double peerTurn(std::size_t repeats, Write&& writeOnce)
+{
+    return secondsOf([&] {
+        std::size_t bytes = 0;
+        for (std::size_t i = 0; i < repeats; ++i)
+            bytes += writeOnce();
+        if (bytes == 0) throw std::runtime_error("a writer wrote nothing");
+    });
+}
+
+using Round = std::array<double, 8>;
+
+Round measureRound(const Document& document, const Document& written, std::size_t repeats)
+{
+    const auto own = libraryTurn(document, repeats);
+    Round round{
+        own[0],
+        own[1],
+        own[2],
+        own[3],
+        peerTurn(repeats, [&] { return appendPacket(written).size(); }),
+        peerTurn(repeats, [&] { return writeWithPugixml(written, nullptr); }),
+        peerTurn(repeats, [&] { return writeWithTinyxml2(written, nullptr); }),
+        peerTurn(repeats, [&] { return writeWithLibxml2(written, nullptr); }),
+    };
+    for (double& seconds : round)
+        seconds /= static_cast<double>(repeats);
+    return round;
+}
+
+/// Watches one write, its output included.
+void measureHeap(Case& result, const Document& document, const Document& written)
+{
+    const Sets sets = fill(document);
+    const auto core = set(sets);
+    const HeapWatch watch;
+    const std::string packet = write(*core);
+    result.heap = watch.use();
+    result.bytes = packet.size();
+    if (packet.size() != appendPacket(written).size()) {
+        throw std::runtime_error("the appender does not write what the library writes");
+    }
+}
+
+/// Runs @p operation in @p count threads at once, each with its number, and waits for all.
+template <class Operation>
+void inThreads(std::size_t count, const Operation& operation)
+{
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < count; ++i)
+        threads.emplace_back([&operation, i] { operation(i); });
+    for (std::thread& thread : threads)
+        thread.join();
+}
+
+template <class Library, class Plain>
+TextSpeed measureText(const TextSample& sample, const Effort& effort, Library&& library,
+                      Plain&& plain)
+{
+    // Many short turns: a disturbance of some milliseconds then spoils few of them.
+    constexpr int passes = 10;
+    const int turns = 20 * effort.rounds;
+    std::size_t ours = 0;
+    std::size_t theirs = 0;
+    Samples<2> samples;
+    for (int turn = 0; turn < turns; ++turn) {
+        samples.add({secondsOf([&] {
+                         for (int i = 0; i < passes; ++i)
+                             ours += library();
+                     }),
+                     secondsOf([&] {
+                         for (int i = 0; i < passes; ++i)
+                             theirs += plain();
+                     })});
+    }
+    if (ours != theirs) throw std::runtime_error("the plain loop comes to another result");
+    const auto [own, loop] = samples.medians();
+    return {sample.name, static_cast<double>(sample.bytes) * passes / own, loop / own};
+}
+
+} // namespace
+
+Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
+{
+    const Document document = makeDocument(size, order, pair);
+    const Document written = inWrittenOrder(document);
+    const std::size_t repeats = repeatsOf(size, effort);
+    Case result{size, order, pair, 0, {}, {}};
+    measureHeap(result, document, written); // and warms everything up
+    Samples<8> samples;
+    for (int round = 0; round < roundsOf(size, effort); ++round)
+        samples.add(measureRound(document, written, repeats));
+    const Round medians = samples.medians();
+    result.times = {medians[0], medians[1], medians[2], medians[3],
+                    medians[4], medians[5], medians[6], medians[7]};
+    return result;
+}
+
+ThreadGains measureThreads(const Effort& effort)
+{
+    constexpr std::size_t size = 1000;
+    // More than for one thread, whose starting must not show.
+    const std::size_t writes = 10 * repeatsOf(size, effort);
+    const std::array<Document, 2> documents = {makeDocument(size, Order::shuffled, Pair::enDe),
+                                               makeDocument(size, Order::shuffled, Pair::enJa)};
+    const std::array<Sets, 2> sets = {fill(documents[0]), fill(documents[1])};
+    const std::array cores = {set(sets[0]), set(sets[1])};
+    const auto library = [&](std::size_t i) {
+        for (std::size_t n = 0; n < writes; ++n)
+            write(*cores[i]);
+    };
+    const auto appender = [&](std::size_t i) {
+        for (std::size_t n = 0; n < writes; ++n)
+            appendPacket(documents[i]);
+    };
+    Samples<6> samples;
+    for (int round = 0; round < effort.rounds; ++round) {
+        // Alone each document has its turn in a thread too, so that only the company differs.
+        samples.add({secondsOf([&] { inThreads(1, library); }),
+                     secondsOf([&] { inThreads(1, [&](std::size_t) { library(1); }); }),
+                     secondsOf([&] { inThreads(2, library); }),
+                     secondsOf([&] { inThreads(1, appender); }),
+                     secondsOf([&] { inThreads(1, [&](std::size_t) { appender(1); }); }),
+                     secondsOf([&] { inThreads(2, appender); })});
+    }
+    const auto times = samples.medians();
+    return {(times[0] + times[1]) / times[2], (times[3] + times[4]) / times[5]};
+}
+
+std::vector<TextSpeed> measureTexts(const Effort& effort)
+{
+    std::vector<TextSpeed> speeds;
+    for (const TextSample& sample : utf8Samples()) {
+        speeds.push_back(measureText(
+            sample, effort, [&] { return countValid(sample); },
+            [&] { return countValidPlainly(sample); }));
+    }
+    const TextSample sample = captionSample();
+    std::string out;
+    speeds.push_back(measureText(
+        sample, effort, [&] { return escapeAll(sample, out); },
+        [&] { return escapeAllPlainly(sample, out); }));
+    return speeds;
+}
+
+} // namespace ZelInterchangeData::bench

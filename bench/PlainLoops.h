@@ -1,0 +1,22 @@
+/// @file
+/// The plainest way to do what the library's text functions do: one byte after another.
+
+#ifndef ZELINTERCHANGEDATA_BENCH_PLAINLOOPS_H
+#define ZELINTERCHANGEDATA_BENCH_PLAINLOOPS_H
+
+#include <string>
+#include <string_view>
+
+namespace ZelInterchangeData::bench {
+
+/// Whether the sequences of @p text have the form of UTF-8, as ZelDataUtilities::verifyUtf8Format()
+/// without its limit to 16 bits sees it.
+bool hasUtf8Form(std::string_view text);
+
+/// Appends @p text to @p out with the five entities and without control characters, line feeds
+/// excepted.
+void appendEscapedByteByByte(std::string& out, std::string_view text);
+
+} // namespace ZelInterchangeData::bench
+
+#endif

@@ -1,0 +1,215 @@
+/// @file
+/// Draws the figures that count from the measurements: always the worst case.
+
+#include "bench/RatioReport.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+
+namespace ZelInterchangeData::bench {
+
+namespace {
+
+std::string fixed(double value, int digits = 2)
+{
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%.*f", digits, value);
+    return text.data();
+}
+
+/// A limit as it stands in the table, without zeros that say nothing.
+std::string limitText(double value)
+{
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%g", value);
+    return text.data();
+}
+
+Row atMost(std::string measure, double must, double goal, double value, const std::string& where)
+{
+    const std::string detail = where.empty() ? "" : " (" + where + ")";
+    return {std::move(measure), "≤ " + limitText(must), "≤ " + limitText(goal),
+            fixed(value) + detail, value <= must ? Verdict::met : Verdict::missed};
+}
+
+Row atLeast(std::string measure, double must, const std::string& goal, double value)
+{
+    return {std::move(measure), "≥ " + limitText(must), goal, fixed(value),
+            value >= must ? Verdict::met : Verdict::missed};
+}
+
+Row shown(std::string measure, std::string must, std::string goal, std::string measured)
+{
+    return {std::move(measure), std::move(must), std::move(goal), std::move(measured),
+            Verdict::shown};
+}
+
+Row notMeasured(std::string measure)
+{
+    return {std::move(measure), "", "", "not measured", Verdict::notMeasured};
+}
+
+std::string whereOf(const Case& aCase)
+{
+    return "N = " + std::to_string(aCase.size) + ", " + std::string(nameOf(aCase.order)) + ", " +
+           std::string(nameOf(aCase.pair));
+}
+
+double allSteps(const Times& times)
+{
+    // With the release, because the peers' times hold theirs.
+    return times.fill + times.set + times.write + times.release;
+}
+
+double allocationsPerCaption(const Case& aCase)
+{
+    return static_cast<double>(aCase.heap.allocations) / static_cast<double>(aCase.size);
+}
+
+double peakPerByte(const Case& aCase)
+{
+    return static_cast<double>(aCase.heap.peak) / static_cast<double>(aCase.bytes);
+}
+
+/// A row for the case with the largest @p value.
+Row worstCase(const std::vector<Case>& cases, const char* measure, double must, double goal,
+              const std::function<double(const Case&)>& value)
+{
+    if (cases.empty()) return notMeasured(measure);
+    const auto worst =
+        std::max_element(cases.begin(), cases.end(),
+                         [&](const Case& a, const Case& b) { return value(a) < value(b); });
+    return atMost(measure, must, goal, value(*worst), whereOf(*worst));
+}
+
+double exponent(const Case& small, const Case& large)
+{
+    return std::log(large.times.write / small.times.write) /
+           std::log(static_cast<double>(large.size) / static_cast<double>(small.size));
+}
+
+/// From 1,000 captions to 100,000; a run that leaves out one of them says nothing about growth.
+Row growthRow(const std::vector<Case>& cases, Order order)
+{
+    const std::string measure =
+        "growth from N = 1,000 to 100,000, exponent, " + std::string(nameOf(order));
+    double worst = 0;
+    std::string where;
+    for (const Case& small : cases) {
+        for (const Case& large : cases) {
+            const bool pair = small.size == 1000 && large.size == 100000 && small.order == order &&
+                              large.order == order && small.pair == large.pair;
+            if (!pair || (!where.empty() && exponent(small, large) <= worst)) continue;
+            worst = exponent(small, large);
+            where = nameOf(small.pair);
+        }
+    }
+    return where.empty() ? notMeasured(measure) : atMost(measure, 1.15, 1.05, worst, where);
+}
+
+std::vector<Row> threadRows(const std::optional<ThreadGains>& gains)
+{
+    const char* const share = "two threads: gain ÷ the appender's gain";
+    if (!gains) return {notMeasured(share)};
+    return {shown("two threads, own documents", "≥ 1.7 ×", "≥ 1.9 ×",
+                  fixed(gains->library) + " × (appender " + fixed(gains->appender) + " ×)"),
+            atLeast(share, 0.9, "", gains->library / gains->appender)};
+}
+
+struct TextLimits {
+    const char* measure;
+    /// GB/s.
+    double must;
+    double goal;
+    /// As a multiple of the plain loop's speed; `must` over the loop's GB/s where it was set.
+    double multiple;
+};
+
+/// In the order of measureTexts().
+constexpr std::array<TextLimits, 4> textLimits = {{
+    {"UTF-8 check, short ASCII texts", 2, 4, 1.4},
+    {"UTF-8 check, short Latin texts", 1, 2, 1.3},
+    {"UTF-8 check, short CJK texts", 0.75, 2, 1.1},
+    {"escape and strip, caption-length texts", 1.2, 2, 2.6},
+}};
+
+void addTextRows(std::vector<Row>& rows, const std::vector<TextSpeed>& texts)
+{
+    for (std::size_t i = 0; i < textLimits.size(); ++i) {
+        const TextLimits& limits = textLimits[i];
+        const std::string multiple = std::string(limits.measure) + ": multiple of the plain loop";
+        if (i >= texts.size()) {
+            rows.push_back(notMeasured(multiple));
+            continue;
+        }
+        rows.push_back(shown(limits.measure, "≥ " + limitText(limits.must) + " GB/s",
+                             "≥ " + limitText(limits.goal) + " GB/s",
+                             fixed(texts[i].bytesPerSecond / 1e9) + " GB/s"));
+        rows.push_back(atLeast(multiple, limits.multiple, "", texts[i].timesPlain));
+    }
+}
+
+std::string caseLine(const Case& aCase)
+{
+    const Times& t = aCase.times;
+    std::string line = "| " + std::to_string(aCase.size) + " | " +
+                       std::string(nameOf(aCase.order)) + " | " + std::string(nameOf(aCase.pair));
+    for (const double value :
+         {t.fill / t.appender, t.set / t.appender, t.write / t.appender, allSteps(t) / t.appender,
+          t.pugixml / t.appender, t.tinyxml2 / t.appender, t.libxml2 / t.appender,
+          allocationsPerCaption(aCase), peakPerByte(aCase),
+          t.appender * 1e9 / static_cast<double>(aCase.size),
+          static_cast<double>(aCase.bytes) / static_cast<double>(aCase.size)}) {
+        line += " | " + fixed(value);
+    }
+    return line + " |\n";
+}
+
+} // namespace
+
+std::vector<Row> ratioRows(const Results& results)
+{
+    const auto& cases = results.cases;
+    std::vector<Row> rows = {
+        worstCase(cases, "write ÷ pugixml (build and save)", 0.5, 0.25,
+                  [](const Case& c) { return c.times.write / c.times.pugixml; }),
+        worstCase(cases, "write ÷ straight appender", 2, 1,
+                  [](const Case& c) { return c.times.write / c.times.appender; }),
+        worstCase(cases, "fill + set + write ÷ pugixml", 2, 1,
+                  [](const Case& c) { return allSteps(c.times) / c.times.pugixml; }),
+        worstCase(cases, "allocations per caption in a write", 6, 0.1, allocationsPerCaption),
+        worstCase(cases, "peak heap in a write ÷ bytes out", 3, 2.2, peakPerByte),
+    };
+    for (const Order order : allOrders)
+        rows.push_back(growthRow(cases, order));
+    for (Row& row : threadRows(results.threads))
+        rows.push_back(std::move(row));
+    addTextRows(rows, results.texts);
+    return rows;
+}
+
+std::string ratioTable(const std::vector<Row>& rows)
+{
+    std::string table = "| measure | must | goal | measured |\n|---|---|---|---|\n";
+    for (const Row& row : rows) {
+        table += "| " + row.measure + " | " + row.must + " | " + row.goal + " | " + row.measured;
+        table += " |\n";
+    }
+    return table;
+}
+
+std::string caseTable(const std::vector<Case>& cases)
+{
+    std::string table =
+        "| N | order | languages | fill | set | write | fill + set + write + release "
+        "| pugixml | tinyxml2 | libxml2 | allocations per caption "
+        "| peak heap ÷ bytes | appender, ns per caption | bytes per caption |\n"
+        "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n";
+    for (const Case& aCase : cases)
+        table += caseLine(aCase);
+    return table;
+}
+
+} // namespace ZelInterchangeData::bench

@@ -1,0 +1,69 @@
+/// @file
+/// A fixed amount of work for callgrind, one dump for each named section.
+
+#include "bench/LibraryRun.h"
+#include "bench/StraightAppender.h"
+#include "bench/TextSamples.h"
+
+#include <valgrind/callgrind.h>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace ZelInterchangeData::bench {
+
+namespace {
+
+/// Counts the instructions of @p work alone, under @p name. The library's sections and the others'
+/// are counted in the same way. Outside valgrind the requests do nothing.
+template <class Work>
+void section(const std::string& name, Work&& work)
+{
+    CALLGRIND_ZERO_STATS;
+    CALLGRIND_TOGGLE_COLLECT;
+    const std::size_t result = work();
+    CALLGRIND_TOGGLE_COLLECT;
+    CALLGRIND_DUMP_STATS_AT(name.c_str());
+    if (result == 0) throw std::runtime_error(name + " did nothing");
+    std::printf("%s %zu\n", name.c_str(), result);
+}
+
+void probeDocument(std::size_t size, Order order)
+{
+    const Document document = makeDocument(size, order, Pair::enDe);
+    const Document written = inWrittenOrder(document);
+    const Sets sets = fill(document);
+    const auto core = set(sets);
+    const std::string place = std::string(nameOf(order)) + "." + std::to_string(size);
+    section("write." + place, [&] { return write(*core).size(); });
+    section("appender." + place, [&] { return appendPacket(written).size(); });
+}
+
+void probeTexts()
+{
+    for (const TextSample& sample : utf8Samples()) {
+        const std::string name = std::string("utf8.") + sample.name;
+        section(name, [&] { return countValid(sample); });
+        section(name + ".plain", [&] { return countValidPlainly(sample); });
+    }
+    const TextSample sample = captionSample();
+    std::string out;
+    out.reserve(sample.bytes * 2);
+    section("escape", [&] { return escapeAll(sample, out); });
+    section("escape.plain", [&] { return escapeAllPlainly(sample, out); });
+}
+
+} // namespace
+
+} // namespace ZelInterchangeData::bench
+
+int main()
+{
+    using namespace ZelInterchangeData::bench;
+    for (const Order order : allOrders) {
+        for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}})
+            probeDocument(size, order);
+    }
+    probeTexts();
+    return 0;
+}

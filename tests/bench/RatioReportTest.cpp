@@ -1,0 +1,93 @@
+#include "bench/RatioReport.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace ZelInterchangeData::bench {
+
+namespace {
+
+Case caseOf(std::size_t size, Order order, double write)
+{
+    Case result;
+    result.size = size;
+    result.order = order;
+    result.bytes = size * 500;
+    result.times = {1, 1, write, 1, 10, 20, 30, 40};
+    result.heap = {size * 2, size * 1000};
+    return result;
+}
+
+Row rowOf(const Results& results, const std::string& measure)
+{
+    const auto rows = ratioRows(results);
+    const auto found = std::find_if(rows.begin(), rows.end(),
+                                    [&](const Row& row) { return row.measure == measure; });
+    EXPECT_NE(found, rows.end()) << measure;
+    return found == rows.end() ? Row{} : *found;
+}
+
+TEST(RatioReportTest, TakesTheWorstCase)
+{
+    const Results results{
+        {caseOf(100, Order::tied, 4), caseOf(100, Order::shuffled, 9)}, std::nullopt, {}};
+    const Row row = rowOf(results, "write ÷ straight appender");
+    EXPECT_EQ(row.measured, "0.90 (N = 100, shuffled, en+de)");
+    EXPECT_EQ(row.verdict, Verdict::met);
+    EXPECT_EQ(rowOf(results, "fill + set + write ÷ pugixml").measured,
+              "0.60 (N = 100, shuffled, en+de)");
+    EXPECT_EQ(rowOf(results, "allocations per caption in a write").measured,
+              "2.00 (N = 100, tied, en+de)");
+    EXPECT_EQ(rowOf(results, "peak heap in a write ÷ bytes out").measured,
+              "2.00 (N = 100, tied, en+de)");
+}
+
+TEST(RatioReportTest, MissesWhatLiesAboveTheMust)
+{
+    const Results results{{caseOf(100, Order::tied, 21)}, std::nullopt, {}};
+    EXPECT_EQ(rowOf(results, "write ÷ straight appender").verdict, Verdict::missed);
+    EXPECT_EQ(rowOf(results, "write ÷ pugixml (build and save)").verdict, Verdict::missed);
+}
+
+TEST(RatioReportTest, TheExponentOfQuadraticGrowthIsTwo)
+{
+    const Results results{
+        {caseOf(1000, Order::reversed, 1), caseOf(100000, Order::reversed, 1e4)}, std::nullopt, {}};
+    const Row row = rowOf(results, "growth from N = 1,000 to 100,000, exponent, reversed");
+    EXPECT_EQ(row.measured, "2.00 (en+de)");
+    EXPECT_EQ(row.verdict, Verdict::missed);
+}
+
+TEST(RatioReportTest, GrowthOverOtherSizesIsNotMeasured)
+{
+    const Results results{
+        {caseOf(100, Order::tied, 1), caseOf(1000, Order::tied, 1)}, std::nullopt, {}};
+    EXPECT_EQ(rowOf(results, "growth from N = 1,000 to 100,000, exponent, tied").verdict,
+              Verdict::notMeasured);
+}
+
+TEST(RatioReportTest, ChecksTheShareOfTheAppendersGainAndShowsTheGain)
+{
+    Results results;
+    results.threads = ThreadGains{1.6, 2.0};
+    EXPECT_EQ(rowOf(results, "two threads: gain ÷ the appender's gain").verdict, Verdict::missed);
+    const Row gain = rowOf(results, "two threads, own documents");
+    EXPECT_EQ(gain.measured, "1.60 × (appender 2.00 ×)");
+    EXPECT_EQ(gain.verdict, Verdict::shown);
+}
+
+TEST(RatioReportTest, ChecksTextsByTheMultipleOfThePlainLoopAlone)
+{
+    Results results;
+    results.texts = {{"ASCII", 1e9, 3}, {"Latin", 1e9, 0.5}, {"CJK", 1e9, 1}, {"captions", 1e9, 2}};
+    EXPECT_EQ(rowOf(results, "UTF-8 check, short ASCII texts").verdict, Verdict::shown);
+    EXPECT_EQ(rowOf(results, "UTF-8 check, short ASCII texts: multiple of the plain loop").verdict,
+              Verdict::met);
+    EXPECT_EQ(rowOf(results, "UTF-8 check, short Latin texts: multiple of the plain loop").verdict,
+              Verdict::missed);
+}
+
+} // namespace
+
+} // namespace ZelInterchangeData::bench
