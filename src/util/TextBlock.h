@@ -7,7 +7,6 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -28,8 +27,8 @@ public:
             appendLong(piece);
             return;
         }
-        std::memcpy(block_.data() + size_, piece.data(), piece.size());
-        size_ += piece.size();
+        size_ +=
+            piece.copy(block_.data() + size_, piece.size()); // takes an empty view of nothing, too
     }
 
     /// Appends @p number in decimal.

@@ -17,6 +17,7 @@ TEST(TextBlock, GivesThePiecesToTheEndOfTheStringWhenItIsFlushed)
     TextBlock block(text);
     block.append("ab");
     block.append("");
+    block.append(std::string_view()); // points nowhere
     block.append("c");
     EXPECT_EQ(3U, block.position());
     block.flush();
