@@ -2,6 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "core/Factory.h"
+#include "util/TextLines.h"
 
 namespace ZelInterchangeData {
 
@@ -26,7 +27,7 @@ ZelDataCaptionItem& ZelDataCaptionItem::operator=(const ZelDataCaptionItem& othe
 ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
 {
     other.setLastError(ZelData_Ok); // as the getters leave it
-    state_.shareTextsOf(other.state_);
+    state_.changeTexts() = other.state_.texts();
     state_.time.start = other.state_.time.start;
     if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
     state_.time.duration = other.state_.time.duration;
@@ -38,11 +39,9 @@ ZelDataResult_tags CaptionState::check(bool strict) const
 {
     if (time.duration <= 0) return ZelData_InvalidItem;
     if (strict && time.duration < recommendedDuration) return ZelData_WarnItemGuidelines;
-    for (const auto& [languageID, text] : texts().all()) {
-        if (failed(LanguageTexts::check(text, languageID))) return ZelData_InvalidItem;
-        if (strict && ZelDataUtilities::countLinesInUTF8(text) > recommendedLines) {
-            return ZelData_WarnItemGuidelines;
-        }
+    // Languages and texts were checked when they were set; what is left are the lines.
+    for (std::size_t i = 0; strict && i < texts().count(); ++i) {
+        if (countLines(texts()[i].text) > recommendedLines) return ZelData_WarnItemGuidelines;
     }
     return ZelData_Ok;
 }
@@ -54,7 +53,7 @@ ZelDataResult_tags ZelDataCaptionItem::isValid(bool strict) const
 
 ZelDataResult_tags ZelDataCaptionItem::clearText()
 {
-    state_.clearTexts();
+    state_.changeTexts().clear();
     return store(ZelData_Ok);
 }
 
@@ -91,7 +90,6 @@ ZelDataResult_tags ZelDataCaptionItem::setAlignment(ZelAlignment_tags alignment)
 
 ZelDataResult_tags ZelDataCaptionItem::removeTextForLanguage(const std::string& languageID)
 {
-    if (state_.texts().find(languageID) == nullptr) return store(ZelData_NotFound);
     return store(state_.changeTexts().remove(languageID));
 }
 

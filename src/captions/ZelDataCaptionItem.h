@@ -6,7 +6,7 @@
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "core/LanguageTexts.h"
-#include "util/CopyOnWrite.h"
+#include "core/TextSummary.h"
 #include "util/TimeSpan.h"
 
 #include <utility>
@@ -16,19 +16,20 @@ namespace ZelInterchangeData {
 /// What a caption consists of. Copies share the texts.
 class CaptionState {
 public:
+    using Summary = TextSummary;
+
     TimeSpan time;
     ZelAlignment_tags alignment = ZelAlignBottom;
 
     long long start() const noexcept { return time.start; }
-    const LanguageTexts& texts() const noexcept { return texts_.read(); }
-    LanguageTexts& changeTexts() { return texts_.write(); }
-    void clearTexts() { texts_.reset(); }
-    void shareTextsOf(const CaptionState& other) { texts_ = other.texts_; }
+    const LanguageTexts& texts() const noexcept { return texts_; }
+    LanguageTexts& changeTexts() noexcept { return texts_; }
+    void prefetch() const noexcept { texts_.prefetch(); }
     /// What i_ZelDataCaptionItem::isValid() gives.
     ZelDataResult_tags check(bool strict) const;
 
 private:
-    CopyOnWrite<LanguageTexts> texts_;
+    LanguageTexts texts_;
 };
 
 /// The caption item that the library makes. Exhausted memory passes through as `std::bad_alloc`.

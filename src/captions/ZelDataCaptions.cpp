@@ -190,11 +190,8 @@ ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
             other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
             return ZelData_InvalidArgument;
         }
-        languages().clear();
-        for (unsigned long i = 0; i < other.items_.count(); ++i) {
-            addCheckedLanguagesOf(other.items_.state(i).texts());
-        }
         items_ = other.items_;
+        languages() = items_.summary().languages; // rebuilt from the items
         return ZelData_Ok;
     }));
 }

@@ -55,6 +55,8 @@ public:
     bool canHandOutItems() const;
     const CaptionStyle& style() const noexcept { return style_; }
     const Items& items() const noexcept { return items_; }
+    /// What is known of all items.
+    const TextSummary& summary() { return items_.summary(); }
     using LanguageListOwner::languageIDs;
 
     /// Orders the items by start, as makeCaptionsConsistent() does.

@@ -57,7 +57,7 @@ std::size_t lengthOf(const TextBlock& markup)
 }
 
 template <class Markup>
-void appendCaption(Markup& markup, const std::string& languageID, const std::string& text)
+void appendCaption(Markup& markup, std::string_view languageID, std::string_view text)
 {
     openLanguageItem(markup, languageID);
     const std::size_t begin = lengthOf(markup);
@@ -66,21 +66,18 @@ void appendCaption(Markup& markup, const std::string& languageID, const std::str
     closeLanguageItem(markup);
 }
 
-/// buildCaptionList() for an item of our own, whose texts are not copied. False when one is missing.
-bool appendCaptions(TextBlock& markup, const CaptionState& item,
+/// As buildCaptionList(), for an item of our own. A text that is missing counts as empty, as
+/// makeCaptionsConsistent() has it.
+void appendCaptions(TextBlock& markup, const LanguageTexts& texts,
                     const std::vector<std::string>& languageIDs)
 {
     markup.append(nameAlternativeStart);
-    for (const std::string& id : languageIDs) {
-        const std::string* text = item.texts().find(id);
-        if (text == nullptr) return false;
-        appendCaption(markup, id, *text);
-    }
+    for (const std::string& id : languageIDs)
+        appendCaption(markup, id, texts.find(id).value_or(std::string_view()));
     markup.append(nameAlternativeEnd);
-    return true;
 }
 
-bool writeMarker(MarkerWriter& markers, const CaptionState& item,
+void writeMarker(MarkerWriter& markers, const CaptionState& item,
                  const std::vector<std::string>& languageIDs)
 {
     markers.begin()
@@ -88,45 +85,8 @@ bool writeMarker(MarkerWriter& markers, const CaptionState& item,
         .attribute("xmpDM:duration", item.time.duration)
         .attribute("zelDM:valign", verticalWord(item.alignment))
         .attribute("zelDM:halign", horizontalWord(item.alignment));
-    const bool complete = appendCaptions(markers.content(), item, languageIDs);
+    appendCaptions(markers.content(), item.texts(), languageIDs);
     markers.endContent();
-    return complete;
-}
-
-/// About how many bytes the markers take: the texts with a little room for entities, and the markup.
-std::size_t expectedSize(const ZelDataCaptions& captions)
-{
-    constexpr std::size_t markerMarkup = 210;
-    constexpr std::size_t languageMarkup = 40;
-    std::size_t size =
-        captions.items().count() * (markerMarkup + captions.languageIDs().size() * languageMarkup);
-    for (unsigned long i = 0; i < captions.items().count(); ++i) {
-        const CaptionState& item = captions.items().state(i);
-        for (const auto& entry : item.texts().all())
-            size += entry.second.size();
-    }
-    return size;
-}
-
-ZelDataResult_tags writeTrack(ZelDataCaptions& captions, std::string& out)
-{
-    if (captions.items().count() == 0) return ZelData_Ok;
-    if (failed(captions.makeCaptionsConsistent())) return captions.getLastError();
-    if (!captions.canHandOutItems()) return ZelData_InvalidArgument;
-    Track track;
-    describeTrack(track, captions.style());
-    addColor(track, "zel:fgColor", captions.style().foreground);
-    addColor(track, "zel:bgColor", captions.style().background);
-    bool complete = true;
-    std::string text = track.text(expectedSize(captions), [&](MarkerWriter& markers) {
-        for (unsigned long i = 0; i < captions.items().count(); ++i) {
-            const CaptionState& item = captions.items().state(i);
-            complete = writeMarker(markers, item, captions.languageIDs()) && complete;
-        }
-    });
-    if (!complete) return ZelData_InternalError;
-    out = std::move(text);
-    return ZelData_Ok;
 }
 
 } // namespace
@@ -167,15 +127,36 @@ ZelDataResult_tags ZelDataXmpCaptionFormatter::getCaptions(i_ZelDataCaptions& /*
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpCaptionFormatter::writeString(std::string& out,
-                                                           ZelDataFormatType_tags format,
-                                                           bool /*flag*/) const
+ZelDataResult_tags ZelDataXmpCaptionFormatter::measureTrack(std::size_t& size) const
 {
-    return store(guarded([&] {
-        if (format != ZelDataFormat_Xmp) return ZelData_InternalError;
-        if (held() == nullptr) return ZelData_InvalidData;
-        return writeTrack(*held(), out);
-    }));
+    // The texts with a little room for entities, and the markup.
+    constexpr std::size_t trackMarkup = 700;
+    constexpr std::size_t markerMarkup = 210;
+    constexpr std::size_t languageMarkup = 40;
+    ZelDataCaptions& captions = *held();
+    const std::size_t count = captions.items().count();
+    if (count == 0) return ZelData_Ok;
+    if (!captions.canHandOutItems()) return ZelData_InvalidArgument;
+    size = trackMarkup + count * (markerMarkup + captions.languageIDs().size() * languageMarkup) +
+           captions.summary().size;
+    return ZelData_Ok;
+}
+
+/// The captions are written as makeCaptionsConsistent() leaves them: in order, with a text in each
+/// language, with a styling in its range.
+void ZelDataXmpCaptionFormatter::appendTrack(std::string& packet) const
+{
+    const ZelDataCaptions& captions = *held();
+    CaptionStyle style = captions.style();
+    style.repair();
+    Track track;
+    describeTrack(track, style);
+    addColor(track, "zel:fgColor", style.foreground);
+    addColor(track, "zel:bgColor", style.background);
+    track.appendTo(packet, [&](MarkerWriter& markers) {
+        captions.items().visitOrdered(
+            [&](const CaptionState& item) { writeMarker(markers, item, captions.languageIDs()); });
+    });
 }
 
 } // namespace ZelInterchangeData

@@ -24,12 +24,14 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
 
 /// Writes the caption track: its styling, and one marker for each item.
 class ZelDataXmpCaptionFormatter
-    : public XmpTrackFormatter<i_ZelDataCaptionFormatter, i_ZelDataCaptions, ZelDataCaptions> {
+    : public XmpTrackFormatter<i_ZelDataCaptionFormatter, i_ZelDataCaptions, ZelDataCaptions,
+                               ZelDataXmpCaptionFormatter> {
 public:
-    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
-                                   bool flag) const override;
     ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) override;
     ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const override;
+
+    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    void appendTrack(std::string& packet) const;
 };
 
 } // namespace ZelInterchangeData

@@ -9,8 +9,10 @@
 #include "core/ItemOrder.h"
 #include "util/CopyOnWrite.h"
 #include "util/ExactType.h"
+#include "util/Prefetch.h"
 
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -24,29 +26,51 @@ namespace ZelInterchangeData {
 ///
 /// @tparam Item the interface of the items.
 /// @tparam Own our implementation of it. It has a `State` with a `start()`, is made from one, and
-///         gives it with `state()`.
+///         gives it with `state()`. What is worth knowing of all states together is the state's
+///         `Summary`, to which each is added in stored order.
 template <class Item, class Own>
 class ItemList {
 public:
     using State = typename Own::State;
+    using Summary = typename State::Summary;
 
     unsigned long count() const noexcept { return slots_.read().size(); }
-    void clear() { slots_.reset(); }
+
+    void clear()
+    {
+        slots_.reset();
+        summary_ = Summary();
+    }
 
     /// Whether the item at @p index is one of our own.
     bool isOwn(unsigned long index) const noexcept { return !slots_.read()[index].foreign; }
     /// The state of the item at @p index, which is one of our own.
     const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
 
+    /// What is known of all items, which are our own.
+    const Summary& summary()
+    {
+        if (!summary_) {
+            Summary summary;
+            for (const Slot& slot : slots_.read())
+                summary.add(slot.state);
+            summary_ = std::move(summary);
+        }
+        return *summary_;
+    }
+
     void append(std::unique_ptr<Item> item)
     {
+        auto summary = std::exchange(summary_, std::nullopt); // comes back when the item is in
         Slot slot;
         if (const auto* own = exactly<Own>(std::as_const(*item))) {
             slot.state = own->state();
+            if (summary) summary->add(slot.state);
         } else {
             slot.foreign = std::move(item);
         }
         slots_.write().push_back(std::move(slot));
+        summary_ = std::move(summary);
     }
 
     /// What @p use, a callable for an item, gives for the item at @p index.
@@ -63,6 +87,7 @@ public:
     template <class Change>
     auto change(unsigned long index, Change&& change)
     {
+        summary_.reset();
         Slot& slot = slots_.write()[index];
         if (slot.foreign) return change(*slot.foreign);
         Borrowed borrowed(slot.state);
@@ -78,6 +103,27 @@ public:
         return starts;
     }
 
+    /// Calls @p visit with the state of each item, which is one of our own, in the order that
+    /// order() would give them.
+    template <class Visit>
+    void visitOrdered(Visit&& visit) const
+    {
+        const auto places = exchangeOrder(starts());
+        if (places.empty()) {
+            for (const Slot& slot : slots_.read())
+                visit(slot.state);
+            return;
+        }
+        // The items lie anywhere in memory: what a later visit needs is called for in time.
+        constexpr std::size_t ahead = 8;
+        const auto& slots = slots_.read();
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            if (i + 2 * ahead < places.size()) prefetch(&slots[places[i + 2 * ahead]]);
+            if (i + ahead < places.size()) slots[places[i + ahead]].state.prefetch();
+            visit(slots[places[i]].state);
+        }
+    }
+
     /// Orders the items by start, as exchangeOrder() says.
     void order()
     {
@@ -87,6 +133,7 @@ public:
         ordered.reserve(places.size());
         for (const std::size_t place : places)
             ordered.push_back(slots_.read()[place]);
+        summary_.reset();
         slots_ = CopyOnWrite<Slots>(std::move(ordered));
     }
 
@@ -94,6 +141,7 @@ public:
     ZelDataResult_tags removeAt(unsigned long index)
     {
         if (index >= count()) return ZelData_InvalidArgument;
+        summary_.reset();
         Slots& slots = slots_.write();
         slots.erase(slots.begin() + static_cast<typename Slots::difference_type>(index));
         return ZelData_Ok;
@@ -157,6 +205,7 @@ private:
     };
 
     CopyOnWrite<Slots> slots_;
+    std::optional<Summary> summary_ = Summary(); // none while it is not known
 };
 
 } // namespace ZelInterchangeData

@@ -1,6 +1,8 @@
 #include "core/ItemOrder.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -13,10 +15,12 @@ using Places = std::vector<std::size_t>;
 /// Counts at places, with sums of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    explicit PrefixCounts(std::size_t size) : sums_(size + 1)
+    /// Room for @p size places, and more up to the next power of two, so that take() stays inside.
+    explicit PrefixCounts(std::size_t size)
     {
-        while (highestStep_ * 2 <= size)
+        while (highestStep_ <= size)
             highestStep_ *= 2;
+        sums_.resize(highestStep_ * 2);
     }
 
     /// One at each place, where nothing was counted yet.
@@ -48,13 +52,11 @@ public:
     {
         std::size_t place = 0;
         for (std::size_t step = highestStep_; step > 0; step /= 2) {
-            if (place + step >= sums_.size()) continue;
-            if (sums_[place + step] <= count) {
-                place += step;
-                count -= sums_[place];
-            } else {
-                --sums_[place + step];
-            }
+            std::size_t& sum = sums_[place + step];
+            const bool isBelow = sum <= count; // no branch on it: it cannot be foreseen
+            count -= isBelow ? sum : 0;
+            sum -= isBelow ? 0 : 1;
+            place += isBelow ? step : 0;
         }
         return place;
     }
@@ -66,17 +68,59 @@ private:
     std::size_t highestStep_ = 1;
 };
 
-/// The order of a stable sort.
+/// An item's start, as a number that orders like it from its lowest byte to its highest, and its place.
+struct Keyed {
+    std::uint64_t key;
+    std::size_t place;
+
+    std::uint8_t byteAt(unsigned shift) const noexcept
+    {
+        return static_cast<std::uint8_t>(key >> shift);
+    }
+};
+
+/// How many of @p items have each value of the byte at @p shift.
+std::array<std::size_t, 256> countBytes(const std::vector<Keyed>& items, unsigned shift)
+{
+    std::array<std::size_t, 256> counts{};
+    for (const Keyed& item : items) {
+        ++counts[item.byteAt(shift)];
+    }
+    return counts;
+}
+
+/// Orders @p items by the byte at @p shift alone, those of equal bytes as they stand.
+void orderByByte(std::vector<Keyed>& items, std::vector<Keyed>& scratch, unsigned shift)
+{
+    auto next = countBytes(items, shift);
+    std::size_t sum = 0;
+    for (std::size_t& place : next) {
+        sum += std::exchange(place, sum);
+    }
+    for (const Keyed& item : items) {
+        scratch[next[item.byteAt(shift)]++] = item;
+    }
+    items.swap(scratch);
+}
+
+/// The order of a stable sort. It goes byte by byte (a radix sort): starts are times, which differ in a
+/// few bytes, and no comparison has to be foreseen.
 Places stableOrder(const std::vector<long long>& starts)
 {
-    std::vector<std::pair<long long, std::size_t>> keyed(starts.size());
+    constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
+    std::vector<Keyed> items(starts.size());
+    std::uint64_t differing = 0; // the bits in which any two starts differ
     for (std::size_t i = 0; i < starts.size(); ++i) {
-        keyed[i] = {starts[i], i};
+        items[i] = {static_cast<std::uint64_t>(starts[i]) ^ signBit, i};
+        differing |= items[i].key ^ items[0].key;
     }
-    std::sort(keyed.begin(), keyed.end());
+    std::vector<Keyed> scratch(starts.size());
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        if ((differing >> shift & 0xFF) != 0) orderByByte(items, scratch, shift);
+    }
     Places order(starts.size());
-    std::transform(keyed.begin(), keyed.end(), order.begin(),
-                   [](const auto& item) { return item.second; });
+    std::transform(items.begin(), items.end(), order.begin(),
+                   [](const Keyed& item) { return item.place; });
     return order;
 }
 

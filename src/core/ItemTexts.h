@@ -18,7 +18,7 @@ namespace ZelInterchangeData {
 inline bool hasAllTexts(const LanguageTexts& texts, const std::vector<std::string>& languageIDs)
 {
     return std::all_of(languageIDs.begin(), languageIDs.end(),
-                       [&](const std::string& id) { return texts.find(id) != nullptr; });
+                       [&](const std::string& id) { return texts.find(id).has_value(); });
 }
 
 /// Ends with the item's last error when @p item has no text for one of @p languageIDs.

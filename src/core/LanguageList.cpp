@@ -6,7 +6,7 @@
 
 namespace ZelInterchangeData {
 
-bool LanguageList::contains(const std::string& id) const
+bool LanguageList::contains(std::string_view id) const
 {
     return std::find(ids_.begin(), ids_.end(), id) != ids_.end();
 }
@@ -21,9 +21,9 @@ ZelDataResult_tags LanguageList::add(const std::string& id)
     return ZelData_Ok;
 }
 
-void LanguageList::addChecked(const std::string& id)
+void LanguageList::addChecked(std::string_view id)
 {
-    if (!contains(id)) ids_.push_back(id);
+    if (!contains(id)) ids_.emplace_back(id);
 }
 
 ZelDataResult_tags LanguageList::copyFrom(const LanguageList& other)

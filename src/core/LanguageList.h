@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -19,7 +20,7 @@ public:
     using NameLookup = ZelDataResult_tags (*)(const std::string& id, std::string& name);
 
     const std::vector<std::string>& ids() const noexcept { return ids_; }
-    bool contains(const std::string& id) const;
+    bool contains(std::string_view id) const;
 
     void clear() noexcept { ids_.clear(); }
     /// The code of the UTF-8 check, #ZelData_UnknownLanguage or #ZelData_WarnAlreadyExists.
@@ -28,7 +29,7 @@ public:
     /// an entry that reorder() let in twice, with #ZelData_WarnAlreadyExists.
     ZelDataResult_tags copyFrom(const LanguageList& other);
     /// Lists @p id, which was checked before, unless it is listed.
-    void addChecked(const std::string& id);
+    void addChecked(std::string_view id);
     /// Removes the first identical entry; false when there is none.
     bool remove(const std::string& id);
     /// #ZelData_InvalidArgument when @p ids has another count or an entry that is not listed.

@@ -7,7 +7,6 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataLanguage.h"
 #include "core/LanguageList.h"
-#include "core/LanguageTexts.h"
 #include "util/Ending.h"
 #include "util/Guard.h"
 #include "util/GuardedCopy.h"
@@ -90,13 +89,6 @@ protected:
             if (isError(this->addLanguage(id))) return this->getLastError();
         }
         return {};
-    }
-
-    /// The same for @p texts that were checked when they were set.
-    void addCheckedLanguagesOf(const LanguageTexts& texts)
-    {
-        for (const auto& entry : texts.all())
-            languages_.addChecked(entry.first);
     }
 
 private:

@@ -3,26 +3,102 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 namespace ZelInterchangeData {
 
 namespace {
 
-/// Where the text for @p languageID stands in @p texts, or where it would.
-template <class Texts>
-auto placeOf(Texts& texts, const std::string& languageID) noexcept
+/// What stands before the entries.
+struct Head {
+    std::size_t count;
+    std::size_t characters; // of all IDs and texts
+};
+
+/// Where an entry stands among the characters, its ID first.
+struct Span {
+    std::size_t begin;
+    std::size_t textBegin;
+    std::size_t end;
+};
+
+/// The shared bytes: a Head, a Span for each entry, and the characters.
+struct Layout {
+    explicit Layout(const SharedBytes& bytes) noexcept : head(reinterpret_cast<Head*>(bytes.data()))
+    {
+    }
+
+    Span* spans() const noexcept { return reinterpret_cast<Span*>(head + 1); }
+    char* characters() const noexcept { return reinterpret_cast<char*>(spans() + head->count); }
+
+    Head* head;
+};
+
+/// New bytes for entries whose number and characters are known, filled from the first to the last.
+class Filling {
+public:
+    explicit Filling(Head head)
+        : bytes_(sizeof(Head) + head.count * sizeof(Span) + head.characters), layout_(bytes_)
+    {
+        new (layout_.head) Head(head);
+    }
+
+    void append(const LanguageTexts::Entry& entry)
+    {
+        const std::size_t begin = used_;
+        copy(entry.languageID);
+        const std::size_t textBegin = used_;
+        copy(entry.text);
+        new (layout_.spans() + filled_++) Span{begin, textBegin, used_};
+    }
+
+    SharedBytes take() { return std::move(bytes_); }
+
+private:
+    void copy(std::string_view text)
+    {
+        used_ += text.copy(layout_.characters() + used_, text.size());
+    }
+
+    SharedBytes bytes_;
+    Layout layout_;
+    std::size_t filled_ = 0;
+    std::size_t used_ = 0;
+};
+
+/// A change of texts: @p removed entries at @p place go, and @p added, if there is one, comes there.
+struct Edit {
+    std::size_t place;
+    std::size_t removed;
+    const LanguageTexts::Entry* added;
+};
+
+/// Calls @p visit with each entry that @p texts has after @p edit.
+template <class Visit>
+void visitEdited(const LanguageTexts& texts, const Edit& edit, Visit&& visit)
 {
-    return std::lower_bound(texts.begin(), texts.end(), languageID,
-                            [](const auto& entry, const auto& id) { return entry.first < id; });
+    for (std::size_t i = 0; i < edit.place; ++i)
+        visit(texts[i]);
+    if (edit.added != nullptr) visit(*edit.added);
+    for (std::size_t i = edit.place + edit.removed; i < texts.count(); ++i)
+        visit(texts[i]);
+}
+
+SharedBytes edited(const LanguageTexts& texts, const Edit& edit)
+{
+    Head head{};
+    visitEdited(texts, edit, [&](const LanguageTexts::Entry& entry) {
+        ++head.count;
+        head.characters += entry.languageID.size() + entry.text.size();
+    });
+    if (head.count == 0) return {};
+    Filling filling(head);
+    visitEdited(texts, edit, [&](const LanguageTexts::Entry& entry) { filling.append(entry); });
+    return filling.take();
 }
 
 } // namespace
-
-const std::string* LanguageTexts::find(const std::string& languageID) const noexcept
-{
-    const auto entry = placeOf(texts_, languageID);
-    return entry != texts_.end() && entry->first == languageID ? &entry->second : nullptr;
-}
 
 ZelDataResult_tags LanguageTexts::check(const std::string& text, const std::string& languageID)
 {
@@ -32,43 +108,84 @@ ZelDataResult_tags LanguageTexts::check(const std::string& text, const std::stri
     return valid ? ZelData_Ok : ZelData_InvalidItem;
 }
 
-ZelDataResult_tags LanguageTexts::set(const std::string& text, const std::string& languageID)
+std::size_t LanguageTexts::count() const noexcept
 {
-    const auto checked = check(text, languageID);
-    if (failed(checked)) return checked;
-    const auto entry = placeOf(texts_, languageID);
-    if (entry != texts_.end() && entry->first == languageID) {
-        std::string replacement(text);
-        entry->second.swap(replacement);
-        return ZelData_WarnAlreadyExists;
+    return bytes_.data() == nullptr ? 0 : Layout(bytes_).head->count;
+}
+
+std::size_t LanguageTexts::size() const noexcept
+{
+    return bytes_.data() == nullptr ? 0 : Layout(bytes_).head->characters;
+}
+
+LanguageTexts::Entry LanguageTexts::operator[](std::size_t index) const noexcept
+{
+    const Layout layout(bytes_);
+    const Span& span = layout.spans()[index];
+    const char* const characters = layout.characters();
+    return {{characters + span.begin, span.textBegin - span.begin},
+            {characters + span.textBegin, span.end - span.textBegin}};
+}
+
+/// Where the text for @p languageID stands, or where it would.
+std::size_t LanguageTexts::placeOf(std::string_view languageID) const noexcept
+{
+    std::size_t first = 0;
+    std::size_t last = count();
+    while (first != last) {
+        const std::size_t middle = first + (last - first) / 2;
+        if ((*this)[middle].languageID < languageID) {
+            first = middle + 1;
+        } else {
+            last = middle;
+        }
     }
-    Entry added(languageID, text);
-    texts_.insert(entry, std::move(added));
-    return ZelData_Ok;
+    return first;
+}
+
+bool LanguageTexts::holds(std::size_t place, std::string_view languageID) const noexcept
+{
+    return place < count() && (*this)[place].languageID == languageID;
+}
+
+std::optional<std::string_view> LanguageTexts::find(std::string_view languageID) const noexcept
+{
+    const std::size_t place = placeOf(languageID);
+    if (!holds(place, languageID)) return std::nullopt;
+    return (*this)[place].text;
+}
+
+ZelDataResult_tags LanguageTexts::set(std::string_view text, std::string_view languageID)
+{
+    const std::size_t place = placeOf(languageID);
+    const bool replaces = holds(place, languageID);
+    const Entry added{languageID, text};
+    bytes_ = edited(*this, {place, replaces ? std::size_t{1} : 0, &added});
+    return replaces ? ZelData_WarnAlreadyExists : ZelData_Ok;
 }
 
 ZelDataResult_tags LanguageTexts::get(std::string& text, const std::string& languageID) const
 {
-    const std::string* found = find(languageID);
-    if (found == nullptr) return ZelData_InvalidArgument;
+    const auto found = find(languageID);
+    if (!found) return ZelData_InvalidArgument;
     text = *found;
     return ZelData_Ok;
 }
 
 ZelDataResult_tags LanguageTexts::remove(const std::string& languageID)
 {
-    const auto entry = placeOf(texts_, languageID);
-    if (entry == texts_.end() || entry->first != languageID) return ZelData_NotFound;
-    texts_.erase(entry);
+    const std::size_t place = placeOf(languageID);
+    if (!holds(place, languageID)) return ZelData_NotFound;
+    bytes_ = edited(*this, {place, 1, nullptr});
     return ZelData_Ok;
 }
 
 ZelDataResult_tags LanguageTexts::getLanguageIDs(std::vector<std::string>& ids) const
 {
     std::vector<std::string> found;
-    found.reserve(texts_.size());
-    for (const auto& entry : texts_)
-        found.push_back(entry.first);
+    found.reserve(count());
+    for (std::size_t i = 0; i < count(); ++i)
+        found.emplace_back((*this)[i].languageID);
     ids.swap(found);
     return ZelData_Ok;
 }

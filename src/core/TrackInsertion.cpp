@@ -1,7 +1,6 @@
 #include "core/TrackInsertion.h"
 
-#include "util/Guard.h"
-
+#include <algorithm>
 #include <string_view>
 
 namespace ZelInterchangeData {
@@ -14,25 +13,13 @@ static_assert(emptyTracks.size() == 48 && tracksOpening.size() == 23);
 
 } // namespace
 
-ZelDataResult_tags insertTracks(std::string& packet,
-                                const std::vector<std::string>& tracks) noexcept
+std::size_t placeOfTracks(const std::string& packet)
 {
-    return guarded([&] {
-        // The last list is the header's own: a creator, written as given, may hold another before
-        // it.
-        const auto position = packet.rfind(emptyTracks);
-        if (position == std::string::npos) return ZelData_InternalError;
-        std::size_t size = packet.size();
-        for (const std::string& track : tracks)
-            size += track.size();
-        packet.reserve(size); // the only step that may fail, and the only new memory
-        auto place = position + tracksOpening.size();
-        for (const std::string& track : tracks) {
-            packet.insert(place, track);
-            place += track.size();
-        }
-        return ZelData_Ok;
-    });
+    // The last list is the header's own: a creator, written as given, may hold another before it.
+    const auto list =
+        std::find_end(packet.begin(), packet.end(), emptyTracks.begin(), emptyTracks.end());
+    if (list == packet.end()) return std::string::npos;
+    return static_cast<std::size_t>(list - packet.begin()) + tracksOpening.size();
 }
 
 } // namespace ZelInterchangeData

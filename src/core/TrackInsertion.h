@@ -6,16 +6,29 @@
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 
+#include <cstddef>
 #include <string>
-#include <vector>
 
 namespace ZelInterchangeData {
 
-/// Inserts @p tracks, one text after the other, into the last empty track list of @p packet.
-/// - #ZelData_InternalError: there is no such list; @p packet is left alone.
-/// - #ZelData_OutOfMemory: @p packet is left alone.
-ZelDataResult_tags insertTracks(std::string& packet,
-                                const std::vector<std::string>& tracks) noexcept;
+/// Where the content of the last empty track list of @p packet belongs, `npos` when there is none.
+std::size_t placeOfTracks(const std::string& packet);
+
+/// Puts tracks into the last empty track list of @p packet: @p append, a callable, appends them to the
+/// string that it is given, about @p size bytes. #ZelData_InternalError, and @p packet is left alone,
+/// when there is no such list.
+template <class Append>
+ZelDataResult_tags insertTracks(std::string& packet, std::size_t size, Append&& append)
+{
+    const std::size_t place = placeOfTracks(packet);
+    if (place == std::string::npos) return ZelData_InternalError;
+    const std::string rest = packet.substr(place);
+    packet.reserve(packet.size() + size);
+    packet.resize(place);
+    append(packet);
+    packet += rest;
+    return ZelData_Ok;
+}
 
 } // namespace ZelInterchangeData
 

@@ -6,10 +6,12 @@
 
 #include "ZelInterchangeData/i_ZelDataFormatterBase.h"
 #include "core/ReplaceContents.h"
+#include "core/TrackWriter.h"
 #include "util/Guard.h"
 
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace ZelInterchangeData {
 
@@ -58,10 +60,39 @@ private:
     std::unique_ptr<Own> held_;
 };
 
-/// An XMP formatter that writes one track of the packet.
-template <class Interface, class Data, class Own>
-class XmpTrackFormatter : public XmpFormatter<Interface, Data, Own> {
+/// An XMP formatter that writes one track of the packet. @p Formatter is the class derived from it;
+/// its measureTrack() and appendTrack() are what TrackWriter calls.
+template <class Interface, class Data, class Own, class Formatter>
+class XmpTrackFormatter : public XmpFormatter<Interface, Data, Own>, public TrackWriter {
 public:
+    XmpTrackFormatter()
+        : TrackWriter(
+              [](const TrackWriter& self, std::size_t& size) {
+                  return static_cast<const Formatter&>(self).measureTrack(size);
+              },
+              [](const TrackWriter& self, std::string& packet) {
+                  static_cast<const Formatter&>(self).appendTrack(packet);
+              })
+    {
+    }
+
+    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                   bool /*flag*/) const override
+    {
+        return this->store(guarded([&] {
+            if (format != ZelDataFormat_Xmp) return ZelData_InternalError;
+            if (this->held() == nullptr) return ZelData_InvalidData;
+            std::size_t size = 0;
+            const auto measured = this->measure(size);
+            if (failed(measured) || size == 0) return measured; // and the text stays as it was
+            std::string track;
+            track.reserve(size);
+            this->append(track);
+            out = std::move(track);
+            return ZelData_Ok;
+        }));
+    }
+
     /// Writes the string first and then refuses. That is meant: a caller who tests what a set lacks
     /// with this call gets the code of the writing.
     ZelDataResult_tags writeFile(const std::string& /*path*/, ZelDataFormatType_tags format,

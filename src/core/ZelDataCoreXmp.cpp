@@ -7,14 +7,16 @@
 #include "ZelInterchangeData/i_ZelDataTocFormatter.h"
 #include "core/FileStreams.h"
 #include "core/TrackInsertion.h"
+#include "core/TrackWriter.h"
 #include "util/Guard.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
+#include <memory>
 #include <ostream>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace ZelInterchangeData {
 
@@ -22,21 +24,54 @@ namespace {
 
 constexpr std::string_view xmlDeclaration = R"(<?xml version="1.0" encoding="utf-8" ?>)";
 
-/// Gets the text that a formatter, which @p create makes, writes for @p data.
-template <class Formatter, class Data>
-Ending writeWith(std::string& text, const Data& data, ZelDataFormatType_tags type,
-                 ZelDataResult_tags (*create)(Formatter**, ZelDataFormatType_tags),
-                 ZelDataResult_tags (Formatter::*set)(const Data&))
-{
-    Formatter* made = nullptr;
-    const auto created = create(&made, type);
-    const std::unique_ptr<Formatter> formatter(made);
-    if (failed(created)) return created;
-    if (failed((made->*set)(data)) || failed(made->writeString(text, type, false))) {
-        return made->getLastError();
+/// The tracks of a packet, each with the formatter that writes it.
+class Tracks {
+public:
+    explicit Tracks(ZelDataFormatType_tags type) : type_(type) {}
+
+    /// Adds the track of @p data, if there are any, with a formatter that @p create makes.
+    template <class Formatter, class Data>
+    Ending add(const Data* data, ZelDataResult_tags (*create)(Formatter**, ZelDataFormatType_tags),
+               ZelDataResult_tags (Formatter::*set)(const Data&))
+    {
+        if (data == nullptr) return {};
+        Formatter* made = nullptr;
+        const auto created = create(&made, type_);
+        std::unique_ptr<Formatter> formatter(made);
+        if (failed(created)) return created;
+        if (failed((made->*set)(*data))) return made->getLastError();
+        return keep(std::move(formatter));
     }
-    return {};
-}
+
+    /// About how many bytes all tracks have; 0 when there are none.
+    std::size_t size() const noexcept { return size_; }
+
+    void appendTo(std::string& packet) const
+    {
+        for (const Track& track : tracks_)
+            track.writer->append(packet);
+    }
+
+private:
+    struct Track {
+        std::unique_ptr<i_ZelDataFormatterBase> formatter;
+        const TrackWriter* writer;
+    };
+
+    Ending keep(std::unique_ptr<i_ZelDataFormatterBase> formatter)
+    {
+        const auto& writer = dynamic_cast<const TrackWriter&>(*formatter); // our factories made it
+        std::size_t size = 0;
+        if (const auto measured = writer.measure(size); failed(measured)) return measured;
+        size_ += size;
+        if (size != 0) tracks_.push_back({std::move(formatter), &writer});
+        return {};
+    }
+
+    ZelDataFormatType_tags type_;
+    std::size_t size_ = 0;
+    std::vector<Track> tracks_;
+};
 
 /// Writes each byte as one wide character, in blocks on the stack: the stream's own insertion of
 /// narrow text would ask for memory when the file is emptied already.
@@ -88,25 +123,36 @@ Ending ZelDataCoreXmp::replaceHeaderLanguages() const
     return {};
 }
 
-Ending ZelDataCoreXmp::writeTracks(std::vector<std::string>& tracks,
-                                   ZelDataFormatType_tags format) const
+Ending ZelDataCoreXmp::writeHeader(std::string& packet, ZelDataFormatType_tags format) const
 {
-    Ending ending;
-    if (captions() != nullptr) {
-        ending = writeWith(tracks.emplace_back(), *captions(), format,
-                           &ZelDataUtilities::createCaptionFormatter,
-                           &i_ZelDataCaptionFormatter::setCaptions);
+    i_ZelDataHeaderFormatter* made = nullptr;
+    const auto created = ZelDataUtilities::createHeaderFormatter(&made, format);
+    const std::unique_ptr<i_ZelDataHeaderFormatter> formatter(made);
+    if (failed(created)) return created;
+    if (failed(made->setHeader(*header())) || failed(made->writeString(packet, format, false))) {
+        return made->getLastError();
     }
-    if (!ending && toc() != nullptr) {
-        ending = writeWith(tracks.emplace_back(), *toc(), format,
-                           &ZelDataUtilities::createTocFormatter, &i_ZelDataTocFormatter::setToc);
+    return {};
+}
+
+ZelDataResult_tags ZelDataCoreXmp::writeTracks(std::string& packet,
+                                               ZelDataFormatType_tags format) const
+{
+    Tracks tracks(format);
+    if (const Ending ending = tracks.add(captions(), &ZelDataUtilities::createCaptionFormatter,
+                                         &i_ZelDataCaptionFormatter::setCaptions)) {
+        return *ending;
     }
-    if (!ending && screenText() != nullptr) {
-        ending = writeWith(tracks.emplace_back(), *screenText(), format,
-                           &ZelDataUtilities::createScreenTextFormatter,
-                           &i_ZelDataScreenTextFormatter::setScreenText);
+    if (const Ending ending = tracks.add(toc(), &ZelDataUtilities::createTocFormatter,
+                                         &i_ZelDataTocFormatter::setToc)) {
+        return *ending;
     }
-    return ending;
+    if (const Ending ending = tracks.add(screenText(), &ZelDataUtilities::createScreenTextFormatter,
+                                         &i_ZelDataScreenTextFormatter::setScreenText)) {
+        return *ending;
+    }
+    if (tracks.size() == 0) return ZelData_Ok;
+    return insertTracks(packet, tracks.size(), [&](std::string& place) { tracks.appendTo(place); });
 }
 
 ZelDataResult_tags ZelDataCoreXmp::assemble(std::string& packet,
@@ -114,16 +160,8 @@ ZelDataResult_tags ZelDataCoreXmp::assemble(std::string& packet,
 {
     if (const Ending ending = checkHeader()) return *ending;
     if (const Ending ending = replaceHeaderLanguages()) return *ending;
-    if (const Ending ending =
-            writeWith(packet, *header(), format, &ZelDataUtilities::createHeaderFormatter,
-                      &i_ZelDataHeaderFormatter::setHeader)) {
-        return *ending;
-    }
-    std::vector<std::string> tracks; // a set without items leaves its text empty
-    if (const Ending ending = writeTracks(tracks, format)) return *ending;
-    const bool isEmpty = std::all_of(tracks.begin(), tracks.end(),
-                                     [](const std::string& track) { return track.empty(); });
-    return isEmpty ? ZelData_Ok : insertTracks(packet, tracks);
+    if (const Ending ending = writeHeader(packet, format)) return *ending;
+    return writeTracks(packet, format);
 }
 
 ZelDataResult_tags ZelDataCoreXmp::writeString(std::string& out, ZelDataFormatType_tags format,

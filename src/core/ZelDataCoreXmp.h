@@ -31,7 +31,8 @@ private:
     Ending checkHeader() const;
     Ending copyCaptionLanguages() const;
     Ending replaceHeaderLanguages() const;
-    Ending writeTracks(std::vector<std::string>& tracks, ZelDataFormatType_tags format) const;
+    Ending writeHeader(std::string& packet, ZelDataFormatType_tags format) const;
+    ZelDataResult_tags writeTracks(std::string& packet, ZelDataFormatType_tags format) const;
     ZelDataResult_tags assemble(std::string& packet, ZelDataFormatType_tags format) const;
 };
 

@@ -41,6 +41,9 @@ public:
     /// collection were checked on their way in.
     ZelDataResult_tags copyOwn(const ZelDataScreenText& other);
     const Items& items() const noexcept { return items_; }
+    FrameRate frameRate() const noexcept { return frameRate_; }
+    /// What is known of all items.
+    const ScreenTextSummary& summary() { return items_.summary(); }
 
     /// Orders the items by start, as makeScreenTextConsistent() does.
     ZelDataResult_tags orderScreenTextItems();

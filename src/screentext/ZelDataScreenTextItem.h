@@ -12,9 +12,22 @@
 
 namespace ZelInterchangeData {
 
+class ScreenTextState;
+
+/// What is worth knowing of all items of a collection together.
+struct ScreenTextSummary {
+    /// The bytes of all texts and file names.
+    std::size_t size = 0;
+
+    /// Takes in the next item.
+    void add(const ScreenTextState& state) noexcept;
+};
+
 /// What a screen text consists of. Copies share text and file name.
 class ScreenTextState {
 public:
+    using Summary = ScreenTextSummary;
+
     TimeSpan time;
     unsigned long imageIndex = 0;
     unsigned long long imageOffset = 0;
@@ -25,6 +38,7 @@ public:
     std::string& changeText() { return strings_.write().text; }
     const std::string& imageFile() const noexcept { return strings_.read().imageFile; }
     std::string& changeImageFile() { return strings_.write().imageFile; }
+    void prefetch() const noexcept { strings_.prefetch(); }
     /// What i_ZelDataScreenTextItem::isValid() gives.
     ZelDataResult_tags check() const;
 
@@ -36,6 +50,11 @@ private:
 
     CopyOnWrite<Strings> strings_;
 };
+
+inline void ScreenTextSummary::add(const ScreenTextState& state) noexcept
+{
+    size += state.text().size() + state.imageFile().size();
+}
 
 /// The screen-text item that the library makes.
 class ZelDataScreenTextItem : public i_ZelDataScreenTextItem {

@@ -26,41 +26,6 @@ void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
         .end();
 }
 
-/// About how many bytes the markers take: the texts with a little room for entities, and the markup.
-std::size_t expectedSize(const ZelDataScreenText& screenText)
-{
-    constexpr std::size_t markerMarkup = 260;
-    std::size_t size = screenText.items().count() * markerMarkup;
-    for (unsigned long i = 0; i < screenText.items().count(); ++i) {
-        const ScreenTextState& item = screenText.items().state(i);
-        size += item.text().size() + item.imageFile().size();
-    }
-    return size;
-}
-
-ZelDataResult_tags writeTrack(ZelDataScreenText& screenText, std::string& out)
-{
-    unsigned long rate = 0;
-    if (failed(screenText.makeScreenTextConsistent()) || failed(screenText.getFrameRate(rate))) {
-        return screenText.getLastError();
-    }
-    if (screenText.items().count() == 0) return ZelData_Ok;
-    Track track;
-    // Another order than that of the table of contents, and no image: both are meant, players compare
-    // these bytes.
-    track.description()
-        .attribute("xmpDM:trackType", "ScreenText")
-        .attribute("xmpDM:frameRate", Utilities::getRateString(rate))
-        .attribute("xmpDM:trackName", "Screen Text");
-    out = track.text(expectedSize(screenText), [&](MarkerWriter& markers) {
-        for (unsigned long i = 0; i < screenText.items().count(); ++i) {
-            const ScreenTextState& item = screenText.items().state(i);
-            writeMarker(markers, item);
-        }
-    });
-    return ZelData_Ok;
-}
-
 } // namespace
 
 ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTextFormatter** out,
@@ -82,15 +47,35 @@ ZelDataXmpScreenTextFormatter::getScreenText(i_ZelDataScreenText& /*screenText*/
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpScreenTextFormatter::writeString(std::string& out,
-                                                              ZelDataFormatType_tags format,
-                                                              bool /*flag*/) const
+ZelDataResult_tags ZelDataXmpScreenTextFormatter::measureTrack(std::size_t& size) const
 {
-    return store(guarded([&] {
-        if (format != ZelDataFormat_Xmp) return ZelData_InternalError;
-        if (held() == nullptr) return ZelData_InvalidData;
-        return writeTrack(*held(), out);
-    }));
+    // The texts with a little room for entities, and the markup.
+    constexpr std::size_t trackMarkup = 250;
+    constexpr std::size_t markerMarkup = 260;
+    ZelDataScreenText& screenText = *held();
+    if (screenText.items().count() == 0) return ZelData_Ok;
+    size = trackMarkup + screenText.items().count() * markerMarkup + screenText.summary().size;
+    return ZelData_Ok;
+}
+
+/// The items are written as makeScreenTextConsistent() leaves them: in order, with a frame rate in its
+/// range.
+void ZelDataXmpScreenTextFormatter::appendTrack(std::string& packet) const
+{
+    const ZelDataScreenText& screenText = *held();
+    FrameRate rate = screenText.frameRate();
+    rate.repair();
+    Track track;
+    // Another order than that of the table of contents, and no image: both are meant, players compare
+    // these bytes.
+    track.description()
+        .attribute("xmpDM:trackType", "ScreenText")
+        .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))
+        .attribute("xmpDM:trackName", "Screen Text");
+    track.appendTo(packet, [&](MarkerWriter& markers) {
+        screenText.items().visitOrdered(
+            [&](const ScreenTextState& item) { writeMarker(markers, item); });
+    });
 }
 
 } // namespace ZelInterchangeData

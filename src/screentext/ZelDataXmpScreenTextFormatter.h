@@ -13,13 +13,14 @@ namespace ZelInterchangeData {
 
 /// Writes the screen-text track: its properties, and one marker for each item.
 class ZelDataXmpScreenTextFormatter
-    : public XmpTrackFormatter<i_ZelDataScreenTextFormatter, i_ZelDataScreenText,
-                               ZelDataScreenText> {
+    : public XmpTrackFormatter<i_ZelDataScreenTextFormatter, i_ZelDataScreenText, ZelDataScreenText,
+                               ZelDataXmpScreenTextFormatter> {
 public:
-    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
-                                   bool flag) const override;
     ZelDataResult_tags setScreenText(const i_ZelDataScreenText& screenText) override;
     ZelDataResult_tags getScreenText(i_ZelDataScreenText& screenText) const override;
+
+    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    void appendTrack(std::string& packet) const;
 };
 
 } // namespace ZelInterchangeData

@@ -112,11 +112,8 @@ ZelDataResult_tags ZelDataToc::copyOwn(const ZelDataToc& other)
         const auto listed = languages().copyFrom(other.languages());
         if (failed(listed)) return listed;
         imageFile_ = other.imageFile_;
-        languages().clear();
-        for (unsigned long i = 0; i < other.items_.count(); ++i) {
-            addCheckedLanguagesOf(other.items_.state(i).texts());
-        }
         items_ = other.items_;
+        languages() = items_.summary().languages; // rebuilt from the items
         return ZelData_Ok;
     }));
 }

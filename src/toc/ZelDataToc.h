@@ -42,6 +42,8 @@ public:
     /// entries: those of an own table were checked on their way in.
     ZelDataResult_tags copyOwn(const ZelDataToc& other);
     const Items& items() const noexcept { return items_; }
+    const std::string& imageFile() const noexcept { return imageFile_; }
+    FrameRate frameRate() const noexcept { return frameRate_; }
     using LanguageListOwner::languageIDs;
 
     /// Orders the entries by start, as makeTocConsistent() does.

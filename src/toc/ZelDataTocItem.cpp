@@ -24,19 +24,11 @@ ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
     return store(ZelData_Ok);
 }
 
-ZelDataResult_tags TocEntryState::check() const
-{
-    for (const auto& [languageID, text] : texts().all()) {
-        if (failed(LanguageTexts::check(text, languageID))) return ZelData_InvalidItem;
-    }
-    return ZelData_Ok;
-}
-
-/// The flag is meant to change nothing: an entry has no parts, and a second answer would tell callers
-/// that it has.
+/// An entry is always valid: its languages and titles were checked when they were set. The flag is meant
+/// to change nothing: an entry has no parts, and a second answer would tell callers that it has.
 ZelDataResult_tags ZelDataTocItem::isValid(bool /*deep*/) const
 {
-    return store(state_.check());
+    return store(ZelData_Ok);
 }
 
 // Titles
@@ -66,7 +58,6 @@ ZelDataResult_tags ZelDataTocItem::getTextForLanguage(std::string& text,
 
 ZelDataResult_tags ZelDataTocItem::removeTextForLanguage(const std::string& languageID)
 {
-    if (state_.texts().find(languageID) == nullptr) return store(ZelData_NotFound);
     return store(guarded([&] { return state_.changeTexts().remove(languageID); }));
 }
 

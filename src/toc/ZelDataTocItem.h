@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "core/LanguageTexts.h"
+#include "core/TextSummary.h"
 #include "util/CopyOnWrite.h"
 
 #include <utility>
@@ -15,25 +16,22 @@ namespace ZelInterchangeData {
 /// What an entry consists of. Copies share titles and file name.
 class TocEntryState {
 public:
+    using Summary = TextSummary;
+
     long long startTime = 0;
     unsigned long imageIndex = 0;
     unsigned long long imageOffset = 0;
 
     long long start() const noexcept { return startTime; }
-    const LanguageTexts& texts() const noexcept { return strings_.read().titles; }
-    LanguageTexts& changeTexts() { return strings_.write().titles; }
-    const std::string& imageFile() const noexcept { return strings_.read().imageFile; }
-    std::string& changeImageFile() { return strings_.write().imageFile; }
-    /// What i_ZelDataTocItem::isValid() gives.
-    ZelDataResult_tags check() const;
+    const LanguageTexts& texts() const noexcept { return titles_; }
+    LanguageTexts& changeTexts() noexcept { return titles_; }
+    void prefetch() const noexcept { titles_.prefetch(); }
+    const std::string& imageFile() const noexcept { return imageFile_.read(); }
+    std::string& changeImageFile() { return imageFile_.write(); }
 
 private:
-    struct Strings {
-        LanguageTexts titles;
-        std::string imageFile;
-    };
-
-    CopyOnWrite<Strings> strings_;
+    LanguageTexts titles_;
+    CopyOnWrite<std::string> imageFile_;
 };
 
 /// The entry that the library makes.

@@ -18,8 +18,7 @@ using Utilities = ZelDataUtilities;
 std::string_view titleOf(const TocEntryState& entry, const std::vector<std::string>& languageIDs)
 {
     if (languageIDs.empty()) return {};
-    const std::string* title = entry.texts().find(languageIDs.front());
-    return title == nullptr ? std::string_view() : *title;
+    return entry.texts().find(languageIDs.front()).value_or(std::string_view());
 }
 
 void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
@@ -32,42 +31,6 @@ void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
         .attribute("zelDM:imageindex", static_cast<unsigned long long>(entry.imageIndex))
         .attribute("zelDM:imageoffset", entry.imageOffset)
         .end();
-}
-
-/// About how many bytes the markers take: the texts with a little room for entities, and the markup.
-std::size_t expectedSize(const ZelDataToc& toc)
-{
-    constexpr std::size_t markerMarkup = 210;
-    std::size_t size = toc.items().count() * markerMarkup;
-    for (unsigned long i = 0; i < toc.items().count(); ++i) {
-        const TocEntryState& entry = toc.items().state(i);
-        size += titleOf(entry, toc.languageIDs()).size() + entry.imageFile().size();
-    }
-    return size;
-}
-
-ZelDataResult_tags writeTrack(ZelDataToc& toc, std::string& out)
-{
-    unsigned long rate = 0;
-    std::string image;
-    if (failed(toc.makeTocConsistent()) || failed(toc.getFrameRate(rate)) ||
-        failed(toc.getImageFile(image))) {
-        return toc.getLastError();
-    }
-    if (toc.items().count() == 0) return ZelData_Ok;
-    Track track;
-    track.description()
-        .attribute("xmpDM:trackType", "TableOfContents")
-        .attribute("xmpDM:trackName", "Table of Contents")
-        .attribute("xmpDM:frameRate", Utilities::getRateString(rate))
-        .attribute("zelDM:image", Utilities::htmlTagsToText(image));
-    out = track.text(expectedSize(toc), [&](MarkerWriter& markers) {
-        for (unsigned long i = 0; i < toc.items().count(); ++i) {
-            const TocEntryState& entry = toc.items().state(i);
-            writeMarker(markers, entry, toc.languageIDs());
-        }
-    });
-    return ZelData_Ok;
 }
 
 } // namespace
@@ -107,15 +70,38 @@ ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpTocFormatter::writeString(std::string& out,
-                                                       ZelDataFormatType_tags format,
-                                                       bool /*flag*/) const
+ZelDataResult_tags ZelDataXmpTocFormatter::measureTrack(std::size_t& size) const
 {
-    return store(guarded([&] {
-        if (format != ZelDataFormat_Xmp) return ZelData_InternalError;
-        if (held() == nullptr) return ZelData_InvalidData;
-        return writeTrack(*held(), out);
-    }));
+    // The texts with a little room for entities, and the markup.
+    constexpr std::size_t trackMarkup = 300;
+    constexpr std::size_t markerMarkup = 210;
+    const ZelDataToc& toc = *held();
+    if (toc.items().count() == 0) return ZelData_Ok;
+    size = trackMarkup + toc.imageFile().size() + toc.items().count() * markerMarkup;
+    for (unsigned long i = 0; i < toc.items().count(); ++i) {
+        const TocEntryState& entry = toc.items().state(i);
+        size += titleOf(entry, toc.languageIDs()).size() + entry.imageFile().size();
+    }
+    return ZelData_Ok;
+}
+
+/// The table is written as makeTocConsistent() leaves it: in order, with a frame rate in its range. What
+/// else that repairs is not seen: a title that is missing counts as empty.
+void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
+{
+    const ZelDataToc& toc = *held();
+    FrameRate rate = toc.frameRate();
+    rate.repair();
+    Track track;
+    track.description()
+        .attribute("xmpDM:trackType", "TableOfContents")
+        .attribute("xmpDM:trackName", "Table of Contents")
+        .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))
+        .attribute("zelDM:image", Utilities::htmlTagsToText(toc.imageFile()));
+    track.appendTo(packet, [&](MarkerWriter& markers) {
+        toc.items().visitOrdered(
+            [&](const TocEntryState& entry) { writeMarker(markers, entry, toc.languageIDs()); });
+    });
 }
 
 } // namespace ZelInterchangeData

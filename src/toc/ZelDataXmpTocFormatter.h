@@ -24,13 +24,14 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
                   std::string& out);
 
 /// Writes the table-of-contents track: its properties, and one marker for each entry.
-class ZelDataXmpTocFormatter
-    : public XmpTrackFormatter<i_ZelDataTocFormatter, i_ZelDataToc, ZelDataToc> {
+class ZelDataXmpTocFormatter : public XmpTrackFormatter<i_ZelDataTocFormatter, i_ZelDataToc,
+                                                        ZelDataToc, ZelDataXmpTocFormatter> {
 public:
-    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
-                                   bool flag) const override;
     ZelDataResult_tags setToc(const i_ZelDataToc& toc) override;
     ZelDataResult_tags getToc(i_ZelDataToc& toc) const override;
+
+    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    void appendTrack(std::string& packet) const;
 };
 
 } // namespace ZelInterchangeData

@@ -4,6 +4,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "util/ByteBlocks.h"
 #include "util/MarkupText.h"
+#include "util/TextLines.h"
 
 #include <algorithm>
 #include <array>
@@ -264,7 +265,11 @@ void appendEscapedStripped(TextBlock& out, std::string_view text)
 
 unsigned long ZelDataUtilities::countLinesInUTF8(const std::string& text)
 {
-    if (failed(verifyUtf8Format(text, false))) return 0;
+    return failed(verifyUtf8Format(text, false)) ? 0 : countLines(text);
+}
+
+unsigned long countLines(std::string_view text) noexcept
+{
     const auto feeds = static_cast<unsigned long>(std::count(text.begin(), text.end(), '\n'));
     // Meant: a text without any line feed has no lines; without this test it would have one.
     if (feeds == 0) return 0;

@@ -15,14 +15,14 @@ ZelDataXmlNode& Track::addProperty(const char* name)
     return description_ < name;
 }
 
-/// Ends @p text behind the start tag of the marker sequence and gives what stood there.
-std::string Track::cutBehindMarkersTag(std::string& text)
+/// Ends @p frame behind the start tag of the marker sequence and gives what stood there.
+std::string Track::cutBehindMarkersTag(std::string& frame)
 {
     // The last such pair is the track's own: an attribute that goes in as given may hold another.
     constexpr std::string_view startTag = "<rdf:Seq>";
-    const std::size_t place = text.rfind("<rdf:Seq></rdf:Seq>") + startTag.size();
-    std::string rest = text.substr(place);
-    text.resize(place);
+    const std::size_t place = frame.rfind("<rdf:Seq></rdf:Seq>") + startTag.size();
+    std::string rest = frame.substr(place);
+    frame.resize(place);
     return rest;
 }
 

@@ -28,23 +28,22 @@ public:
     /// Appends an element called @p name after the markers and returns it. A name is used once per
     /// track: a second element of the same name would stand inside the first.
     ZelDataXmlNode& addProperty(const char* name);
-    /// The track as it is written into the packet. @p writeMarkers is called with a MarkerWriter
-    /// for the track's markers; @p markersSize is about how many bytes it will write.
+    /// Appends the track to @p packet. @p writeMarkers is called with a MarkerWriter for the
+    /// track's markers.
     template <class WriteMarkers>
-    std::string text(std::size_t markersSize, WriteMarkers&& writeMarkers) const
+    void appendTo(std::string& packet, WriteMarkers&& writeMarkers) const
     {
-        std::string text = stream_.getXml(false);
-        const std::string rest = cutBehindMarkersTag(text);
-        text.reserve(text.size() + markersSize + rest.size());
-        MarkerWriter markers(text);
+        std::string frame = stream_.getXml(false);
+        const std::string rest = cutBehindMarkersTag(frame);
+        packet += frame;
+        MarkerWriter markers(packet);
         writeMarkers(markers);
         markers.finish();
-        text += rest;
-        return text;
+        packet += rest;
     }
 
 private:
-    static std::string cutBehindMarkersTag(std::string& text);
+    static std::string cutBehindMarkersTag(std::string& frame);
 
     ZelDataXmlStream stream_;
     ZelDataXmlNode& description_;

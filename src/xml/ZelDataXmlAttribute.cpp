@@ -7,7 +7,10 @@
 
 namespace ZelInterchangeData {
 
-ZelDataXmlAttribute::ZelDataXmlAttribute(ZelDataXmlNode* owner) : owner_(owner) {}
+ZelDataXmlAttribute::ZelDataXmlAttribute(ZelDataXmlNode* owner, std::pmr::memory_resource* memory)
+    : name_(memory), owner_(owner)
+{
+}
 
 ZelDataXmlAttributeValue& ZelDataXmlAttribute::operator<(const char* name)
 {
@@ -18,7 +21,7 @@ ZelDataXmlAttributeValue& ZelDataXmlAttribute::operator<(const char* name)
 
 void ZelDataXmlAttribute::write(std::string& out) const
 {
-    out.append(name_).append("=\"").append(value_.getValue()).append("\" ");
+    out.append(std::string_view(name_)).append("=\"").append(value_.getValue()).append("\" ");
 }
 
 } // namespace ZelInterchangeData

@@ -6,6 +6,7 @@
 
 #include "xml/ZelDataXmlAttributeValue.h"
 
+#include <memory_resource>
 #include <string>
 
 namespace ZelInterchangeData {
@@ -15,8 +16,10 @@ class ZelDataXmlNode;
 /// A name and a value; both are written as they were given.
 class ZelDataXmlAttribute {
 public:
-    /// An attribute of @p owner with empty name and value. The owner does not know of it.
-    explicit ZelDataXmlAttribute(ZelDataXmlNode* owner);
+    /// An attribute of @p owner with empty name and value. The owner does not know of it. The name
+    /// is kept in @p memory.
+    explicit ZelDataXmlAttribute(
+        ZelDataXmlNode* owner, std::pmr::memory_resource* memory = std::pmr::new_delete_resource());
 
     /// Replaces the name; null is an empty name. Returns the value, which leads back to the owner.
     ZelDataXmlAttributeValue& operator<(const char* name);
@@ -28,7 +31,7 @@ public:
     ZelDataXmlAttribute& operator=(const ZelDataXmlAttribute&) = delete;
 
 private:
-    std::string name_;
+    std::pmr::string name_;
     ZelDataXmlAttributeValue value_;
     ZelDataXmlNode* owner_;
 };

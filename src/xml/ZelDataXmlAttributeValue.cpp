@@ -25,6 +25,11 @@ ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(const std::string& text)
     return assign(text);
 }
 
+ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(std::string&& text)
+{
+    return assign(std::move(text));
+}
+
 ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(int number)
 {
     return *this < static_cast<long long>(number);

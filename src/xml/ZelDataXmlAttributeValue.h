@@ -30,6 +30,8 @@ public:
     ZelDataXmlNode& operator<(const char* text);
     /// Replaces the value.
     ZelDataXmlNode& operator<(const std::string& text);
+    /// The same, without a copy.
+    ZelDataXmlNode& operator<(std::string&& text);
     /// Replaces the value by @p number in decimal.
     ZelDataXmlNode& operator<(int number);
     /// Replaces the value by @p number in decimal.

@@ -12,6 +12,16 @@ namespace ZelInterchangeData {
 
 namespace {
 
+/// Lets @p pointers take one more without asking for memory.
+template <class Pointers>
+void makeRoom(Pointers& pointers)
+{
+    constexpr std::size_t usual = 4;
+    if (pointers.size() == pointers.capacity()) {
+        pointers.reserve(pointers.empty() ? usual : pointers.size() * 2);
+    }
+}
+
 /// An element whose start tag is written and whose end tag is not.
 struct OpenElement {
     const ZelDataXmlNode* node;
@@ -20,9 +30,13 @@ struct OpenElement {
 
 } // namespace
 
-ZelDataXmlNode::ZelDataXmlNode(ZelDataXmlNode* parent) : parent_(parent)
+// A node without a parent, or with itself for one, is a root.
+ZelDataXmlNode::ZelDataXmlNode(ZelDataXmlNode* parent)
+    : ownMemory_(parent == nullptr || parent == this ? std::make_unique<TreeMemory>() : nullptr),
+      memory_(ownMemory_ != nullptr ? ownMemory_->resource() : parent->memory_),
+      currentGroup_(memory_), children_(memory_), name_(memory_), attributes_(memory_),
+      parent_(parent)
 {
-    childGroups_.push_back(std::make_unique<ChildGroup>());
 }
 
 // Leaves go first, found by way of the parents: neither the stack nor the memory that a recursion
@@ -32,12 +46,23 @@ ZelDataXmlNode::~ZelDataXmlNode()
     ZelDataXmlNode* node = this;
     while (node != this || !node->children_.empty()) {
         if (!node->children_.empty()) {
-            node = node->children_.back().get();
+            node = node->children_.back();
         } else {
-            node = node->parent_;
+            ZelDataXmlNode* const leaf = std::exchange(node, node->parent_);
             node->children_.pop_back();
+            std::destroy_at(leaf); // its memory goes with the root
         }
     }
+    for (ZelDataXmlAttribute* attribute : attributes_)
+        std::destroy_at(attribute);
+}
+
+/// A new object in the tree's memory, which its owner destroys and does not delete.
+template <class Object, class... Arguments>
+Object* ZelDataXmlNode::make(Arguments&&... arguments)
+{
+    void* const place = memory_->allocate(sizeof(Object), alignof(Object));
+    return new (place) Object(std::forward<Arguments>(arguments)...);
 }
 
 ZelDataXmlNode& ZelDataXmlNode::operator<(const char* path)
@@ -52,14 +77,14 @@ ZelDataXmlNode& ZelDataXmlNode::operator<(const std::string& path)
 
 ZelDataXmlNode& ZelDataXmlNode::operator<([[maybe_unused]] long long* newGroupVerb)
 {
-    childGroups_.push_back(std::make_unique<ChildGroup>());
-    ++currentGroup_;
+    currentGroup_.clear();
     return *this;
 }
 
 ZelDataXmlAttribute& ZelDataXmlNode::operator<([[maybe_unused]] void* attributeVerb)
 {
-    attributes_.push_back(std::make_unique<ZelDataXmlAttribute>(this));
+    makeRoom(attributes_);
+    attributes_.push_back(make<ZelDataXmlAttribute>(this, memory_));
     return *attributes_.back();
 }
 
@@ -84,9 +109,9 @@ ZelDataXmlNode& ZelDataXmlNode::newGroup()
     return *this < static_cast<long long*>(nullptr);
 }
 
-ZelDataXmlNode& ZelDataXmlNode::attribute(const char* name, const std::string& value)
+ZelDataXmlNode& ZelDataXmlNode::attribute(const char* name, std::string value)
 {
-    return *this < static_cast<void*>(nullptr) < name < value;
+    return *this < static_cast<void*>(nullptr) < name < std::move(value);
 }
 
 ZelDataXmlNode& ZelDataXmlNode::attribute(const char* name, long long value)
@@ -102,7 +127,7 @@ ZelDataXmlNode& ZelDataXmlNode::text(const std::string& markup)
 ZelDataXmlNode& ZelDataXmlNode::setName(const std::string& path)
 {
     const std::size_t slash = path.find('/');
-    name_ = path.substr(0, slash);
+    name_ = std::string_view(path).substr(0, slash);
     return slash == std::string::npos ? *this : *this < path.substr(slash + 1);
 }
 
@@ -117,7 +142,7 @@ void ZelDataXmlNode::write(std::string& out) const
             innermost.node->writeEndTag(out);
             open.pop_back();
         } else {
-            const ZelDataXmlNode* child = children[innermost.nextChild++].get();
+            const ZelDataXmlNode* child = children[innermost.nextChild++];
             child->writeStartTag(out);
             open.push_back({child, 0});
         }
@@ -126,30 +151,27 @@ void ZelDataXmlNode::write(std::string& out) const
 
 void ZelDataXmlNode::writeChildren(std::string& out) const
 {
-    for (const auto& child : children_)
+    for (const ZelDataXmlNode* child : children_)
         child->write(out);
-}
-
-ZelDataXmlNode::ChildGroup& ZelDataXmlNode::currentGroup() const
-{
-    return *childGroups_[static_cast<std::size_t>(currentGroup_)];
 }
 
 ZelDataXmlNode* ZelDataXmlNode::findChild(std::string_view name) const
 {
-    const auto found = currentGroup().find(name);
-    return found != currentGroup().end() ? found->second : nullptr;
+    const auto found = currentGroup_.find(name);
+    return found != currentGroup_.end() ? found->second : nullptr;
 }
 
 ZelDataXmlNode& ZelDataXmlNode::addChild(std::string_view name)
 {
-    auto child = std::make_unique<ZelDataXmlNode>(this);
-    child->name_ = name;
-    ChildGroup entry;
-    entry.emplace(name, child.get());
-    children_.push_back(std::move(child));
-    // Only relinks the entry: whatever can fail is done, so a child is in both places or in none.
-    currentGroup().merge(entry);
+    makeRoom(children_);
+    std::pmr::string ownName(name, memory_);
+    ChildGroup entry(memory_);
+    ZelDataXmlNode*& entered = entry.emplace(name, nullptr).first->second;
+    entered = make<ZelDataXmlNode>(this);
+    // Whatever can fail is done, so a child is in both places or in none: this only moves and links.
+    entered->name_ = std::move(ownName);
+    children_.push_back(entered);
+    currentGroup_.merge(entry);
     return *children_.back();
 }
 
@@ -177,7 +199,7 @@ ZelDataXmlNode& ZelDataXmlNode::walk(std::string_view path)
 
 void ZelDataXmlNode::writeStartTag(std::string& out) const
 {
-    out.append("<").append(name_);
+    out.append("<").append(std::string_view(name_));
     // Meant: a blank follows every attribute, the last one too, as in <rdf:li xml:lang="en" >.
     // Without it an XML reader would see no difference, but the bytes of every packet would change.
     if (!attributes_.empty()) out += ' ';
@@ -190,7 +212,7 @@ void ZelDataXmlNode::writeEndTag(std::string& out) const
 {
     // Meant: children displace the text. If it were written too, markup would stand beside text.
     if (children_.empty()) out += text_.getValue();
-    out.append("</").append(name_).append(">");
+    out.append("</").append(std::string_view(name_)).append(">");
 }
 
 } // namespace ZelInterchangeData

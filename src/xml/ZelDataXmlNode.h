@@ -4,13 +4,14 @@
 #ifndef ZELINTERCHANGEDATA_XML_ZELDATAXMLNODE_H
 #define ZELINTERCHANGEDATA_XML_ZELDATAXMLNODE_H
 
+#include "xml/TreeMemory.h"
 #include "xml/ZelDataXmlAttribute.h"
 #include "xml/ZelDataXmlValue.h"
 
-#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -67,7 +68,7 @@ public:
     /// its name. Returns this node.
     ZelDataXmlNode& newGroup();
     /// Appends an attribute; @p value is written as given. Returns this node.
-    ZelDataXmlNode& attribute(const char* name, const std::string& value);
+    ZelDataXmlNode& attribute(const char* name, std::string value);
     /// Appends an attribute with @p value in decimal. Returns this node.
     ZelDataXmlNode& attribute(const char* name, long long value);
     /// Replaces the text by @p markup, which is written as given, and only as long as there are no
@@ -91,21 +92,23 @@ protected:
 
 private:
     /// Transparent, so that a step of a path is looked up without being copied.
-    using ChildGroup = std::map<std::string, ZelDataXmlNode*, std::less<>>;
+    using ChildGroup = std::pmr::map<std::pmr::string, ZelDataXmlNode*, std::less<>>;
 
-    ChildGroup& currentGroup() const;
+    template <class Object, class... Arguments>
+    Object* make(Arguments&&... arguments);
     ZelDataXmlNode* findChild(std::string_view name) const;
     ZelDataXmlNode& addChild(std::string_view name);
     ZelDataXmlNode& walk(std::string_view path);
     void writeStartTag(std::string& out) const;
     void writeEndTag(std::string& out) const;
 
-    std::vector<std::unique_ptr<ChildGroup>> childGroups_;
-    std::vector<std::unique_ptr<ZelDataXmlNode>> children_;
-    std::int32_t currentGroup_ = 0;
-    std::string name_;
+    std::unique_ptr<TreeMemory> ownMemory_; // of a root, for the whole tree
+    std::pmr::memory_resource* memory_;
+    ChildGroup currentGroup_; // nothing asks for the children of an earlier group by their names
+    std::pmr::vector<ZelDataXmlNode*> children_;
+    std::pmr::string name_;
     ZelDataXmlValue text_;
-    std::vector<std::unique_ptr<ZelDataXmlAttribute>> attributes_;
+    std::pmr::vector<ZelDataXmlAttribute*> attributes_;
     ZelDataXmlNode* parent_;
 };
 

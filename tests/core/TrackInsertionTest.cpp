@@ -8,9 +8,14 @@ namespace {
 
 const std::string emptyList = "<xmpDM:Tracks><rdf:Bag></rdf:Bag></xmpDM:Tracks>";
 
+ZelDataResult_tags insert(std::string& packet, const std::string& tracks)
+{
+    return insertTracks(packet, tracks.size(), [&](std::string& place) { place += tracks; });
+}
+
 std::string inserted(std::string packet, const std::string& tracks)
 {
-    EXPECT_EQ(ZelData_Ok, insertTracks(packet, {tracks}));
+    EXPECT_EQ(ZelData_Ok, insert(packet, tracks));
     return packet;
 }
 
@@ -51,23 +56,36 @@ TEST(TrackInsertion, WithoutAnEmptyListItIsAnInternalErrorAndNothingChanges)
                                       "<xmpDM:Tracks ><rdf:Bag></rdf:Bag></xmpDM:Tracks>",
                                       "<xmpDM:Tracks><rdf:Bag></rdf:Bag></xmpDM:Tracks"}) {
         std::string packet = without;
-        EXPECT_EQ(ZelData_InternalError, insertTracks(packet, {"t"}));
+        EXPECT_EQ(ZelData_InternalError, insert(packet, "t"));
         EXPECT_EQ(without, packet);
     }
 }
 
-TEST(TrackInsertion, WithoutMemoryThePacketStaysAsItWas)
+TEST(TrackInsertion, TheTracksAreAppendedWithoutMoreMemoryThanAnnounced)
+{
+    std::string packet = emptyList;
+    const auto code = insertTracks(packet, 1000, [](std::string& place) {
+        const FailingAllocation failing(0);
+        place.append(1000, 't');
+    });
+    EXPECT_EQ(ZelData_Ok, code);
+    EXPECT_EQ(inserted(emptyList, std::string(1000, 't')), packet);
+}
+
+TEST(TrackInsertion, ATrackMayBeLongerThanAnnounced)
+{
+    std::string packet = emptyList;
+    EXPECT_EQ(ZelData_Ok,
+              insertTracks(packet, 1, [](std::string& place) { place.append(5000, 't'); }));
+    EXPECT_EQ(inserted(emptyList, std::string(5000, 't')), packet);
+}
+
+TEST(TrackInsertion, ExhaustedMemoryPassesThrough)
 {
     std::string packet = emptyList;
     packet.shrink_to_fit();
-    const std::vector<std::string> tracks{std::string(1000, 't')};
-    ZelDataResult_tags code = ZelData_Ok;
-    {
-        const FailingAllocation failing(0);
-        code = insertTracks(packet, tracks);
-    }
-    EXPECT_EQ(ZelData_OutOfMemory, code);
-    EXPECT_EQ(emptyList, packet);
+    const FailingAllocation failing(0);
+    EXPECT_THROW(insert(packet, std::string()), std::bad_alloc);
 }
 
 } // namespace

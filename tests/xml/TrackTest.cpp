@@ -8,10 +8,27 @@
 namespace ZelInterchangeData {
 namespace {
 
+/// The text of @p track with the markers of @p writeMarkers.
+template <class WriteMarkers>
+std::string textOf(const Track& track, WriteMarkers writeMarkers)
+{
+    std::string text;
+    track.appendTo(text, writeMarkers);
+    return text;
+}
+
 /// The text of @p track without markers.
 std::string textOf(const Track& track)
 {
-    return track.text(0, [](MarkerWriter&) {});
+    return textOf(track, [](MarkerWriter&) {});
+}
+
+TEST(Track, IsAppendedToWhatStandsThere)
+{
+    const Track track;
+    std::string packet = "before";
+    track.appendTo(packet, [](MarkerWriter&) {});
+    EXPECT_EQ(packet, "before" + textOf(track));
 }
 
 TEST(Track, BeginsWithADescriptionAndAnEmptySequenceOfMarkers)
@@ -33,7 +50,7 @@ TEST(Track, AttributesOfTheDescriptionDescribeTheTrack)
 TEST(Track, EachMarkerIsAnItemOfItsOwnInTheOrderOfTheirMaking)
 {
     const Track track;
-    const std::string text = track.text(0, [](MarkerWriter& markers) {
+    const std::string text = textOf(track, [](MarkerWriter& markers) {
         markers.begin().attribute("xmpDM:startTime", 0LL).content().append("<b></b>");
         markers.endContent();
         markers.begin().attribute("xmpDM:startTime", 2LL).end();
@@ -50,7 +67,7 @@ TEST(Track, AnAttributeThatLooksLikeTheMarkersDoesNotTakeTheirPlace)
     Track track;
     track.description().attribute("a", "<rdf:Seq></rdf:Seq>");
     const std::string text =
-        track.text(0, [](MarkerWriter& markers) { markers.begin().attribute("k", "v").end(); });
+        textOf(track, [](MarkerWriter& markers) { markers.begin().attribute("k", "v").end(); });
     EXPECT_EQ(text, "<rdf:li><rdf:Description a=\"<rdf:Seq></rdf:Seq>\" ><xmpDM:markers><rdf:Seq>"
                     "<rdf:li><rdf:Description k=\"v\" ></rdf:Description></rdf:li>"
                     "</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>");
@@ -62,7 +79,7 @@ TEST(Track, PropertiesFollowTheMarkers)
     track.addProperty("zel:fgColor").attribute("xmpG:mode", "RGB");
     track.addProperty("zel:bgColor");
     const std::string text =
-        track.text(0, [](MarkerWriter& markers) { markers.begin().attribute("k", "v").end(); });
+        textOf(track, [](MarkerWriter& markers) { markers.begin().attribute("k", "v").end(); });
     EXPECT_EQ(text, "<rdf:li><rdf:Description><xmpDM:markers><rdf:Seq>"
                     "<rdf:li><rdf:Description k=\"v\" ></rdf:Description></rdf:li>"
                     "</rdf:Seq></xmpDM:markers>"

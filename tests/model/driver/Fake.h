@@ -115,6 +115,12 @@ public:
     }
 
 protected:
+    /// Makes both last errors those of a new object.
+    void forgetCodes()
+    {
+        Interface::setLastError(ZelInterchangeData::ZelData_Ok);
+        own_ = ZelInterchangeData::ZelData_Ok;
+    }
     ZelDataResult_tags keep(ZelDataResult_tags code) const override
     {
         if (keepsOwn()) return own_ = code;

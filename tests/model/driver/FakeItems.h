@@ -36,7 +36,7 @@ template <class Interface>
 class FakeItem : public Fake<Interface> {
 public:
     /// Forgets the last error.
-    void restart() { this->keep(ZelInterchangeData::ZelData_Ok); }
+    void restart() { this->forgetCodes(); }
 
     Code isValid(bool strict) const override { return this->done("isValid", notedList(strict)); }
 };

@@ -1,0 +1,133 @@
+#include "core/LanguageTexts.h"
+
+#include "xml/FailingAllocation.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <utility>
+
+namespace ZelInterchangeData {
+namespace {
+
+using Map = std::map<std::string, std::string>;
+
+Map mapOf(const LanguageTexts& texts)
+{
+    Map map;
+    for (std::size_t i = 0; i < texts.count(); ++i)
+        map.emplace(texts[i].languageID, texts[i].text);
+    return map;
+}
+
+TEST(LanguageTexts, NewOnesAreEmptyAndTakeNoMemory)
+{
+    const FailingAllocation failing(0);
+    const LanguageTexts texts;
+    const LanguageTexts copy(texts);
+    EXPECT_EQ(0U, copy.count());
+    EXPECT_EQ(0U, copy.size());
+    EXPECT_FALSE(copy.find("en").has_value());
+}
+
+TEST(LanguageTexts, StandInAscendingOrderOfTheIDs)
+{
+    LanguageTexts texts;
+    for (const char* id : {"en", "de", "pt-BR", "pt", "de-AT"})
+        EXPECT_EQ(ZelData_Ok, texts.set(std::string("text ") + id, id));
+    std::vector<std::string> ids;
+    EXPECT_EQ(ZelData_Ok, texts.getLanguageIDs(ids));
+    EXPECT_EQ((std::vector<std::string>{"de", "de-AT", "en", "pt", "pt-BR"}), ids);
+    EXPECT_EQ("text pt", texts.find("pt"));
+}
+
+TEST(LanguageTexts, SizeCountsIDsAndTexts)
+{
+    LanguageTexts texts;
+    texts.set("four", "en");
+    texts.set("", "de");
+    EXPECT_EQ(8U, texts.size());
+}
+
+TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
+{
+    LanguageTexts texts;
+    const std::string zeros(3, '\0');
+    texts.set(zeros, "en");
+    texts.set("", "de");
+    EXPECT_EQ(zeros, texts.find("en"));
+    EXPECT_EQ("", texts.find("de"));
+    EXPECT_FALSE(texts.find("fr").has_value());
+}
+
+TEST(LanguageTexts, ACopyKeepsItsTextsWhenTheOriginalChanges)
+{
+    LanguageTexts texts;
+    texts.set("one", "en");
+    const LanguageTexts copy(texts);
+    EXPECT_EQ(ZelData_WarnAlreadyExists, texts.set("another", "en"));
+    texts.set("zwei", "de");
+    EXPECT_EQ((Map{{"en", "one"}}), mapOf(copy));
+    EXPECT_EQ((Map{{"de", "zwei"}, {"en", "another"}}), mapOf(texts));
+}
+
+TEST(LanguageTexts, ATextOfTheirOwnCanBeSetForAnotherLanguage)
+{
+    LanguageTexts texts;
+    texts.set("one", "en");
+    texts.set(*texts.find("en"), "de");
+    EXPECT_EQ((Map{{"de", "one"}, {"en", "one"}}), mapOf(texts));
+}
+
+TEST(LanguageTexts, WithoutMemoryAChangeChangesNothing)
+{
+    LanguageTexts texts;
+    texts.set("one", "en");
+    texts.set("zwei", "de");
+    {
+        const FailingAllocation failing(0);
+        EXPECT_THROW(texts.set("autre", "fr"), std::bad_alloc);
+        EXPECT_THROW(texts.set("other", "en"), std::bad_alloc);
+    }
+    EXPECT_EQ((Map{{"de", "zwei"}, {"en", "one"}}), mapOf(texts));
+}
+
+TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
+{
+    std::mt19937 random(20);
+    const std::vector<std::string> ids = {"de", "de-AT", "en", "en-US", "fr", "ja", "zh"};
+    std::vector<std::pair<LanguageTexts, Map>> pairs(6);
+    for (int step = 0; step < 20000; ++step) {
+        auto& [texts, map] = pairs[random() % pairs.size()];
+        const std::string& id = ids[random() % ids.size()];
+        switch (random() % 4) {
+        case 0: {
+            const std::string text(random() % 40, static_cast<char>('a' + random() % 26));
+            const bool replaces = map.count(id) != 0;
+            EXPECT_EQ(replaces ? ZelData_WarnAlreadyExists : ZelData_Ok, texts.set(text, id));
+            map[id] = text;
+            break;
+        }
+        case 1:
+            EXPECT_EQ(map.erase(id) != 0 ? ZelData_Ok : ZelData_NotFound, texts.remove(id));
+            break;
+        case 2: {
+            const auto& other = pairs[random() % pairs.size()];
+            texts = other.first;
+            map = Map(other.second);
+            break;
+        }
+        default: {
+            std::string text = "left alone";
+            const bool found = map.count(id) != 0;
+            EXPECT_EQ(found ? ZelData_Ok : ZelData_InvalidArgument, texts.get(text, id));
+            EXPECT_EQ(found ? map[id] : "left alone", text);
+        }
+        }
+        ASSERT_EQ(map, mapOf(texts)) << "step " << step;
+    }
+}
+
+} // namespace
+} // namespace ZelInterchangeData
