@@ -343,7 +343,7 @@ class BothRoads : public testing::Test {
 };
 
 using Kinds = testing::Types<CaptionKind, TocKind, ScreenTextKind>;
-TYPED_TEST_SUITE(BothRoads, Kinds);
+TYPED_TEST_SUITE(BothRoads, Kinds, );
 
 TYPED_TEST(BothRoads, CopiesOfItemsAreTheSame)
 {
