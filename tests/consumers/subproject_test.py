@@ -57,9 +57,8 @@ class Subproject(ChecksOfPrograms):
         commands = compile_commands(self.tree)
         ours = [entry for entry in commands if Path(entry["file"]).is_relative_to(SOURCE / "src")]
         self.assertGreater(len(ours), 40)
-        for entry in commands:
-            with self.subTest(entry["file"]):
-                self.assertEqual(WARNING_FLAGS.findall(entry["command"]), [])
+        flags = {flag for entry in commands for flag in WARNING_FLAGS.findall(entry["command"])}
+        self.assertEqual(flags, set())
 
     def test_the_consumer_is_compiled_with_its_own_flags_and_our_headers_alone(self):
         command, = (entry["command"] for entry in compile_commands(self.tree)
