@@ -95,7 +95,7 @@ void* operator new(std::size_t size)
 
 int main()
 {
-    std::cout << "version " << ZELINTERCHANGEDATA_VERSION << '\n'
-              << "title " << titleIn(writtenPacket()) << '\n'
-              << "without memory " << messageWithoutMemory() << '\n';
+    std::cout << "title " << titleIn(writtenPacket()) << '\n'
+              << "without memory " << messageWithoutMemory() << '\n'
+              << "version " << ZELINTERCHANGEDATA_VERSION << '\n';
 }
