@@ -15,17 +15,20 @@ using Places = std::vector<std::size_t>;
 /// Counts at places, with sums of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    /// Room for @p size places, and more up to the next power of two, so that take() stays inside.
-    explicit PrefixCounts(std::size_t size)
+    /// Room for @p size places with nothing counted, and for more up to the next power of two, so that
+    /// take() stays inside.
+    void clear(std::size_t size)
     {
+        highestStep_ = 1;
         while (highestStep_ <= size)
             highestStep_ *= 2;
-        sums_.resize(highestStep_ * 2);
+        sums_.assign(highestStep_ * 2, 0);
     }
 
-    /// One at each place, where nothing was counted yet.
-    void addOneEach()
+    /// The same with one at each place.
+    void fill(std::size_t size)
     {
+        clear(size);
         for (std::size_t i = 1; i < sums_.size(); ++i) {
             sums_[i] = lowestBit(i);
         }
@@ -133,7 +136,8 @@ Places smallerBefore(const std::vector<long long>& starts, const Places& order)
         if (starts[order[i]] != starts[order[i - 1]]) ++groups;
         rank[order[i]] = groups - 1;
     }
-    PrefixCounts met(groups);
+    PrefixCounts met;
+    met.clear(groups);
     for (std::size_t& each : rank) {
         const std::size_t smaller = met.before(each);
         met.add(each);
@@ -142,44 +146,50 @@ Places smallerBefore(const std::vector<long long>& starts, const Places& order)
     return rank;
 }
 
-/// Lays @p places open: entry i was inserted at places[i] of the i entries before it. Gives the final
-/// place of each entry.
-Places finalPlaces(Places places)
-{
-    PrefixCounts free(places.size());
-    free.addOneEach();
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-        *place = free.take(*place);
-    }
-    return places;
-}
-
-/// Puts one group of equal starts, the members from @p first to @p last in stored order, in the order of
-/// the exchange sort.
+/// Puts groups of equal starts in the order of the exchange sort, one after the other.
 ///
 /// Each smaller start that the sort meets after some members takes the place of the first of them, which
 /// goes behind the others: it rotates the group by one. A new member joins at the end. So the group is a
-/// ring with a head, rotation moves the head, and a member joins before it. @p counts tells how many
-/// smaller starts come before a member, @p total how many there are.
-void arrangeGroup(Places::iterator first, Places::iterator last, const Places& counts,
-                  std::size_t total)
-{
-    const auto size = static_cast<std::size_t>(last - first);
-    Places joined(size); // where in the ring, cut at the first member, each member was inserted
-    std::size_t head = 0;
-    for (std::size_t i = 1; i < size; ++i) {
-        head = (head + counts[first[static_cast<std::ptrdiff_t>(i)]] -
-                counts[first[static_cast<std::ptrdiff_t>(i - 1)]]) %
-               i;
-        joined[i] = head == 0 ? i : head++;
+/// ring with a head, rotation moves the head, and a member joins before it.
+class GroupArranger {
+public:
+    /// @param counts for each item how many smaller starts come before it.
+    explicit GroupArranger(const Places& counts) : counts_(counts) {}
+
+    /// Arranges one group, the members from @p first to @p last in stored order; @p total starts of all
+    /// are smaller.
+    void arrange(Places::iterator first, Places::iterator last, std::size_t total)
+    {
+        members_.assign(first, last);
+        joinRing();
+        const std::size_t size = members_.size();
+        const std::size_t head = (head_ + total - counts_[members_.back()]) % size;
+        // The member that joined last stands where it joined, the others make room for it.
+        free_.fill(size);
+        for (std::size_t i = size; i-- > 0;) {
+            const std::size_t place = free_.take(joined_[i]);
+            first[static_cast<std::ptrdiff_t>((place + size - head) % size)] = members_[i];
+        }
     }
-    head = (head + total - counts[*(last - 1)]) % size;
-    const Places ring = finalPlaces(std::move(joined));
-    const Places members(first, last);
-    for (std::size_t i = 0; i < size; ++i) {
-        first[static_cast<std::ptrdiff_t>((ring[i] + size - head) % size)] = members[i];
+
+private:
+    /// Notes where in the ring, cut at the first member, each member joins.
+    void joinRing()
+    {
+        joined_.assign(members_.size(), 0);
+        head_ = 0;
+        for (std::size_t i = 1; i < members_.size(); ++i) {
+            head_ = (head_ + counts_[members_[i]] - counts_[members_[i - 1]]) % i;
+            joined_[i] = head_ == 0 ? i : head_++;
+        }
     }
-}
+
+    const Places& counts_;
+    Places members_;
+    Places joined_;
+    std::size_t head_ = 0;
+    PrefixCounts free_;
+};
 
 } // namespace
 
@@ -201,10 +211,11 @@ std::vector<std::size_t> exchangeOrder(const std::vector<long long>& starts)
     auto group = std::adjacent_find(order.begin(), order.end(), isTie);
     if (group == order.end()) return order;
     const Places counts = smallerBefore(starts, order);
+    GroupArranger arranger(counts);
     while (group != order.end()) {
         const auto next = std::find_if(
             group, order.end(), [&](std::size_t place) { return starts[place] != starts[*group]; });
-        arrangeGroup(group, next, counts, static_cast<std::size_t>(group - order.begin()));
+        arranger.arrange(group, next, static_cast<std::size_t>(group - order.begin()));
         group = std::adjacent_find(next, order.end(), isTie);
     }
     return order;
