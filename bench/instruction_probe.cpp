@@ -75,6 +75,16 @@ void probeFace()
     section("face", [&] { return tenRounds(throughFace); });
 }
 
+/// What is wrong with captions out of order, many of which overlap as well.
+void probeFindings(std::size_t size)
+{
+    const Sets sets = fill(makeDocument(size, Order::shuffled, Pair::enDe));
+    section("findings." + std::to_string(size), [&] {
+        std::vector<ZelDataFinding> findings;
+        return failed(findProblems(*sets.captions, findings)) ? 0 : findings.size();
+    });
+}
+
 } // namespace
 
 } // namespace ZelInterchangeData::bench
@@ -88,5 +98,7 @@ int main()
     }
     probeTexts();
     probeFace();
+    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}})
+        probeFindings(size);
     return 0;
 }
