@@ -1,17 +1,18 @@
-"""Writes the first code block of a language in a Markdown file to a file of its own.
+"""Writes a code block of a language in a Markdown file to a file of its own.
 
-Usage: extract.py FILE LANGUAGE OUTPUT"""
+Usage: extract.py FILE LANGUAGE NUMBER OUTPUT    (the first block is number 1)"""
 
 import re
 import sys
 from pathlib import Path
 
 
-def first_block(text, language):
-    """The lines between the fences, each with its line feed."""
-    return re.search(rf"^```{language}\n(.*?)^```$", text, re.DOTALL | re.MULTILINE)[1]
+def block(text, language, number):
+    """The lines between the fences of the block, each with its line feed."""
+    blocks = re.findall(rf"^```{language}\n(.*?)^```$", text, re.DOTALL | re.MULTILINE)
+    return blocks[number - 1]
 
 
 if __name__ == "__main__":
     markdown = Path(sys.argv[1]).read_text(encoding="utf-8")
-    Path(sys.argv[3]).write_text(first_block(markdown, sys.argv[2]), encoding="utf-8")
+    Path(sys.argv[4]).write_text(block(markdown, sys.argv[2], int(sys.argv[3])), encoding="utf-8")
