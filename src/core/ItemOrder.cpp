@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -71,59 +72,60 @@ private:
     std::size_t highestStep_ = 1;
 };
 
-/// An item's start, as a number that orders like it from its lowest byte to its highest, and its place.
-struct Keyed {
-    std::uint64_t key;
-    std::size_t place;
+/// An item's start above the least one, and below it the item's place: half of the bits each.
+using Packed = std::uint64_t;
 
-    std::uint8_t byteAt(unsigned shift) const noexcept
-    {
-        return static_cast<std::uint8_t>(key >> shift);
-    }
-};
-
-/// How many of @p items have each value of the byte at @p shift.
-std::array<std::size_t, 256> countBytes(const std::vector<Keyed>& items, unsigned shift)
-{
-    std::array<std::size_t, 256> counts{};
-    for (const Keyed& item : items) {
-        ++counts[item.byteAt(shift)];
-    }
-    return counts;
-}
+constexpr unsigned placeBits = 32;
+constexpr Packed greatestHalf = 0xFFFFFFFF;
 
 /// Orders @p items by the byte at @p shift alone, those of equal bytes as they stand.
-void orderByByte(std::vector<Keyed>& items, std::vector<Keyed>& scratch, unsigned shift)
+void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsigned shift)
 {
-    auto next = countBytes(items, shift);
+    std::array<std::size_t, 256> next{}; // where the next item with a byte goes
+    for (const Packed item : items) {
+        ++next[item >> shift & 0xFF];
+    }
     std::size_t sum = 0;
     for (std::size_t& place : next) {
         sum += std::exchange(place, sum);
     }
-    for (const Keyed& item : items) {
-        scratch[next[item.byteAt(shift)]++] = item;
+    for (const Packed item : items) {
+        scratch[next[item >> shift & 0xFF]++] = item;
     }
     items.swap(scratch);
 }
 
-/// The order of a stable sort. It goes byte by byte (a radix sort): starts are times, which differ in a
-/// few bytes, and no comparison has to be foreseen.
-Places stableOrder(const std::vector<long long>& starts)
+/// The order of a stable sort for starts that are at most @p range above @p least. It goes byte by byte
+/// (a radix sort): starts differ in a few bytes, and no comparison has to be foreseen.
+Places packedOrder(const std::vector<long long>& starts, long long least, Packed range)
 {
-    constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
-    std::vector<Keyed> items(starts.size());
-    std::uint64_t differing = 0; // the bits in which any two starts differ
+    std::vector<Packed> items(starts.size());
     for (std::size_t i = 0; i < starts.size(); ++i) {
-        items[i] = {static_cast<std::uint64_t>(starts[i]) ^ signBit, i};
-        differing |= items[i].key ^ items[0].key;
+        const Packed above = static_cast<Packed>(starts[i]) - static_cast<Packed>(least);
+        items[i] = above << placeBits | i;
     }
-    std::vector<Keyed> scratch(starts.size());
-    for (unsigned shift = 0; shift < 64; shift += 8) {
-        if ((differing >> shift & 0xFF) != 0) orderByByte(items, scratch, shift);
+    std::vector<Packed> scratch(starts.size());
+    for (unsigned shift = 0; shift < placeBits && range >> shift != 0; shift += 8) {
+        orderByByte(items, scratch, placeBits + shift);
     }
     Places order(starts.size());
     std::transform(items.begin(), items.end(), order.begin(),
-                   [](const Keyed& item) { return item.place; });
+                   [](Packed item) { return static_cast<std::size_t>(item & greatestHalf); });
+    return order;
+}
+
+/// The order of a stable sort.
+Places stableOrder(const std::vector<long long>& starts)
+{
+    const auto [least, greatest] = std::minmax_element(starts.begin(), starts.end());
+    const Packed range = static_cast<Packed>(*greatest) - static_cast<Packed>(*least);
+    if (range <= greatestHalf && starts.size() <= greatestHalf) {
+        return packedOrder(starts, *least, range);
+    }
+    Places order(starts.size()); // starts that are weeks apart
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return starts[a] < starts[b]; });
     return order;
 }
 
