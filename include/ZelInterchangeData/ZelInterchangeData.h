@@ -9,6 +9,7 @@
 #include "ZelInterchangeData/ZelDataException.h"
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataResultText.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"

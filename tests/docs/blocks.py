@@ -3,7 +3,9 @@
 A C++ block is a program, or a part of one: a block without `main` is the body of `main` below the
 document's block of includes, which is the one marked `cpp preamble`. What a program prints stands
 in the `text` or `xml` block behind it, what it writes into a file in such a block with `file=NAME`.
-An `xml` block shows one line with line breaks for reading, a `text` block shows every byte.
+An `xml` block shows one line with line breaks for reading, a `text` block shows every byte. A date
+of a packet is shown as any one or empty. A C++ block may be a file of the project
+(`source=PATH`), and what it writes into a file may stand in one (`writes=NAME expected=PATH`).
 
 A CMake block is a project, or a part of one below the lines that every project begins with.
 

@@ -1,8 +1,10 @@
 """How samples are taken out of a document and compared, on small made-up ones."""
 
+import os
 import sys
 import tempfile
 import unittest
+import unittest.mock
 from pathlib import Path
 
 from blocks import Block, Sample, blocks_of, preamble_of, program_of, project_of, samples_of
@@ -132,6 +134,26 @@ class Output(unittest.TestCase):
         good = '<a dc:date="2031-01-02T03:04:05-0:00" ></a>'
         self.assertEqual(self.found(sample(shown), printer(good)), [])
         self.assertNotEqual(self.found(sample(shown), printer(good.replace("T", " "))), [])
+
+    def test_a_date_that_is_shown_empty_must_be_there(self):
+        shown = Block("xml", [], '<a dc:date="" ></a>\n', 1)
+        good = '<a dc:date="2031-01-02T03:04:05-0:00" ></a>'
+        self.assertEqual(self.found(sample(shown), printer(good)), [])
+        self.assertNotEqual(self.found(sample(shown), printer('<a dc:date="" ></a>')), [])
+
+    def test_files_of_the_project_are_compared(self):
+        with tempfile.TemporaryDirectory() as root:
+            Path(root, "source.cpp").write_text("int main();\n", encoding="utf-8")
+            Path(root, "expected.xmp").write_text("<a></a>\n", encoding="utf-8")
+            words = ["source=source.cpp", "writes=a.xmp", "expected=expected.xmp"]
+            with unittest.mock.patch.dict(os.environ, ROOT=root):
+                good = Sample("d.s", Block("cpp", words, "int main();\n", 1), [])
+                self.assertEqual(self.found(good, printer("<a></a>", "a.xmp")), [])
+                self.assertEqual(self.found(good, printer("<b></b>", "a.xmp")),
+                                 ["writes '<b></b>' into a.xmp"])
+                other = Sample("d.s", Block("cpp", words, "int main()\n", 1), [])
+                self.assertEqual(self.found(other, printer("<a></a>", "a.xmp")),
+                                 ["differs from source.cpp"])
 
     def test_files_are_compared_too(self):
         shown = sample(Block("text", ["file=a.txt"], "a\n", 1))

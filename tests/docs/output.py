@@ -1,7 +1,11 @@
 """What a sample prints and writes against what its document shows."""
 
+import os
 import re
 import subprocess
+from pathlib import Path
+
+from blocks import Block
 
 DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
 
@@ -16,15 +20,35 @@ def in_one_line(block):
 
 
 def masked(text):
-    """The text with the date of a packet blanked out."""
-    return DATE.sub('dc:date="…"', text)
+    """The text with DATE for the date of a packet."""
+    return DATE.sub('dc:date="DATE"', text)
 
 
 def same(actual, block):
     """Whether the text is the one shown; the line feed behind a printed packet does not count."""
+    # A date that is shown empty stands for any, but there must be one.
+    shown = masked(block.text).replace('dc:date=""', 'dc:date="DATE"')
     if block.language == "xml":
-        return masked(actual).removesuffix("\n") == masked(in_one_line(block.text))
-    return masked(actual) == masked(block.text)
+        return masked(actual).removesuffix("\n") == in_one_line(shown)
+    return masked(actual) == shown
+
+
+def outputs_of(sample):
+    """The blocks behind the sample, and the file of the project that its first line refers to."""
+    expected = sample.block.option("expected")
+    if not expected:
+        return sample.outputs
+    text = Path(os.environ["ROOT"], expected).read_text(encoding="utf-8")
+    return sample.outputs + [Block("xml", ["file=" + sample.block.option("writes")], text, 0)]
+
+
+def source_objections(sample):
+    """What is wrong with a sample that is said to be a file of the project."""
+    source = sample.block.option("source")
+    if not source:
+        return []
+    same_text = Path(os.environ["ROOT"], source).read_text(encoding="utf-8") == sample.block.text
+    return [] if same_text else [f"differs from {source}"]
 
 
 def run(command, folder):
@@ -38,19 +62,21 @@ def objections(sample, command, folder):
     result = run(command, folder)
     if (result.returncode, result.stderr) != (0, ""):
         return [f"exit status {result.returncode}, standard error: {result.stderr!r}"]
-    found = [] if sample.outputs else ["the document shows no output"]
-    printed = [block for block in sample.outputs if not block.option("file")]
+    found, outputs = source_objections(sample), outputs_of(sample)
+    if not outputs:
+        found.append("the document shows no output")
+    printed = [block for block in outputs if not block.option("file")]
     if len(printed) > 1:
         found.append("the document shows two outputs")
     if not printed and result.stdout:
         found.append(f"prints what is not shown: {result.stdout!r}")
     found += [f"prints {result.stdout!r}" for block in printed if not same(result.stdout, block)]
-    return found + file_objections(sample, folder)
+    return found + file_objections(outputs, folder)
 
 
-def file_objections(sample, folder):
+def file_objections(outputs, folder):
     """What is wrong with the files that the sample wrote."""
-    shown = {block.option("file"): block for block in sample.outputs if block.option("file")}
+    shown = {block.option("file"): block for block in outputs if block.option("file")}
     written = {path.name: path.read_text(encoding="utf-8") for path in folder.iterdir()}
     found = [f"writes {name}, which is not shown" for name in sorted(written.keys() - shown.keys())]
     for name, block in shown.items():
