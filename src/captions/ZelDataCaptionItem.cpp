@@ -1,16 +1,10 @@
 #include "captions/ZelDataCaptionItem.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "captions/CaptionLimits.h"
 #include "core/Factory.h"
 
 namespace ZelInterchangeData {
-
-namespace {
-
-constexpr long long recommendedDuration = 1000;
-constexpr unsigned long recommendedLines = 4;
-
-} // namespace
 
 ZelDataResult_tags ZelDataUtilities::createCaptionItemData(i_ZelDataCaptionItem** out)
 {
@@ -36,11 +30,12 @@ ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
 
 ZelDataResult_tags CaptionState::check(bool strict) const
 {
-    if (time.duration <= 0) return ZelData_InvalidItem;
-    if (strict && time.duration < recommendedDuration) return ZelData_WarnItemGuidelines;
+    if (time.duration < CaptionLimits::shortestDuration) return ZelData_InvalidItem;
+    if (strict && time.duration < CaptionLimits::recommendedDuration)
+        return ZelData_WarnItemGuidelines;
     for (const auto& [languageID, text] : texts().all()) {
         if (failed(LanguageTexts::check(text, languageID))) return ZelData_InvalidItem;
-        if (strict && ZelDataUtilities::countLinesInUTF8(text) > recommendedLines) {
+        if (strict && ZelDataUtilities::countLinesInUTF8(text) > CaptionLimits::recommendedLines) {
             return ZelData_WarnItemGuidelines;
         }
     }

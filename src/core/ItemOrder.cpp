@@ -149,6 +149,25 @@ std::vector<long long> earliestLaterStarts(std::vector<long long> starts)
     return starts;
 }
 
+std::vector<std::size_t> firstLaterStartsBelow(const std::vector<long long>& bounds,
+                                               const std::vector<long long>& starts)
+{
+    Places found(starts.size(), starts.size());
+    // The later items that start before all that stand between: the furthest first, so with ascending
+    // starts. Any other one has such an item before it that starts no later.
+    Places candidates;
+    for (std::size_t i = starts.size(); i-- > 0;) {
+        const auto notBelow =
+            std::partition_point(candidates.begin(), candidates.end(),
+                                 [&](std::size_t place) { return starts[place] < bounds[i]; });
+        if (notBelow != candidates.begin()) found[i] = *(notBelow - 1);
+        while (!candidates.empty() && starts[candidates.back()] >= starts[i])
+            candidates.pop_back();
+        candidates.push_back(i);
+    }
+    return found;
+}
+
 std::vector<std::size_t> exchangeOrder(const std::vector<long long>& starts)
 {
     if (std::is_sorted(starts.begin(), starts.end())) return {};
