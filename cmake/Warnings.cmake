@@ -1,10 +1,12 @@
 # The warnings of the project's own targets. They are private to each target, so that a project that
-# uses the library never sees them.
+# uses the library never sees them; as a part of that project the library is built without them.
 
 function(zel_warnings target)
-    target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-        -Woverloaded-virtual)
+    if(ZELINTERCHANGEDATA_WARNINGS)
+        target_compile_options(${target} PRIVATE
+            -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+            -Woverloaded-virtual)
+    endif()
     if(ZELINTERCHANGEDATA_WERROR)
         target_compile_options(${target} PRIVATE -Werror)
     endif()

@@ -16,6 +16,7 @@
 #include "ZelInterchangeData/ZelDataResultText.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "ZelInterchangeData/ZelDataVersion.h"
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"

@@ -1,21 +1,20 @@
 """One CMake block of a document as a project of its own, which finds the library in the ways that a
 user has: a prefix, a folder of sources beside it, a declared fetch. Its program is the first one of
-the README, and prints what the README shows.
+the README, and does what the README shows.
 
 Usage: consumer_test.py PROJECT README
 
-The environment names CMAKE, SOURCE (the library's folder), PREFIX (where it is installed),
-CONFIGURATION and COMPILER."""
+Needs the prefix that the tests of the consumer projects install into, and their environment."""
 
 import os
 import shutil
-import subprocess
 import sys
 import tempfile
 from pathlib import Path
 
 from blocks import document_name, preamble_of, program_of, read_blocks, samples_of
 from output import objections
+from support import PREFIX, SOURCE, build, configure, fresh_folder
 
 
 def first_program(readme):
@@ -24,37 +23,28 @@ def first_program(readme):
     return sample, program_of(sample, preamble_of(blocks))
 
 
-def call(*arguments):
-    """Ends the test, and shows what was said, when CMake fails."""
-    result = subprocess.run([os.environ["CMAKE"], *arguments], stdout=subprocess.PIPE,
-                            stderr=subprocess.STDOUT, text=True, check=False)
-    if result.returncode != 0:
-        sys.exit(result.stdout)
-
-
-def build(project, text, folder):
-    """Lays the project out and builds it; returns the program."""
+def program_built(project, text):
+    """Lays the project out and builds it; returns its program."""
+    folder = fresh_folder(f"docs.{project.stem}")
     shutil.copy(project, folder / "CMakeLists.txt")
     (folder / "main.cpp").write_text(text, encoding="utf-8")
-    (folder / "ZelInterchangeData").symlink_to(os.environ["SOURCE"])
-    call("-S", str(folder), "-B", str(folder / "build"), "-G", "Ninja",
-         f"-DCMAKE_BUILD_TYPE={os.environ['CONFIGURATION']}",
-         f"-DCMAKE_CXX_COMPILER={os.environ['COMPILER']}",
-         f"-DCMAKE_PREFIX_PATH={os.environ['PREFIX']}",
-         f"-DFETCHCONTENT_SOURCE_DIR_ZELINTERCHANGEDATA={os.environ['SOURCE']}",
-         "-DFETCHCONTENT_FULLY_DISCONNECTED=ON")
-    call("--build", str(folder / "build"), "--target", "my_program")
-    return next(path for path in (folder / "build").rglob("my_program") if path.is_file())
+    (folder / "ZelInterchangeData").symlink_to(SOURCE)
+    tree = folder / "build"
+    configure(folder, tree, f"-DCMAKE_BUILD_TYPE={os.environ['BUILD_TYPE']}",
+              f"-DCMAKE_PREFIX_PATH={PREFIX}", "-DFETCHCONTENT_FULLY_DISCONNECTED=ON",
+              f"-DFETCHCONTENT_SOURCE_DIR_ZELINTERCHANGEDATA={SOURCE}")
+    build(tree)
+    return tree / "my_program"
 
 
 def main():
-    project, readme = sys.argv[1:]
+    project, readme = Path(sys.argv[1]), sys.argv[2]
     sample, text = first_program(readme)
-    with tempfile.TemporaryDirectory() as place, tempfile.TemporaryDirectory() as folder:
-        program = build(project, text, Path(place))
+    program = program_built(project, text)
+    with tempfile.TemporaryDirectory() as folder:
         found = objections(sample, [str(program)], Path(folder))
     for objection in found:
-        print(f"{Path(project).name}: {objection}", file=sys.stderr)
+        print(f"{project.name}: {objection}", file=sys.stderr)
     return 1 if found else 0
 
 

@@ -1,0 +1,42 @@
+"""Installs a Release and a Debug build of the library for the tests of the consumer projects: side by
+side into one prefix, and the Release build once more with absolute library and include folders."""
+
+import os
+import shutil
+from pathlib import Path
+
+from support import ABSOLUTE, PREFIX, RELEASE_TREE, SOURCE, WORK, build, configure, install
+
+
+def library_tree(build_type, tree, *definitions):
+    """The build tree of the library alone, built."""
+    configure(SOURCE, tree, f"-DCMAKE_BUILD_TYPE={build_type}", "-DZELINTERCHANGEDATA_TESTS=OFF",
+              "-DZELINTERCHANGEDATA_EXAMPLES=OFF", *definitions)
+    build(tree)
+    return tree
+
+
+def debug_tree():
+    """The tree whose tests run, when it is one; it is built already."""
+    if os.environ["BUILD_TYPE"] == "Debug":
+        return Path(os.environ["BUILD_TREE"])
+    return library_tree("Debug", WORK / "library-Debug")
+
+
+def folders(libdir, includedir):
+    return f"-DCMAKE_INSTALL_LIBDIR={libdir}", f"-DCMAKE_INSTALL_INCLUDEDIR={includedir}"
+
+
+def main():
+    for prefix in (PREFIX, ABSOLUTE):
+        shutil.rmtree(prefix, ignore_errors=True)
+    library_tree("Release", RELEASE_TREE, *folders(ABSOLUTE / "lib", ABSOLUTE / "include"))
+    install(RELEASE_TREE, ABSOLUTE / "prefix")
+    # Nothing is compiled again for other folders.
+    library_tree("Release", RELEASE_TREE, *folders("lib", "include"))
+    for tree in (RELEASE_TREE, debug_tree()):
+        install(tree, PREFIX)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,199 @@
+"""Projects that use an installed library: find_package, pkg-config and the plain compiler line."""
+
+import os
+import subprocess
+import unittest
+
+from support import (ABSOLUTE, CONSUMERS, CXX, CXXFLAGS, PREFIX, RELEASE_TREE, SOURCE, VERSION,
+                     ChecksOfPrograms, build, configure, fresh_folder, install,
+                     make_with_pkg_config, run)
+
+RELEASE_LIBRARY = "libZelInterchangeData.so.1"
+DEBUG_LIBRARY = "libZelInterchangeDatad.so.1"
+SHARED = "ZelInterchangeData"
+STATIC = "ZelInterchangeDataStatic"
+
+STRICT = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wsign-conversion",
+          "-Wold-style-cast", "-Woverloaded-virtual", "-Wnon-virtual-dtor", "-Wundef", "-Werror",
+          "-fvisibility=hidden", "-fvisibility-inlines-hidden"]
+
+
+def find_package_project(name, library, build_type, prefix=PREFIX):
+    """Builds the project that finds the package and gives its program."""
+    folder = fresh_folder(name)
+    configure(CONSUMERS / "find_package", folder, f"-DCMAKE_PREFIX_PATH={prefix}",
+              f"-DCONSUMER_LIBRARY={library}", f"-DCMAKE_BUILD_TYPE={build_type}")
+    build(folder)
+    return folder / "consumer"
+
+
+class FindPackage(ChecksOfPrograms, unittest.TestCase):
+    def check(self, library, build_type, *needed):
+        program = find_package_project(self.id(), library, build_type)
+        self.assert_needs(program, *needed)
+        self.assert_works(program)
+
+    def test_shared_release(self):
+        self.check(SHARED, "Release", RELEASE_LIBRARY)
+
+    def test_shared_debug(self):
+        self.check(SHARED, "Debug", DEBUG_LIBRARY)
+
+    def test_static_release(self):
+        self.check(STATIC, "Release")
+
+    def test_static_debug(self):
+        self.check(STATIC, "Debug")
+
+    def test_a_build_type_that_was_not_installed_gets_the_optimised_library(self):
+        for build_type in ("", "RelWithDebInfo", "Special"):
+            with self.subTest(build_type):
+                self.check(SHARED, build_type, RELEASE_LIBRARY)
+
+    def test_the_static_library_has_the_postfix_of_its_build(self):
+        for build_type, file in (("Release", "libZelInterchangeData.a"),
+                                 ("Debug", "libZelInterchangeDatad.a")):
+            with self.subTest(build_type):
+                program = find_package_project(self.id(), STATIC, build_type)
+                rules = (program.parent / "build.ninja").read_text(encoding="utf-8")
+                self.assertIn(f"{PREFIX}/lib/{file}", rules)
+
+    def test_another_major_version_is_refused(self):
+        folder = fresh_folder(self.id())
+        project = (CONSUMERS / "find_package" / "CMakeLists.txt").read_text(encoding="utf-8")
+        for wanted in ("2.0", "0.9", "1.1000"):
+            with self.subTest(wanted):
+                (folder / "CMakeLists.txt").write_text(project.replace(" 1.0 ", f" {wanted} "),
+                                                       encoding="utf-8")
+                with self.assertRaisesRegex(AssertionError, f"version: {VERSION}"):
+                    configure(folder, folder / "build", f"-DCMAKE_PREFIX_PATH={PREFIX}",
+                              f"-DCONSUMER_LIBRARY={SHARED}")
+
+
+class PkgConfig(ChecksOfPrograms, unittest.TestCase):
+    def check(self, library_folder, module, needed, **options):
+        program = make_with_pkg_config(fresh_folder(self.id()), library_folder / "pkgconfig",
+                                       module, **options)
+        self.assert_needs(program, *needed)
+        self.assert_works(program, library_folder)
+
+    def test_relative_folders(self):
+        self.check(PREFIX / "lib", "ZelInterchangeData", [RELEASE_LIBRARY])
+
+    def test_relative_folders_debug(self):
+        self.check(PREFIX / "lib", "ZelInterchangeDatad", [DEBUG_LIBRARY])
+
+    def test_relative_folders_static(self):
+        for module in ("ZelInterchangeData", "ZelInterchangeDatad"):
+            with self.subTest(module):
+                self.check(PREFIX / "lib", module, [], static=True)
+
+    def test_absolute_folders(self):
+        self.assertFalse((ABSOLUTE / "prefix" / "lib").exists())
+        self.check(ABSOLUTE / "lib", "ZelInterchangeData", [RELEASE_LIBRARY])
+
+    def test_absolute_folders_static(self):
+        self.check(ABSOLUTE / "lib", "ZelInterchangeData", [], static=True)
+
+    def test_the_version_is_that_of_the_project(self):
+        for module in ("ZelInterchangeData", "ZelInterchangeDatad"):
+            answer = run("pkg-config", "--modversion", module,
+                         env=dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig")))
+            self.assertEqual(answer.strip(), VERSION)
+
+
+class OtherFolders(unittest.TestCase):
+    """The .pc file alone, for folders that are nested, and for one absolute folder of the two."""
+
+    def variables(self, libdir, includedir):
+        folder = fresh_folder(self.id())
+        configure(SOURCE, folder / "tree", "-DZELINTERCHANGEDATA_TESTS=OFF",
+                  "-DZELINTERCHANGEDATA_EXAMPLES=OFF", "-DCMAKE_INSTALL_PREFIX=/opt/made",
+                  f"-DCMAKE_INSTALL_LIBDIR={libdir}", f"-DCMAKE_INSTALL_INCLUDEDIR={includedir}")
+        place = folder / "place" / "lib" / "triplet" / "pkgconfig"
+        place.mkdir(parents=True)
+        (folder / "tree" / "ZelInterchangeData.pc").rename(place / "ZelInterchangeData.pc")
+        environment = dict(os.environ, PKG_CONFIG_PATH=str(place))
+        return folder / "place", [
+            os.path.normpath(run("pkg-config", f"--variable={name}", "ZelInterchangeData",
+                                 env=environment).strip())
+            for name in ("libdir", "includedir")]
+
+    def test_nested_relative_folders_are_found_from_the_file(self):
+        place, found = self.variables("lib/triplet", "include/zel")
+        self.assertEqual(found, [f"{place}/lib/triplet", f"{place}/include/zel"])
+
+    def test_an_absolute_include_folder_stays(self):
+        place, found = self.variables("lib/triplet", "/elsewhere/include")
+        self.assertEqual(found, [f"{place}/lib/triplet", "/elsewhere/include"])
+
+    def test_beside_an_absolute_library_folder_the_prefix_is_the_one_configured(self):
+        _, found = self.variables("/elsewhere/lib", "include")
+        self.assertEqual(found, ["/elsewhere/lib", "/opt/made/include"])
+
+
+class CompilerLine(ChecksOfPrograms, unittest.TestCase):
+    def test_the_plain_compiler_line(self):
+        folder = fresh_folder(self.id())
+        # In a system prefix the compiler looks by itself; here the environment stands in for that.
+        environment = dict(os.environ, CPATH=str(PREFIX / "include"),
+                           LIBRARY_PATH=str(PREFIX / "lib"))
+        run(CXX, *CXXFLAGS, "-std=c++17", CONSUMERS / "program" / "main.cpp",
+            "-lZelInterchangeData", "-o", folder / "consumer", env=environment)
+        self.assert_needs(folder / "consumer", RELEASE_LIBRARY)
+        self.assert_works(folder / "consumer", PREFIX / "lib")
+
+
+class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
+    """A consumer that takes warnings for errors and hides its own symbols."""
+
+    def test_the_headers_raise_no_warning(self):
+        folder = fresh_folder(self.id())
+        installed = sorted((PREFIX / "include" / "ZelInterchangeData").iterdir())
+        self.assertEqual([path.name for path in installed],
+                         sorted(path.name for path in
+                                (SOURCE / "include" / "ZelInterchangeData").iterdir()))
+        for header in installed:
+            name = f"ZelInterchangeData/{header.name}"
+            source = folder / f"{header.stem}.cpp"
+            source.write_text(f'#include "{name}"\n', encoding="utf-8")
+            for standard in ("c++17", "c++20"):
+                with self.subTest(f"{name} {standard}"):
+                    run(CXX, *CXXFLAGS, f"-std={standard}", *STRICT, "-I", PREFIX / "include",
+                        "-fsyntax-only", source)
+
+    def test_exceptions_cross_the_boundary_with_hidden_visibility(self):
+        program = make_with_pkg_config(fresh_folder(self.id()), PREFIX / "lib" / "pkgconfig",
+                                       "ZelInterchangeData", flags=STRICT)
+        self.assert_needs(program, RELEASE_LIBRARY)
+        self.assert_works(program, PREFIX / "lib")
+
+
+class MovedPrefix(ChecksOfPrograms, unittest.TestCase):
+    def setUp(self):
+        folder = fresh_folder(self.id())
+        self.before = folder / "before"
+        self.after = folder / "after"
+        install(RELEASE_TREE, self.before)
+        self.before.rename(self.after)
+
+    def test_find_package_works(self):
+        for library in (SHARED, STATIC):
+            with self.subTest(library):
+                program = find_package_project(f"{self.id()}.{library}", library, "Release",
+                                               self.after)
+                self.assert_works(program)
+
+    def test_pkg_config_works(self):
+        program = make_with_pkg_config(fresh_folder(f"{self.id()}.project"),
+                                       self.after / "lib" / "pkgconfig", "ZelInterchangeData")
+        self.assert_works(program, self.after / "lib")
+
+    def test_no_file_names_the_place_before(self):
+        found = subprocess.run(["grep", "-rl", "-e", str(self.before), str(self.after)],
+                               capture_output=True, text=True, check=False)
+        self.assertEqual((found.returncode, found.stdout), (1, ""))
+
+
+if __name__ == "__main__":
+    unittest.main()

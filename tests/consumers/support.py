@@ -1,0 +1,87 @@
+"""What the tests of the consumer projects share: where the library is installed, how a project is
+built, and what its program must print."""
+
+import os
+import re
+import shutil
+import subprocess
+from pathlib import Path
+
+CONSUMERS = Path(__file__).resolve().parent
+SOURCE = CONSUMERS.parent.parent
+WORK = Path(os.environ["WORK"])
+VERSION = os.environ["VERSION"]
+CXX = os.environ["CXX"]
+CXXFLAGS = os.environ.get("CXXFLAGS", "").split()
+
+PREFIX = WORK / "prefix"
+RELEASE_TREE = WORK / "library-Release"
+# Library folder and include folder of an installation with absolute paths.
+ABSOLUTE = WORK / "absolute"
+
+MAJOR, MINOR, PATCH = (int(part) for part in VERSION.split("."))
+EXPECTED_OUTPUT = ((CONSUMERS / "program" / "expected_output.txt").read_text(encoding="utf-8") +
+                   f"version {MAJOR * 10000 + MINOR * 100 + PATCH}\n")
+
+
+def run(*command, **options):
+    """Runs the command and gives what it printed; a failure shows the output."""
+    result = subprocess.run([str(part) for part in command], stdout=subprocess.PIPE,
+                            stderr=subprocess.STDOUT, text=True, check=False, **options)
+    if result.returncode != 0:
+        raise AssertionError(f"{command} ended with {result.returncode}:\n{result.stdout}")
+    return result.stdout
+
+
+def fresh_folder(name):
+    """An empty folder for one test."""
+    folder = WORK / "projects" / name
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    return folder
+
+
+def configure(source, tree, *definitions):
+    run("cmake", "-S", source, "-B", tree, "-G", "Ninja", f"-DCMAKE_CXX_COMPILER={CXX}",
+        f"-DCMAKE_CXX_FLAGS={' '.join(CXXFLAGS)}", "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON",
+        *definitions)
+
+
+def build(tree):
+    run("cmake", "--build", tree)
+
+
+def install(tree, prefix):
+    """Installs a tree and gives the names of what it installed, relative to the prefix if in it."""
+    output = run("cmake", "--install", tree, "--prefix", prefix)
+    paths = re.findall(r"^-- (?:Installing|Up-to-date): (.*)$", output, re.MULTILINE)
+    return {path.removeprefix(f"{prefix}/") for path in paths}
+
+
+def needed_libraries(program):
+    """Those of our shared libraries that the program asks the dynamic linker for."""
+    entries = run("readelf", "--dynamic", "--wide", program)
+    return re.findall(r"NEEDED.*\[(libZel[^]]*)\]", entries)
+
+
+def make_with_pkg_config(folder, pkgconfig_folder, module, flags=(), static=False):
+    """Builds the Makefile's project and gives its program."""
+    extra = ["PKG_CONFIG_FLAGS=--static", "LDFLAGS=-static"] if static else []
+    environment = dict(os.environ, PKG_CONFIG_PATH=str(pkgconfig_folder),
+                       CXXFLAGS=" ".join([*CXXFLAGS, *flags]))
+    run("make", "-C", CONSUMERS / "pkg_config", f"BUILD={folder}", f"MODULE={module}",
+        f"CXX={CXX}", *extra, env=environment)
+    return folder / "consumer"
+
+
+class ChecksOfPrograms:
+    """What a unittest.TestCase needs to check the programs that were built."""
+
+    def assert_works(self, program, library_folder=None):
+        environment = dict(os.environ)
+        if library_folder is not None:
+            environment["LD_LIBRARY_PATH"] = str(library_folder)
+        self.assertEqual(run(program, env=environment), EXPECTED_OUTPUT)
+
+    def assert_needs(self, program, *libraries):
+        self.assertEqual(needed_libraries(program), list(libraries))

@@ -1,0 +1,44 @@
+"""Every script tells what it does when it is asked, and does nothing when it is asked for something
+that it does not know."""
+
+import os
+import subprocess
+import unittest
+from pathlib import Path
+
+SCRIPTS = Path(os.environ["SCRIPTS"])
+
+
+def answer(script, option):
+    return subprocess.run([script, option], capture_output=True, text=True, check=False, timeout=60,
+                          stdin=subprocess.DEVNULL)
+
+
+class Options(unittest.TestCase):
+    def setUp(self):
+        self.scripts = sorted(path for path in SCRIPTS.iterdir() if path.name != "__pycache__")
+        self.assertGreater(len(self.scripts), 5)
+
+    def test_every_script_is_a_program(self):
+        for script in self.scripts:
+            with self.subTest(script.name):
+                self.assertTrue(script.is_file() and os.access(script, os.X_OK))
+
+    def test_every_script_explains_itself(self):
+        for script in self.scripts:
+            for option in ("--help", "-h"):
+                with self.subTest(f"{script.name} {option}"):
+                    result = answer(script, option)
+                    self.assertEqual((result.returncode, result.stderr), (0, ""))
+                    self.assertRegex(result.stdout, rf"(?i)^usage: (scripts/)?{script.name}\b")
+
+    def test_every_script_refuses_an_unknown_option(self):
+        for script in self.scripts:
+            with self.subTest(script.name):
+                result = answer(script, "--no-such-option")
+                self.assertEqual((result.returncode, result.stdout), (2, ""))
+                self.assertRegex(result.stderr, r"(?i)^usage: ")
+
+
+if __name__ == "__main__":
+    unittest.main()
