@@ -8,7 +8,14 @@ from pathlib import Path
 from support import ABSOLUTE, PREFIX, RELEASE_TREE, SOURCE, WORK, build, configure, install
 
 
-def library_tree(build_type, tree, *definitions):
+def folders(libdir, includedir):
+    return f"-DCMAKE_INSTALL_LIBDIR={libdir}", f"-DCMAKE_INSTALL_INCLUDEDIR={includedir}"
+
+
+USUAL = folders("lib", "include")
+
+
+def library_tree(build_type, tree, definitions=USUAL):
     """The build tree of the library alone, built."""
     configure(SOURCE, tree, f"-DCMAKE_BUILD_TYPE={build_type}", "-DZELINTERCHANGEDATA_TESTS=OFF",
               "-DZELINTERCHANGEDATA_EXAMPLES=OFF", *definitions)
@@ -17,23 +24,19 @@ def library_tree(build_type, tree, *definitions):
 
 
 def debug_tree():
-    """The tree whose tests run, when it is one; it is built already."""
-    if os.environ["BUILD_TYPE"] == "Debug":
-        return Path(os.environ["BUILD_TREE"])
+    """The tree whose tests run, when it serves; it is built already."""
+    if os.environ["DEBUG_TREE"]:
+        return Path(os.environ["DEBUG_TREE"])
     return library_tree("Debug", WORK / "library-Debug")
-
-
-def folders(libdir, includedir):
-    return f"-DCMAKE_INSTALL_LIBDIR={libdir}", f"-DCMAKE_INSTALL_INCLUDEDIR={includedir}"
 
 
 def main():
     for prefix in (PREFIX, ABSOLUTE):
         shutil.rmtree(prefix, ignore_errors=True)
-    library_tree("Release", RELEASE_TREE, *folders(ABSOLUTE / "lib", ABSOLUTE / "include"))
+    library_tree("Release", RELEASE_TREE, folders(ABSOLUTE / "lib", ABSOLUTE / "include"))
     install(RELEASE_TREE, ABSOLUTE / "prefix")
     # Nothing is compiled again for other folders.
-    library_tree("Release", RELEASE_TREE, *folders("lib", "include"))
+    library_tree("Release", RELEASE_TREE)
     for tree in (RELEASE_TREE, debug_tree()):
         install(tree, PREFIX)
 
