@@ -75,6 +75,17 @@ void probeFace()
     section("face", [&] { return tenRounds(throughFace); });
 }
 
+/// What is wrong with captions in order, where the search for a later one that starts too early goes
+/// over all of them.
+void probeFindings(std::size_t size)
+{
+    const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
+    section("findings." + std::to_string(size), [&] {
+        std::vector<ZelDataFinding> findings;
+        return failed(findProblems(*sets.captions, findings)) ? 0 : findings.size() + 1;
+    });
+}
+
 } // namespace
 
 } // namespace ZelInterchangeData::bench
@@ -88,5 +99,7 @@ int main()
     }
     probeTexts();
     probeFace();
+    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}})
+        probeFindings(size);
     return 0;
 }

@@ -24,7 +24,7 @@ inline constexpr ZelDataResultText zelDataResultTexts[] = {
     {ZelData_WarnAlreadyExists, "ZelData_WarnAlreadyExists",
      "The entry existed already: a listed language was not added again, or a text was replaced."},
     {ZelData_WarnItemGuidelines, "ZelData_WarnItemGuidelines",
-     "The caption is valid, but shorter or longer than a good caption."},
+     "The caption is valid, but shorter or of more lines than a good caption."},
     {ZelData_WarnTiming, "ZelData_WarnTiming", "The items overlap or are out of order."},
     {ZelData_WarnNoChange, "ZelData_WarnNoChange",
      "There was nothing to do: the entry to add exists, or the one to remove does not."},
@@ -53,7 +53,7 @@ inline constexpr ZelDataResultText zelDataUnknownResultText = {
     ZelData_Ok, "ZelData_Unknown", "The value is not a result code of this library."};
 
 /// The words for @p code, those of #zelDataUnknownResultText where it is none.
-constexpr const ZelDataResultText& textOf(ZelDataResult_tags code) noexcept
+constexpr const ZelDataResultText& zelDataResultTextOf(ZelDataResult_tags code) noexcept
 {
     for (const ZelDataResultText& text : zelDataResultTexts) {
         if (text.code == code) return text;
@@ -65,14 +65,14 @@ constexpr const ZelDataResultText& textOf(ZelDataResult_tags code) noexcept
 /// Never null; valid for ever.
 constexpr const char* toString(ZelDataResult_tags code) noexcept
 {
-    return textOf(code).name;
+    return zelDataResultTextOf(code).name;
 }
 
 /// What @p code means, in one sentence; a sentence that says so for a value that is no code. Never
 /// null; valid for ever. What a code means to an operation stands at the operation.
 constexpr const char* describe(ZelDataResult_tags code) noexcept
 {
-    return textOf(code).meaning;
+    return zelDataResultTextOf(code).meaning;
 }
 
 } // namespace ZelInterchangeData

@@ -551,7 +551,7 @@ TEST(CaptionFindings, AgreeWithTheCheckAndWithTheDefinitionOnRandomCaptions)
 
 TEST(CaptionFindings, TakeNoQuadraticTime)
 {
-    // Comparing each caption with each would not come to an end here.
+    // Comparing each caption with each would be five thousand million steps.
     constexpr long long count = 100000;
     const auto captions = make(ZelDataUtilities::createCaptionData);
     const auto item = itemOf({0, 1000, {{"en", "a"}}});
