@@ -12,7 +12,8 @@
 
 namespace ZelInterchangeData {
 
-/// What findProblems() found, as data. Fields that do not belong to the kind keep their defaults.
+/// What findProblems() found, as data. Fields that do not belong to the kind keep their defaults. The
+/// fields, their types and their order are part of the binary interface.
 struct ZelDataFinding {
     /// Stands for no item.
     static constexpr unsigned long noItem = std::numeric_limits<unsigned long>::max();

@@ -3,6 +3,8 @@
 
 #include "support/Findings.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 
 namespace ZelInterchangeData {
@@ -42,6 +44,51 @@ ZelDataFinding color(const std::string& property, float component, long long lim
     finding.property = property;
     finding.component = component;
     return finding;
+}
+
+/// How far into @p finding its member @p field lies, in bytes.
+template <class Field>
+std::ptrdiff_t placeOf(const ZelDataFinding& finding, const Field& field)
+{
+    return reinterpret_cast<const char*>(&field) - reinterpret_cast<const char*>(&finding);
+}
+
+TEST(ZelDataFinding, HasTheLayoutThatCallersWereCompiledWith)
+{
+    const ZelDataFinding finding;
+    EXPECT_EQ(128U, sizeof(finding));
+    EXPECT_EQ(0, placeOf(finding, finding.kind));
+    EXPECT_EQ(4, placeOf(finding, finding.subject));
+    EXPECT_EQ(8, placeOf(finding, finding.item));
+    EXPECT_EQ(16, placeOf(finding, finding.start));
+    EXPECT_EQ(24, placeOf(finding, finding.language));
+    EXPECT_EQ(56, placeOf(finding, finding.property));
+    EXPECT_EQ(88, placeOf(finding, finding.component));
+    EXPECT_EQ(96, placeOf(finding, finding.value));
+    EXPECT_EQ(104, placeOf(finding, finding.limit));
+    EXPECT_EQ(112, placeOf(finding, finding.laterItem));
+    EXPECT_EQ(120, placeOf(finding, finding.laterStart));
+}
+
+TEST(ZelDataFinding, KindsAndSubjectsKeepTheirNumbers)
+{
+    const std::vector<ZelDataFinding_tags> kinds = {ZelDataFinding_FrameRateOutOfRange,
+                                                    ZelDataFinding_FontFamilyMissing,
+                                                    ZelDataFinding_FontSizeOutOfRange,
+                                                    ZelDataFinding_ColorOutOfRange,
+                                                    ZelDataFinding_NoDuration,
+                                                    ZelDataFinding_TooShort,
+                                                    ZelDataFinding_BadText,
+                                                    ZelDataFinding_BadLanguage,
+                                                    ZelDataFinding_TooManyLines,
+                                                    ZelDataFinding_MissingText,
+                                                    ZelDataFinding_Overlap,
+                                                    ZelDataFinding_OutOfOrder};
+    for (std::size_t i = 0; i < kinds.size(); ++i)
+        EXPECT_EQ(i + 1, static_cast<std::uint32_t>(kinds[i]));
+    EXPECT_EQ(1U, static_cast<std::uint32_t>(caption));
+    EXPECT_EQ(2U, static_cast<std::uint32_t>(entry));
+    EXPECT_EQ(3U, static_cast<std::uint32_t>(screenText));
 }
 
 TEST(DescribeFinding, DurationsOfCaptions)
