@@ -23,10 +23,13 @@ public:
 
     /// @name Operations of i_ZelDataCaptionFormatter
     /// @{
+
+    /// See i_ZelDataCaptionFormatter::setCaptions().
     ZelDataCheckedCaptionFormatter setCaptions(const i_ZelDataCaptions& captions) const
     {
         return this->run("setCaptions", &Interface::setCaptions, captions);
     }
+    /// See i_ZelDataCaptionFormatter::getCaptions().
     ZelDataCheckedCaptionFormatter getCaptions(i_ZelDataCaptions& captions) const
     {
         return this->run("getCaptions", &Interface::getCaptions, captions);

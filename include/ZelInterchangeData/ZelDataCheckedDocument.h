@@ -29,50 +29,63 @@ public:
 
     /// @name Operations of i_ZelInterchangeDataCore
     /// @{
+
+    /// See i_ZelInterchangeDataCore::getDataHeader().
     ZelDataCheckedDocument getDataHeader(i_ZelDataHeader& target) const
     {
         return this->run("getDataHeader", &Interface::getDataHeader, target);
     }
+    /// See i_ZelInterchangeDataCore::setDataHeader().
     ZelDataCheckedDocument setDataHeader(const i_ZelDataHeader& source) const
     {
         return this->run("setDataHeader", &Interface::setDataHeader, source);
     }
+    /// See i_ZelInterchangeDataCore::getDataCaptions().
     ZelDataCheckedDocument getDataCaptions(i_ZelDataCaptions& target) const
     {
         return this->run("getDataCaptions", &Interface::getDataCaptions, target);
     }
+    /// See i_ZelInterchangeDataCore::setDataCaptions().
     ZelDataCheckedDocument setDataCaptions(const i_ZelDataCaptions& source) const
     {
         return this->run("setDataCaptions", &Interface::setDataCaptions, source);
     }
+    /// See i_ZelInterchangeDataCore::getDataToc().
     ZelDataCheckedDocument getDataToc(i_ZelDataToc& target) const
     {
         return this->run("getDataToc", &Interface::getDataToc, target);
     }
+    /// See i_ZelInterchangeDataCore::setDataToc().
     ZelDataCheckedDocument setDataToc(const i_ZelDataToc& source) const
     {
         return this->run("setDataToc", &Interface::setDataToc, source);
     }
+    /// See i_ZelInterchangeDataCore::getDataScreenText().
     ZelDataCheckedDocument getDataScreenText(i_ZelDataScreenText& target) const
     {
         return this->run("getDataScreenText", &Interface::getDataScreenText, target);
     }
+    /// See i_ZelInterchangeDataCore::setDataScreenText().
     ZelDataCheckedDocument setDataScreenText(const i_ZelDataScreenText& source) const
     {
         return this->run("setDataScreenText", &Interface::setDataScreenText, source);
     }
+    /// See i_ZelInterchangeDataCore::createDataHeader().
     std::unique_ptr<i_ZelDataHeader> createDataHeader() const
     {
         return this->make("createDataHeader", &Interface::createDataHeader);
     }
+    /// See i_ZelInterchangeDataCore::createDataCaptions().
     std::unique_ptr<i_ZelDataCaptions> createDataCaptions() const
     {
         return this->make("createDataCaptions", &Interface::createDataCaptions);
     }
+    /// See i_ZelInterchangeDataCore::createDataToc().
     std::unique_ptr<i_ZelDataToc> createDataToc() const
     {
         return this->make("createDataToc", &Interface::createDataToc);
     }
+    /// See i_ZelInterchangeDataCore::createDataScreenText().
     std::unique_ptr<i_ZelDataScreenText> createDataScreenText() const
     {
         return this->make("createDataScreenText", &Interface::createDataScreenText);

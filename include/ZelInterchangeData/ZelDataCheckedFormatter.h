@@ -22,6 +22,8 @@ public:
 
     /// @name Operations of i_ZelDataFormatterBase
     /// @{
+
+    /// See i_ZelDataFormatterBase::writeString().
     Self writeString(std::string& out, ZelDataFormatType_tags format, bool flag) const
     {
         return this->run("writeString", &Interface::writeString, out, format, flag);
@@ -33,15 +35,18 @@ public:
         writeString(out, format, false);
         return out;
     }
+    /// See i_ZelDataFormatterBase::readString().
     Self readString(const std::string& text, ZelDataFormatType_tags format, bool flag) const
     {
         return this->run("readString", &Interface::readString, text, format, flag);
     }
+    /// See i_ZelDataFormatterBase::writeFile().
     Self writeFile(const std::string& path, ZelDataFormatType_tags format = ZelDataFormat_Xmp,
                    bool flag = false) const
     {
         return this->run("writeFile", &Interface::writeFile, path, format, flag);
     }
+    /// See i_ZelDataFormatterBase::readFile().
     Self readFile(const std::string& path, ZelDataFormatType_tags format) const
     {
         return this->run("readFile", &Interface::readFile, path, format);

@@ -23,10 +23,13 @@ public:
 
     /// @name Operations of i_ZelDataHeaderFormatter
     /// @{
+
+    /// See i_ZelDataHeaderFormatter::setHeader().
     ZelDataCheckedHeaderFormatter setHeader(const i_ZelDataHeader& header) const
     {
         return this->run("setHeader", &Interface::setHeader, header);
     }
+    /// See i_ZelDataHeaderFormatter::getHeader().
     ZelDataCheckedHeaderFormatter getHeader(i_ZelDataHeader& header) const
     {
         return this->run("getHeader", &Interface::getHeader, header);

@@ -23,10 +23,13 @@ public:
 
     /// @name Operations of i_ZelDataScreenTextFormatter
     /// @{
+
+    /// See i_ZelDataScreenTextFormatter::setScreenText().
     ZelDataCheckedScreenTextFormatter setScreenText(const i_ZelDataScreenText& screenText) const
     {
         return this->run("setScreenText", &Interface::setScreenText, screenText);
     }
+    /// See i_ZelDataScreenTextFormatter::getScreenText().
     ZelDataCheckedScreenTextFormatter getScreenText(i_ZelDataScreenText& screenText) const
     {
         return this->run("getScreenText", &Interface::getScreenText, screenText);

@@ -28,66 +28,83 @@ public:
 
     /// @name Operations of i_ZelDataToc
     /// @{
+
+    /// See i_ZelDataToc::isValid().
     ZelDataCheckedToc isValid(bool deep) const
     {
         return this->run("isValid", &Interface::isValid, deep);
     }
+    /// See i_ZelDataToc::makeTocConsistent().
     ZelDataCheckedToc makeTocConsistent() const
     {
         return this->run("makeTocConsistent", &Interface::makeTocConsistent);
     }
+    /// See i_ZelDataToc::setFrameRate().
     ZelDataCheckedToc setFrameRate(unsigned long rate) const
     {
         return this->run("setFrameRate", &Interface::setFrameRate, rate);
     }
+    /// See i_ZelDataToc::getFrameRate().
     unsigned long getFrameRate() const
     {
         return this->get("getFrameRate", &Interface::getFrameRate);
     }
+    /// See i_ZelDataToc::setImageFile().
     ZelDataCheckedToc setImageFile(const std::string& name) const
     {
         return this->run("setImageFile", &Interface::setImageFile, name);
     }
+    /// See i_ZelDataToc::getImageFile().
     std::string getImageFile() const { return this->get("getImageFile", &Interface::getImageFile); }
+    /// See i_ZelDataToc::clearTocItems().
     ZelDataCheckedToc clearTocItems() const
     {
         return this->run("clearTocItems", &Interface::clearTocItems);
     }
+    /// See i_ZelDataToc::addTocItem().
     ZelDataCheckedToc addTocItem(const i_ZelDataTocItem& item) const
     {
         return this->run("addTocItem", &Interface::addTocItem, item);
     }
+    /// See i_ZelDataToc::createTocItem().
     std::unique_ptr<i_ZelDataTocItem> createTocItem() const
     {
         return this->make("createTocItem", &Interface::createTocItem);
     }
+    /// See i_ZelDataToc::removeTocItemAt().
     ZelDataCheckedToc removeTocItemAt(unsigned long index) const
     {
         return this->run("removeTocItemAt", &Interface::removeTocItemAt, index);
     }
+    /// See i_ZelDataToc::removeTocItemsForLanguage().
     ZelDataCheckedToc removeTocItemsForLanguage(const std::string& languageID) const
     {
         return this->run("removeTocItemsForLanguage", &Interface::removeTocItemsForLanguage,
                          languageID);
     }
+    /// See i_ZelDataToc::getTocItemCount().
     unsigned long getTocItemCount() const
     {
         return this->get("getTocItemCount", &Interface::getTocItemCount);
     }
+    /// See i_ZelDataToc::getTocItemAt().
     std::unique_ptr<i_ZelDataTocItem> getTocItemAt(unsigned long index) const
     {
         return this->make("getTocItemAt", &Interface::getTocItemAt, index);
     }
+    /// See i_ZelDataToc::getTocItems().
     std::vector<std::unique_ptr<i_ZelDataTocItem>> getTocItems() const
     {
         return this->makeAll("getTocItems", &Interface::getTocItems);
     }
+    /// See i_ZelDataToc::getTocItemsForLanguage().
     std::vector<std::unique_ptr<i_ZelDataTocItem>>
     getTocItemsForLanguage(const std::string& languageID) const
     {
         return this->makeAll("getTocItemsForLanguage", &Interface::getTocItemsForLanguage,
                              languageID);
     }
+    /// See i_ZelDataToc::copyFrom().
     ZelDataCheckedToc copyFrom(const i_ZelDataToc& source) const
     {
         return this->done("copyFrom", this->object().copyFrom(source));

@@ -23,10 +23,13 @@ public:
 
     /// @name Operations of i_ZelDataTocFormatter
     /// @{
+
+    /// See i_ZelDataTocFormatter::setToc().
     ZelDataCheckedTocFormatter setToc(const i_ZelDataToc& toc) const
     {
         return this->run("setToc", &Interface::setToc, toc);
     }
+    /// See i_ZelDataTocFormatter::getToc().
     ZelDataCheckedTocFormatter getToc(i_ZelDataToc& toc) const
     {
         return this->run("getToc", &Interface::getToc, toc);

@@ -43,22 +43,28 @@ std::unique_ptr<Interface> makeObject(const char* operation,
 /// Each makes a new object with its defaults. Never null: a factory that fails throws ZelDataError,
 /// createDocument() ZelDataException.
 /// @{
+
+/// A document without any data set. See ZELDataCreator::createInterchangeData().
 inline std::unique_ptr<i_ZelInterchangeDataCore> createDocument()
 {
     return std::unique_ptr<i_ZelInterchangeDataCore>(ZELDataCreator::createInterchangeData());
 }
+/// See ZelDataUtilities::createHeaderData().
 inline std::unique_ptr<i_ZelDataHeader> createHeader()
 {
     return makeObject("createHeader", ZelDataUtilities::createHeaderData);
 }
+/// See ZelDataUtilities::createCaptionData().
 inline std::unique_ptr<i_ZelDataCaptions> createCaptions()
 {
     return makeObject("createCaptions", ZelDataUtilities::createCaptionData);
 }
+/// See ZelDataUtilities::createTocData().
 inline std::unique_ptr<i_ZelDataToc> createToc()
 {
     return makeObject("createToc", ZelDataUtilities::createTocData);
 }
+/// See ZelDataUtilities::createScreenTextData().
 inline std::unique_ptr<i_ZelDataScreenText> createScreenText()
 {
     return makeObject("createScreenText", ZelDataUtilities::createScreenTextData);
@@ -70,14 +76,18 @@ inline std::unique_ptr<i_ZelDataScreenText> createScreenText()
 /// ZelDataError when the factory or an operation that stores a value fails. A caption item lets
 /// `std::bad_alloc` through as well.
 /// @{
+
+/// See ZelDataUtilities::createCaptionItemData().
 inline std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem()
 {
     return makeObject("createCaptionItem", ZelDataUtilities::createCaptionItemData);
 }
+/// See ZelDataUtilities::createTocItemData().
 inline std::unique_ptr<i_ZelDataTocItem> createTocItem()
 {
     return makeObject("createTocItem", ZelDataUtilities::createTocItemData);
 }
+/// See ZelDataUtilities::createScreenTextItemData().
 inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem()
 {
     return makeObject("createScreenTextItem", ZelDataUtilities::createScreenTextItemData);
@@ -125,21 +135,26 @@ inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem(long long s
 /// Each makes a new formatter without data. Never null: throws ZelDataError when the factory fails,
 /// as it does for a format that the library does not write.
 /// @{
+
+/// See ZelDataUtilities::createHeaderFormatter().
 inline std::unique_ptr<i_ZelDataHeaderFormatter>
 createHeaderFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
 {
     return makeObject("createHeaderFormatter", ZelDataUtilities::createHeaderFormatter, format);
 }
+/// See ZelDataUtilities::createCaptionFormatter().
 inline std::unique_ptr<i_ZelDataCaptionFormatter>
 createCaptionFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
 {
     return makeObject("createCaptionFormatter", ZelDataUtilities::createCaptionFormatter, format);
 }
+/// See ZelDataUtilities::createTocFormatter().
 inline std::unique_ptr<i_ZelDataTocFormatter>
 createTocFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
 {
     return makeObject("createTocFormatter", ZelDataUtilities::createTocFormatter, format);
 }
+/// See ZelDataUtilities::createScreenTextFormatter().
 inline std::unique_ptr<i_ZelDataScreenTextFormatter>
 createScreenTextFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
 {

@@ -20,7 +20,7 @@ class i_ZelDataToc;
 /// @name Finding problems
 /// Each replaces @p findings with everything that is wrong with the collection, where the
 /// collection's own isValid() gives the first thing alone. Of the library's own collections there
-/// are no findings exactly when `isValid(true)` gives #ZelData_Ok, and the first finding is the one
+/// are no findings exactly when `isValid(true)` gives ZelData_Ok, and the first finding is the one
 /// whose code it gives.
 ///
 /// First come the findings on the collection itself, then those on the items in stored order. Those
@@ -32,9 +32,9 @@ class i_ZelDataToc;
 /// its interface, so any implementation will do; as with every getter, its last error is set. The
 /// functions store no last error of their own.
 /// - The code of a getter of the collection or of an item that fails, as that getter returns it.
-/// - #ZelData_InternalError: the collection hands out a null pointer for an item, or an
+/// - ZelData_InternalError: the collection hands out a null pointer for an item, or an
 ///   implementation of the caller's throws an exception other than `std::bad_alloc`.
-/// - #ZelData_OutOfMemory.
+/// - ZelData_OutOfMemory.
 ///
 /// On failure @p findings stays as it was.
 /// @{

@@ -18,14 +18,18 @@ namespace ZelInterchangeData {
 /// collection. For loops: `for (const auto& item : items(*captions))`. Throws ZelDataError, which
 /// names the getter, when the collection cannot hand them out.
 /// @{
+
+/// See i_ZelDataCaptions::getCaptionItems().
 inline std::vector<std::unique_ptr<i_ZelDataCaptionItem>> items(const i_ZelDataCaptions& captions)
 {
     return checked(captions).getCaptionItems();
 }
+/// See i_ZelDataToc::getTocItems().
 inline std::vector<std::unique_ptr<i_ZelDataTocItem>> items(const i_ZelDataToc& toc)
 {
     return checked(toc).getTocItems();
 }
+/// See i_ZelDataScreenText::getScreenTextItems().
 inline std::vector<std::unique_ptr<i_ZelDataScreenTextItem>>
 items(const i_ZelDataScreenText& screenText)
 {

@@ -33,4 +33,8 @@
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
 
+/// Everything that the library declares.
+namespace ZelInterchangeData {
+}
+
 #endif
