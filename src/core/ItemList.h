@@ -34,6 +34,17 @@ public:
     using State = typename Own::State;
     using Summary = typename State::Summary;
 
+    ItemList() = default;
+    ItemList(const ItemList&) = default;
+    ~ItemList() = default;
+    /// The items and what is known of them come together: when memory runs out, neither does.
+    ItemList& operator=(ItemList other) noexcept
+    {
+        slots_ = std::move(other.slots_);
+        summary_ = std::move(other.summary_);
+        return *this;
+    }
+
     unsigned long count() const noexcept { return slots_.read().size(); }
 
     void clear()
@@ -46,6 +57,13 @@ public:
     bool isOwn(unsigned long index) const noexcept { return !slots_.read()[index].foreign; }
     /// The state of the item at @p index, which is one of our own.
     const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
+
+    /// The state of the item at @p index, which is one of our own, to be changed.
+    State& changeState(unsigned long index)
+    {
+        summary_.reset();
+        return slots_.write()[index].state;
+    }
 
     /// What is known of all items, which are our own.
     const Summary& summary()

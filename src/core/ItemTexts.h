@@ -48,12 +48,17 @@ Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
     return {};
 }
 
-/// The same for all items. One of our own that lacks nothing is not touched and so goes on sharing.
+/// The same for all items. One of our own takes all its missing texts at once: a collection lists no
+/// language that an item would refuse. One that lacks nothing is not touched and so goes on sharing.
 template <class Item, class Own>
 Ending fillMissingTexts(ItemList<Item, Own>& items, const std::vector<std::string>& languageIDs)
 {
     for (unsigned long i = 0; i < items.count(); ++i) {
-        if (items.isOwn(i) && hasAllTexts(items.state(i).texts(), languageIDs)) continue;
+        if (items.isOwn(i)) {
+            if (hasAllTexts(items.state(i).texts(), languageIDs)) continue;
+            items.changeState(i).changeTexts().addMissing(languageIDs);
+            continue;
+        }
         const Ending ending =
             items.change(i, [&](Item& item) { return fillMissingTexts(item, languageIDs); });
         if (ending) return ending;

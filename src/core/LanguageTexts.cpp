@@ -16,6 +16,11 @@ struct Size {
     std::size_t characters; // of all IDs and texts
 };
 
+std::size_t charactersOf(const LanguageTexts::Entry& entry) noexcept
+{
+    return entry.languageID.size() + entry.text.size();
+}
+
 /// Where an entry's text lies among the characters. Its ID lies between the end of the entry before
 /// and the text.
 struct Span {
@@ -58,6 +63,19 @@ public:
         new (layout_.spans() + filled_++) Span{textBegin, used_};
     }
 
+    /// Appends the entries of @p other from @p first up to @p last, their characters in one piece.
+    void append(const Layout& other, std::size_t first, std::size_t last)
+    {
+        if (first == last) return;
+        const std::size_t from = other.beginOf(first);
+        const std::size_t to = used_;
+        copy({other.characters() + from, other.beginOf(last) - from});
+        for (std::size_t i = first; i < last; ++i) {
+            const auto [textBegin, end] = other.spans()[i];
+            new (layout_.spans() + filled_++) Span{textBegin - from + to, end - from + to};
+        }
+    }
+
     SharedBytes take() { return std::move(bytes_); }
 
 private:
@@ -79,28 +97,44 @@ struct Edit {
     const LanguageTexts::Entry* added;
 };
 
-/// Calls @p visit with each entry that @p texts has after @p edit.
-template <class Visit>
-void visitEdited(const LanguageTexts& texts, const Edit& edit, Visit&& visit)
+Size sizeOfEdited(const LanguageTexts& texts, const Edit* first, const Edit* last)
 {
-    for (std::size_t i = 0; i < edit.place; ++i)
-        visit(texts[i]);
-    if (edit.added != nullptr) visit(*edit.added);
-    for (std::size_t i = edit.place + edit.removed; i < texts.count(); ++i)
-        visit(texts[i]);
+    Size size{texts.count(), texts.size()};
+    for (const Edit* edit = first; edit != last; ++edit) {
+        for (std::size_t i = edit->place; i < edit->place + edit->removed; ++i) {
+            --size.entries;
+            size.characters -= charactersOf(texts[i]);
+        }
+        if (edit->added == nullptr) continue;
+        ++size.entries;
+        size.characters += charactersOf(*edit->added);
+    }
+    return size;
 }
 
-SharedBytes edited(const LanguageTexts& texts, const Edit& edit)
+/// What @p texts, stored in @p bytes, are after the edits from @p first up to @p last, which are in
+/// the order of their places.
+SharedBytes edited(const LanguageTexts& texts, const SharedBytes& bytes, const Edit* first,
+                   const Edit* last)
 {
-    Size size{};
-    visitEdited(texts, edit, [&](const LanguageTexts::Entry& entry) {
-        ++size.entries;
-        size.characters += entry.languageID.size() + entry.text.size();
-    });
+    const Size size = sizeOfEdited(texts, first, last);
     if (size.entries == 0) return {};
     Filling filling(size);
-    visitEdited(texts, edit, [&](const LanguageTexts::Entry& entry) { filling.append(entry); });
+    const Layout old(bytes);
+    std::size_t next = 0;
+    for (const Edit* edit = first; edit != last; ++edit) {
+        filling.append(old, next, edit->place);
+        if (edit->added != nullptr) filling.append(*edit->added);
+        next = edit->place + edit->removed;
+    }
+    filling.append(old, next, texts.count());
     return filling.take();
+}
+
+/// The same for one edit.
+SharedBytes edited(const LanguageTexts& texts, const SharedBytes& bytes, const Edit& edit)
+{
+    return edited(texts, bytes, &edit, &edit + 1);
 }
 
 } // namespace
@@ -165,8 +199,25 @@ ZelDataResult_tags LanguageTexts::set(std::string_view text, std::string_view la
     const std::size_t place = placeOf(languageID);
     const bool replaces = holds(place, languageID);
     const Entry added{languageID, text};
-    bytes_ = edited(*this, {place, replaces ? std::size_t{1} : 0, &added});
+    bytes_ = edited(*this, bytes_, {place, replaces ? std::size_t{1} : 0, &added});
     return replaces ? ZelData_WarnAlreadyExists : ZelData_Ok;
+}
+
+void LanguageTexts::addMissing(const std::vector<std::string>& languageIDs)
+{
+    std::vector<Entry> missing;
+    for (const std::string& id : languageIDs) {
+        if (!find(id)) missing.push_back({id, {}});
+    }
+    const auto byID = [](const Entry& a, const Entry& b) { return a.languageID < b.languageID; };
+    const auto same = [](const Entry& a, const Entry& b) { return a.languageID == b.languageID; };
+    std::sort(missing.begin(), missing.end(), byID);
+    missing.erase(std::unique(missing.begin(), missing.end(), same), missing.end());
+    std::vector<Edit> edits;
+    edits.reserve(missing.size());
+    for (const Entry& entry : missing)
+        edits.push_back({placeOf(entry.languageID), 0, &entry});
+    if (!edits.empty()) bytes_ = edited(*this, bytes_, edits.data(), edits.data() + edits.size());
 }
 
 ZelDataResult_tags LanguageTexts::get(std::string& text, const std::string& languageID) const
@@ -181,7 +232,7 @@ ZelDataResult_tags LanguageTexts::remove(const std::string& languageID)
 {
     const std::size_t place = placeOf(languageID);
     if (!holds(place, languageID)) return ZelData_NotFound;
-    bytes_ = edited(*this, {place, 1, nullptr});
+    bytes_ = edited(*this, bytes_, {place, 1, nullptr});
     return ZelData_Ok;
 }
 

@@ -47,6 +47,9 @@ public:
     /// Stores a copy of @p text. Both stood check(). #ZelData_WarnAlreadyExists when it replaced a
     /// text.
     ZelDataResult_tags set(std::string_view text, std::string_view languageID);
+    /// Stores an empty text for each of @p languageIDs that has none; all stood check(). However
+    /// many they are, this is one change.
+    void addMissing(const std::vector<std::string>& languageIDs);
     /// #ZelData_InvalidArgument when there is none.
     ZelDataResult_tags get(std::string& text, const std::string& languageID) const;
     /// #ZelData_NotFound when there is none.

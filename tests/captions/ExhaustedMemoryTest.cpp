@@ -111,6 +111,19 @@ TEST(CaptionsOutOfMemory, ACopyIsRepeatable)
     EXPECT_EQ((std::vector<Caption>{full, full}), itemsOf(*target));
 }
 
+TEST(CaptionsOutOfMemory, WhatAFailedCopyLeftIsCopiedWithItsLanguages)
+{
+    const auto source = captionsOf({full});
+    const auto target = captionsOf({{5, 6, {{"fr", longText}}}});
+    exhaust([&] { return target->copyFrom(*source); },
+            [&] {
+                const auto copy = make(ZelDataUtilities::createCaptionData);
+                EXPECT_EQ(ZelData_Ok, copy->copyFrom(*target));
+                EXPECT_EQ(itemsOf(*target), itemsOf(*copy));
+                EXPECT_EQ(itemsOf(*target).size() * 2, languagesOf(*copy).size());
+            });
+}
+
 TEST(CaptionsOutOfMemory, AMissingTextIsNotFilledOverAnExistingOne)
 {
     const auto captions = captionsOf({full, {0, 1, {{"fr", longText}}}});

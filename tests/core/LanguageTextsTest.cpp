@@ -129,5 +129,39 @@ TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
     }
 }
 
+TEST(LanguageTexts, MissingOnesAreAddedEmptyAndOnceEach)
+{
+    LanguageTexts texts;
+    texts.set("Hallo", "de");
+    texts.set("Hello", "en");
+    texts.addMissing({"fr", "en", "bg", "fr", "de"});
+    EXPECT_EQ((Map{{"bg", ""}, {"de", "Hallo"}, {"en", "Hello"}, {"fr", ""}}), mapOf(texts));
+    LanguageTexts none;
+    none.addMissing({"zh", "de"});
+    EXPECT_EQ((Map{{"de", ""}, {"zh", ""}}), mapOf(none));
+}
+
+TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
+{
+    LanguageTexts texts;
+    texts.set("Hallo", "de");
+    const LanguageTexts copy(texts);
+    texts.addMissing({"de", "de"});
+    EXPECT_EQ(copy[0].text.data(), texts[0].text.data());
+}
+
+TEST(LanguageTexts, MissingOnesComeAllOrNot)
+{
+    LanguageTexts texts;
+    texts.set("Hallo", "de");
+    std::size_t granted = 0;
+    while (runsOutOfMemory(granted, [&] { texts.addMissing({"fr", "en"}); })) {
+        EXPECT_EQ((Map{{"de", "Hallo"}}), mapOf(texts));
+        ++granted;
+    }
+    EXPECT_LT(0U, granted);
+    EXPECT_EQ((Map{{"de", "Hallo"}, {"en", ""}, {"fr", ""}}), mapOf(texts));
+}
+
 } // namespace
 } // namespace ZelInterchangeData

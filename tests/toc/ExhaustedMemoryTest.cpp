@@ -193,6 +193,23 @@ TEST(TocWithoutMemory, EndsACopyAfterSomeOfTheEntries)
         });
 }
 
+TEST(TocWithoutMemory, IsCopiedWithItsLanguagesAfterAFailedCopy)
+{
+    const auto source = heldToc();
+    sweepMemory(
+        [] {
+            return tocOf({{1, {{"it", "Uno"}}}});
+        },
+        ZelData_Ok, [&](i_ZelDataToc& toc) { return toc.copyFrom(*source); },
+        [](const i_ZelDataToc& toc) {
+            const auto copy = make(ZelDataUtilities::createTocData);
+            EXPECT_EQ(ZelData_Ok, copy->copyFrom(toc));
+            EXPECT_EQ(entriesOf(toc), entriesOf(*copy));
+            // Each entry has a language of its own.
+            EXPECT_EQ(entriesOf(toc).size(), languagesOf(*copy).size());
+        });
+}
+
 TEST(TocFormatterWithoutMemory, LeavesTheTextAloneAndWritesItWholeLater)
 {
     const auto toc = heldToc();
