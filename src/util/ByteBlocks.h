@@ -52,10 +52,23 @@ constexpr ByteBlock highBits(ByteBlock block) noexcept
     return block & repeated(0x80);
 }
 
-/// How many bytes come before the first whose highest bit is set in @p bits, which is not zero.
-inline std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
+/// How many bytes come before the first whose highest bit is set in @p bits, which is not zero and
+/// has no other bits set.
+constexpr std::size_t bytesBeforeFirstPortably(ByteBlock bits) noexcept
 {
+    // One for each byte up to that one, and their sum in the highest byte.
+    const ByteBlock ones = (bits - 1) & ~bits & repeated(0x01);
+    return static_cast<std::size_t>(ones * repeated(0x01) >> 56) - 1;
+}
+
+/// The same with the processor's own way of counting, where the compiler gives it.
+constexpr std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
+{
+#ifdef __GNUC__
     return static_cast<std::size_t>(__builtin_ctzll(bits)) / 8;
+#else
+    return bytesBeforeFirstPortably(bits);
+#endif
 }
 
 /// Sets the highest bit of the first zero byte of @p block, and perhaps those of bytes after it;

@@ -5,18 +5,25 @@
 #define ZELINTERCHANGEDATA_UTIL_PREFETCH_H
 
 #include <cstddef>
+#include <cstdint>
 
 namespace ZelInterchangeData {
 
 /// Asks for the @p size bytes at @p address. It changes nothing but the time that reading them takes, and
-/// the address need not be readable.
-inline void prefetch(const void* address, std::size_t size) noexcept
+/// the address need not be readable, nor need there be anything. Does nothing with a compiler that
+/// cannot ask.
+inline void prefetch([[maybe_unused]] const void* address,
+                     [[maybe_unused]] std::size_t size) noexcept
 {
-    constexpr std::size_t cacheLine = 64;
-    const char* const first = static_cast<const char*>(address);
-    for (std::size_t offset = 0; offset < size; offset += cacheLine)
-        __builtin_prefetch(first + offset);
-    __builtin_prefetch(first + size); // the end may lie in one line more
+#ifdef __GNUC__
+    // Numbers, because pointers must not leave what they point into.
+    constexpr std::uintptr_t cacheLine = 64;
+    const auto first = reinterpret_cast<std::uintptr_t>(address);
+    const auto last = first + size; // may lie in one line more
+    for (std::uintptr_t line = first; line < last; line += cacheLine)
+        __builtin_prefetch(reinterpret_cast<const void*>(line));
+    __builtin_prefetch(reinterpret_cast<const void*>(last));
+#endif
 }
 
 } // namespace ZelInterchangeData

@@ -6,7 +6,9 @@
 
 #include "util/SharedBytes.h"
 
+#include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace ZelInterchangeData {
 
@@ -21,6 +23,20 @@ public:
     {
         text.copy(characters(), size_);
     }
+
+    SharedText(const SharedText&) noexcept = default;
+    /// @p other is empty then.
+    SharedText(SharedText&& other) noexcept
+        : bytes_(std::move(other.bytes_)), size_(std::exchange(other.size_, 0))
+    {
+    }
+    SharedText& operator=(SharedText other) noexcept
+    {
+        bytes_ = std::move(other.bytes_);
+        size_ = other.size_;
+        return *this;
+    }
+    ~SharedText() = default;
 
     /// The text, as long as this object is not assigned to.
     std::string_view view() const noexcept { return {characters(), size_}; }

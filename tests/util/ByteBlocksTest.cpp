@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 
 namespace ZelInterchangeData {
@@ -33,6 +34,20 @@ TEST(ByteBlocks, HighBitsAndZeroBytesAreFound)
     for (std::size_t place = 0; place < blockSize; ++place) {
         const ByteBlock block = repeated(0x81) & ~(ByteBlock{0xFF} << (8 * place));
         EXPECT_EQ(place, bytesBeforeFirst(zeroBytes(block)));
+    }
+}
+
+TEST(ByteBlocks, BothWaysOfCountingAgree)
+{
+    std::mt19937_64 random(20);
+    for (int round = 0; round < 100000; ++round) {
+        const ByteBlock bits = highBits(random() & random() & random());
+        if (bits == 0) continue;
+        std::size_t expected = 0;
+        while ((bits >> (8 * expected) & 0x80U) == 0)
+            ++expected;
+        ASSERT_EQ(expected, bytesBeforeFirst(bits)) << std::hex << bits;
+        ASSERT_EQ(expected, bytesBeforeFirstPortably(bits)) << std::hex << bits;
     }
 }
 

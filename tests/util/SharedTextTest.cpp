@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 namespace ZelInterchangeData {
 namespace {
@@ -27,6 +28,14 @@ TEST(SharedText, KeepsEveryByte)
 {
     const std::string text("a\0b\xFF", 4);
     EXPECT_EQ(text, SharedText(text).view());
+}
+
+TEST(SharedText, IsEmptyWhenItHasBeenMovedAway)
+{
+    SharedText text("one");
+    const SharedText moved(std::move(text));
+    EXPECT_EQ("one", moved.view());
+    EXPECT_EQ("", text.view());
 }
 
 TEST(SharedText, CopiesAreIndependentOfAssignments)

@@ -1,0 +1,20 @@
+#include "util/Prefetch.h"
+
+#include <gtest/gtest.h>
+
+namespace ZelInterchangeData {
+namespace {
+
+/// The sanitizers see what is done with the addresses.
+TEST(Prefetch, TakesAddressesThatNobodyMayRead)
+{
+    const int value = 7;
+    prefetch(nullptr, 0);
+    prefetch(nullptr, 1000);
+    prefetch(&value, sizeof(value));
+    prefetch(&value, 100000);
+    EXPECT_EQ(7, value);
+}
+
+} // namespace
+} // namespace ZelInterchangeData
