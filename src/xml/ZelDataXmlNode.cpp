@@ -195,7 +195,7 @@ ZelDataXmlNode& ZelDataXmlNode::walk(std::string_view path)
 void ZelDataXmlNode::writeStartTag(std::string& out) const
 {
     out.append("<").append(std::string_view(name_));
-    // Meant: a blank follows every attribute, the last one too, as in <rdf:li xml:lang="en" >.
+    // Meant: a blank follows every attribute, the last one too, as in <x:xmpmeta xmlns:x="…" >.
     // Without it an XML reader would see no difference, but the bytes of every packet would change.
     if (!attributes_.empty()) out += ' ';
     for (const auto& attribute : attributes_)

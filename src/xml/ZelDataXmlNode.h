@@ -32,8 +32,9 @@ namespace ZelInterchangeData {
 /// so far and can be written, extended and destroyed. Only memory limits how deep a tree may be.
 class ZelDataXmlNode {
 public:
-    /// A node without name below @p parent, which does not know of it; null for a root. Elements of
-    /// a tree are made by their paths.
+    /// A node without name below @p parent, which does not know of it; null for a root. It takes its
+    /// memory from the tree of @p parent, which must outlive it. Elements of a tree are made by their
+    /// paths.
     explicit ZelDataXmlNode(ZelDataXmlNode* parent);
     /// Destroys the attributes and everything below, too.
     virtual ~ZelDataXmlNode();
