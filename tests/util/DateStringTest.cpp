@@ -2,7 +2,7 @@
 /// Dates in UTC with the hours of the local zone behind them.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 
@@ -152,7 +152,7 @@ TEST(GetDateString, LetsExhaustedMemoryThrough)
     long seconds = march5;
     bool thrown = false;
     {
-        const AllocationWatch watch(0);
+        const FailingAllocation watch(0);
         try {
             ZelDataUtilities::getDateString(&seconds);
         } catch (const std::bad_alloc&) {
