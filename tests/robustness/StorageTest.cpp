@@ -212,13 +212,22 @@ void put(const std::string& path, const std::string& bytes)
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
+/// Keeps user and group of this process in its new user name space.
+void mapUser(uid_t user, gid_t group)
+{
+    put("/proc/self/setgroups", "deny");
+    put("/proc/self/uid_map", std::to_string(user) + " " + std::to_string(user) + " 1");
+    put("/proc/self/gid_map", std::to_string(group) + " " + std::to_string(group) + " 1");
+}
+
 /// Gives this process a file system of its own at @p folder that holds 16 KiB. Empty, or a refusal.
 std::string mountSmallFileSystem(const std::string& folder)
 {
-    const int flags = geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER;
-    const std::string map = std::to_string(geteuid()) + " " + std::to_string(geteuid()) + " 1";
-    if (unshare(flags) != 0) return refusal("a mount name space");
-    if (flags != CLONE_NEWNS) put("/proc/self/uid_map", map);
+    const uid_t user = geteuid();
+    const gid_t group = getegid();
+    if (unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0)
+        return refusal("a mount name space");
+    if (user != 0) mapUser(user, group);
     if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("none", folder.c_str(), "tmpfs", 0, "size=16k,mode=0777") != 0) {
         return refusal("a mount");
