@@ -152,34 +152,53 @@ TEST(Threads, EachMakesAndWritesItsOwnDocument)
     expectAsAlone(packets);
 }
 
-/// Copies of a set share its items inside until one of them changes.
-TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
+struct Sets {
+    std::unique_ptr<i_ZelDataCaptions> captions = make(&ZelDataUtilities::createCaptionData);
+    std::unique_ptr<i_ZelDataToc> toc = make(&ZelDataUtilities::createTocData);
+    std::unique_ptr<i_ZelDataScreenText> text = make(&ZelDataUtilities::createScreenTextData);
+};
+
+/// Copies that share their items with each other and with nobody else, so that one of the threads
+/// lets go of the last share.
+std::vector<Sets> copiesOfOneSet()
 {
-    const auto captions = make(&ZelDataUtilities::createCaptionData);
-    const auto toc = make(&ZelDataUtilities::createTocData);
-    const auto screenText = make(&ZelDataUtilities::createScreenTextData);
-    ASSERT_TRUE(addItems(*captions, *toc, *screenText, threadCount));
-    struct Sets {
-        std::unique_ptr<i_ZelDataCaptions> captions = make(&ZelDataUtilities::createCaptionData);
-        std::unique_ptr<i_ZelDataToc> toc = make(&ZelDataUtilities::createTocData);
-        std::unique_ptr<i_ZelDataScreenText> text = make(&ZelDataUtilities::createScreenTextData);
-    };
+    const Sets original;
+    EXPECT_TRUE(addItems(*original.captions, *original.toc, *original.text, threadCount));
     std::vector<Sets> copies(threadCount);
     for (Sets& copy : copies) {
-        ASSERT_TRUE(allOk({copy.captions->copyFrom(*captions), copy.toc->copyFrom(*toc),
-                           copy.text->copyFrom(*screenText)}));
+        EXPECT_TRUE(
+            allOk({copy.captions->copyFrom(*original.captions), copy.toc->copyFrom(*original.toc),
+                   copy.text->copyFrom(*original.text)}));
     }
+    return copies;
+}
+
+/// Replaces the item that is there by the thread's own.
+void change(const Sets& sets, std::size_t number)
+{
+    EXPECT_TRUE(addItems(*sets.captions, *sets.toc, *sets.text, number));
+    EXPECT_TRUE(allOk({sets.captions->removeCaptionItemAt(0), sets.toc->removeTocItemAt(0),
+                       sets.text->removeScreenTextItemAt(0)}));
+}
+
+bool hand(i_ZelInterchangeDataCore& document, const Sets& sets)
+{
+    return allOk({document.setDataCaptions(*sets.captions), document.setDataToc(*sets.toc),
+                  document.setDataScreenText(*sets.text)});
+}
+
+TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
+{
+    const auto copies = copiesOfOneSet();
     std::vector<std::string> packets(threadCount);
     race([&](std::size_t number) {
-        Sets& own = copies[number];
-        EXPECT_TRUE(addItems(*own.captions, *own.toc, *own.text, number));
-        EXPECT_TRUE(allOk({own.captions->removeCaptionItemAt(0), own.toc->removeTocItemAt(0),
-                           own.text->removeScreenTextItemAt(0)}));
+        const Sets& own = copies[number];
         const auto document = ownDocument(number);
-        EXPECT_TRUE(allOk({document->setDataCaptions(*own.captions), document->setDataToc(*own.toc),
-                           document->setDataScreenText(*own.text)}));
+        EXPECT_TRUE(hand(*document, own));
+        EXPECT_NE(std::string::npos, writtenAsString(*document).find("the number 16<"));
+        change(own, number);
+        EXPECT_TRUE(hand(*document, own));
         packets[number] = writtenOften(*document);
-        own = Sets();
     });
     expectAsAlone(packets);
 }
