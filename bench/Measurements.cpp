@@ -10,14 +10,14 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace ZelInterchangeData::bench {
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 std::size_t repeatsOf(std::size_t size, const Effort& effort)
 {
@@ -30,19 +30,34 @@ int roundsOf(std::size_t size, const Effort& effort)
     return effort.rounds * static_cast<int>(std::clamp<std::size_t>(20000 / size, 1, 5));
 }
 
+/// Seconds that pass for everybody: what counts where threads work side by side.
+double wallSeconds()
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(now).count();
+}
+
+/// Seconds that a processor worked for this thread: what other programs take meanwhile is left out.
+double workSeconds()
+{
+    timespec time{};
+    if (clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time) != 0) {
+        throw std::runtime_error("the processor time cannot be read");
+    }
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
 class Stopwatch {
 public:
-    /// The seconds since the construction or the last lap.
+    /// The seconds of work since the construction or the last lap.
     double lap()
     {
-        const auto now = Clock::now();
-        const std::chrono::duration<double> passed = now - last_;
-        last_ = now;
-        return passed.count();
+        const double now = workSeconds();
+        return now - std::exchange(last_, now);
     }
 
 private:
-    Clock::time_point last_ = Clock::now();
+    double last_ = workSeconds();
 };
 
 template <class Operation>
@@ -51,6 +66,14 @@ double secondsOf(Operation&& operation)
     Stopwatch watch;
     operation();
     return watch.lap();
+}
+
+template <class Operation>
+double wallSecondsOf(Operation&& operation)
+{
+    const double begin = wallSeconds();
+    operation();
+    return wallSeconds() - begin;
 }
 
 double median(std::vector<double> values)
@@ -218,12 +241,12 @@ ThreadGains measureThreads(const Effort& effort)
     Samples<6> samples;
     for (int round = 0; round < effort.rounds; ++round) {
         // Alone each document has its turn in a thread too, so that only the company differs.
-        samples.add({secondsOf([&] { inThreads(1, library); }),
-                     secondsOf([&] { inThreads(1, [&](std::size_t) { library(1); }); }),
-                     secondsOf([&] { inThreads(2, library); }),
-                     secondsOf([&] { inThreads(1, appender); }),
-                     secondsOf([&] { inThreads(1, [&](std::size_t) { appender(1); }); }),
-                     secondsOf([&] { inThreads(2, appender); })});
+        samples.add({wallSecondsOf([&] { inThreads(1, library); }),
+                     wallSecondsOf([&] { inThreads(1, [&](std::size_t) { library(1); }); }),
+                     wallSecondsOf([&] { inThreads(2, library); }),
+                     wallSecondsOf([&] { inThreads(1, appender); }),
+                     wallSecondsOf([&] { inThreads(1, [&](std::size_t) { appender(1); }); }),
+                     wallSecondsOf([&] { inThreads(2, appender); })});
     }
     const auto times = samples.medians();
     return {(times[0] + times[1]) / times[2], (times[3] + times[4]) / times[5]};

@@ -1,6 +1,7 @@
 /// @file
 /// A fixed amount of work for callgrind, one dump for each named section.
 
+#include "bench/FaceRun.h"
 #include "bench/LibraryRun.h"
 #include "bench/StraightAppender.h"
 #include "bench/TextSamples.h"
@@ -53,6 +54,38 @@ void probeTexts()
     section("escape.plain", [&] { return escapeAllPlainly(sample, out); });
 }
 
+/// What @p publish gives in ten rounds. The state in which the first finds the heap counts little then.
+template <class Publish>
+std::size_t tenRounds(Publish&& publish)
+{
+    std::size_t bytes = 0;
+    for (int round = 0; round < 10; ++round)
+        bytes += publish().size();
+    return bytes;
+}
+
+/// The same document through codes and through the face that is compiled into the caller.
+void probeFace()
+{
+    const Document document = makeDocument(1000, Order::shuffled, Pair::enDe);
+    const auto throughCodes = [&] { return write(*set(fill(document))); };
+    const auto throughFace = [&] { return publishThroughFace(document); };
+    static_cast<void>(tenRounds(throughFace));
+    section("codes", [&] { return tenRounds(throughCodes); });
+    section("face", [&] { return tenRounds(throughFace); });
+}
+
+/// What is wrong with captions in order, where the search for a later one that starts too early goes
+/// over all of them.
+void probeFindings(std::size_t size)
+{
+    const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
+    section("findings." + std::to_string(size), [&] {
+        std::vector<ZelDataFinding> findings;
+        return failed(findProblems(*sets.captions, findings)) ? 0 : findings.size() + 1;
+    });
+}
+
 } // namespace
 
 } // namespace ZelInterchangeData::bench
@@ -65,5 +98,8 @@ int main()
             probeDocument(size, order);
     }
     probeTexts();
+    probeFace();
+    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}})
+        probeFindings(size);
     return 0;
 }

@@ -5,7 +5,7 @@
 
 #include "PublishError.h"
 
-#include <sstream>
+#include "ZelInterchangeData/ZelDataResultText.h"
 
 namespace publish {
 
@@ -13,16 +13,8 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-std::string hexadecimal(ZelDataResult_tags code)
-{
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << "0x" << std::hex << static_cast<std::uint32_t>(code);
-    return text.str();
-}
-
 /// The codes that this program can meet, in words.
-std::string describe(ZelDataResult_tags code)
+std::string wordsFor(ZelDataResult_tags code)
 {
     switch (code) {
     case ZelData_InvalidArgument:
@@ -40,13 +32,13 @@ std::string describe(ZelDataResult_tags code)
     case ZelData_InvalidData:
         return "the data are not valid";
     default:
-        return "the library answers " + hexadecimal(code);
+        return std::string("the library answers ") + toString(code);
     }
 }
 
 [[noreturn]] void fail(ZelDataResult_tags code, const std::string& what)
 {
-    throw PublishError(what + ": " + describe(code));
+    throw PublishError(what + ": " + wordsFor(code));
 }
 
 } // namespace

@@ -5,9 +5,10 @@
 
 #include "Check.h"
 
+#include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace publish {
@@ -16,50 +17,18 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-constexpr long long shortestDuration = 1000;
-constexpr unsigned long mostLines = 4;
-
-using Captions = std::vector<std::unique_ptr<i_ZelDataCaptionItem>>;
-
-/// The captions as the packet has them: in order of start, with a text in every language.
-Captions writtenCaptions(const i_ZelDataCaptions& captions)
+/// What is wrong with the captions as the packet has them: in order of start, with a text in every
+/// language.
+std::vector<ZelDataFinding> findingsOf(const i_ZelDataCaptions& captions)
 {
     i_ZelDataCaptions* made = nullptr;
     check(ZelDataUtilities::createCaptionData(&made), "making a data object");
     const std::unique_ptr<i_ZelDataCaptions> ordered(made);
     check(ordered->copyFrom(captions), "copying the captions");
     check(ordered->makeCaptionsConsistent(), "ordering the captions");
-    std::vector<i_ZelDataCaptionItem*> items;
-    check(ordered->getCaptionItems(items), "reading the captions");
-    return Captions(items.begin(), items.end());
-}
-
-long long startOf(const i_ZelDataCaptionItem& item)
-{
-    long long start = 0;
-    check(item.getStart(start), "reading a caption");
-    return start;
-}
-
-long long endOf(const i_ZelDataCaptionItem& item)
-{
-    long long end = 0;
-    check(item.getEnd(end), "reading a caption");
-    return end;
-}
-
-std::vector<std::string> languagesOf(const i_ZelDataCaptionItem& item)
-{
-    std::vector<std::string> languages;
-    check(item.getLanguageIDs(languages), "reading a caption");
-    return languages;
-}
-
-std::string textOf(const i_ZelDataCaptionItem& item, const std::string& language)
-{
-    std::string text;
-    check(item.getTextForLanguage(text, language), "reading a caption");
-    return text;
+    std::vector<ZelDataFinding> findings;
+    check(findProblems(*ordered, findings), "looking for problems");
+    return findings;
 }
 
 std::string joined(const std::vector<std::string>& parts, const std::string& separator)
@@ -70,20 +39,30 @@ std::string joined(const std::vector<std::string>& parts, const std::string& sep
     return text;
 }
 
-/// Why @p item is no good caption by itself; isValid() knows that it is none, but not every reason.
-std::vector<std::string> reasonsOf(const i_ZelDataCaptionItem& item)
+/// Why the caption is no good one, in the report's words, which name the caption themselves. Captions
+/// that were put in order have no other kinds of findings.
+std::string reasonOf(const ZelDataFinding& finding)
+{
+    const std::string value = std::to_string(finding.value);
+    switch (finding.kind) {
+    case ZelDataFinding_TooShort:
+        return "too short (" + value + " ms)";
+    case ZelDataFinding_TooManyLines:
+        return "too many lines (" + value + " in " + finding.language + ")";
+    case ZelDataFinding_Overlap:
+        return "overlap with the caption at " + std::to_string(finding.laterStart) + " ms";
+    default:
+        return describe(finding);
+    }
+}
+
+/// The line on the caption that all of @p findings are about.
+std::string describeCaption(const std::vector<ZelDataFinding>& findings)
 {
     std::vector<std::string> reasons;
-    if (item.isValid(true) != ZelData_WarnItemGuidelines) return reasons;
-    const long long duration = endOf(item) - startOf(item);
-    if (duration < shortestDuration)
-        reasons.push_back("too short (" + std::to_string(duration) + " ms)");
-    for (const std::string& language : languagesOf(item)) {
-        const unsigned long lines = ZelDataUtilities::countLinesInUTF8(textOf(item, language));
-        if (lines > mostLines)
-            reasons.push_back("too many lines (" + std::to_string(lines) + " in " + language + ")");
-    }
-    return reasons;
+    for (const ZelDataFinding& finding : findings)
+        reasons.push_back(reasonOf(finding));
+    return "caption at " + std::to_string(findings.front().start) + " ms: " + joined(reasons, ", ");
 }
 
 } // namespace
@@ -99,16 +78,14 @@ std::string describeFile(const CueFile& file, bool skipEmpty)
 std::vector<std::string> describeCaptions(const i_ZelDataCaptions& captions)
 {
     std::vector<std::string> lines;
-    const Captions items = writtenCaptions(captions);
-    for (std::size_t at = 0; at < items.size(); ++at) {
-        std::vector<std::string> reasons = reasonsOf(*items[at]);
-        // In order of start, a caption that overlaps any later one overlaps the next one.
-        if (at + 1 < items.size() && endOf(*items[at]) > startOf(*items[at + 1]))
-            reasons.push_back("overlap with the caption at " +
-                              std::to_string(startOf(*items[at + 1])) + " ms");
-        if (!reasons.empty())
-            lines.push_back("caption at " + std::to_string(startOf(*items[at])) +
-                            " ms: " + joined(reasons, ", "));
+    std::vector<ZelDataFinding> findings = findingsOf(captions);
+    // They come caption by caption.
+    for (auto first = findings.begin(); first != findings.end();) {
+        const auto next = std::find_if(first, findings.end(), [&](const ZelDataFinding& finding) {
+            return finding.item != first->item;
+        });
+        lines.push_back(describeCaption({first, next}));
+        first = next;
     }
     return lines;
 }

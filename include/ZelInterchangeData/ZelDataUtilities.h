@@ -36,12 +36,20 @@ public:
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
     /// - #ZelData_OutOfMemory: no object was obtained; `*out` stays null.
     /// @{
+
+    /// A header; it is not valid before length, width and height are set.
     static ZelDataResult_tags createHeaderData(i_ZelDataHeader** out);
+    /// A caption; it is not valid before it has a duration.
     static ZelDataResult_tags createCaptionItemData(i_ZelDataCaptionItem** out);
+    /// Captions without items, in the standard styling.
     static ZelDataResult_tags createCaptionData(i_ZelDataCaptions** out);
+    /// An entry of a table of contents.
     static ZelDataResult_tags createTocItemData(i_ZelDataTocItem** out);
+    /// A table of contents without entries.
     static ZelDataResult_tags createTocData(i_ZelDataToc** out);
+    /// An item of screen text.
     static ZelDataResult_tags createScreenTextItemData(i_ZelDataScreenTextItem** out);
+    /// Screen text without items.
     static ZelDataResult_tags createScreenTextData(i_ZelDataScreenText** out);
     /// @}
 
@@ -52,12 +60,17 @@ public:
     /// - #ZelData_UnsupportedFormat: @p format is not #ZelDataFormat_Xmp; `*out` stays null.
     /// - #ZelData_OutOfMemory: no object was obtained; `*out` stays null.
     /// @{
+
+    /// Writes the frame of a packet.
     static ZelDataResult_tags createHeaderFormatter(i_ZelDataHeaderFormatter** out,
                                                     ZelDataFormatType_tags format);
+    /// Writes the track of the captions.
     static ZelDataResult_tags createCaptionFormatter(i_ZelDataCaptionFormatter** out,
                                                      ZelDataFormatType_tags format);
+    /// Writes the track of a table of contents.
     static ZelDataResult_tags createTocFormatter(i_ZelDataTocFormatter** out,
                                                  ZelDataFormatType_tags format);
+    /// Writes the track of the screen text.
     static ZelDataResult_tags createScreenTextFormatter(i_ZelDataScreenTextFormatter** out,
                                                         ZelDataFormatType_tags format);
     /// @}

@@ -8,7 +8,12 @@
 #include "ZelInterchangeData/ZelAlignment_tags.h"
 #include "ZelInterchangeData/ZelDataException.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataFinding.h"
+#include "ZelInterchangeData/ZelDataFindingSubject_tags.h"
+#include "ZelInterchangeData/ZelDataFinding_tags.h"
+#include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataResultText.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/ZelDataVersion.h"
@@ -27,5 +32,9 @@
 #include "ZelInterchangeData/i_ZelDataTocFormatter.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
+
+/// Everything that the library declares.
+namespace ZelInterchangeData {
+}
 
 #endif

@@ -62,6 +62,7 @@ public:
     virtual ZelDataResult_tags getEnd(long long& end) const = 0;
     /// In milliseconds.
     virtual ZelDataResult_tags getDuration(long long& duration) const = 0;
+    /// As it was set, with bits that mean nothing.
     virtual ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const = 0;
     /// Replaces everything with a copy of @p other: the texts, then start, end and alignment.
     /// - #ZelData_InternalError: @p other is this object; nothing changes.

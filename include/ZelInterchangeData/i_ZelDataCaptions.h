@@ -46,26 +46,32 @@ public:
     /// Time units per second, 1 to 10000. Default 1000, which makes times milliseconds.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
+    /// In time units per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
     /// Any bytes but none. Default "Helvetica". Written without escaping.
     /// - #ZelData_InvalidArgument: @p family is empty.
     virtual ZelDataResult_tags setFontFamily(const std::string& family) = 0;
+    /// One name, as it was set.
     virtual ZelDataResult_tags getFontFamily(std::string& family) const = 0;
     /// 1 to 500. Default 20.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFontSize(unsigned long size) = 0;
+    /// The same for all captions.
     virtual ZelDataResult_tags getFontSize(unsigned long& size) const = 0;
     /// Each component 0.0 to 1.0; a NaN is stored. Default white: 1.0, 1.0, 1.0.
     /// - #ZelData_InvalidArgument: a component is out of range; none is stored.
     virtual ZelDataResult_tags setForegroundColor(float red, float green, float blue) = 0;
+    /// The components of the text, from 0.0 to 1.0.
     virtual ZelDataResult_tags getForegroundColor(float& red, float& green, float& blue) const = 0;
     /// Each component 0.0 to 1.0; a NaN is stored. Default black: 0.0, 0.0, 0.0.
     /// - #ZelData_InvalidArgument: a component is out of range; none is stored.
     virtual ZelDataResult_tags setBackgroundColor(float red, float green, float blue) = 0;
+    /// The components of the ground behind the text, from 0.0 to 1.0.
     virtual ZelDataResult_tags getBackgroundColor(float& red, float& green, float& blue) const = 0;
     /// 0.0 (clear) to 1.0 (opaque); a NaN is stored. Default 0.6.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setBackgroundOpacity(float opacity) = 0;
+    /// From 0.0 (clear) to 1.0 (opaque).
     virtual ZelDataResult_tags getBackgroundOpacity(float& opacity) const = 0;
     /// @}
 
@@ -84,12 +90,14 @@ public:
     /// Hands out a new item with its defaults, which does not belong to the collection.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
     virtual ZelDataResult_tags createCaptionItem(i_ZelDataCaptionItem** out) const = 0;
+    /// Removes the item at @p index; later items move up.
     /// - #ZelData_InvalidArgument: there is no item at @p index.
     virtual ZelDataResult_tags removeCaptionItemAt(unsigned long index) = 0;
     /// Removes the text for @p languageID from every item; items and language list stay.
     /// - #ZelData_NotFound: an item has no such text. The items before it have lost theirs, those
     ///   after it keep theirs.
     virtual ZelDataResult_tags removeCaptionItemsForLanguage(const std::string& languageID) = 0;
+    /// The number of items.
     virtual ZelDataResult_tags getCaptionItemCount(unsigned long& count) = 0;
     /// Hands out a copy of the item at @p index.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not, or there is no such item.

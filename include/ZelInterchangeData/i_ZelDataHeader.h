@@ -31,12 +31,18 @@ public:
     /// All texts are empty by default, the keywords none. Keywords keep their order; duplicates are
     /// allowed.
     /// @{
+
+    /// The producing application. The packet joins name and version.
     virtual ZelDataResult_tags setAppName(const std::string& name) = 0;
+    /// The version of the producing application, in any form.
     virtual ZelDataResult_tags setAppVersion(const std::string& version) = 0;
+    /// The title of the whole video.
     virtual ZelDataResult_tags setTitle(const std::string& title) = 0;
     /// Written without escaping: a creator with one of `"&'<>` makes a packet that is no XML.
     virtual ZelDataResult_tags setCreator(const std::string& creator) = 0;
+    /// What the video is about.
     virtual ZelDataResult_tags setDescription(const std::string& description) = 0;
+    /// Replaces all keywords.
     virtual ZelDataResult_tags setKeywords(const std::vector<std::string>& keywords) = 0;
     /// Marks the video as explicit for portable players. Default false.
     virtual ZelDataResult_tags setIPodExplicit(bool isExplicit) = 0;
@@ -53,12 +59,20 @@ public:
 
     /// @name Getters
     /// @{
+
+    /// The producing application.
     virtual ZelDataResult_tags getAppName(std::string& name) const = 0;
+    /// The version of the producing application.
     virtual ZelDataResult_tags getAppVersion(std::string& version) const = 0;
+    /// The title of the whole video.
     virtual ZelDataResult_tags getTitle(std::string& title) const = 0;
+    /// As it was set.
     virtual ZelDataResult_tags getCreator(std::string& creator) const = 0;
+    /// What the video is about.
     virtual ZelDataResult_tags getDescription(std::string& description) const = 0;
+    /// Replaces @p keywords with those of the header, in their order.
     virtual ZelDataResult_tags getKeywords(std::vector<std::string>& keywords) const = 0;
+    /// Whether the video is marked as explicit.
     virtual ZelDataResult_tags getIPodExplicit(bool& isExplicit) const = 0;
     /// In milliseconds.
     virtual ZelDataResult_tags getVideoLength(unsigned long& milliseconds) const = 0;
@@ -71,6 +85,8 @@ public:
     /// @name Content names
     /// The files that make up the content, in the order of their addition, without duplicates.
     /// @{
+
+    /// Empties the list.
     virtual ZelDataResult_tags clearContentNames() = 0;
     /// Appends @p name.
     /// - #ZelData_InvalidUtf8: @p name is not UTF-8.
@@ -79,6 +95,7 @@ public:
     /// Removes the entry identical to @p name.
     /// - #ZelData_WarnNoChange: there is none.
     virtual ZelDataResult_tags removeContentName(const std::string& name) = 0;
+    /// The number of entries.
     virtual ZelDataResult_tags getContentNameCount(unsigned long& count) const = 0;
     /// Replaces @p names with the list.
     virtual ZelDataResult_tags getContentNames(std::vector<std::string>& names) const = 0;
@@ -88,6 +105,7 @@ public:
 
     /// Whether the player shows its search bar. Default true.
     virtual ZelDataResult_tags setShowSearchBar(bool show) = 0;
+    /// Whether the player shows its search bar.
     virtual ZelDataResult_tags getShowSearchBar(bool& show) const = 0;
 
     /// Replaces everything with a copy of @p other: the languages, then the fields in the order of

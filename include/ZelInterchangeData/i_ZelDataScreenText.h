@@ -34,6 +34,7 @@ public:
     /// milliseconds.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
+    /// In ticks per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
 
     /// @name Items
@@ -48,8 +49,10 @@ public:
     /// Hands out a new item with its defaults, which does not belong to the collection.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
     virtual ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const = 0;
+    /// Removes the item at @p index; later items move up.
     /// - #ZelData_InvalidArgument: there is no item at @p index.
     virtual ZelDataResult_tags removeScreenTextItemAt(unsigned long index) = 0;
+    /// The number of items.
     virtual ZelDataResult_tags getScreenTextItemCount(unsigned long& count) = 0;
     /// Hands out a copy of the item at @p index.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not, or there is no such item.

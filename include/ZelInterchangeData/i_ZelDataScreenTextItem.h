@@ -44,6 +44,7 @@ public:
     virtual ZelDataResult_tags setImageOffset(unsigned long long offset) = 0;
     /// Number of the table-of-contents entry that the text belongs to. Any value; default 0.
     virtual ZelDataResult_tags setGroupId(unsigned long id) = 0;
+    /// As it was set; control characters go only when it is written.
     virtual ZelDataResult_tags getText(std::string& text) const = 0;
     /// In ticks.
     virtual ZelDataResult_tags getStart(long long& start) const = 0;
@@ -51,10 +52,13 @@ public:
     virtual ZelDataResult_tags getEnd(long long& end) const = 0;
     /// In ticks.
     virtual ZelDataResult_tags getDuration(long long& duration) const = 0;
+    /// The file that holds the image.
     virtual ZelDataResult_tags getImageFile(std::string& name) const = 0;
+    /// The index of the image in the file.
     virtual ZelDataResult_tags getImageIndex(unsigned long& index) const = 0;
     /// In bytes.
     virtual ZelDataResult_tags getImageOffset(unsigned long long& offset) const = 0;
+    /// The number of the table-of-contents entry that the text belongs to.
     virtual ZelDataResult_tags getGroupId(unsigned long& id) const = 0;
     /// Replaces everything with a copy of @p source: text, start, duration, image file, index,
     /// offset, group.

@@ -42,9 +42,11 @@ public:
     /// the written table states 1000 whatever is set here.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
+    /// In ticks per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
     /// The file of the thumbnails; stored as given. Default empty.
     virtual ZelDataResult_tags setImageFile(const std::string& name) = 0;
+    /// The file of the thumbnails.
     virtual ZelDataResult_tags getImageFile(std::string& name) const = 0;
 
     /// @name Entries
@@ -61,12 +63,14 @@ public:
     /// Hands out a new entry with its defaults, which does not belong to the table.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
     virtual ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const = 0;
+    /// Removes the entry at @p index; later entries move up.
     /// - #ZelData_InvalidArgument: there is no entry at @p index.
     virtual ZelDataResult_tags removeTocItemAt(unsigned long index) = 0;
     /// Removes the text for @p languageID from every entry; entries and language list stay.
     /// - #ZelData_NotFound: an entry has no such text. The entries before it have lost theirs,
     ///   those after it keep theirs.
     virtual ZelDataResult_tags removeTocItemsForLanguage(const std::string& languageID) = 0;
+    /// The number of entries.
     virtual ZelDataResult_tags getTocItemCount(unsigned long& count) = 0;
     /// Hands out a copy of the entry at @p index.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not, or there is no such entry.

@@ -50,7 +50,9 @@ public:
                                                   const std::string& languageID) const = 0;
     /// In ticks.
     virtual ZelDataResult_tags getStart(long long& start) const = 0;
+    /// The file that holds the thumbnail.
     virtual ZelDataResult_tags getImageFile(std::string& name) const = 0;
+    /// The index of the thumbnail in the file.
     virtual ZelDataResult_tags getImageIndex(unsigned long& index) const = 0;
     /// In bytes.
     virtual ZelDataResult_tags getImageOffset(unsigned long long& offset) const = 0;

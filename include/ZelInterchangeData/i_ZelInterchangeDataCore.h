@@ -43,13 +43,22 @@ public:
     ///   the last error of the captions that the document holds, whatever that is, and the header's
     ///   own where it holds none.
     /// @{
+
+    /// The header.
     virtual ZelDataResult_tags getDataHeader(i_ZelDataHeader& target) const = 0;
+    /// A packet needs a header. One that is not valid is copied in part only.
     virtual ZelDataResult_tags setDataHeader(const i_ZelDataHeader& source) = 0;
+    /// The captions.
     virtual ZelDataResult_tags getDataCaptions(i_ZelDataCaptions& target) const = 0;
+    /// The languages of the packet are those of the captions.
     virtual ZelDataResult_tags setDataCaptions(const i_ZelDataCaptions& source) = 0;
+    /// The table of contents.
     virtual ZelDataResult_tags getDataToc(i_ZelDataToc& target) const = 0;
+    /// The frame rate of the table is not copied.
     virtual ZelDataResult_tags setDataToc(const i_ZelDataToc& source) = 0;
+    /// The screen text.
     virtual ZelDataResult_tags getDataScreenText(i_ZelDataScreenText& target) const = 0;
+    /// The screen text keeps its frame rate.
     virtual ZelDataResult_tags setDataScreenText(const i_ZelDataScreenText& source) = 0;
     /// @}
 
@@ -57,9 +66,14 @@ public:
     /// Each hands out a new object with its defaults; the document keeps no reference to it.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
     /// @{
+
+    /// See ZelDataUtilities::createHeaderData().
     virtual ZelDataResult_tags createDataHeader(i_ZelDataHeader** out) const = 0;
+    /// See ZelDataUtilities::createCaptionData().
     virtual ZelDataResult_tags createDataCaptions(i_ZelDataCaptions** out) const = 0;
+    /// See ZelDataUtilities::createTocData().
     virtual ZelDataResult_tags createDataToc(i_ZelDataToc** out) const = 0;
+    /// See ZelDataUtilities::createScreenTextData().
     virtual ZelDataResult_tags createDataScreenText(i_ZelDataScreenText** out) const = 0;
     /// @}
 };

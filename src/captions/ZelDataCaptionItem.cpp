@@ -1,17 +1,11 @@
 #include "captions/ZelDataCaptionItem.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "captions/CaptionLimits.h"
 #include "core/Factory.h"
 #include "util/TextLines.h"
 
 namespace ZelInterchangeData {
-
-namespace {
-
-constexpr long long recommendedDuration = 1000;
-constexpr unsigned long recommendedLines = 4;
-
-} // namespace
 
 ZelDataResult_tags ZelDataUtilities::createCaptionItemData(i_ZelDataCaptionItem** out)
 {
@@ -37,11 +31,13 @@ ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
 
 ZelDataResult_tags CaptionState::check(bool strict) const
 {
-    if (time.duration <= 0) return ZelData_InvalidItem;
-    if (strict && time.duration < recommendedDuration) return ZelData_WarnItemGuidelines;
+    if (time.duration < CaptionLimits::shortestDuration) return ZelData_InvalidItem;
+    if (strict && time.duration < CaptionLimits::recommendedDuration)
+        return ZelData_WarnItemGuidelines;
     // Languages and texts were checked when they were set; what is left are the lines.
     for (std::size_t i = 0; strict && i < texts().count(); ++i) {
-        if (countLines(texts()[i].text) > recommendedLines) return ZelData_WarnItemGuidelines;
+        if (countLines(texts()[i].text) > CaptionLimits::recommendedLines)
+            return ZelData_WarnItemGuidelines;
     }
     return ZelData_Ok;
 }

@@ -24,6 +24,7 @@ public:
     long long start() const noexcept { return time.start; }
     const LanguageTexts& texts() const noexcept { return texts_; }
     LanguageTexts& changeTexts() noexcept { return texts_; }
+    /// Has the texts at hand when they are needed.
     void prefetch() const noexcept { texts_.prefetch(); }
     /// What i_ZelDataCaptionItem::isValid() gives.
     ZelDataResult_tags check(bool strict) const;

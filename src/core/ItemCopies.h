@@ -49,6 +49,9 @@ public:
     /// For the collection to fill.
     std::vector<Item*>& vector() noexcept { return items_; }
 
+    /// The items, still owned by this object.
+    const std::vector<Item*>& items() const noexcept { return items_; }
+
     /// Adds each item to @p target through @p add. Ends with the target's last error when that
     /// fails, and with #ZelData_InternalError at a null pointer.
     template <class Collection>

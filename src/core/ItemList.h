@@ -118,7 +118,8 @@ public:
         constexpr std::size_t ahead = 8;
         const auto& slots = slots_.read();
         for (std::size_t i = 0; i < places.size(); ++i) {
-            if (i + 2 * ahead < places.size()) prefetch(&slots[places[i + 2 * ahead]]);
+            if (i + 2 * ahead < places.size())
+                prefetch(&slots[places[i + 2 * ahead]], sizeof(Slot));
             if (i + ahead < places.size()) slots[places[i + ahead]].state.prefetch();
             visit(slots[places[i]].state);
         }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -15,17 +16,20 @@ using Places = std::vector<std::size_t>;
 /// Counts at places, with sums of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    /// Room for @p size places, and more up to the next power of two, so that take() stays inside.
-    explicit PrefixCounts(std::size_t size)
+    /// Room for @p size places with nothing counted, and for more up to the next power of two, so that
+    /// take() stays inside.
+    void clear(std::size_t size)
     {
+        highestStep_ = 1;
         while (highestStep_ <= size)
             highestStep_ *= 2;
-        sums_.resize(highestStep_ * 2);
+        sums_.assign(highestStep_ * 2, 0);
     }
 
-    /// One at each place, where nothing was counted yet.
-    void addOneEach()
+    /// The same with one at each place.
+    void fill(std::size_t size)
     {
+        clear(size);
         for (std::size_t i = 1; i < sums_.size(); ++i) {
             sums_[i] = lowestBit(i);
         }
@@ -68,59 +72,60 @@ private:
     std::size_t highestStep_ = 1;
 };
 
-/// An item's start, as a number that orders like it from its lowest byte to its highest, and its place.
-struct Keyed {
-    std::uint64_t key;
-    std::size_t place;
+/// An item's start above the least one, and below it the item's place: half of the bits each.
+using Packed = std::uint64_t;
 
-    std::uint8_t byteAt(unsigned shift) const noexcept
-    {
-        return static_cast<std::uint8_t>(key >> shift);
-    }
-};
-
-/// How many of @p items have each value of the byte at @p shift.
-std::array<std::size_t, 256> countBytes(const std::vector<Keyed>& items, unsigned shift)
-{
-    std::array<std::size_t, 256> counts{};
-    for (const Keyed& item : items) {
-        ++counts[item.byteAt(shift)];
-    }
-    return counts;
-}
+constexpr unsigned placeBits = 32;
+constexpr Packed greatestHalf = 0xFFFFFFFF;
 
 /// Orders @p items by the byte at @p shift alone, those of equal bytes as they stand.
-void orderByByte(std::vector<Keyed>& items, std::vector<Keyed>& scratch, unsigned shift)
+void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsigned shift)
 {
-    auto next = countBytes(items, shift);
+    std::array<std::size_t, 256> next{}; // where the next item with a byte goes
+    for (const Packed item : items) {
+        ++next[item >> shift & 0xFF];
+    }
     std::size_t sum = 0;
     for (std::size_t& place : next) {
         sum += std::exchange(place, sum);
     }
-    for (const Keyed& item : items) {
-        scratch[next[item.byteAt(shift)]++] = item;
+    for (const Packed item : items) {
+        scratch[next[item >> shift & 0xFF]++] = item;
     }
     items.swap(scratch);
 }
 
-/// The order of a stable sort. It goes byte by byte (a radix sort): starts are times, which differ in a
-/// few bytes, and no comparison has to be foreseen.
-Places stableOrder(const std::vector<long long>& starts)
+/// The order of a stable sort for starts that are at most @p range above @p least. It goes byte by byte
+/// (a radix sort): starts differ in a few bytes, and no comparison has to be foreseen.
+Places packedOrder(const std::vector<long long>& starts, long long least, Packed range)
 {
-    constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
-    std::vector<Keyed> items(starts.size());
-    std::uint64_t differing = 0; // the bits in which any two starts differ
+    std::vector<Packed> items(starts.size());
     for (std::size_t i = 0; i < starts.size(); ++i) {
-        items[i] = {static_cast<std::uint64_t>(starts[i]) ^ signBit, i};
-        differing |= items[i].key ^ items[0].key;
+        const Packed above = static_cast<Packed>(starts[i]) - static_cast<Packed>(least);
+        items[i] = above << placeBits | i;
     }
-    std::vector<Keyed> scratch(starts.size());
-    for (unsigned shift = 0; shift < 64; shift += 8) {
-        if ((differing >> shift & 0xFF) != 0) orderByByte(items, scratch, shift);
+    std::vector<Packed> scratch(starts.size());
+    for (unsigned shift = 0; shift < placeBits && range >> shift != 0; shift += 8) {
+        orderByByte(items, scratch, placeBits + shift);
     }
     Places order(starts.size());
     std::transform(items.begin(), items.end(), order.begin(),
-                   [](const Keyed& item) { return item.place; });
+                   [](Packed item) { return static_cast<std::size_t>(item & greatestHalf); });
+    return order;
+}
+
+/// The order of a stable sort.
+Places stableOrder(const std::vector<long long>& starts)
+{
+    const auto [least, greatest] = std::minmax_element(starts.begin(), starts.end());
+    const Packed range = static_cast<Packed>(*greatest) - static_cast<Packed>(*least);
+    if (range <= greatestHalf && starts.size() <= greatestHalf) {
+        return packedOrder(starts, *least, range);
+    }
+    Places order(starts.size()); // starts that are weeks apart
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return starts[a] < starts[b]; });
     return order;
 }
 
@@ -133,7 +138,8 @@ Places smallerBefore(const std::vector<long long>& starts, const Places& order)
         if (starts[order[i]] != starts[order[i - 1]]) ++groups;
         rank[order[i]] = groups - 1;
     }
-    PrefixCounts met(groups);
+    PrefixCounts met;
+    met.clear(groups);
     for (std::size_t& each : rank) {
         const std::size_t smaller = met.before(each);
         met.add(each);
@@ -142,44 +148,50 @@ Places smallerBefore(const std::vector<long long>& starts, const Places& order)
     return rank;
 }
 
-/// Lays @p places open: entry i was inserted at places[i] of the i entries before it. Gives the final
-/// place of each entry.
-Places finalPlaces(Places places)
-{
-    PrefixCounts free(places.size());
-    free.addOneEach();
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-        *place = free.take(*place);
-    }
-    return places;
-}
-
-/// Puts one group of equal starts, the members from @p first to @p last in stored order, in the order of
-/// the exchange sort.
+/// Puts groups of equal starts in the order of the exchange sort, one after the other.
 ///
 /// Each smaller start that the sort meets after some members takes the place of the first of them, which
 /// goes behind the others: it rotates the group by one. A new member joins at the end. So the group is a
-/// ring with a head, rotation moves the head, and a member joins before it. @p counts tells how many
-/// smaller starts come before a member, @p total how many there are.
-void arrangeGroup(Places::iterator first, Places::iterator last, const Places& counts,
-                  std::size_t total)
-{
-    const auto size = static_cast<std::size_t>(last - first);
-    Places joined(size); // where in the ring, cut at the first member, each member was inserted
-    std::size_t head = 0;
-    for (std::size_t i = 1; i < size; ++i) {
-        head = (head + counts[first[static_cast<std::ptrdiff_t>(i)]] -
-                counts[first[static_cast<std::ptrdiff_t>(i - 1)]]) %
-               i;
-        joined[i] = head == 0 ? i : head++;
+/// ring with a head, rotation moves the head, and a member joins before it.
+class GroupArranger {
+public:
+    /// @param counts for each item how many smaller starts come before it.
+    explicit GroupArranger(const Places& counts) : counts_(counts) {}
+
+    /// Arranges one group, the members from @p first to @p last in stored order; @p total starts of all
+    /// are smaller.
+    void arrange(Places::iterator first, Places::iterator last, std::size_t total)
+    {
+        members_.assign(first, last);
+        joinRing();
+        const std::size_t size = members_.size();
+        const std::size_t head = (head_ + total - counts_[members_.back()]) % size;
+        // The member that joined last stands where it joined, the others make room for it.
+        free_.fill(size);
+        for (std::size_t i = size; i-- > 0;) {
+            const std::size_t place = free_.take(joined_[i]);
+            first[static_cast<std::ptrdiff_t>((place + size - head) % size)] = members_[i];
+        }
     }
-    head = (head + total - counts[*(last - 1)]) % size;
-    const Places ring = finalPlaces(std::move(joined));
-    const Places members(first, last);
-    for (std::size_t i = 0; i < size; ++i) {
-        first[static_cast<std::ptrdiff_t>((ring[i] + size - head) % size)] = members[i];
+
+private:
+    /// Notes where in the ring, cut at the first member, each member joins.
+    void joinRing()
+    {
+        joined_.assign(members_.size(), 0);
+        head_ = 0;
+        for (std::size_t i = 1; i < members_.size(); ++i) {
+            head_ = (head_ + counts_[members_[i]] - counts_[members_[i - 1]]) % i;
+            joined_[i] = head_ == 0 ? i : head_++;
+        }
     }
-}
+
+    const Places& counts_;
+    Places members_;
+    Places joined_;
+    std::size_t head_ = 0;
+    PrefixCounts free_;
+};
 
 } // namespace
 
@@ -193,6 +205,25 @@ std::vector<long long> earliestLaterStarts(std::vector<long long> starts)
     return starts;
 }
 
+std::vector<std::size_t> firstLaterStartsBelow(const std::vector<long long>& bounds,
+                                               const std::vector<long long>& starts)
+{
+    Places found(starts.size(), starts.size());
+    // The later items that start before all that stand between: the furthest first, so with ascending
+    // starts. Any other one has such an item before it that starts no later.
+    Places candidates;
+    for (std::size_t i = starts.size(); i-- > 0;) {
+        const auto notBelow =
+            std::partition_point(candidates.begin(), candidates.end(),
+                                 [&](std::size_t place) { return starts[place] < bounds[i]; });
+        if (notBelow != candidates.begin()) found[i] = *(notBelow - 1);
+        while (!candidates.empty() && starts[candidates.back()] >= starts[i])
+            candidates.pop_back();
+        candidates.push_back(i);
+    }
+    return found;
+}
+
 std::vector<std::size_t> exchangeOrder(const std::vector<long long>& starts)
 {
     if (std::is_sorted(starts.begin(), starts.end())) return {};
@@ -201,10 +232,11 @@ std::vector<std::size_t> exchangeOrder(const std::vector<long long>& starts)
     auto group = std::adjacent_find(order.begin(), order.end(), isTie);
     if (group == order.end()) return order;
     const Places counts = smallerBefore(starts, order);
+    GroupArranger arranger(counts);
     while (group != order.end()) {
         const auto next = std::find_if(
             group, order.end(), [&](std::size_t place) { return starts[place] != starts[*group]; });
-        arrangeGroup(group, next, counts, static_cast<std::size_t>(group - order.begin()));
+        arranger.arrange(group, next, static_cast<std::size_t>(group - order.begin()));
         group = std::adjacent_find(next, order.end(), isTie);
     }
     return order;

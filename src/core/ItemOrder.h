@@ -12,6 +12,11 @@ namespace ZelInterchangeData {
 /// For each start the smallest of those after it; the largest number where none follows.
 std::vector<long long> earliestLaterStarts(std::vector<long long> starts);
 
+/// For each item the place of the first later one that starts before the item's bound; the number of
+/// items where none does. Takes n log n steps.
+std::vector<std::size_t> firstLaterStartsBelow(const std::vector<long long>& bounds,
+                                               const std::vector<long long>& starts);
+
 /// The order that an exchange sort gives items with @p starts: the place of the item that comes
 /// first, then of the second, and so on. Empty when the items stand in order already.
 ///

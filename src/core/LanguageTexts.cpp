@@ -10,47 +10,52 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// What stands before the entries.
-struct Head {
-    std::size_t count;
+/// How much there is to store.
+struct Size {
+    std::size_t entries;
     std::size_t characters; // of all IDs and texts
 };
 
-/// Where an entry stands among the characters, its ID first.
+/// Where an entry's text lies among the characters. Its ID lies between the end of the entry before
+/// and the text.
 struct Span {
-    std::size_t begin;
     std::size_t textBegin;
     std::size_t end;
 };
 
-/// The shared bytes: a Head, a Span for each entry, and the characters.
+/// The shared bytes: the number of entries, a Span for each, and the characters.
 struct Layout {
-    explicit Layout(const SharedBytes& bytes) noexcept : head(reinterpret_cast<Head*>(bytes.data()))
+    explicit Layout(const SharedBytes& bytes) noexcept
+        : count(reinterpret_cast<std::size_t*>(bytes.data()))
     {
     }
 
-    Span* spans() const noexcept { return reinterpret_cast<Span*>(head + 1); }
-    char* characters() const noexcept { return reinterpret_cast<char*>(spans() + head->count); }
+    Span* spans() const noexcept { return reinterpret_cast<Span*>(count + 1); }
+    char* characters() const noexcept { return reinterpret_cast<char*>(spans() + *count); }
+    std::size_t beginOf(std::size_t index) const noexcept
+    {
+        return index == 0 ? 0 : spans()[index - 1].end;
+    }
 
-    Head* head;
+    std::size_t* count;
 };
 
 /// New bytes for entries whose number and characters are known, filled from the first to the last.
 class Filling {
 public:
-    explicit Filling(Head head)
-        : bytes_(sizeof(Head) + head.count * sizeof(Span) + head.characters), layout_(bytes_)
+    explicit Filling(Size size)
+        : bytes_(sizeof(std::size_t) + size.entries * sizeof(Span) + size.characters),
+          layout_(bytes_)
     {
-        new (layout_.head) Head(head);
+        new (layout_.count) std::size_t(size.entries);
     }
 
     void append(const LanguageTexts::Entry& entry)
     {
-        const std::size_t begin = used_;
         copy(entry.languageID);
         const std::size_t textBegin = used_;
         copy(entry.text);
-        new (layout_.spans() + filled_++) Span{begin, textBegin, used_};
+        new (layout_.spans() + filled_++) Span{textBegin, used_};
     }
 
     SharedBytes take() { return std::move(bytes_); }
@@ -87,13 +92,13 @@ void visitEdited(const LanguageTexts& texts, const Edit& edit, Visit&& visit)
 
 SharedBytes edited(const LanguageTexts& texts, const Edit& edit)
 {
-    Head head{};
+    Size size{};
     visitEdited(texts, edit, [&](const LanguageTexts::Entry& entry) {
-        ++head.count;
-        head.characters += entry.languageID.size() + entry.text.size();
+        ++size.entries;
+        size.characters += entry.languageID.size() + entry.text.size();
     });
-    if (head.count == 0) return {};
-    Filling filling(head);
+    if (size.entries == 0) return {};
+    Filling filling(size);
     visitEdited(texts, edit, [&](const LanguageTexts::Entry& entry) { filling.append(entry); });
     return filling.take();
 }
@@ -110,21 +115,21 @@ ZelDataResult_tags LanguageTexts::check(const std::string& text, const std::stri
 
 std::size_t LanguageTexts::count() const noexcept
 {
-    return bytes_.data() == nullptr ? 0 : Layout(bytes_).head->count;
+    return bytes_.data() == nullptr ? 0 : *Layout(bytes_).count;
 }
 
 std::size_t LanguageTexts::size() const noexcept
 {
-    return bytes_.data() == nullptr ? 0 : Layout(bytes_).head->characters;
+    return bytes_.data() == nullptr ? 0 : Layout(bytes_).beginOf(count());
 }
 
 LanguageTexts::Entry LanguageTexts::operator[](std::size_t index) const noexcept
 {
     const Layout layout(bytes_);
-    const Span& span = layout.spans()[index];
+    const std::size_t begin = layout.beginOf(index);
+    const auto [textBegin, end] = layout.spans()[index];
     const char* const characters = layout.characters();
-    return {{characters + span.begin, span.textBegin - span.begin},
-            {characters + span.textBegin, span.end - span.textBegin}};
+    return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
 }
 
 /// Where the text for @p languageID stands, or where it would.

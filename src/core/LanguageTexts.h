@@ -41,7 +41,7 @@ public:
     std::size_t size() const noexcept;
 
     /// Has the texts at hand when they are needed, as far as they are of usual length.
-    void prefetch() const noexcept { bytes_.prefetch(256); }
+    void prefetch() const noexcept { bytes_.prefetch(224); }
 
     void clear() noexcept { bytes_ = SharedBytes(); }
     /// Stores a copy of @p text. Both stood check(). #ZelData_WarnAlreadyExists when it replaced a

@@ -1,6 +1,7 @@
 #include "core/TrackInsertion.h"
 
-#include <algorithm>
+#include "util/LastPlace.h"
+
 #include <string_view>
 
 namespace ZelInterchangeData {
@@ -16,10 +17,8 @@ static_assert(emptyTracks.size() == 48 && tracksOpening.size() == 23);
 std::size_t placeOfTracks(const std::string& packet)
 {
     // The last list is the header's own: a creator, written as given, may hold another before it.
-    const auto list =
-        std::find_end(packet.begin(), packet.end(), emptyTracks.begin(), emptyTracks.end());
-    if (list == packet.end()) return std::string::npos;
-    return static_cast<std::size_t>(list - packet.begin()) + tracksOpening.size();
+    const std::size_t list = lastPlaceOf(emptyTracks, packet);
+    return list == std::string::npos ? list : list + tracksOpening.size();
 }
 
 } // namespace ZelInterchangeData

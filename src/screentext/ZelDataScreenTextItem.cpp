@@ -24,34 +24,26 @@ ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& o
     return store(ZelData_Ok);
 }
 
-ZelDataResult_tags ScreenTextState::check() const
-{
-    const bool valid = !failed(ZelDataUtilities::verifyUtf8Format(text(), false));
-    return valid ? ZelData_Ok : ZelData_InvalidItem;
-}
-
-/// The flag is meant to change nothing: checking more would refuse items that are written today.
+/// An item is always valid: its text was checked when it was set. The flag is meant to change nothing:
+/// checking more would refuse items that are written today.
 ZelDataResult_tags ZelDataScreenTextItem::isValid(bool /*deep*/) const
 {
-    return store(state_.check());
+    return store(ZelData_Ok);
 }
 
 // Text and group
 
 ZelDataResult_tags ZelDataScreenTextItem::clearText()
 {
-    return store(guarded([&] {
-        state_.changeText().clear();
-        return ZelData_Ok;
-    }));
+    state_.setText({});
+    return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenTextItem::setText(const std::string& text)
 {
     if (failed(ZelDataUtilities::verifyUtf8Format(text, false))) return store(ZelData_InvalidItem);
     return store(guarded([&] {
-        std::string copy(text);
-        state_.changeText().swap(copy);
+        state_.setText(text);
         return ZelData_Ok;
     }));
 }
@@ -116,8 +108,7 @@ ZelDataResult_tags ZelDataScreenTextItem::getDuration(long long& duration) const
 ZelDataResult_tags ZelDataScreenTextItem::setImageFile(const std::string& name)
 {
     return store(guarded([&] {
-        std::string copy(name);
-        state_.changeImageFile().swap(copy);
+        state_.setImageFile(name);
         return ZelData_Ok;
     }));
 }

@@ -5,7 +5,7 @@
 #define ZELINTERCHANGEDATA_SCREENTEXT_ZELDATASCREENTEXTITEM_H
 
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "util/CopyOnWrite.h"
+#include "util/SharedText.h"
 #include "util/TimeSpan.h"
 
 #include <utility>
@@ -34,21 +34,21 @@ public:
     unsigned long groupId = 0;
 
     long long start() const noexcept { return time.start; }
-    const std::string& text() const noexcept { return strings_.read().text; }
-    std::string& changeText() { return strings_.write().text; }
-    const std::string& imageFile() const noexcept { return strings_.read().imageFile; }
-    std::string& changeImageFile() { return strings_.write().imageFile; }
-    void prefetch() const noexcept { strings_.prefetch(); }
-    /// What i_ZelDataScreenTextItem::isValid() gives.
-    ZelDataResult_tags check() const;
+    std::string_view text() const noexcept { return text_.view(); }
+    void setText(std::string_view text) { text_ = SharedText(text); }
+    std::string_view imageFile() const noexcept { return imageFile_.view(); }
+    void setImageFile(std::string_view name) { imageFile_ = SharedText(name); }
+
+    /// Has the texts at hand when they are needed.
+    void prefetch() const noexcept
+    {
+        text_.prefetch();
+        imageFile_.prefetch();
+    }
 
 private:
-    struct Strings {
-        std::string text;
-        std::string imageFile;
-    };
-
-    CopyOnWrite<Strings> strings_;
+    SharedText text_;
+    SharedText imageFile_;
 };
 
 inline void ScreenTextSummary::add(const ScreenTextState& state) noexcept

@@ -35,10 +35,8 @@ ZelDataResult_tags ZelDataTocItem::isValid(bool /*deep*/) const
 
 ZelDataResult_tags ZelDataTocItem::clearText()
 {
-    return store(guarded([&] {
-        state_.changeTexts().clear();
-        return ZelData_Ok;
-    }));
+    state_.changeTexts().clear();
+    return store(ZelData_Ok);
 }
 
 /// Replacing a title is meant to be a warning and no error: callers that look for errors go on.
@@ -84,8 +82,7 @@ ZelDataResult_tags ZelDataTocItem::getStart(long long& start) const
 ZelDataResult_tags ZelDataTocItem::setImageFile(const std::string& name)
 {
     return store(guarded([&] {
-        std::string copy(name);
-        state_.changeImageFile().swap(copy);
+        state_.setImageFile(name);
         return ZelData_Ok;
     }));
 }

@@ -7,7 +7,7 @@
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "core/LanguageTexts.h"
 #include "core/TextSummary.h"
-#include "util/CopyOnWrite.h"
+#include "util/SharedText.h"
 
 #include <utility>
 
@@ -25,13 +25,20 @@ public:
     long long start() const noexcept { return startTime; }
     const LanguageTexts& texts() const noexcept { return titles_; }
     LanguageTexts& changeTexts() noexcept { return titles_; }
-    void prefetch() const noexcept { titles_.prefetch(); }
-    const std::string& imageFile() const noexcept { return imageFile_.read(); }
-    std::string& changeImageFile() { return imageFile_.write(); }
+
+    /// Has the texts at hand when they are needed.
+    void prefetch() const noexcept
+    {
+        titles_.prefetch();
+        imageFile_.prefetch();
+    }
+
+    std::string_view imageFile() const noexcept { return imageFile_.view(); }
+    void setImageFile(std::string_view name) { imageFile_ = SharedText(name); }
 
 private:
     LanguageTexts titles_;
-    CopyOnWrite<std::string> imageFile_;
+    SharedText imageFile_;
 };
 
 /// The entry that the library makes.

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace ZelInterchangeData {
 
@@ -28,6 +29,21 @@ inline ByteBlock loadBlock(const char* bytes) noexcept
         block |= ByteBlock{static_cast<unsigned char>(bytes[i])} << (8 * i);
     }
     return block;
+}
+
+/// The last @p count bytes of @p text, fewer than a block has, with zeros behind them.
+inline ByteBlock lastBytes(std::string_view text, std::size_t count) noexcept
+{
+    if (count == 0) return 0;
+    if (text.size() >= blockSize) {
+        const ByteBlock block = loadBlock(text.data() + (text.size() - blockSize));
+        return block >> (8 * (blockSize - count));
+    }
+    ByteBlock block = 0;
+    for (const char byte : text.substr(text.size() - count)) {
+        block = block >> 8 | ByteBlock{static_cast<unsigned char>(byte)} << 56;
+    }
+    return block >> (8 * (blockSize - count));
 }
 
 /// The highest bits of the bytes of @p block.

@@ -4,8 +4,6 @@
 #ifndef ZELINTERCHANGEDATA_UTIL_COPYONWRITE_H
 #define ZELINTERCHANGEDATA_UTIL_COPYONWRITE_H
 
-#include "util/Prefetch.h"
-
 #include <atomic>
 #include <cstddef>
 #include <utility>
@@ -45,8 +43,6 @@ public:
     }
 
     const Value& read() const noexcept { return shared_->value; }
-    /// Has the value at hand when it is read.
-    void prefetch() const noexcept { ZelInterchangeData::prefetch(shared_, sizeof(Shared)); }
 
     /// The value, no longer shared. When memory runs out it is shared as before.
     Value& write()

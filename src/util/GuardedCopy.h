@@ -6,6 +6,9 @@
 
 #include "util/Guard.h"
 
+#include <string>
+#include <string_view>
+
 namespace ZelInterchangeData {
 
 /// Makes @p target a copy of @p source, or leaves it alone and gives #ZelData_OutOfMemory.
@@ -14,6 +17,17 @@ template <class Value>
 {
     return guarded([&] {
         Value copy(source);
+        target.swap(copy);
+        return ZelData_Ok;
+    });
+}
+
+/// The same for a text that is not kept in a string.
+[[nodiscard]] inline ZelDataResult_tags guardedCopy(std::string& target,
+                                                    std::string_view source) noexcept
+{
+    return guarded([&] {
+        std::string copy(source);
         target.swap(copy);
         return ZelData_Ok;
     });

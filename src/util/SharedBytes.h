@@ -22,7 +22,7 @@ public:
     /// No bytes, and no memory.
     SharedBytes() noexcept = default;
 
-    /// @p size bytes, aligned for any object, whose values are open.
+    /// @p size bytes, aligned for a `std::size_t`, whose values are open.
     explicit SharedBytes(std::size_t size) : head_(new (::operator new(sizeof(Head) + size)) Head)
     {
     }
@@ -62,7 +62,7 @@ public:
     }
 
 private:
-    struct alignas(std::max_align_t) Head {
+    struct Head {
         std::atomic<std::size_t> owners{1};
     };
 

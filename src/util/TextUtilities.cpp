@@ -45,43 +45,56 @@ constexpr bool isContinuation(char c) noexcept
     return (byteOf(c) & 0xC0U) == 0x80U;
 }
 
-/// Behind the ASCII characters that begin at @p text.
-const char* skipAscii(const char* text, const char* end) noexcept
-{
-    while (end - text >= static_cast<std::ptrdiff_t>(blockSize)) {
-        if (const ByteBlock high = highBits(loadBlock(text))) return text + bytesBeforeFirst(high);
-        text += blockSize;
-    }
-    while (text != end && byteOf(*text) < 0x80)
-        ++text;
-    return text;
-}
-
-/// Behind the whole sequences of three bytes that begin at @p text: nearly all that a CJK text has.
-const char* skipThreeByteSequences(const char* text, const char* end) noexcept
-{
-    // Two at once: the bits that tell what the six bytes are, and what they are to be.
-    constexpr ByteBlock tellingBits = 0xC0C0F0C0C0F0;
-    constexpr ByteBlock twoSequences = 0x8080E08080E0;
-    while (end - text >= static_cast<std::ptrdiff_t>(blockSize) &&
-           (loadBlock(text) & tellingBits) == twoSequences) {
-        text += 6;
-    }
-    while (end - text >= 3 && (byteOf(text[0]) & 0xF0U) == 0xE0U && isContinuation(text[1]) &&
-           isContinuation(text[2])) {
-        text += 3;
-    }
-    return text;
-}
-
-/// Behind the sequence of more than one byte that begins at @p text, or null where there is no whole
-/// one.
-const char* skipSequence(const char* text, const char* end) noexcept
+/// Behind the character that begins at @p text, or null where there is no whole one.
+const char* skipCharacter(const char* text, const char* end) noexcept
 {
     const int count = continuationCount(byteOf(*text));
     if (count == invalidLead || end - text <= count) return nullptr;
-    if (count == 1) return isContinuation(text[1]) ? text + 2 : nullptr; // most often: no loop
     return std::all_of(text + 1, text + 1 + count, isContinuation) ? text + 1 + count : nullptr;
+}
+
+/// The marks of the lead bytes and of the continuation bytes of sequences, block after block.
+class SequenceBlocks {
+public:
+    /// Whether the bytes of @p block go on rightly from those before it. No branch looks at single bytes:
+    /// in mixed text nobody could foresee it.
+    bool goesOn(ByteBlock block) noexcept
+    {
+        const ByteBlock high = highBits(block);
+        const ByteBlock lead = high & block << 1; // two bytes or more, and so on
+        const ByteBlock lead3 = lead & block << 2;
+        const ByteBlock lead4 = lead3 & block << 3;
+        const ByteBlock lead5 = lead4 & block << 4;
+        const ByteBlock lead6 = lead5 & block << 5;
+        const ByteBlock neverLead =
+            (lead6 & block << 6) | zeroBytes((block & repeated(0xFE)) ^ repeated(0xC0));
+        const ByteBlock expected =
+            open_ | lead << 8 | lead3 << 16 | lead4 << 24 | lead5 << 32 | lead6 << 40;
+        open_ = lead >> 56 | lead3 >> 48 | lead4 >> 40 | lead5 >> 32 | lead6 >> 24;
+        return ((high ^ lead ^ expected) | neverLead) == 0; // what is high and no lead continues
+    }
+
+    /// Whether a sequence goes on behind the last block.
+    bool isOpen() const noexcept { return open_ != 0; }
+
+private:
+    ByteBlock open_ = 0; // the bytes of the next block that must continue a sequence
+};
+
+/// Whether each sequence of @p text has the continuation bytes that its lead byte asks for, and nothing
+/// stands between them.
+bool isWellFormed(std::string_view text) noexcept
+{
+    SequenceBlocks sequences;
+    const char* position = text.data();
+    const char* const end = position + text.size();
+    for (; end - position >= static_cast<std::ptrdiff_t>(blockSize); position += blockSize) {
+        const ByteBlock block = loadBlock(position);
+        if (highBits(block) == 0 && !sequences.isOpen()) continue;
+        if (!sequences.goesOn(block)) return false;
+    }
+    return sequences.goesOn(lastBytes(text, static_cast<std::size_t>(end - position))) &&
+           !sequences.isOpen();
 }
 
 /// The control characters below the blank, most of which XML forbids. Only the line feed stays.
@@ -237,17 +250,17 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
+    // Most texts are good, and telling that is quicker than finding the first mistake.
+    if (!bmpOnly && isWellFormed(text)) return ZelData_Ok;
     const char* position = text.data();
     const char* const end = position + text.size();
-    for (;;) {
-        position = skipThreeByteSequences(skipAscii(position, end), end);
-        if (position == end) return ZelData_Ok;
-        if (byteOf(*position) < 0x80) continue;
+    while (position != end) {
         // Before any look at the sequence itself: a malformed one is refused for its range, too.
         if (bmpOnly && byteOf(*position) >= firstLeadBeyondBmp) return ZelData_UnsupportedCharacter;
-        position = skipSequence(position, end);
+        position = skipCharacter(position, end);
         if (position == nullptr) return ZelData_InvalidUtf8;
     }
+    return ZelData_Ok;
 }
 
 void appendEscaped(std::string& out, std::string_view text)

@@ -3,6 +3,8 @@
 
 #include "xml/Track.h"
 
+#include "util/LastPlace.h"
+
 namespace ZelInterchangeData {
 
 Track::Track() : description_(stream_.element("rdf:li/rdf:Description"))
@@ -20,7 +22,7 @@ std::string Track::cutBehindMarkersTag(std::string& frame)
 {
     // The last such pair is the track's own: an attribute that goes in as given may hold another.
     constexpr std::string_view startTag = "<rdf:Seq>";
-    const std::size_t place = frame.rfind("<rdf:Seq></rdf:Seq>") + startTag.size();
+    const std::size_t place = lastPlaceOf("<rdf:Seq></rdf:Seq>", frame) + startTag.size();
     std::string rest = frame.substr(place);
     frame.resize(place);
     return rest;

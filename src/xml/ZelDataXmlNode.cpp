@@ -99,11 +99,6 @@ ZelDataXmlNode& ZelDataXmlNode::operator=(long number)
     return text_ < number;
 }
 
-ZelDataXmlNode& ZelDataXmlNode::element(const std::string& path)
-{
-    return *this < path;
-}
-
 ZelDataXmlNode& ZelDataXmlNode::newGroup()
 {
     return *this < static_cast<long long*>(nullptr);

@@ -63,7 +63,8 @@ public:
     ZelDataXmlNode& operator=(long number);
 
     /// As `*this < path`.
-    ZelDataXmlNode& element(const std::string& path);
+    ZelDataXmlNode& element(const char* path) { return *this < path; }
+    ZelDataXmlNode& element(const std::string& path) { return *this < path; }
     /// Starts a new child group: every child made so far keeps its place but is no longer found by
     /// its name. Returns this node.
     ZelDataXmlNode& newGroup();

@@ -17,7 +17,9 @@ ZelDataXmlStream::~ZelDataXmlStream() = default;
 
 std::string ZelDataXmlStream::getXml(bool withDeclaration) const
 {
+    constexpr std::size_t usualSize = 4000;
     std::string xml;
+    xml.reserve(usualSize);
     if (withDeclaration) xml += declaration_;
     writeChildren(xml);
     return xml;

@@ -24,7 +24,8 @@ def counts(write_large=8000):
                        f"appender.{order}.1000": 500, f"appender.{order}.8000": 4000})
     for alphabet in check.ALPHABETS:
         result.update({f"utf8.{alphabet}": 30, f"utf8.{alphabet}.plain": 60})
-    result.update({"escape": 10, "escape.plain": 40})
+    result.update({"escape": 10, "escape.plain": 40, "face": 101, "codes": 100,
+                   "findings.1000": 7, "findings.8000": 56})
     return result
 
 
@@ -40,6 +41,8 @@ class Ratios(unittest.TestCase):
         self.assertEqual(measured["write/appender.shuffled.8000"], 2)
         self.assertEqual(measured["utf8/plain.CJK"], 0.5)
         self.assertEqual(measured["escape/plain"], 0.25)
+        self.assertEqual(measured["face/codes"], 1.01)
+        self.assertAlmostEqual(measured["growth.findings"], 1)
 
     def test_a_missing_section_is_an_error(self):
         incomplete = counts()

@@ -33,7 +33,9 @@ def debug_tree():
 def main():
     for prefix in (PREFIX, ABSOLUTE):
         shutil.rmtree(prefix, ignore_errors=True)
-    library_tree("Release", RELEASE_TREE, folders(ABSOLUTE / "lib", ABSOLUTE / "include"))
+    # The prefix tells CMake that these folders are no part of the source, in which they may lie.
+    library_tree("Release", RELEASE_TREE, (f"-DCMAKE_INSTALL_PREFIX={ABSOLUTE}",
+                                           *folders(ABSOLUTE / "lib", ABSOLUTE / "include")))
     install(RELEASE_TREE, ABSOLUTE / "prefix")
     # Nothing is compiled again for other folders.
     library_tree("Release", RELEASE_TREE)

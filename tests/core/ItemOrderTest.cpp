@@ -116,5 +116,49 @@ TEST(EarliestLaterStarts, AreTheSmallestOfThoseThatFollow)
     EXPECT_TRUE(earliestLaterStarts({}).empty());
 }
 
+/// The definition: each item against each later one.
+Places firstBelow(const Starts& bounds, const Starts& starts)
+{
+    Places found;
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        std::size_t j = i + 1;
+        while (j < starts.size() && starts[j] >= bounds[i])
+            ++j;
+        found.push_back(std::min(j, starts.size()));
+    }
+    return found;
+}
+
+TEST(FirstLaterStartsBelow, AreTheNearestAndNotTheSmallest)
+{
+    EXPECT_EQ((Places{2, 3, 3, 4}), firstLaterStartsBelow({4, 2, 3, 9}, {9, 5, 3, 1}));
+    EXPECT_EQ((Places{2, 2}), firstLaterStartsBelow({7, 0}, {0, 7})); // not below its bound
+    EXPECT_EQ((Places{1, 2}), firstLaterStartsBelow({8, 0}, {0, 7}));
+    EXPECT_TRUE(firstLaterStartsBelow({}, {}).empty());
+}
+
+TEST(FirstLaterStartsBelow, AreThoseOfTheDefinition)
+{
+    std::mt19937 random(22);
+    for (int round = 0; round < 20000; ++round) {
+        const auto size = static_cast<std::size_t>(random() % 12);
+        const long long distinct = 1 + static_cast<long long>(random() % 12);
+        const Starts starts = randomStarts(random, size, distinct);
+        const Starts bounds = randomStarts(random, size, distinct + 2);
+        ASSERT_EQ(firstBelow(bounds, starts), firstLaterStartsBelow(bounds, starts));
+    }
+}
+
+TEST(FirstLaterStartsBelow, TakeNoQuadraticTime)
+{
+    // A million items without any: comparing each with each would not come to an end here.
+    const std::size_t size = 1000000;
+    Starts starts(size);
+    std::iota(starts.begin(), starts.end(), 1);
+    EXPECT_EQ(Places(size, size), firstLaterStartsBelow(starts, starts));
+    std::reverse(starts.begin(), starts.end());
+    EXPECT_EQ(Places(size, size), firstLaterStartsBelow(Starts(size, 1), starts));
+}
+
 } // namespace
 } // namespace ZelInterchangeData

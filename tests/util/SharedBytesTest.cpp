@@ -44,10 +44,10 @@ TEST(SharedBytes, CopiesShareThemUntilTheLastOneGoes)
     EXPECT_EQ("abc", textOf(last, 3));
 }
 
-TEST(SharedBytes, AreAlignedForAnyObject)
+TEST(SharedBytes, AreAlignedForASize)
 {
     const SharedBytes bytes(1);
-    EXPECT_EQ(0U, reinterpret_cast<std::uintptr_t>(bytes.data()) % alignof(std::max_align_t));
+    EXPECT_EQ(0U, reinterpret_cast<std::uintptr_t>(bytes.data()) % alignof(std::size_t));
 }
 
 TEST(SharedBytes, MovingLeavesNone)

@@ -11,6 +11,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ZelInterchangeData {
 namespace {
@@ -117,6 +118,33 @@ TEST_P(VerifyUtf8FormatOfAll, LongerTextsOfTellingBytes)
         const std::size_t length = 4 + random() % 9;
         while (text.size() < length)
             text.push_back(bytes[random() % bytes.size()]);
+        if (!agrees(text, GetParam())) ADD_FAILURE() << hexOf(text);
+    }
+}
+
+TEST_P(VerifyUtf8FormatOfAll, LongTextsOfWholeSequencesWithAByteChanged)
+{
+    const std::vector<std::string> sequences = {
+        "a",
+        "bc",
+        "\xC3\xBC",
+        "\xDF\xBF",
+        "\xE3\x81\x82",
+        "\xEF\xBF\xBF",
+        "\xF0\x9F\x98\x80",
+        "\xF8\x88\x80\x80\x80",
+        "\xFD\xBF\xBF\xBF\xBF\xBF",
+    };
+    std::mt19937 random(7);
+    for (int round = 0; round < 200000 && !HasFailure(); ++round) {
+        std::string text;
+        for (std::size_t count = random() % 20; count > 0; --count)
+            text += sequences[random() % sequences.size()];
+        if (!agrees(text, GetParam())) ADD_FAILURE() << hexOf(text);
+        if (text.empty()) continue;
+        text[random() % text.size()] = static_cast<char>(random() % 256);
+        if (!agrees(text, GetParam())) ADD_FAILURE() << hexOf(text);
+        text.resize(random() % text.size());
         if (!agrees(text, GetParam())) ADD_FAILURE() << hexOf(text);
     }
 }

@@ -1,0 +1,29 @@
+/// @file
+/// The two tests of result codes as calls that throw.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATACHECK_H
+#define ZELINTERCHANGEDATA_ZELDATACHECK_H
+
+#include "ZelInterchangeData/ZelDataError.h"
+
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Throws ZelDataError, which names @p operation, when @p code is an error or a warning: the
+/// throwing form of failed().
+inline void check(ZelDataResult_tags code, std::string_view operation)
+{
+    if (failed(code)) throw ZelDataError(code, operation);
+}
+
+/// Throws ZelDataError, which names @p operation, when @p code is an error: the throwing form of
+/// isError(). Warnings pass.
+inline void checkError(ZelDataResult_tags code, std::string_view operation)
+{
+    if (isError(code)) throw ZelDataError(code, operation);
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,118 @@
+/// @file
+/// The checked operations of a caption.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONITEM_H
+#define ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONITEM_H
+
+#include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/i_ZelDataCaptionItem.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// A view of a caption that throws where an operation fails.
+///
+/// See ZelDataCheckedObject for views, and i_ZelDataCaptionItem for what an operation does.
+template <class Object>
+class ZelDataCheckedCaptionItem
+    : public ZelDataCheckedObject<ZelDataCheckedCaptionItem<Object>, Object> {
+    using Base = ZelDataCheckedObject<ZelDataCheckedCaptionItem<Object>, Object>;
+    using Interface = i_ZelDataCaptionItem;
+
+public:
+    using Base::Base;
+
+    /// @name Operations of i_ZelDataCaptionItem
+    /// @{
+
+    /// See i_ZelDataCaptionItem::isValid().
+    ZelDataCheckedCaptionItem isValid(bool strict) const
+    {
+        return this->run("isValid", &Interface::isValid, strict);
+    }
+    /// See i_ZelDataCaptionItem::clearText().
+    ZelDataCheckedCaptionItem clearText() const
+    {
+        return this->run("clearText", &Interface::clearText);
+    }
+    /// See i_ZelDataCaptionItem::setTextForLanguage().
+    ZelDataCheckedCaptionItem setTextForLanguage(const std::string& text,
+                                                 const std::string& languageID) const
+    {
+        return this->run("setTextForLanguage", &Interface::setTextForLanguage, text, languageID);
+    }
+    /// See i_ZelDataCaptionItem::setStart().
+    ZelDataCheckedCaptionItem setStart(long long start) const
+    {
+        return this->run("setStart", &Interface::setStart, start);
+    }
+    /// See i_ZelDataCaptionItem::setEnd().
+    ZelDataCheckedCaptionItem setEnd(long long end) const
+    {
+        return this->run("setEnd", &Interface::setEnd, end);
+    }
+    /// See i_ZelDataCaptionItem::setDuration().
+    ZelDataCheckedCaptionItem setDuration(long long duration) const
+    {
+        return this->run("setDuration", &Interface::setDuration, duration);
+    }
+    /// See i_ZelDataCaptionItem::setAlignment().
+    ZelDataCheckedCaptionItem setAlignment(ZelAlignment_tags alignment) const
+    {
+        return this->run("setAlignment", &Interface::setAlignment, alignment);
+    }
+    /// See i_ZelDataCaptionItem::removeTextForLanguage().
+    ZelDataCheckedCaptionItem removeTextForLanguage(const std::string& languageID) const
+    {
+        return this->run("removeTextForLanguage", &Interface::removeTextForLanguage, languageID);
+    }
+    /// See i_ZelDataCaptionItem::getLanguageIDs().
+    std::vector<std::string> getLanguageIDs() const
+    {
+        return this->get("getLanguageIDs", &Interface::getLanguageIDs);
+    }
+    /// See i_ZelDataCaptionItem::getTextForLanguage().
+    std::string getTextForLanguage(const std::string& languageID) const
+    {
+        std::string text;
+        this->require("getTextForLanguage", this->object().getTextForLanguage(text, languageID));
+        return text;
+    }
+    /// See i_ZelDataCaptionItem::getStart().
+    long long getStart() const { return this->get("getStart", &Interface::getStart); }
+    /// See i_ZelDataCaptionItem::getEnd().
+    long long getEnd() const { return this->get("getEnd", &Interface::getEnd); }
+    /// See i_ZelDataCaptionItem::getDuration().
+    long long getDuration() const { return this->get("getDuration", &Interface::getDuration); }
+    /// See i_ZelDataCaptionItem::getAlignment().
+    ZelAlignment_tags getAlignment() const
+    {
+        return this->get("getAlignment", &Interface::getAlignment);
+    }
+    /// See i_ZelDataCaptionItem::copyFrom().
+    ZelDataCheckedCaptionItem copyFrom(const i_ZelDataCaptionItem& other) const
+    {
+        return this->done("copyFrom", this->object().copyFrom(other));
+    }
+    /// @}
+};
+
+/// The checked operations of @p object.
+inline ZelDataCheckedCaptionItem<i_ZelDataCaptionItem>
+checked(i_ZelDataCaptionItem& object) noexcept
+{
+    return ZelDataCheckedCaptionItem<i_ZelDataCaptionItem>(object);
+}
+
+/// The checked const operations of @p object.
+inline ZelDataCheckedCaptionItem<const i_ZelDataCaptionItem>
+checked(const i_ZelDataCaptionItem& object) noexcept
+{
+    return ZelDataCheckedCaptionItem<const i_ZelDataCaptionItem>(object);
+}
+
+} // namespace ZelInterchangeData
+
+#endif

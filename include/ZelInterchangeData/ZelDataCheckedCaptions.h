@@ -1,0 +1,178 @@
+/// @file
+/// The checked operations of captions.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONS_H
+#define ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONS_H
+
+#include "ZelInterchangeData/ZelDataCheckedLanguage.h"
+#include "ZelInterchangeData/i_ZelDataCaptionItem.h"
+#include "ZelInterchangeData/i_ZelDataCaptions.h"
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// A view of captions that throws where an operation fails.
+///
+/// See ZelDataCheckedObject for views, and i_ZelDataCaptions for what an operation does.
+template <class Object>
+class ZelDataCheckedCaptions
+    : public ZelDataCheckedLanguage<ZelDataCheckedCaptions<Object>, Object> {
+    using Base = ZelDataCheckedLanguage<ZelDataCheckedCaptions<Object>, Object>;
+    using Interface = i_ZelDataCaptions;
+
+public:
+    using Base::Base;
+    using Base::copyFrom;
+
+    /// @name Operations of i_ZelDataCaptions
+    /// @{
+
+    /// See i_ZelDataCaptions::isValid().
+    ZelDataCheckedCaptions isValid(bool strict) const
+    {
+        return this->run("isValid", &Interface::isValid, strict);
+    }
+    /// See i_ZelDataCaptions::makeCaptionsConsistent().
+    ZelDataCheckedCaptions makeCaptionsConsistent() const
+    {
+        return this->run("makeCaptionsConsistent", &Interface::makeCaptionsConsistent);
+    }
+    /// See i_ZelDataCaptions::setFrameRate().
+    ZelDataCheckedCaptions setFrameRate(unsigned long rate) const
+    {
+        return this->run("setFrameRate", &Interface::setFrameRate, rate);
+    }
+    /// See i_ZelDataCaptions::getFrameRate().
+    unsigned long getFrameRate() const
+    {
+        return this->get("getFrameRate", &Interface::getFrameRate);
+    }
+    /// See i_ZelDataCaptions::setFontFamily().
+    ZelDataCheckedCaptions setFontFamily(const std::string& family) const
+    {
+        return this->run("setFontFamily", &Interface::setFontFamily, family);
+    }
+    /// See i_ZelDataCaptions::getFontFamily().
+    std::string getFontFamily() const
+    {
+        return this->get("getFontFamily", &Interface::getFontFamily);
+    }
+    /// See i_ZelDataCaptions::setFontSize().
+    ZelDataCheckedCaptions setFontSize(unsigned long size) const
+    {
+        return this->run("setFontSize", &Interface::setFontSize, size);
+    }
+    /// See i_ZelDataCaptions::getFontSize().
+    unsigned long getFontSize() const { return this->get("getFontSize", &Interface::getFontSize); }
+    /// See i_ZelDataCaptions::setForegroundColor().
+    ZelDataCheckedCaptions setForegroundColor(float red, float green, float blue) const
+    {
+        return this->run("setForegroundColor", &Interface::setForegroundColor, red, green, blue);
+    }
+    /// Red, green and blue.
+    std::array<float, 3> getForegroundColor() const
+    {
+        std::array<float, 3> color = {};
+        this->require("getForegroundColor",
+                      this->object().getForegroundColor(color[0], color[1], color[2]));
+        return color;
+    }
+    /// See i_ZelDataCaptions::setBackgroundColor().
+    ZelDataCheckedCaptions setBackgroundColor(float red, float green, float blue) const
+    {
+        return this->run("setBackgroundColor", &Interface::setBackgroundColor, red, green, blue);
+    }
+    /// Red, green and blue.
+    std::array<float, 3> getBackgroundColor() const
+    {
+        std::array<float, 3> color = {};
+        this->require("getBackgroundColor",
+                      this->object().getBackgroundColor(color[0], color[1], color[2]));
+        return color;
+    }
+    /// See i_ZelDataCaptions::setBackgroundOpacity().
+    ZelDataCheckedCaptions setBackgroundOpacity(float opacity) const
+    {
+        return this->run("setBackgroundOpacity", &Interface::setBackgroundOpacity, opacity);
+    }
+    /// See i_ZelDataCaptions::getBackgroundOpacity().
+    float getBackgroundOpacity() const
+    {
+        return this->get("getBackgroundOpacity", &Interface::getBackgroundOpacity);
+    }
+    /// See i_ZelDataCaptions::clearCaptionItems().
+    ZelDataCheckedCaptions clearCaptionItems() const
+    {
+        return this->run("clearCaptionItems", &Interface::clearCaptionItems);
+    }
+    /// See i_ZelDataCaptions::addCaptionItem().
+    ZelDataCheckedCaptions addCaptionItem(const i_ZelDataCaptionItem& item) const
+    {
+        return this->run("addCaptionItem", &Interface::addCaptionItem, item);
+    }
+    /// See i_ZelDataCaptions::createCaptionItem().
+    std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem() const
+    {
+        return this->make("createCaptionItem", &Interface::createCaptionItem);
+    }
+    /// See i_ZelDataCaptions::removeCaptionItemAt().
+    ZelDataCheckedCaptions removeCaptionItemAt(unsigned long index) const
+    {
+        return this->run("removeCaptionItemAt", &Interface::removeCaptionItemAt, index);
+    }
+    /// See i_ZelDataCaptions::removeCaptionItemsForLanguage().
+    ZelDataCheckedCaptions removeCaptionItemsForLanguage(const std::string& languageID) const
+    {
+        return this->run("removeCaptionItemsForLanguage", &Interface::removeCaptionItemsForLanguage,
+                         languageID);
+    }
+    /// See i_ZelDataCaptions::getCaptionItemCount().
+    unsigned long getCaptionItemCount() const
+    {
+        return this->get("getCaptionItemCount", &Interface::getCaptionItemCount);
+    }
+    /// See i_ZelDataCaptions::getCaptionItemAt().
+    std::unique_ptr<i_ZelDataCaptionItem> getCaptionItemAt(unsigned long index) const
+    {
+        return this->make("getCaptionItemAt", &Interface::getCaptionItemAt, index);
+    }
+    /// See i_ZelDataCaptions::getCaptionItems().
+    std::vector<std::unique_ptr<i_ZelDataCaptionItem>> getCaptionItems() const
+    {
+        return this->makeAll("getCaptionItems", &Interface::getCaptionItems);
+    }
+    /// See i_ZelDataCaptions::getCaptionItemsForLanguage().
+    std::vector<std::unique_ptr<i_ZelDataCaptionItem>>
+    getCaptionItemsForLanguage(const std::string& languageID) const
+    {
+        return this->makeAll("getCaptionItemsForLanguage", &Interface::getCaptionItemsForLanguage,
+                             languageID);
+    }
+    /// See i_ZelDataCaptions::copyFrom().
+    ZelDataCheckedCaptions copyFrom(const i_ZelDataCaptions& other) const
+    {
+        return this->done("copyFrom", this->object().copyFrom(other));
+    }
+    /// @}
+};
+
+/// The checked operations of @p object.
+inline ZelDataCheckedCaptions<i_ZelDataCaptions> checked(i_ZelDataCaptions& object) noexcept
+{
+    return ZelDataCheckedCaptions<i_ZelDataCaptions>(object);
+}
+
+/// The checked const operations of @p object.
+inline ZelDataCheckedCaptions<const i_ZelDataCaptions>
+checked(const i_ZelDataCaptions& object) noexcept
+{
+    return ZelDataCheckedCaptions<const i_ZelDataCaptions>(object);
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,82 @@
+/// @file
+/// The checked operations of a list of languages.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDLANGUAGE_H
+#define ZELINTERCHANGEDATA_ZELDATACHECKEDLANGUAGE_H
+
+#include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/i_ZelDataLanguage.h"
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// The part that the views of a header, of captions and of a table of contents share. What an
+/// operation does stands at i_ZelDataLanguage.
+template <class Self, class Object>
+class ZelDataCheckedLanguage : public ZelDataCheckedObject<Self, Object> {
+    using Interface = i_ZelDataLanguage;
+
+public:
+    using ZelDataCheckedObject<Self, Object>::ZelDataCheckedObject;
+
+    /// @name Operations of i_ZelDataLanguage
+    /// @{
+
+    /// See i_ZelDataLanguage::clearLanguages().
+    Self clearLanguages() const { return this->run("clearLanguages", &Interface::clearLanguages); }
+    /// See i_ZelDataLanguage::addLanguage().
+    Self addLanguage(const std::string& id) const
+    {
+        return this->run("addLanguage", &Interface::addLanguage, id);
+    }
+    /// See i_ZelDataLanguage::removeLanguage().
+    Self removeLanguage(const std::string& id) const
+    {
+        return this->run("removeLanguage", &Interface::removeLanguage, id);
+    }
+    /// See i_ZelDataLanguage::setOrderedLanguageIDs().
+    Self setOrderedLanguageIDs(const std::vector<std::string>& ids) const
+    {
+        return this->run("setOrderedLanguageIDs", &Interface::setOrderedLanguageIDs, ids);
+    }
+    /// See i_ZelDataLanguage::getOrderedLanguageIDs().
+    std::vector<std::string> getOrderedLanguageIDs() const
+    {
+        return this->get("getOrderedLanguageIDs", &Interface::getOrderedLanguageIDs);
+    }
+    /// See i_ZelDataLanguage::getLanguageCount().
+    unsigned long getLanguageCount() const
+    {
+        return this->get("getLanguageCount", &Interface::getLanguageCount);
+    }
+    /// See i_ZelDataLanguage::getLanguageDisplayNames().
+    std::vector<std::string> getLanguageDisplayNames() const
+    {
+        return this->get("getLanguageDisplayNames", &Interface::getLanguageDisplayNames);
+    }
+    /// See i_ZelDataLanguage::getLanguageNativeDisplayNames().
+    std::vector<std::string> getLanguageNativeDisplayNames() const
+    {
+        return this->get("getLanguageNativeDisplayNames",
+                         &Interface::getLanguageNativeDisplayNames);
+    }
+    /// See i_ZelDataLanguage::doesLanguageExist().
+    bool doesLanguageExist(std::string id) const
+    {
+        bool exists = false;
+        this->require("doesLanguageExist", this->object().doesLanguageExist(id, exists));
+        return exists;
+    }
+    /// See i_ZelDataLanguage::copyFrom().
+    Self copyFrom(const i_ZelDataLanguage& other) const
+    {
+        return this->done("copyFrom", this->object().copyFrom(other));
+    }
+    /// @}
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,153 @@
+/// @file
+/// What the checked views of all objects have in common.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDOBJECT_H
+#define ZELINTERCHANGEDATA_ZELDATACHECKEDOBJECT_H
+
+#include "ZelInterchangeData/ZelDataCheck.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// A view of an object through which a failing operation throws ZelDataError instead of returning
+/// its code.
+///
+/// A view is made with checked(). It has the operations of the object under their names:
+/// - An operation without a value gives the view back, so calls can be joined:
+///   `checked(*header).setTitle("Intro").setVideoLength(90500)`.
+/// - A getter returns its value; what is handed out comes in a `std::unique_ptr`.
+/// - ZelDataError names the operation. The object is in the state in which the operation left it,
+///   and its last error is set as ever.
+///
+/// Warnings throw as well, because a copy that meets one has stopped half-way, and because the
+/// library itself stops at them. allowWarnings() lets them pass where they are welcome, as when a
+/// text is meant to be replaced.
+///
+/// A view is as small as a pointer and a flag. It owns nothing and must not outlive its object.
+/// @tparam Self the view that derives from this class.
+/// @tparam Object the interface, `const` for a view with the const operations only.
+template <class Self, class Object>
+class ZelDataCheckedObject {
+public:
+    /// A view of @p object at which warnings throw.
+    explicit ZelDataCheckedObject(Object& object) noexcept : object_(&object) {}
+
+    /// The same view, at which warnings pass and errors alone throw.
+    Self allowWarnings() const noexcept
+    {
+        Self view(self());
+        view.warningsPass_ = true;
+        return view;
+    }
+
+    /// The object itself.
+    Object& object() const noexcept { return *object_; }
+
+protected:
+    /// The view, when @p code is no failure of @p operation.
+    Self done(const char* operation, ZelDataResult_tags code) const
+    {
+        require(operation, code);
+        return self();
+    }
+
+    /// The view, when the member function @p call of the object with @p arguments does not fail.
+    template <class Call, class... Arguments>
+    Self run(const char* operation, Call call, Arguments&&... arguments) const
+    {
+        return done(operation, (object_->*call)(std::forward<Arguments>(arguments)...));
+    }
+
+    /// What the getter @p getter of the object delivers.
+    template <class Owner, class Value>
+    Value get(const char* operation, ZelDataResult_tags (Owner::*getter)(Value&) const) const
+    {
+        Value value{};
+        require(operation, (object_->*getter)(value));
+        return value;
+    }
+
+    /// The same for a getter that is not const.
+    template <class Owner, class Value>
+    Value get(const char* operation, ZelDataResult_tags (Owner::*getter)(Value&)) const
+    {
+        Value value{};
+        require(operation, (object_->*getter)(value));
+        return value;
+    }
+
+    /// What the member function @p maker of the object hands out for @p arguments.
+    template <class Owner, class Made, class... Parameters, class... Arguments>
+    std::unique_ptr<Made> make(const char* operation,
+                               ZelDataResult_tags (Owner::*maker)(Made**, Parameters...) const,
+                               Arguments... arguments) const
+    {
+        Made* made = nullptr;
+        const auto code = (object_->*maker)(&made, arguments...);
+        std::unique_ptr<Made> owner(made);
+        require(operation, code);
+        return owner;
+    }
+
+    /// The items that the member function @p getAll of the object hands out for @p arguments.
+    template <class Owner, class Made, class... Parameters, class... Arguments>
+    std::vector<std::unique_ptr<Made>>
+    makeAll(const char* operation,
+            ZelDataResult_tags (Owner::*getAll)(std::vector<Made*>&, Parameters...) const,
+            const Arguments&... arguments) const
+    {
+        HandedOut<Made> handedOut;
+        require(operation, (object_->*getAll)(handedOut.items, arguments...));
+        if (handedOut.hasNull()) throw ZelDataError(ZelData_InternalError, operation);
+        return handedOut.owned();
+    }
+
+    /// Throws when @p code is a failure of @p operation.
+    void require(const char* operation, ZelDataResult_tags code) const
+    {
+        if (warningsPass_)
+            checkError(code, operation);
+        else
+            check(code, operation);
+    }
+
+private:
+    /// Items that a collection handed out and that no one owns yet; deletes those that are left.
+    template <class Made>
+    struct HandedOut {
+        HandedOut() = default;
+        HandedOut(const HandedOut&) = delete;
+        HandedOut& operator=(const HandedOut&) = delete;
+        ~HandedOut()
+        {
+            for (Made* item : items)
+                delete item;
+        }
+
+        bool hasNull() const { return std::count(items.begin(), items.end(), nullptr) != 0; }
+
+        std::vector<std::unique_ptr<Made>> owned()
+        {
+            std::vector<std::unique_ptr<Made>> owners(items.size());
+            for (std::size_t i = 0; i < items.size(); ++i)
+                owners[i].reset(std::exchange(items[i], nullptr));
+            return owners;
+        }
+
+        std::vector<Made*> items;
+    };
+
+    const Self& self() const noexcept { return static_cast<const Self&>(*this); }
+
+    Object* object_;
+    bool warningsPass_ = false;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

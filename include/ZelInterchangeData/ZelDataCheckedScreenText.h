@@ -1,0 +1,109 @@
+/// @file
+/// The checked operations of a collection of screen texts.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDSCREENTEXT_H
+#define ZELINTERCHANGEDATA_ZELDATACHECKEDSCREENTEXT_H
+
+#include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/i_ZelDataScreenText.h"
+#include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
+
+#include <memory>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// A view of a collection of screen texts that throws where an operation fails.
+///
+/// See ZelDataCheckedObject for views, and i_ZelDataScreenText for what an operation does.
+template <class Object>
+class ZelDataCheckedScreenText
+    : public ZelDataCheckedObject<ZelDataCheckedScreenText<Object>, Object> {
+    using Base = ZelDataCheckedObject<ZelDataCheckedScreenText<Object>, Object>;
+    using Interface = i_ZelDataScreenText;
+
+public:
+    using Base::Base;
+
+    /// @name Operations of i_ZelDataScreenText
+    /// @{
+
+    /// See i_ZelDataScreenText::isValid().
+    ZelDataCheckedScreenText isValid(bool deep) const
+    {
+        return this->run("isValid", &Interface::isValid, deep);
+    }
+    /// See i_ZelDataScreenText::makeScreenTextConsistent().
+    ZelDataCheckedScreenText makeScreenTextConsistent() const
+    {
+        return this->run("makeScreenTextConsistent", &Interface::makeScreenTextConsistent);
+    }
+    /// See i_ZelDataScreenText::setFrameRate().
+    ZelDataCheckedScreenText setFrameRate(unsigned long rate) const
+    {
+        return this->run("setFrameRate", &Interface::setFrameRate, rate);
+    }
+    /// See i_ZelDataScreenText::getFrameRate().
+    unsigned long getFrameRate() const
+    {
+        return this->get("getFrameRate", &Interface::getFrameRate);
+    }
+    /// See i_ZelDataScreenText::clearScreenTextItems().
+    ZelDataCheckedScreenText clearScreenTextItems() const
+    {
+        return this->run("clearScreenTextItems", &Interface::clearScreenTextItems);
+    }
+    /// See i_ZelDataScreenText::addScreenTextItem().
+    ZelDataCheckedScreenText addScreenTextItem(const i_ZelDataScreenTextItem& item) const
+    {
+        return this->run("addScreenTextItem", &Interface::addScreenTextItem, item);
+    }
+    /// See i_ZelDataScreenText::createScreenTextItem().
+    std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem() const
+    {
+        return this->make("createScreenTextItem", &Interface::createScreenTextItem);
+    }
+    /// See i_ZelDataScreenText::removeScreenTextItemAt().
+    ZelDataCheckedScreenText removeScreenTextItemAt(unsigned long index) const
+    {
+        return this->run("removeScreenTextItemAt", &Interface::removeScreenTextItemAt, index);
+    }
+    /// See i_ZelDataScreenText::getScreenTextItemCount().
+    unsigned long getScreenTextItemCount() const
+    {
+        return this->get("getScreenTextItemCount", &Interface::getScreenTextItemCount);
+    }
+    /// See i_ZelDataScreenText::getScreenTextItemAt().
+    std::unique_ptr<i_ZelDataScreenTextItem> getScreenTextItemAt(unsigned long index) const
+    {
+        return this->make("getScreenTextItemAt", &Interface::getScreenTextItemAt, index);
+    }
+    /// See i_ZelDataScreenText::getScreenTextItems().
+    std::vector<std::unique_ptr<i_ZelDataScreenTextItem>> getScreenTextItems() const
+    {
+        return this->makeAll("getScreenTextItems", &Interface::getScreenTextItems);
+    }
+    /// See i_ZelDataScreenText::copyFrom().
+    ZelDataCheckedScreenText copyFrom(const i_ZelDataScreenText& source) const
+    {
+        return this->done("copyFrom", this->object().copyFrom(source));
+    }
+    /// @}
+};
+
+/// The checked operations of @p object.
+inline ZelDataCheckedScreenText<i_ZelDataScreenText> checked(i_ZelDataScreenText& object) noexcept
+{
+    return ZelDataCheckedScreenText<i_ZelDataScreenText>(object);
+}
+
+/// The checked const operations of @p object.
+inline ZelDataCheckedScreenText<const i_ZelDataScreenText>
+checked(const i_ZelDataScreenText& object) noexcept
+{
+    return ZelDataCheckedScreenText<const i_ZelDataScreenText>(object);
+}
+
+} // namespace ZelInterchangeData
+
+#endif

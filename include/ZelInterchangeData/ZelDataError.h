@@ -1,0 +1,50 @@
+/// @file
+/// A failing code as an exception, for callers who want that.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATAERROR_H
+#define ZELINTERCHANGEDATA_ZELDATAERROR_H
+
+#include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataResultText.h"
+
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Says which operation answered with which code. The library itself never throws it: it comes from
+/// the functions of the headers that ZelDataFace.h includes, which are compiled into the caller.
+class ZELINTERCHANGEDATA_API ZelDataError : public std::runtime_error {
+public:
+    /// @p operation is copied. The message names the operation, the code and its meaning:
+    /// "setVideoLength: ZelData_InvalidArgument (0x80000003): A value is ...".
+    ZelDataError(ZelDataResult_tags code, std::string_view operation)
+        : std::runtime_error(messageFor(code, operation)), code_(code),
+          operationLength_(operation.size())
+    {
+    }
+
+    /// The code that the operation gave.
+    ZelDataResult_tags code() const noexcept { return code_; }
+    /// The name of the operation; valid as long as this object or a copy of it lives.
+    std::string_view operation() const noexcept { return {what(), operationLength_}; }
+
+private:
+    static std::string messageFor(ZelDataResult_tags code, std::string_view operation)
+    {
+        std::string message(operation);
+        message.append(": ").append(toString(code)).append(" (0x");
+        for (int shift = 28; shift >= 0; shift -= 4)
+            message += "0123456789ABCDEF"[(static_cast<unsigned>(code) >> shift) & 0xFU];
+        return message.append("): ").append(describe(code));
+    }
+
+    ZelDataResult_tags code_;
+    std::size_t operationLength_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

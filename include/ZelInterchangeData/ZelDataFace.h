@@ -1,0 +1,33 @@
+/// @file
+/// The interfaces of ZelInterchangeData.h, and the face over them: factories that return what they
+/// make, operations that throw instead of returning a code, loops over items.
+///
+/// Nothing here is part of the binary interface: all of it is compiled into the caller. It is a
+/// header of its own so that programs that handle the codes themselves keep short names such as
+/// check and items for their own functions.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATAFACE_H
+#define ZELINTERCHANGEDATA_ZELDATAFACE_H
+
+#include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataCheckedCaptionFormatter.h"
+#include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
+#include "ZelInterchangeData/ZelDataCheckedCaptions.h"
+#include "ZelInterchangeData/ZelDataCheckedDocument.h"
+#include "ZelInterchangeData/ZelDataCheckedFormatter.h"
+#include "ZelInterchangeData/ZelDataCheckedHeader.h"
+#include "ZelInterchangeData/ZelDataCheckedHeaderFormatter.h"
+#include "ZelInterchangeData/ZelDataCheckedLanguage.h"
+#include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataCheckedScreenText.h"
+#include "ZelInterchangeData/ZelDataCheckedScreenTextFormatter.h"
+#include "ZelInterchangeData/ZelDataCheckedScreenTextItem.h"
+#include "ZelInterchangeData/ZelDataCheckedToc.h"
+#include "ZelInterchangeData/ZelDataCheckedTocFormatter.h"
+#include "ZelInterchangeData/ZelDataCheckedTocItem.h"
+#include "ZelInterchangeData/ZelDataError.h"
+#include "ZelInterchangeData/ZelDataFactories.h"
+#include "ZelInterchangeData/ZelDataItems.h"
+#include "ZelInterchangeData/ZelInterchangeData.h"
+
+#endif

@@ -1,0 +1,168 @@
+/// @file
+/// Factories that return what they make.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATAFACTORIES_H
+#define ZELINTERCHANGEDATA_ZELDATAFACTORIES_H
+
+#include "ZelInterchangeData/ZELDataCreator.h"
+#include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
+#include "ZelInterchangeData/ZelDataCheckedScreenTextItem.h"
+#include "ZelInterchangeData/ZelDataCheckedTocItem.h"
+#include "ZelInterchangeData/ZelDataUtilities.h"
+#include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
+#include "ZelInterchangeData/i_ZelDataCaptions.h"
+#include "ZelInterchangeData/i_ZelDataHeader.h"
+#include "ZelInterchangeData/i_ZelDataHeaderFormatter.h"
+#include "ZelInterchangeData/i_ZelDataScreenText.h"
+#include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
+#include "ZelInterchangeData/i_ZelDataToc.h"
+#include "ZelInterchangeData/i_ZelDataTocFormatter.h"
+#include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace ZelInterchangeData {
+
+/// What the factory @p create hands out for @p arguments. Never null: throws ZelDataError, which
+/// names @p operation, when the factory fails.
+template <class Interface, class... Parameters>
+std::unique_ptr<Interface> makeObject(const char* operation,
+                                      ZelDataResult_tags (*create)(Interface**, Parameters...),
+                                      Parameters... arguments)
+{
+    Interface* made = nullptr;
+    check(create(&made, arguments...), operation);
+    return std::unique_ptr<Interface>(made);
+}
+
+/// @name Documents and data sets
+/// Each makes a new object with its defaults. Never null: a factory that fails throws ZelDataError,
+/// createDocument() ZelDataException.
+/// @{
+
+/// A document without any data set. See ZELDataCreator::createInterchangeData().
+inline std::unique_ptr<i_ZelInterchangeDataCore> createDocument()
+{
+    return std::unique_ptr<i_ZelInterchangeDataCore>(ZELDataCreator::createInterchangeData());
+}
+/// See ZelDataUtilities::createHeaderData().
+inline std::unique_ptr<i_ZelDataHeader> createHeader()
+{
+    return makeObject("createHeader", ZelDataUtilities::createHeaderData);
+}
+/// See ZelDataUtilities::createCaptionData().
+inline std::unique_ptr<i_ZelDataCaptions> createCaptions()
+{
+    return makeObject("createCaptions", ZelDataUtilities::createCaptionData);
+}
+/// See ZelDataUtilities::createTocData().
+inline std::unique_ptr<i_ZelDataToc> createToc()
+{
+    return makeObject("createToc", ZelDataUtilities::createTocData);
+}
+/// See ZelDataUtilities::createScreenTextData().
+inline std::unique_ptr<i_ZelDataScreenText> createScreenText()
+{
+    return makeObject("createScreenText", ZelDataUtilities::createScreenTextData);
+}
+/// @}
+
+/// @name Items
+/// Each makes a new item, with its defaults or with the values given. Never null: throws
+/// ZelDataError when the factory or an operation that stores a value fails. A caption item lets
+/// `std::bad_alloc` through as well.
+/// @{
+
+/// See ZelDataUtilities::createCaptionItemData().
+inline std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem()
+{
+    return makeObject("createCaptionItem", ZelDataUtilities::createCaptionItemData);
+}
+/// See ZelDataUtilities::createTocItemData().
+inline std::unique_ptr<i_ZelDataTocItem> createTocItem()
+{
+    return makeObject("createTocItem", ZelDataUtilities::createTocItemData);
+}
+/// See ZelDataUtilities::createScreenTextItemData().
+inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem()
+{
+    return makeObject("createScreenTextItem", ZelDataUtilities::createScreenTextItemData);
+}
+
+/// The texts of an item as they are typed: `{{"en", "Hello"}, {"de", "Hallo"}}`.
+using ZelDataTexts = std::initializer_list<std::pair<std::string, std::string>>;
+
+/// A caption from @p start to @p end, in milliseconds. @p texts holds pairs of a language ID and
+/// its text: typed in braces, or any container of such pairs, such as a `std::map`.
+template <class Texts = ZelDataTexts>
+std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem(long long start, long long end,
+                                                        const Texts& texts)
+{
+    auto item = createCaptionItem();
+    const auto caption = checked(*item).setStart(start).setEnd(end);
+    for (const auto& [languageID, text] : texts)
+        caption.setTextForLanguage(text, languageID);
+    return item;
+}
+
+/// An entry that starts at @p start ticks. @p texts as for a caption.
+template <class Texts = ZelDataTexts>
+std::unique_ptr<i_ZelDataTocItem> createTocItem(long long start, const Texts& texts)
+{
+    auto item = createTocItem();
+    const auto entry = checked(*item).setStart(start);
+    for (const auto& [languageID, text] : texts)
+        entry.setTextForLanguage(text, languageID);
+    return item;
+}
+
+/// A screen text from @p start to @p end, in ticks, that belongs to the entry number @p groupId.
+inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem(long long start, long long end,
+                                                                     const std::string& text,
+                                                                     unsigned long groupId = 0)
+{
+    auto item = createScreenTextItem();
+    checked(*item).setStart(start).setEnd(end).setText(text).setGroupId(groupId);
+    return item;
+}
+/// @}
+
+/// @name Formatters
+/// Each makes a new formatter without data. Never null: throws ZelDataError when the factory fails,
+/// as it does for a format that the library does not write.
+/// @{
+
+/// See ZelDataUtilities::createHeaderFormatter().
+inline std::unique_ptr<i_ZelDataHeaderFormatter>
+createHeaderFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
+{
+    return makeObject("createHeaderFormatter", ZelDataUtilities::createHeaderFormatter, format);
+}
+/// See ZelDataUtilities::createCaptionFormatter().
+inline std::unique_ptr<i_ZelDataCaptionFormatter>
+createCaptionFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
+{
+    return makeObject("createCaptionFormatter", ZelDataUtilities::createCaptionFormatter, format);
+}
+/// See ZelDataUtilities::createTocFormatter().
+inline std::unique_ptr<i_ZelDataTocFormatter>
+createTocFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
+{
+    return makeObject("createTocFormatter", ZelDataUtilities::createTocFormatter, format);
+}
+/// See ZelDataUtilities::createScreenTextFormatter().
+inline std::unique_ptr<i_ZelDataScreenTextFormatter>
+createScreenTextFormatter(ZelDataFormatType_tags format = ZelDataFormat_Xmp)
+{
+    return makeObject("createScreenTextFormatter", ZelDataUtilities::createScreenTextFormatter,
+                      format);
+}
+/// @}
+
+} // namespace ZelInterchangeData
+
+#endif

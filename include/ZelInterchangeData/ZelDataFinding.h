@@ -1,0 +1,52 @@
+/// @file
+/// One thing that is wrong with a collection.
+
+#ifndef ZELINTERCHANGEDATA_ZELDATAFINDING_H
+#define ZELINTERCHANGEDATA_ZELDATAFINDING_H
+
+#include "ZelInterchangeData/ZelDataFindingSubject_tags.h"
+#include "ZelInterchangeData/ZelDataFinding_tags.h"
+
+#include <limits>
+#include <string>
+
+namespace ZelInterchangeData {
+
+/// What findProblems() found, as data. Fields that do not belong to the kind keep their defaults. The
+/// fields, their types and their order are part of the binary interface.
+struct ZelDataFinding {
+    /// Stands for no item.
+    static constexpr unsigned long noItem = std::numeric_limits<unsigned long>::max();
+
+    /// What is wrong. 0, which is no kind, in a new finding.
+    ZelDataFinding_tags kind = static_cast<ZelDataFinding_tags>(0);
+    /// The collection that was looked at. 0, which is none, in a new finding.
+    ZelDataFindingSubject_tags subject = static_cast<ZelDataFindingSubject_tags>(0);
+
+    /// Index of the item, from 0 in stored order; #noItem when the finding is about the collection.
+    unsigned long item = noItem;
+    /// The item's start, in milliseconds for captions, else in ticks.
+    long long start = 0;
+    /// The language ID of the text concerned.
+    std::string language;
+
+    /// The colour component out of range: "foreground red", "foreground green", "foreground blue",
+    /// the same with "background", or "background opacity".
+    std::string property;
+    /// The value of #property.
+    float component = 0.0F;
+    /// Any other value: a duration, a start or an end in the unit of #start, a number of lines, a
+    /// frame rate or a font size. One that is too large for the type stands as the largest number.
+    long long value = 0;
+    /// The limit that #value or #component breaks; it is itself allowed.
+    long long limit = 0;
+
+    /// Index of the first later item concerned; #noItem when there is none.
+    unsigned long laterItem = noItem;
+    /// The start of that item, in the unit of #start.
+    long long laterStart = 0;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

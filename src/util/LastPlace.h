@@ -1,0 +1,24 @@
+/// @file
+/// Searching from the end.
+
+#ifndef ZELINTERCHANGEDATA_UTIL_LASTPLACE_H
+#define ZELINTERCHANGEDATA_UTIL_LASTPLACE_H
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Where @p pattern, which is not empty, stands last in @p text; `npos` when it does not. In long
+/// texts faster than `rfind`, which calls a comparison at every place.
+inline std::size_t lastPlaceOf(std::string_view pattern, std::string_view text) noexcept
+{
+    const auto found = std::find_end(text.begin(), text.end(), pattern.begin(), pattern.end());
+    if (found == text.end()) return std::string_view::npos;
+    return static_cast<std::size_t>(found - text.begin());
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,124 @@
+"""The fenced blocks of the project's Markdown files, and what the tests make of them.
+
+A C++ block is a program, or a part of one: a block without `main` is the body of `main` below the
+document's block of includes, which is the one marked `cpp preamble`. What a program prints stands
+in the `text` or `xml` block behind it, what it writes into a file in such a block with `file=NAME`.
+An `xml` block shows one line with line breaks for reading, a `text` block shows every byte. A date
+of a packet is shown as any one or empty. A C++ block may be a file of the project
+(`source=PATH`), and what it writes into a file may stand in one (`writes=NAME expected=PATH`).
+
+A CMake block is a project, or a part of one below the lines that every project begins with.
+
+A word of the form `name=NAME` behind the language names the block; else it has its number."""
+
+import re
+from dataclasses import dataclass
+from pathlib import Path
+
+FENCE = re.compile(r"^ {0,3}(`{3,}|~{3,})[ \t]*([^\n`]*)$")
+OUTPUT_LANGUAGES = ("text", "xml")
+
+PROJECT = """cmake_minimum_required(VERSION 3.22)
+project(documented LANGUAGES CXX)
+"""
+EXECUTABLE = "add_executable(my_program main.cpp)\n"
+
+
+@dataclass
+class Block:
+    language: str
+    words: list
+    text: str
+    line: int
+
+    def option(self, name, default=None):
+        """The value of `name=VALUE` behind the language."""
+        values = [word.split("=", 1)[1] for word in self.words if word.startswith(name + "=")]
+        return values[0] if values else default
+
+
+@dataclass
+class Sample:
+    """A block that the tests build, and the blocks that show what comes out."""
+    name: str
+    block: Block
+    outputs: list
+
+
+def blocks_of(text):
+    """All fenced blocks, in order. Raises ValueError for one that does not end."""
+    blocks, lines = [], enumerate(text.splitlines(), 1)
+    for number, line in lines:
+        fence = FENCE.match(line)
+        if not fence:
+            continue
+        closing = re.compile(rf"^ {{0,3}}{re.escape(fence[1])}{re.escape(fence[1][0])}*[ \t]*$")
+        content = []
+        for _, inner in lines:
+            if closing.match(inner):
+                break
+            content.append(inner + "\n")
+        else:
+            raise ValueError(f"line {number}: a block without an end")
+        words = fence[2].split() or [""]
+        blocks.append(Block(words[0], words[1:], "".join(content), number))
+    return blocks
+
+
+def outputs_behind(blocks, index):
+    """The output blocks that directly follow the block of this index."""
+    outputs = []
+    for block in blocks[index + 1:]:
+        if block.language not in OUTPUT_LANGUAGES:
+            break
+        outputs.append(block)
+    return outputs
+
+
+def samples_of(document, blocks, language):
+    """The blocks of a language under their names, the preamble left out."""
+    samples = []
+    for index, block in enumerate(blocks):
+        if block.language == language and "preamble" not in block.words:
+            name = block.option("name", f"{language}-{len(samples) + 1}")
+            samples.append(Sample(f"{document}.{name}", block, outputs_behind(blocks, index)))
+    if len({sample.name for sample in samples}) < len(samples):
+        raise ValueError(f"{document}: two samples have one name")
+    return samples
+
+
+def preamble_of(blocks):
+    """The text of the document's block of includes; None when it has none."""
+    preambles = [block.text for block in blocks if "preamble" in block.words]
+    if len(preambles) > 1:
+        raise ValueError("more than one preamble")
+    return preambles[0] if preambles else None
+
+
+def is_program(text):
+    return re.search(r"^int main\(", text, re.MULTILINE) is not None
+
+
+def program_of(sample, preamble):
+    """The sample as a file that a compiler takes."""
+    if is_program(sample.block.text):
+        return sample.block.text
+    if preamble is None:
+        raise ValueError(f"{sample.name}: a part of a program in a document without a preamble")
+    return f"{preamble}\nint main()\n{{\n{sample.block.text}}}\n"
+
+
+def project_of(block):
+    """The block as a CMakeLists.txt."""
+    text = block.text
+    if not re.search(r"^add_executable\(", text, re.MULTILINE):
+        text = EXECUTABLE + text
+    return text if re.search(r"^project\(", text, re.MULTILINE) else PROJECT + text
+
+
+def document_name(path):
+    return Path(path).stem
+
+
+def read_blocks(path):
+    return blocks_of(Path(path).read_text(encoding="utf-8"))

@@ -1,0 +1,52 @@
+"""One CMake block of a document as a project of its own, which finds the library in the ways that a
+user has: a prefix, a folder of sources beside it, a declared fetch. Its program is the first one of
+the README, and does what the README shows.
+
+Usage: consumer_test.py PROJECT README
+
+Needs the prefix that the tests of the consumer projects install into, and their environment."""
+
+import os
+import shutil
+import sys
+import tempfile
+from pathlib import Path
+
+from blocks import document_name, preamble_of, program_of, read_blocks, samples_of
+from output import objections
+from support import PREFIX, SOURCE, build, configure, fresh_folder
+
+
+def first_program(readme):
+    blocks = read_blocks(readme)
+    sample = samples_of(document_name(readme), blocks, "cpp")[0]
+    return sample, program_of(sample, preamble_of(blocks))
+
+
+def program_built(project, text):
+    """Lays the project out and builds it; returns its program."""
+    folder = fresh_folder(f"docs.{project.stem}")
+    shutil.copy(project, folder / "CMakeLists.txt")
+    (folder / "main.cpp").write_text(text, encoding="utf-8")
+    (folder / "ZelInterchangeData").symlink_to(SOURCE)
+    tree = folder / "build"
+    configure(folder, tree, f"-DCMAKE_BUILD_TYPE={os.environ['BUILD_TYPE']}",
+              f"-DCMAKE_PREFIX_PATH={PREFIX}", "-DFETCHCONTENT_FULLY_DISCONNECTED=ON",
+              f"-DFETCHCONTENT_SOURCE_DIR_ZELINTERCHANGEDATA={SOURCE}")
+    build(tree)
+    return tree / "my_program"
+
+
+def main():
+    project, readme = Path(sys.argv[1]), sys.argv[2]
+    sample, text = first_program(readme)
+    program = program_built(project, text)
+    with tempfile.TemporaryDirectory() as folder:
+        found = objections(sample, [str(program)], Path(folder))
+    for objection in found:
+        print(f"{project.name}: {objection}", file=sys.stderr)
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,61 @@
+"""Every C++ and CMake block of every document is one that the tests build and run.
+
+The environment names ROOT, the project's folder, and REGISTERED, the file with the names of the
+samples that have a test."""
+
+import os
+import re
+import unittest
+from pathlib import Path
+
+from blocks import document_name, is_program, preamble_of, read_blocks, samples_of
+
+ROOT = Path(os.environ["ROOT"])
+REGISTERED = Path(os.environ["REGISTERED"])
+
+# A block without a word for its language is shown and not run.
+LANGUAGES = {"", "cmake", "cpp", "sh", "text", "xml"}
+
+# Whatever looks like the beginning of a block with a word behind it, however it is indented.
+ANY_FENCE = re.compile(r"^[ \t>*+-]*(?:`{3,}|~{3,})[ \t]*(\w[^\s`]*)", re.MULTILINE)
+
+
+def documents():
+    """All Markdown files that do not lie in a build folder or the like."""
+    for folder, folders, files in os.walk(ROOT):
+        folders[:] = [name for name in folders if name[0] != "." and name not in ("build", "out")]
+        yield from (Path(folder, name) for name in files if name.endswith((".md", ".markdown")))
+
+
+class Coverage(unittest.TestCase):
+    def test_every_sample_has_a_test(self):
+        expected = [f"{sample.name}.{language}" for path in documents()
+                    for language in ("cpp", "cmake")
+                    for sample in samples_of(document_name(path), read_blocks(path), language)]
+        self.assertEqual(sorted(REGISTERED.read_text(encoding="utf-8").split()), sorted(expected))
+        self.assertTrue(any(name.startswith("README.") for name in expected))
+
+    def test_every_block_is_seen(self):
+        for path in documents():
+            with self.subTest(document=path.name):
+                fences = ANY_FENCE.findall(path.read_text(encoding="utf-8"))
+                seen = [block.language for block in read_blocks(path) if block.language]
+                self.assertEqual(fences, seen)
+
+    def test_languages_are_known(self):
+        """A program under another word than cpp would not be run."""
+        for path in documents():
+            with self.subTest(document=path.name):
+                self.assertLessEqual({block.language for block in read_blocks(path)}, LANGUAGES)
+
+    def test_a_preamble_is_used(self):
+        for path in documents():
+            blocks = read_blocks(path)
+            if preamble_of(blocks) is not None:
+                with self.subTest(document=path.name):
+                    samples = samples_of(document_name(path), blocks, "cpp")
+                    self.assertFalse(all(is_program(sample.block.text) for sample in samples))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,72 @@
+"""The tests, files and folders that the documents name exist, and each field of the packet has a test.
+
+The environment names ROOT, the project's folder."""
+
+import os
+import re
+import unittest
+from pathlib import Path
+
+ROOT = Path(os.environ["ROOT"])
+FORMAT = ROOT / "docs" / "format.md"
+DOCUMENTS = [*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")]
+
+CODE = re.compile(r"`([^`\n]+)`")
+TEST = re.compile(r"[A-Z]\w+\.[A-Z]\w+")
+DEFINITION = re.compile(r"\b(?:TYPED_)?TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\s*\)")
+PROJECT_PATH = re.compile(r"(?:bench|cmake|docs|examples|include|scripts|src|tests)/[\w./-]+")
+
+
+def code_words(path):
+    """What stands between backquotes, in the text and not in a fenced block."""
+    text = re.sub(r"^```.*?^```$", "", path.read_text(encoding="utf-8"), flags=re.S | re.M)
+    return CODE.findall(text)
+
+
+def defined_tests():
+    sources = (path.read_text(encoding="utf-8") for path in (ROOT / "tests").rglob("*.cpp"))
+    return {".".join(names) for text in sources for names in DEFINITION.findall(text)}
+
+
+def rows_of(heading):
+    """The rows of the first table below a heading of docs/format.md, without its two first lines."""
+    section = FORMAT.read_text(encoding="utf-8").split(f"\n{heading}\n", 1)[1].split("\n## ", 1)[0]
+    table = re.search(r"(?:^\|.*\n)+", section, re.MULTILINE)[0]
+    return [[cell.strip() for cell in line.strip("|").split("|")]
+            for line in table.splitlines()[2:]]
+
+
+class Names(unittest.TestCase):
+    def test_every_test_that_is_named_exists(self):
+        named = {word for path in DOCUMENTS for word in code_words(path) if TEST.fullmatch(word)}
+        self.assertGreater(len(named), 40)
+        self.assertEqual(sorted(named - defined_tests()), [])
+
+    def test_every_file_that_is_named_exists(self):
+        for path in DOCUMENTS:
+            for word in code_words(path):
+                if PROJECT_PATH.fullmatch(word):
+                    with self.subTest(document=path.name, file=word):
+                        self.assertTrue((ROOT / word).exists())
+
+    def test_every_field_of_the_packet_names_its_test(self):
+        rows = rows_of("## What is escaped, stripped or written as given")
+        self.assertEqual(len(rows), 14)
+        for field, *_, test in rows:
+            with self.subTest(field=field):
+                self.assertRegex(test, r"^`FieldTreatment\.\w+`$")
+
+    def test_every_test_of_a_field_has_a_row(self):
+        rows = rows_of("## What is escaped, stripped or written as given")
+        tests = {test for test in defined_tests() if test.startswith("FieldTreatment.")}
+        self.assertEqual({row[-1].strip("`") for row in rows}, tests)
+
+    def test_every_oddity_names_a_test(self):
+        for heading in ("## The date", "## Oddities that players rely on"):
+            for oddity, *_, tests in rows_of(heading):
+                with self.subTest(oddity=oddity):
+                    self.assertRegex(tests, r"^`[A-Z]\w+\.[A-Z]\w+`")
+
+
+if __name__ == "__main__":
+    unittest.main()

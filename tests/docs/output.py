@@ -1,0 +1,87 @@
+"""What a sample prints and writes against what its document shows."""
+
+import os
+import re
+import subprocess
+from pathlib import Path
+
+from blocks import Block
+
+DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
+
+
+def in_one_line(block):
+    """The shown packet as it is written: a tag follows a tag at once, an attribute a blank."""
+    lines = [line.strip() for line in block.splitlines()]
+    text = lines[0]
+    for line in lines[1:]:
+        text += line if text.endswith(">") and line.startswith("<") else " " + line
+    return text
+
+
+def masked(text):
+    """The text with DATE for the date of a packet."""
+    return DATE.sub('dc:date="DATE"', text)
+
+
+def same(actual, block):
+    """Whether the text is the one shown; the line feed behind a printed packet does not count."""
+    # A date that is shown empty stands for any, but there must be one.
+    shown = masked(block.text).replace('dc:date=""', 'dc:date="DATE"')
+    if block.language == "xml":
+        return masked(actual).removesuffix("\n") == in_one_line(shown)
+    return masked(actual) == shown
+
+
+def outputs_of(sample):
+    """The blocks behind the sample, and the file of the project that its first line refers to."""
+    expected = sample.block.option("expected")
+    if not expected:
+        return sample.outputs
+    text = Path(os.environ["ROOT"], expected).read_text(encoding="utf-8")
+    return sample.outputs + [Block("xml", ["file=" + sample.block.option("writes")], text, 0)]
+
+
+def source_objections(sample):
+    """What is wrong with a sample that is said to be a file of the project."""
+    source = sample.block.option("source")
+    if not source:
+        return []
+    same_text = Path(os.environ["ROOT"], source).read_text(encoding="utf-8") == sample.block.text
+    return [] if same_text else [f"differs from {source}"]
+
+
+def run(command, folder):
+    """Runs a sample in a folder of its own."""
+    return subprocess.run(command, cwd=folder, capture_output=True, text=True, encoding="utf-8",
+                          check=False, timeout=120)
+
+
+def objections(sample, command, folder):
+    """What is wrong with a sample that was built; nothing when all is as shown."""
+    result = run(command, folder)
+    if (result.returncode, result.stderr) != (0, ""):
+        return [f"exit status {result.returncode}, standard error: {result.stderr!r}"]
+    found, outputs = source_objections(sample), outputs_of(sample)
+    if not outputs:
+        found.append("the document shows no output")
+    printed = [block for block in outputs if not block.option("file")]
+    if len(printed) > 1:
+        found.append("the document shows two outputs")
+    if not printed and result.stdout:
+        found.append(f"prints what is not shown: {result.stdout!r}")
+    found += [f"prints {result.stdout!r}" for block in printed if not same(result.stdout, block)]
+    return found + file_objections(outputs, folder)
+
+
+def file_objections(outputs, folder):
+    """What is wrong with the files that the sample wrote."""
+    shown = {block.option("file"): block for block in outputs if block.option("file")}
+    written = {path.name: path.read_text(encoding="utf-8") for path in folder.iterdir()}
+    found = [f"writes {name}, which is not shown" for name in sorted(written.keys() - shown.keys())]
+    for name, block in shown.items():
+        if name not in written:
+            found.append(f"does not write {name}")
+        elif not same(written[name], block):
+            found.append(f"writes {written[name]!r} into {name}")
+    return found

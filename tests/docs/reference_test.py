@@ -1,0 +1,89 @@
+"""The reference of the public headers can be made, and a symbol that is not described stops it.
+
+The environment names ROOT, the project's folder."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+ROOT = Path(os.environ["ROOT"])
+HEADERS = Path("include", "ZelInterchangeData")
+
+
+def undescribed_enumerators(tree):
+    """The enumerators without a comment, which Doxygen lets pass, and the number of all."""
+    settings = "GENERATE_HTML = NO\nGENERATE_XML = YES\nWARN_AS_ERROR = NO\nOUTPUT_DIRECTORY = .\n"
+    subprocess.run(["doxygen", "-"], cwd=tree, check=True, text=True, stderr=subprocess.DEVNULL,
+                   input=(tree / "docs" / "Doxyfile").read_text(encoding="utf-8") + settings)
+    values = [value for page in (tree / "xml").glob("*.xml")
+              for value in ElementTree.parse(page).iter("enumvalue")]
+    return [value.findtext("name") for value in values
+            if not any("".join(value.find(part).itertext()).strip()
+                       for part in ("briefdescription", "detaileddescription"))], len(values)
+
+
+class Reference(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.tree, self.result = Path(folder.name, "tree"), Path(folder.name, "result")
+        for name in ("include", "docs"):
+            shutil.copytree(ROOT / name, self.tree / name)
+        (self.tree / "scripts").mkdir()
+        shutil.copy(ROOT / "scripts" / "docs", self.tree / "scripts")
+
+    def make(self):
+        return subprocess.run([self.tree / "scripts" / "docs", self.result], capture_output=True,
+                              text=True, check=False)
+
+    def add(self, addition):
+        header = self.tree / HEADERS / "ZELDataCreator.h"
+        text = header.read_text(encoding="utf-8")
+        end = "} // namespace ZelInterchangeData\n"
+        self.assertEqual(text.count(end), 1)
+        header.write_text(text.replace(end, addition + end), encoding="utf-8")
+
+    def assert_refused(self, addition, complaint):
+        self.add(addition)
+        made = self.make()
+        self.assertNotEqual(made.returncode, 0)
+        self.assertIn(complaint, made.stderr)
+
+    def test_the_reference_is_made_without_a_warning_and_shows_every_header(self):
+        made = self.make()
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+        pages = {path.name for path in (self.result / "reference").iterdir()}
+        headers = [path.stem for path in (ROOT / HEADERS).glob("*.h")]
+        self.assertGreater(len(headers), 20)
+        for header in headers:
+            self.assertIn(header.replace("_", "__") + "_8h.html", pages)
+
+    def test_a_function_without_a_comment_is_refused(self):
+        self.assert_refused("void undescribed();\n", "undescribed() (function)")
+
+    def test_a_member_without_a_comment_is_refused(self):
+        self.assert_refused("/// A class.\nclass Described {\npublic:\n    int member();\n};\n",
+                            "member() (function) of class")
+
+    def test_every_enumerator_has_a_comment(self):
+        undescribed, count = undescribed_enumerators(self.tree)
+        self.assertEqual(undescribed, [])
+        self.assertGreater(count, 20)
+
+    def test_an_enumerator_without_a_comment_is_found(self):
+        self.add("/// Values.\nenum Values {\n    undescribed\n};\n")
+        self.assertEqual(undescribed_enumerators(self.tree)[0], ["undescribed"])
+
+    def test_a_link_that_leads_nowhere_is_refused(self):
+        self.assert_refused("/// Gives #ZelData_Nothing.\nint described();\n", "ZelData_Nothing")
+
+    def test_a_parameter_that_does_not_exist_is_refused(self):
+        self.assert_refused("/// @param other missing.\nint described(int value);\n", "other")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,54 @@
+"""The example of a complete document: its length, the file it writes, and what it leaves exported."""
+
+import os
+import re
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+PROGRAM = os.environ["PROGRAM"]
+SOURCE = Path(os.environ["SOURCE"])
+EXPECTED = Path(os.environ["EXPECTED"])
+NM = os.environ["NM"]
+DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
+LONGEST = 25
+
+
+class CompleteDocument(unittest.TestCase):
+    def run_in(self, folder):
+        return subprocess.run([PROGRAM], cwd=folder, capture_output=True, text=True, check=False)
+
+    def test_the_program_writes_the_expected_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            result = self.run_in(folder)
+            self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
+            packet = (Path(folder) / "intro.xmp").read_text(encoding="utf-8")
+        packet, count = DATE.subn('dc:date=""', packet)
+        self.assertEqual(count, 1)
+        self.assertEqual(packet + "\n", EXPECTED.read_text(encoding="utf-8"))
+
+    def test_a_file_that_cannot_be_opened_is_reported(self):
+        with tempfile.TemporaryDirectory() as folder:
+            (Path(folder) / "intro.xmp").mkdir()
+            result = self.run_in(folder)
+        self.assertEqual((result.returncode, result.stdout), (1, ""))
+        self.assertEqual(result.stderr, "writeFile: ZelData_FileOpenFailed (0x8000000A): "
+                                        "The file could not be opened.\n")
+
+    def test_the_program_is_short(self):
+        self.assertLessEqual(len(SOURCE.read_text(encoding="utf-8").splitlines()), LONGEST)
+
+    def test_what_the_face_brings_is_inline(self):
+        """Only weak symbols: two parts of a program that use the face do not collide."""
+        result = subprocess.run([NM, "--defined-only", "--demangle", PROGRAM],
+                                capture_output=True, text=True, check=True)
+        ours = [line.split(maxsplit=2)[1:] for line in result.stdout.splitlines()
+                if "ZelInterchangeData::" in line]
+        self.assertTrue(ours)
+        # A local constant of this one program ("r", "t") is seen by no other part either.
+        self.assertEqual([name for kind, name in ours if kind not in "WVuwvrtdb"], [])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,91 @@
+"""The check of the pictures, on copies of the project in which something has changed.
+
+The environment names ROOT, the project's folder."""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(os.environ["ROOT"])
+NEEDED = ("README.md", "bench/figures.md", "docs/pictures", "include", "scripts", "src",
+          "tests/core/data")
+
+
+class Pictures(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = Path(folder.name)
+        for name in NEEDED:
+            target = self.root / name
+            target.parent.mkdir(parents=True, exist_ok=True)
+            copy = shutil.copytree if (ROOT / name).is_dir() else shutil.copy
+            copy(ROOT / name, target)
+
+    def change(self, name, old, new):
+        path = self.root / name
+        text = path.read_text(encoding="utf-8")
+        self.assertIn(old, text)
+        path.write_text(text.replace(old, new, 1), encoding="utf-8")
+
+    def check(self):
+        return subprocess.run([sys.executable, ROOT / "scripts" / "pictures", "--check", self.root],
+                              capture_output=True, text=True, check=False)
+
+    def assert_current(self):
+        result = self.check()
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+
+    def assert_offence(self, offence):
+        result = self.check()
+        self.assertEqual(result.returncode, 1, result.stdout)
+        self.assertEqual(result.stderr, offence + "; run scripts/pictures\n")
+
+    def test_the_project_as_it_is_passes(self):
+        self.assert_current()
+
+    def test_a_new_arrow_between_rooms_is_noticed(self):
+        (self.root / "src/header/A.cpp").write_text('#include "toc/B.h"\n', encoding="utf-8")
+        self.assert_offence("docs/pictures/rooms.dot: not current")
+
+    def test_an_arrow_that_was_there_already_changes_nothing(self):
+        (self.root / "src/header/A.cpp").write_text('#include "core/B.h"\n', encoding="utf-8")
+        self.assert_current()
+
+    def test_a_room_that_is_gone_is_noticed(self):
+        shutil.rmtree(self.root / "src" / "xml")
+        self.assert_offence("docs/pictures/rooms.dot: not current")
+
+    def test_another_structure_of_the_packet_is_noticed(self):
+        self.change("tests/core/data/header-captions-toc-screentext.xmp", "dc:creator=",
+                    "dc:creators=")
+        self.assert_offence("docs/pictures/packet.dot: not current")
+
+    def test_other_values_in_the_packet_change_nothing(self):
+        self.change("tests/core/data/header-captions-toc-screentext.xmp", "Click Save", "Save")
+        self.assert_current()
+
+    def test_a_figure_that_changed_is_noticed(self):
+        self.change("bench/figures.md", "| 1000 | shuffled | ", "| 2000 | shuffled | ")
+        self.assert_offence("docs/pictures/ratios.gp: not current")
+
+    def test_a_table_of_the_readme_that_differs_is_noticed(self):
+        self.change("README.md", "| write ÷ straight appender | ≤ 2 | ",
+                    "| write ÷ straight appender | ≤ 2 | 0.01, was ")
+        self.assert_offence("README.md: not current")
+
+    def test_a_picture_of_another_source_is_noticed(self):
+        shutil.copy(self.root / "docs/pictures/rooms.svg", self.root / "docs/pictures/packet.svg")
+        self.assert_offence("docs/pictures/packet.svg: not drawn from packet.dot as it is")
+
+    def test_a_missing_picture_is_noticed(self):
+        (self.root / "docs/pictures/ratios.svg").unlink()
+        self.assert_offence("docs/pictures/ratios.svg: not drawn from ratios.gp as it is")
+
+
+if __name__ == "__main__":
+    unittest.main()

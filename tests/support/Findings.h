@@ -1,0 +1,157 @@
+/// @file
+/// What findProblems() gives, for comparisons, and its ways to fail.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
+#define ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
+
+#include "ZelInterchangeData/ZelDataFindings.h"
+#include "support/fakes/Failing.h"
+#include "xml/FailingAllocation.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <functional>
+#include <new>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+using Findings = std::vector<ZelDataFinding>;
+
+inline auto fieldsOf(const ZelDataFinding& finding)
+{
+    return std::tie(finding.kind, finding.subject, finding.item, finding.start, finding.language,
+                    finding.property, finding.component, finding.value, finding.limit,
+                    finding.laterItem, finding.laterStart);
+}
+
+inline bool operator==(const ZelDataFinding& a, const ZelDataFinding& b)
+{
+    return fieldsOf(a) == fieldsOf(b);
+}
+
+inline void PrintTo(const ZelDataFinding& finding, std::ostream* out)
+{
+    *out << describe(finding) << " [value " << finding.value << " limit " << finding.limit << ']';
+}
+
+/// A finding of @p kind about the item at @p item, which starts at @p start.
+inline ZelDataFinding findingAt(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject,
+                                unsigned long item, long long start)
+{
+    ZelDataFinding finding;
+    finding.kind = kind;
+    finding.subject = subject;
+    finding.item = item;
+    finding.start = start;
+    return finding;
+}
+
+/// All that is wrong with @p collection.
+template <class Collection>
+Findings findingsOf(const Collection& collection)
+{
+    Findings findings(1); // what was there before must go
+    EXPECT_EQ(ZelData_Ok, findProblems(collection, findings));
+    return findings;
+}
+
+/// The same, one line each.
+template <class Collection>
+std::vector<std::string> linesOf(const Collection& collection)
+{
+    std::vector<std::string> lines;
+    for (const ZelDataFinding& finding : findingsOf(collection))
+        lines.push_back(describe(finding));
+    return lines;
+}
+
+/// The code with which isValid(true) would report @p kind.
+inline ZelDataResult_tags codeFor(ZelDataFinding_tags kind)
+{
+    switch (kind) {
+    case ZelDataFinding_FrameRateOutOfRange:
+    case ZelDataFinding_FontFamilyMissing:
+    case ZelDataFinding_FontSizeOutOfRange:
+    case ZelDataFinding_ColorOutOfRange:
+    case ZelDataFinding_MissingText:
+        return ZelData_InvalidArgument;
+    case ZelDataFinding_NoDuration:
+    case ZelDataFinding_BadText:
+    case ZelDataFinding_BadLanguage:
+        return ZelData_InvalidItem;
+    case ZelDataFinding_TooShort:
+    case ZelDataFinding_TooManyLines:
+        return ZelData_WarnItemGuidelines;
+    case ZelDataFinding_Overlap:
+    case ZelDataFinding_OutOfOrder:
+        return ZelData_WarnTiming;
+    }
+    return ZelData_NotImplemented;
+}
+
+/// The code that isValid(true) must give where @p findings are all there are.
+inline ZelDataResult_tags codeFor(const Findings& findings)
+{
+    return findings.empty() ? ZelData_Ok : codeFor(findings.front().kind);
+}
+
+/// Expects that @p code is what findProblems() gives for @p collection, and nothing is found.
+template <class Collection>
+void expectNoAnswer(ZelDataResult_tags code, const Collection& collection)
+{
+    Findings findings = {findingAt(ZelDataFinding_NoDuration, ZelDataFindingSubject_Caption, 7, 8)};
+    const Findings before = findings;
+    EXPECT_EQ(code, findProblems(collection, findings));
+    EXPECT_EQ(before, findings);
+}
+
+/// Expects of @p collection, a fake whose objects @p prepare arms, that findProblems() passes each
+/// way of failing on. A failing call returns one code and keeps another, which is success.
+template <class Collection, class Fake>
+void expectFailuresPass(const Collection& collection, const std::string& operation, int nth,
+                        const std::function<void(const std::function<void(Fake&)>&)>& prepare)
+{
+    SCOPED_TRACE(operation + " number " + std::to_string(nth));
+    prepare([&](Fake& fake) { fake.failAt(operation, ZelData_NoData, ZelData_Ok, nth); });
+    expectNoAnswer(ZelData_NoData, collection);
+    prepare([&](Fake& fake) { fake.failAt(operation, ZelData_WarnTiming, ZelData_Ok, nth); });
+    expectNoAnswer(ZelData_WarnTiming, collection);
+    prepare([&](Fake& fake) { fake.throwAt(operation, std::bad_alloc(), nth); });
+    expectNoAnswer(ZelData_OutOfMemory, collection);
+    prepare([&](Fake& fake) { fake.throwAt(operation, std::runtime_error("own"), nth); });
+    expectNoAnswer(ZelData_InternalError, collection);
+}
+
+/// Expects that findProblems() of @p collection copes with each of its allocations failing in turn.
+template <class Collection>
+void expectMemoryFailuresPass(const Collection& collection)
+{
+    const Findings all = findingsOf(collection);
+    ASSERT_FALSE(all.empty());
+    std::size_t granted = 0;
+    for (;; ++granted) {
+        SCOPED_TRACE("allocations granted: " + std::to_string(granted));
+        Findings findings;
+        const long long before = liveAllocations();
+        ZelDataResult_tags code = ZelData_NoData;
+        ASSERT_FALSE(runsOutOfMemory(granted, [&] { code = findProblems(collection, findings); }));
+        if (code == ZelData_Ok) {
+            EXPECT_EQ(all, findings);
+            break;
+        }
+        ASSERT_EQ(ZelData_OutOfMemory, code);
+        EXPECT_TRUE(findings.empty());
+        EXPECT_EQ(before, liveAllocations());
+    }
+    EXPECT_GT(granted, 0U);
+}
+
+} // namespace ZelInterchangeData
+
+#endif

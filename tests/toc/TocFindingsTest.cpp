@@ -1,0 +1,217 @@
+/// @file
+/// What is found in a table of contents.
+
+#include "support/Dice.h"
+#include "support/Findings.h"
+#include "support/fakes/FailingToc.h"
+#include "toc/Entries.h"
+
+#include <set>
+
+namespace ZelInterchangeData {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr auto subject = ZelDataFindingSubject_TocEntry;
+
+/// An entry that is stored after one that starts at @p start.
+ZelDataFinding outOfOrder(unsigned long item, long long start, unsigned long later,
+                          long long laterStart)
+{
+    ZelDataFinding finding = findingAt(ZelDataFinding_OutOfOrder, subject, item, start);
+    finding.value = start;
+    finding.limit = laterStart;
+    finding.laterItem = later;
+    finding.laterStart = laterStart;
+    return finding;
+}
+
+ZelDataFinding missing(unsigned long item, long long start, const std::string& language)
+{
+    ZelDataFinding finding = findingAt(ZelDataFinding_MissingText, subject, item, start);
+    finding.language = language;
+    return finding;
+}
+
+TEST(TocFindings, ANewTableHasNone)
+{
+    EXPECT_EQ(Lines{}, linesOf(*make(ZelDataUtilities::createTocData)));
+}
+
+TEST(TocFindings, EqualStartsAreInOrder)
+{
+    EXPECT_EQ(Lines{}, linesOf(*tocOf({{5}, {5}, {6}})));
+}
+
+TEST(TocFindings, AnEntryOutOfOrderNamesTheFirstOneThatStartsBeforeIt)
+{
+    EXPECT_EQ((Findings{outOfOrder(0, 5, 2, 4), outOfOrder(1, 6, 2, 4), outOfOrder(2, 4, 3, 1)}),
+              findingsOf(*tocOf({{5}, {6}, {4}, {1}})));
+}
+
+TEST(TocFindings, AMissingTitleIsNamedForEachListedLanguage)
+{
+    EXPECT_EQ((Findings{missing(0, 0, "en"), missing(1, 1, "de")}),
+              findingsOf(*tocOf({{0, {{"de", ""}}}, {1, {{"en", "a"}}}})));
+}
+
+TEST(TocFindings, ManyLinesOfATitleAreFine)
+{
+    EXPECT_EQ(Lines{}, linesOf(*tocOf({{0, {{"en", "1\n2\n3\n4\n5"}}}})));
+}
+
+TEST(TocFindings, TheLineNamesEntriesWithoutAUnit)
+{
+    EXPECT_EQ((Lines{"entry 0 at 7: no text in de",
+                     "entry 0 at 7: out of order: entry 1 starts before it, at 6",
+                     "entry 1 at 6: no text in en"}),
+              linesOf(*tocOf({{7, {{"en", ""}}}, {6, {{"de", ""}}}})));
+}
+
+/// A table with any frame rate and an entry that holds any text.
+class ToldToc : public ZelDataToc {
+public:
+    class Item : public ZelDataTocItem {
+        ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const override
+        {
+            ids = {"en", "zz"};
+            return ZelData_Ok;
+        }
+        ZelDataResult_tags getTextForLanguage(std::string& text,
+                                              const std::string& id) const override
+        {
+            text = id == "en" ? "\xC0" : "a";
+            return ZelData_Ok;
+        }
+    };
+
+    explicit ToldToc(unsigned long rate) : rate_(rate) {}
+    ZelDataResult_tags getFrameRate(unsigned long& rate) const override
+    {
+        rate = rate_;
+        return ZelData_Ok;
+    }
+    ZelDataResult_tags getTocItems(std::vector<i_ZelDataTocItem*>& items) const override
+    {
+        items = {new Item};
+        return ZelData_Ok;
+    }
+
+private:
+    unsigned long rate_;
+};
+
+TEST(TocFindings, FrameRateTextsAndLanguagesAreLookedAt)
+{
+    EXPECT_EQ((Lines{"table of contents: frame rate out of range (10001, at most 10000)",
+                     "entry 0 at 0: the text in en is not UTF-8",
+                     "entry 0 at 0: the language zz is not known"}),
+              linesOf(ToldToc(10001)));
+    EXPECT_EQ("table of contents: frame rate out of range (0, at least 1)", linesOf(ToldToc(0))[0]);
+    EXPECT_EQ(2U, linesOf(ToldToc(10000)).size());
+    EXPECT_EQ(2U, linesOf(ToldToc(1)).size());
+}
+
+/// A table that hands out the failing entries that it is given.
+class HandingToc : public Failing<ZelDataToc> {
+public:
+    ZelDataResult_tags getFrameRate(unsigned long& rate) const override
+    {
+        return run("getFrameRate", [&] { return ZelDataToc::getFrameRate(rate); });
+    }
+    ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const override
+    {
+        return run("getOrderedLanguageIDs", [&] { return ZelDataToc::getOrderedLanguageIDs(ids); });
+    }
+    ZelDataResult_tags getTocItems(std::vector<i_ZelDataTocItem*>& items) const override
+    {
+        auto item = std::make_unique<FailingTocItem>();
+        EXPECT_EQ(ZelData_Ok, item->setTextForLanguage("a", "en"));
+        if (prepare) prepare(*item);
+        items.push_back(item.release()); // handed out even where the call fails
+        return run("getTocItems", [] { return ZelData_Ok; });
+    }
+
+    std::function<void(FailingTocItem&)> prepare;
+};
+
+TEST(TocFindings, AFailingTableEndsTheSearch)
+{
+    for (const std::string operation : {"getFrameRate", "getOrderedLanguageIDs", "getTocItems"}) {
+        HandingToc toc;
+        expectFailuresPass<HandingToc, Failing<ZelDataToc>>(toc, operation, 1,
+                                                            [&](const auto& arm) { arm(toc); });
+        EXPECT_EQ(0, FailingTocItem::alive()) << operation;
+    }
+}
+
+TEST(TocFindings, AFailingEntryEndsTheSearch)
+{
+    for (const std::string operation : {"getStart", "getLanguageIDs", "getTextForLanguage"}) {
+        HandingToc toc;
+        expectFailuresPass<HandingToc, FailingTocItem>(toc, operation, 1,
+                                                       [&](const auto& arm) { toc.prepare = arm; });
+        EXPECT_EQ(0, FailingTocItem::alive()) << operation;
+    }
+}
+
+TEST(TocFindings, ExhaustedMemoryIsReportedAndNothingLeaks)
+{
+    expectMemoryFailuresPass(
+        *tocOf({{2, {{"en", std::string(50, 'x')}}, "i"}, {1, {{"de", "a"}}}}));
+}
+
+/// What must be found in @p entries where @p listed are to have titles, by the definition.
+Findings expectedOf(const std::vector<Entry>& entries, const std::vector<std::string>& listed)
+{
+    Findings expected;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        for (const std::string& id : listed) {
+            if (entries[i].titles.count(id) == 0)
+                expected.push_back(missing(i, entries[i].start, id));
+        }
+        std::size_t j = i + 1;
+        while (j < entries.size() && entries[j].start >= entries[i].start)
+            ++j;
+        if (j < entries.size())
+            expected.push_back(outOfOrder(i, entries[i].start, j, entries[j].start));
+    }
+    return expected;
+}
+
+std::vector<Entry> draw(Dice& dice)
+{
+    std::vector<Entry> entries;
+    long long start = 3;
+    for (std::size_t count = dice.below(6); count > 0; --count) {
+        start = std::max(0LL, start + static_cast<long long>(dice.below(6)) - 1);
+        Entry entry;
+        entry.start = start;
+        for (const char* id : {"de", "en"}) {
+            if (!dice.once(10)) entry.titles[id] = dice.once(2) ? "" : "a";
+        }
+        entries.push_back(entry);
+    }
+    return entries;
+}
+
+TEST(TocFindings, AgreeWithTheCheckAndWithTheDefinitionOnRandomTables)
+{
+    Dice dice(4712);
+    constexpr int rounds = 100000;
+    int valid = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const std::vector<Entry> entries = draw(dice);
+        const auto toc = tocOf(entries);
+        const Findings findings = findingsOf(*toc);
+        ASSERT_EQ(expectedOf(entries, languagesOf(*toc)), findings) << "round " << round;
+        ASSERT_EQ(toc->isValid(true), codeFor(findings)) << "round " << round;
+        valid += findings.empty() ? 1 : 0;
+    }
+    EXPECT_GT(valid, rounds / 10);
+    EXPECT_LT(valid, rounds * 9 / 10);
+}
+
+} // namespace
+} // namespace ZelInterchangeData

@@ -1,0 +1,51 @@
+#include "util/SharedText.h"
+
+#include "util/AllocationWatch.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace ZelInterchangeData {
+namespace {
+
+TEST(SharedText, AnEmptyOneTakesNoMemory)
+{
+    long asked = 0;
+    {
+        const AllocationWatch watch;
+        const SharedText none;
+        const SharedText empty((std::string_view()));
+        const SharedText copy(empty);
+        asked = watch.count();
+    }
+    EXPECT_EQ(0, asked);
+    EXPECT_EQ("", SharedText().view());
+}
+
+TEST(SharedText, KeepsEveryByte)
+{
+    const std::string text("a\0b\xFF", 4);
+    EXPECT_EQ(text, SharedText(text).view());
+}
+
+TEST(SharedText, CopiesAreIndependentOfAssignments)
+{
+    SharedText text("one");
+    const SharedText copy(text);
+    EXPECT_EQ(text.view().data(), copy.view().data());
+    text = SharedText("two");
+    EXPECT_EQ("one", copy.view());
+    EXPECT_EQ("two", text.view());
+}
+
+TEST(SharedText, PrefetchingChangesNothing)
+{
+    const SharedText text("one");
+    text.prefetch();
+    SharedText().prefetch();
+    EXPECT_EQ("one", text.view());
+}
+
+} // namespace
+} // namespace ZelInterchangeData
