@@ -23,6 +23,13 @@ void describe(std::ostream& out, const AllHandedOut<Interface>& handed)
         out << contentsOf(*object) << '\n';
 }
 
+void describe(std::ostream& out, const std::vector<ZelDataFinding>& findings)
+{
+    out << findings.size() << " findings\n";
+    for (const ZelDataFinding& finding : findings)
+        out << ZelInterchangeData::describe(finding) << '\n';
+}
+
 } // namespace
 
 Outs::Outs()
@@ -45,7 +52,7 @@ std::string Outs::described() const
     const auto describeAll = [&](const auto&... handed) { (describe(out, handed), ...); };
     describeAll(header, captions, toc, screenText, caption, entry, screenTextItem);
     describeAll(headerFormatter, captionFormatter, tocFormatter, screenTextFormatter, document);
-    describeAll(captionItems, entries, screenTextItems);
+    describeAll(captionItems, entries, screenTextItems, findings);
     out << contentsOf(*headerTarget) << contentsOf(*captionsTarget) << contentsOf(*tocTarget)
         << contentsOf(*screenTextTarget) << dateMasked(file.bytes());
     return out.str();

@@ -76,6 +76,7 @@ public:
     AllHandedOut<i_ZelDataCaptionItem> captionItems;
     AllHandedOut<i_ZelDataTocItem> entries;
     AllHandedOut<i_ZelDataScreenTextItem> screenTextItems;
+    std::vector<ZelDataFinding> findings{ZelDataFinding()};
 
     /// Objects to copy into.
     std::unique_ptr<i_ZelDataHeader> headerTarget;

@@ -103,6 +103,35 @@ void addTexts(OperationList& list)
     });
 }
 
+/// The sets lack texts and are out of order.
+void addFindings(OperationList& list)
+{
+    const auto name = [](const char* set) {
+        return "findProblems(const " + std::string(set) + "&, std::vector<ZelDataFinding>&)";
+    };
+    add(list, name("i_ZelDataCaptions"), [](Outs& o) {
+        static const auto captions = filledCaptions();
+        return findProblems(*captions, o.findings);
+    });
+    add(list, name("i_ZelDataToc"), [](Outs& o) {
+        static const auto toc = filledToc();
+        return findProblems(*toc, o.findings);
+    });
+    add(list, name("i_ZelDataScreenText"), [](Outs& o) {
+        static const auto screenText = filledScreenText();
+        return findProblems(*screenText, o.findings);
+    });
+    add(list, "describe", [](Outs& o) {
+        static const auto findings = [] {
+            std::vector<ZelDataFinding> found;
+            EXPECT_EQ(ZelData_Ok, findProblems(*filledCaptions(), found));
+            return found;
+        }();
+        o.text = describe(findings.front());
+        return ZelData_Ok;
+    }).letsThrough();
+}
+
 } // namespace
 
 void addUtilityOperations(OperationList& list)
@@ -111,6 +140,7 @@ void addUtilityOperations(OperationList& list)
     addFormatterFactories(list);
     addCodes(list);
     addTexts(list);
+    addFindings(list);
     add(list, "getValueString", [](Outs& o) {
         o.text = getValueString(-9223372036854775807L);
         return ZelData_Ok;

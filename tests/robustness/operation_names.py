@@ -35,30 +35,27 @@ def interface_operations(slot_folder):
             yield from named(implementation, signatures)
 
 
-def static_functions(header):
-    """The static functions of a header's class, as names and types of arguments."""
+def functions(pattern, header):
+    """The functions of a header that callers can call and whose beginning matches the pattern, as
+    names and types of arguments."""
     text = re.sub(r"//.*", "", header.read_text(encoding="ascii"))
-    for name, arguments in re.findall(r"\bstatic [^();]*?(\w+)\(([^)]*)\)", text):
+    text = re.sub(r"^private:.*?^};", "", text, flags=re.DOTALL | re.MULTILINE)
+    for name, arguments in re.findall(pattern + r" [^();=]*?(\w+)\(([^)]*)\)", text, re.MULTILINE):
         types = ", ".join(re.sub(r"\s+|\w+$", " ", argument).strip()
                           for argument in arguments.split(","))
         yield name, f"({types})"
-
-
-def free_functions(header):
-    """The exported functions of a header that belong to no class."""
-    text = re.sub(r"//.*", "", header.read_text(encoding="ascii"))
-    return re.findall(r"^ZELINTERCHANGEDATA_API [\w:]+ \*?(\w+)\(", text, re.MULTILINE)
 
 
 def operation_names(slot_folder, include_folder):
     """The names of all operations, and an assertion that every source of them gave some."""
     headers = sorted(Path(include_folder).glob("ZelInterchangeData/*.h"))
     interfaces = list(interface_operations(slot_folder))
-    functions = [name for header in headers
-                 for name in named(header.stem, list(static_functions(header)))]
-    free = [name for header in headers for name in free_functions(header)]
-    assert interfaces and functions and free
-    return interfaces + functions + free
+    static = [name for header in headers
+              for name in named(header.stem, list(functions(r"\bstatic", header)))]
+    free = [name for header in headers
+            for name in named("", list(functions(r"^ZELINTERCHANGEDATA_API", header)))]
+    assert interfaces and static and free
+    return interfaces + static + free
 
 
 def main():
