@@ -18,9 +18,6 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// A last error that no operation stores.
-constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
-
 /// How one call ended.
 struct Ending {
     ZelDataResult_tags code = untouched;
@@ -41,30 +38,17 @@ Ending callWith(const Subject& subject, Outs& outs, std::size_t granted, Shortag
     return ending;
 }
 
-/// The last error of @p subject; a function has none.
-ZelDataResult_tags lastErrorOf(const Subject& subject)
-{
-    return subject.object ? subject.object->getLastError() : untouched;
-}
-
-void forgetLastError(const Subject& subject)
-{
-    if (subject.object) subject.object->setLastError(untouched);
-}
-
 /// All that shows of an operation that was called on @p subject without any failure.
 std::string success(const Operation& operation, const Subject& subject)
 {
     Outs outs;
     forgetLastError(subject);
     const auto ending = callWith(subject, outs, FailingAllocation::unlimited, Shortage::Lasting);
-    const auto lastError = lastErrorOf(subject);
     EXPECT_FALSE(ending.thrown);
     if (subject.object && !operation.storesNothing) {
-        EXPECT_EQ(ending.code, lastError);
+        EXPECT_EQ(ending.code, lastErrorOf(subject));
     }
-    return std::to_string(ending.code) + ' ' + std::to_string(lastError) + '\n' +
-           subject.contents() + '\n' + outs.described();
+    return outcome(ending.code, subject, outs);
 }
 
 void checkLastError(const Operation& operation, const Ending& ending, ZelDataResult_tags lastError)

@@ -93,6 +93,15 @@ private:
     std::unique_ptr<Object> (*make_)();
 };
 
+/// A last error that no operation stores.
+constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
+
+void forgetLastError(const Subject& subject);
+/// The last error of @p subject; a function has none.
+ZelDataResult_tags lastErrorOf(const Subject& subject);
+/// All that shows of an operation of @p subject that gave @p code and was called with @p outs.
+std::string outcome(ZelDataResult_tags code, const Subject& subject, const Outs& outs);
+
 /// All operations.
 const OperationList& allOperations();
 

@@ -74,6 +74,10 @@ void addCodes(OperationList& list)
         return U::nativeNameForLanguage(id, o.shortText);
     });
     add(list, of + "isValidLanguage", [](Outs& o) { return U::isValidLanguage(o.id); });
+    add(list, of + "isValidLanguage|in capital letters", [](Outs&) {
+        static const std::string id = "IS";
+        return U::isValidLanguage(id);
+    });
     add(list, of + "verifyUtf8Format", [](Outs& o) { return U::verifyUtf8Format(o.text, true); });
     add(list, of + "countLinesInUTF8", [](Outs& o) {
         o.number = U::countLinesInUTF8(o.text);
