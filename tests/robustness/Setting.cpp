@@ -179,8 +179,8 @@ std::vector<Setting> cLocales()
                          sampleOf(narrowBoth, plain, "UTF-8"), "fr_FR.UTF-8"),
         setting<CLocale>("C, characters not of Unicode", sampleOf("1234567.5 ,", plain, "EUC-JP"),
                          "ja_JP.EUC-JP"),
-        setting<CLocale>("C, another upper case", sampleOf(both, plain, "UTF-8", "\u0130"),
-                         "tr_TR.UTF-8"),
+        setting<CLocale>("C, another upper case", sampleOf(both, plain, "ISO-8859-9", "\u0130"),
+                         "tr_TR.ISO-8859-9"),
         setting<ThreadLocale>("C, this thread alone", sampleOf(both, plain, "ISO-8859-1"),
                               "de_DE.ISO-8859-1"),
     };
