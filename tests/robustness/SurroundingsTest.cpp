@@ -270,7 +270,6 @@ TEST_F(Surroundings, NothingIsPrintedAndNothingRead)
     const TempFile output;
     input.fill("input");
     output.fill("");
-    plainOutcomes();
     expectFine(inChild([&]() -> std::string {
         putInPlaceOf(STDIN_FILENO, input.path());
         putInPlaceOf(STDOUT_FILENO, output.path());
