@@ -62,6 +62,7 @@ ZelDataResult_tags FakeControl::call(const std::string& operation, const Work& w
 
 ZelDataResult_tags FakeControl::goWrong(const Work& work, const std::function<void()>& half) const
 {
+    ++wentWrong_;
     const char mode = script_.mode;
     const auto isOneOf = [mode](const char* modes) { return std::strchr(modes, mode) != nullptr; };
     if (half && isOneOf("hBX")) half();

@@ -61,6 +61,8 @@ public:
 
     /// How many fakes there are.
     static int alive() { return alive_; }
+    /// How many calls of all fakes did what a script says.
+    static unsigned long wentWrong() { return wentWrong_; }
 
     virtual ~FakeControl() { --alive_; }
 
@@ -91,6 +93,7 @@ private:
     ZelDataResult_tags goWrong(const Work& work, const std::function<void()>& half) const;
 
     inline static int alive_ = 0;
+    inline static unsigned long wentWrong_ = 0;
 
     std::string name_;
     Notes* notes_ = nullptr;

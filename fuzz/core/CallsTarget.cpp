@@ -1,0 +1,64 @@
+/// @file
+/// Sequences of calls of every operation, with memory that runs out at any allocation.
+///
+/// Each operation is done twice: in a world where allocations fail as the input says, and in one
+/// where none does. Where one failed the operation must tell so and leave things as they were. After
+/// that the same operation must give what it gives in the other world. At the end both hold the
+/// same, and nothing of them is left behind.
+
+#include "core/Calls.h"
+#include "core/Operations.h"
+#include "core/OutputPath.h"
+#include "support/Target.h"
+
+namespace fuzz {
+
+namespace {
+
+constexpr int mostCalls = 200;
+
+} // namespace
+
+void Session::requireTwins()
+{
+    std::string tested;
+    std::string twin;
+    tested_.forEach([&](auto& object) { describe(tested, object); });
+    twin_.forEach([&](auto& object) { describe(twin, object); });
+    requireEqual(twin, tested, "the worlds differ at the end");
+}
+
+std::vector<Operation> allOperations()
+{
+    std::vector<Operation> operations;
+    addLanguageOperations(operations);
+    addHeaderOperations(operations);
+    addCaptionItemOperations(operations);
+    addCaptionOperations(operations);
+    addTocItemOperations(operations);
+    addTocOperations(operations);
+    addScreenTextItemOperations(operations);
+    addScreenTextOperations(operations);
+    addWriterOperations(operations);
+    addFunctionOperations(operations);
+    return operations;
+}
+
+} // namespace fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const std::vector<fuzz::Operation> operations = fuzz::allOperations();
+    fuzz::require(operations.size() <= 256, "a byte does not reach every operation");
+    static const fuzz::OutputPath folder(0); // stays, so it is made before blocks are counted
+    const long long blocks = fuzz::liveBlocks();
+    {
+        fuzz::Input input(data, size);
+        fuzz::Session session(input);
+        for (int calls = 0; calls < fuzz::mostCalls && !input.isEmpty(); ++calls)
+            operations[input.byte() % operations.size()](session);
+        session.requireTwins();
+    }
+    fuzz::require(fuzz::liveBlocks() == blocks, "memory is left behind");
+    return 0;
+}

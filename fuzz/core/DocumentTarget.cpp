@@ -1,0 +1,466 @@
+/// @file
+/// A filled document: its packet is well-formed, and a reader that nobody here wrote gives back
+/// every text, time and number in it.
+///
+/// The target keeps to what callers must keep to: strings are strict UTF-8 without U+FFFE and
+/// U+FFFF, what is written as given holds none of the five special characters, and what is not
+/// stripped no control characters but tab, line feed and carriage return.
+
+#include "ZelInterchangeData/ZelInterchangeData.h"
+#include "core/Packet.h"
+#include "support/Input.h"
+#include "support/Require.h"
+#include "support/StrictText.h"
+#include "support/Target.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace ZelInterchangeData;
+using fuzz::Element;
+using fuzz::Input;
+using fuzz::require;
+using fuzz::requireEqual;
+
+namespace {
+
+void check(ZelDataResult_tags code)
+{
+    require(code == ZelData_Ok, "the library refuses what it promises to take");
+}
+
+template <class Interface>
+std::unique_ptr<Interface> make(ZelDataResult_tags (*factory)(Interface**))
+{
+    Interface* made = nullptr;
+    check(factory(&made));
+    return std::unique_ptr<Interface>(made);
+}
+
+// Texts of the input, and what a reader makes of them
+
+bool isXmlCharacter(std::uint32_t value)
+{
+    return (value >= 0x20 || value == '\t' || value == '\n' || value == '\r') &&
+           !fuzz::isNoncharacter(value);
+}
+
+/// A text that the library strips.
+std::string strippedText(Input& input)
+{
+    return fuzz::filtered(input.text(), [](auto value) { return !fuzz::isNoncharacter(value); });
+}
+
+/// A text that the library escapes and does not strip.
+std::string escapedText(Input& input)
+{
+    return fuzz::filtered(input.text(), isXmlCharacter);
+}
+
+/// A text that the library writes as given.
+std::string givenText(Input& input)
+{
+    return fuzz::filtered(input.text(), [](auto value) {
+        const bool isSpecial =
+            value == '"' || value == '&' || value == '\'' || value == '<' || value == '>';
+        return isXmlCharacter(value) && !isSpecial;
+    });
+}
+
+std::string languageID(Input& input)
+{
+    static const char* const codes[] = {"en", "de", "fr", "JA", "ug", "lu", "he", "zh"};
+    const std::string code = codes[input.below(std::size(codes))];
+    return input.flag() ? code : code + "-" + givenText(input);
+}
+
+/// What is left of a text that is stripped.
+std::string shown(const std::string& text)
+{
+    return fuzz::filtered(text, [](auto value) { return value >= 0x20 || value == '\n'; });
+}
+
+/// What a reader of XML makes of white space in an attribute.
+std::string inAttribute(const std::string& text)
+{
+    std::string normal;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i] == '\r' && text.compare(i + 1, 1, "\n") == 0;
+        const bool isSpace = text[i] == '\r' || text[i] == '\n' || text[i] == '\t';
+        if (!isPair) normal += isSpace ? ' ' : text[i];
+    }
+    return normal;
+}
+
+// What the document holds, as it must come back
+
+using Attributes = std::map<std::string, std::string>;
+using Texts = std::map<std::string, std::string>;
+
+/// A caption, an entry or a screen text.
+struct Marker {
+    long long start = 0;
+    Attributes attributes;
+    Texts texts;
+};
+
+struct Expected {
+    Attributes header;
+    std::vector<std::string> content;
+    std::vector<std::string> languages; // of the captions
+    std::vector<Marker> captions;
+    std::vector<Marker> entries;
+    std::vector<Marker> screenTexts;
+    Attributes captionTrack;
+    std::string tocImage;
+    std::vector<std::string> tocLanguages;
+};
+
+/// The exchange sort of all sets.
+void sort(std::vector<Marker>& markers)
+{
+    for (std::size_t i = 0; i < markers.size(); ++i)
+        for (std::size_t j = i + 1; j < markers.size(); ++j)
+            if (markers[j].start < markers[i].start) std::swap(markers[i], markers[j]);
+}
+
+void listLanguages(std::vector<std::string>& list, const Texts& texts)
+{
+    for (const auto& [id, text] : texts)
+        if (std::find(list.begin(), list.end(), id) == list.end()) list.push_back(id);
+}
+
+/// Fills a document from an input.
+class Filler {
+public:
+    explicit Filler(Input& input) : input_(input) {}
+
+    const Expected& expected() const { return expected_; }
+
+    void fill(i_ZelInterchangeDataCore& document)
+    {
+        fillHeader(document);
+        const std::size_t sets = input_.below(8);
+        if ((sets & 1U) != 0) fillCaptions(document);
+        if ((sets & 2U) != 0) fillToc(document);
+        if ((sets & 4U) != 0) fillScreenText(document);
+        sort(expected_.captions);
+        sort(expected_.entries);
+        sort(expected_.screenTexts);
+    }
+
+private:
+    /// A start that other markers may have, too.
+    long long start()
+    {
+        const long long start = input_.number<long long>();
+        return start < 0 ? 7 : start;
+    }
+
+    void fillHeader(i_ZelInterchangeDataCore& document)
+    {
+        const auto header = make(ZelDataUtilities::createHeaderData);
+        const std::string title = escapedText(input_);
+        const std::string creator = givenText(input_);
+        const std::string description = escapedText(input_);
+        const std::string name = escapedText(input_);
+        const std::string version = escapedText(input_);
+        check(header->setTitle(title));
+        check(header->setCreator(creator));
+        check(header->setDescription(description));
+        check(header->setAppName(name));
+        check(header->setAppVersion(version));
+        expected_.header = {{"dc:title", inAttribute(title)},
+                            {"dc:creator", inAttribute(creator)},
+                            {"dc:Description", inAttribute(description)},
+                            {"dc:source", inAttribute(name + " - " + version)}};
+        fillKeywords(*header);
+        fillContent(*header);
+        fillSizes(*header);
+        check(document.setDataHeader(*header));
+    }
+
+    void fillKeywords(i_ZelDataHeader& header)
+    {
+        std::vector<std::string> keywords(input_.below(4));
+        std::string joined;
+        for (std::string& keyword : keywords) {
+            keyword = escapedText(input_);
+            joined += (&keyword == &keywords.front() ? "" : ", ") + keyword;
+        }
+        check(header.setKeywords(keywords));
+        expected_.header["zelDM:keywords"] = inAttribute(joined);
+    }
+
+    void fillContent(i_ZelDataHeader& header)
+    {
+        for (std::size_t more = input_.below(4); more > 0; --more) {
+            const std::string name = escapedText(input_);
+            if (!failed(header.addContentName(name)))
+                expected_.content.push_back(inAttribute(name));
+        }
+    }
+
+    void fillSizes(i_ZelDataHeader& header)
+    {
+        const unsigned long length = std::max(1UL, input_.number<unsigned long>());
+        check(header.setVideoLength(length));
+        check(header.setVideoWidth(640));
+        check(header.setVideoHeight(480));
+        const bool isExplicit = input_.flag();
+        check(header.setIPodExplicit(isExplicit));
+        expected_.header["zelDM:iPodExplicit"] = isExplicit ? "true" : "false";
+        expected_.header["length"] = std::to_string(length);
+    }
+
+    /// Gives @p item texts; the result is what a reader must find of them.
+    template <class Item>
+    Texts fillTexts(Item& item)
+    {
+        Texts texts;
+        for (std::size_t more = input_.below(5); more > 0; --more) {
+            const std::string text = strippedText(input_);
+            const std::string id = languageID(input_);
+            const auto code = item.setTextForLanguage(text, id);
+            check(code == ZelData_WarnAlreadyExists ? ZelData_Ok : code);
+            texts[id] = shown(text);
+        }
+        return texts;
+    }
+
+    void fillCaptions(i_ZelInterchangeDataCore& document)
+    {
+        const auto captions = make(ZelDataUtilities::createCaptionData);
+        const std::string family = givenText(input_);
+        if (!family.empty()) check(captions->setFontFamily(family));
+        expected_.captionTrack = {
+            {"stFnt:fontFamily", family.empty() ? "Helvetica" : inAttribute(family)}};
+        for (std::size_t more = input_.below(8); more > 0; --more)
+            addCaption(*captions);
+        check(document.setDataCaptions(*captions));
+    }
+
+    void addCaption(i_ZelDataCaptions& captions)
+    {
+        const auto item = make(ZelDataUtilities::createCaptionItemData);
+        Marker marker;
+        marker.start = start() / 2;
+        const long long duration = 1 + input_.byte();
+        const auto alignment = static_cast<ZelAlignment_tags>(input_.byte());
+        check(item->setStart(marker.start));
+        check(item->setDuration(duration));
+        check(item->setAlignment(alignment));
+        marker.texts = fillTexts(*item);
+        const char* vertical = alignment & 1U ? "bottom" : alignment & 2U ? "top" : "center";
+        const char* horizontal = alignment & 16U ? "left" : alignment & 32U ? "right" : "center";
+        marker.attributes = {{"xmpDM:startTime", std::to_string(marker.start)},
+                             {"xmpDM:duration", std::to_string(duration)},
+                             {"zelDM:valign", vertical},
+                             {"zelDM:halign", horizontal}};
+        check(captions.addCaptionItem(*item));
+        listLanguages(expected_.languages, marker.texts);
+        expected_.captions.push_back(std::move(marker));
+    }
+
+    void fillToc(i_ZelInterchangeDataCore& document)
+    {
+        const auto toc = make(ZelDataUtilities::createTocData);
+        const std::string image = escapedText(input_);
+        check(toc->setImageFile(image));
+        expected_.tocImage = inAttribute(image);
+        for (std::size_t more = input_.below(8); more > 0; --more)
+            addEntry(*toc);
+        check(document.setDataToc(*toc));
+    }
+
+    void addEntry(i_ZelDataToc& toc)
+    {
+        const auto item = make(ZelDataUtilities::createTocItemData);
+        Marker marker;
+        marker.start = start();
+        const auto index = input_.number<unsigned long>();
+        const auto offset = input_.number<unsigned long long>();
+        const std::string image = escapedText(input_);
+        check(item->setStart(marker.start));
+        check(item->setImageFile(image));
+        check(item->setImageIndex(index));
+        check(item->setImageOffset(offset));
+        marker.texts = fillTexts(*item);
+        marker.attributes = {{"xmpDM:startTime", std::to_string(marker.start)},
+                             {"zelDM:image", inAttribute(image)},
+                             {"zelDM:imageindex", std::to_string(index)},
+                             {"zelDM:imageoffset", std::to_string(offset)}};
+        check(toc.addTocItem(*item));
+        listLanguages(expected_.tocLanguages, marker.texts);
+        expected_.entries.push_back(std::move(marker));
+    }
+
+    void fillScreenText(i_ZelInterchangeDataCore& document)
+    {
+        const auto texts = make(ZelDataUtilities::createScreenTextData);
+        for (std::size_t more = input_.below(8); more > 0; --more)
+            addScreenText(*texts);
+        check(document.setDataScreenText(*texts));
+    }
+
+    void addScreenText(i_ZelDataScreenText& texts)
+    {
+        const auto item = make(ZelDataUtilities::createScreenTextItemData);
+        Marker marker;
+        marker.start = start();
+        const std::string text = strippedText(input_);
+        const std::string image = givenText(input_);
+        const auto group = input_.number<unsigned long>();
+        const long long duration = input_.byte();
+        check(item->setText(text));
+        check(item->setStart(marker.start));
+        check(item->setDuration(duration));
+        check(item->setImageFile(image));
+        check(item->setGroupId(group));
+        marker.attributes = {{"xmpDM:name", inAttribute(shown(text))},
+                             {"xmpDM:startTime", std::to_string(marker.start)},
+                             {"xmpDM:duration", std::to_string(duration)},
+                             {"xmpDM:image", inAttribute(image)},
+                             {"zelDM:imageindex", "0"},
+                             {"zelDM:imageoffset", "0"},
+                             {"zelDM:tocEntry", std::to_string(group)}};
+        check(texts.addScreenTextItem(*item));
+        expected_.screenTexts.push_back(std::move(marker));
+    }
+
+    Input& input_;
+    Expected expected_;
+};
+
+// The packet
+
+/// Of the attributes of @p element those that @p expected names, and no other value.
+void checkAttributes(const Element& element, const Attributes& expected)
+{
+    for (const auto& [name, value] : expected)
+        requireEqual(value, element.attribute(name), name.c_str());
+}
+
+/// Captions without a text leave one language to the packet, none of their own.
+void checkLanguageList(const Element& description, std::vector<std::string> languages)
+{
+    if (languages.empty()) languages.emplace_back("en-US");
+    const auto items = description.at("zel:langName/rdf:Bag").children();
+    require(items.size() == languages.size(), "the number of languages");
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        std::string name;
+        check(ZelDataUtilities::englishNameForLanguage(languages[i], name));
+        requireEqual(inAttribute(languages[i]), items[i].attribute("xml:lang"), "a language");
+        requireEqual(name, items[i].text(), "the name of a language");
+    }
+}
+
+void checkContent(const Element& description, const std::vector<std::string>& content)
+{
+    require(description.has("zelDM:contentList") != content.empty(), "whether there is content");
+    if (content.empty()) return;
+    const auto files = description.at("zelDM:contentList/rdf:Description/zelDM:files/rdf:Seq");
+    const auto items = files.children();
+    require(items.size() == content.size(), "the number of content names");
+    for (std::size_t i = 0; i < items.size(); ++i)
+        checkAttributes(items[i], {{"xmpDM:name", std::to_string(i)}, {"xmpDM:value", content[i]}});
+}
+
+void checkHeader(const Element& description, const Expected& expected)
+{
+    Attributes header = expected.header;
+    requireEqual(header["length"], description.at("xmpDM:duration").attribute("xmpDM:value"),
+                 "the length");
+    header.erase("length");
+    checkAttributes(description, header);
+    checkLanguageList(description, expected.languages);
+    checkContent(description, expected.content);
+}
+
+/// The marker elements of the track of @p type.
+std::vector<Element> markersOf(const Element& track)
+{
+    std::vector<Element> markers;
+    for (const Element& item : track.at("xmpDM:markers/rdf:Seq").children())
+        markers.push_back(item.at("rdf:Description"));
+    return markers;
+}
+
+void checkCaptionTexts(const Element& marker, const Texts& texts,
+                       const std::vector<std::string>& languages)
+{
+    const auto items = marker.at("xmpDM:name/rdf:Alt").children();
+    require(items.size() == languages.size(), "the number of texts");
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const auto text = texts.find(languages[i]);
+        const bool isEmpty = text == texts.end() || text->second.empty();
+        requireEqual(inAttribute(languages[i]), items[i].attribute("xml:lang"),
+                     "the language of a caption");
+        requireEqual(isEmpty ? "{\\rtf1 }" : text->second, items[i].text(), "a caption");
+    }
+}
+
+/// The attributes of an entry, with its title in the first language of the table.
+Attributes withTitle(const Marker& entry, const std::vector<std::string>& languages)
+{
+    Attributes attributes = entry.attributes;
+    const auto title = languages.empty() ? entry.texts.end() : entry.texts.find(languages.front());
+    attributes["xmpDM:name"] = title == entry.texts.end() ? "" : inAttribute(title->second);
+    return attributes;
+}
+
+void checkTracks(const Element& description, const Expected& expected)
+{
+    std::size_t next = 0;
+    const auto tracks = description.at("xmpDM:Tracks/rdf:Bag").children();
+    const auto nextTrack = [&](const char* type, const std::vector<Marker>& markers) {
+        require(next < tracks.size(), "a track is missing");
+        const Element track = tracks[next++].at("rdf:Description");
+        requireEqual(type, track.attribute("xmpDM:trackType"), "the kind of a track");
+        require(markersOf(track).size() == markers.size(), "the number of markers");
+        return track;
+    };
+    if (!expected.captions.empty()) {
+        const Element track = nextTrack("Caption", expected.captions);
+        checkAttributes(track, expected.captionTrack);
+        for (std::size_t i = 0; i < expected.captions.size(); ++i) {
+            checkAttributes(markersOf(track)[i], expected.captions[i].attributes);
+            checkCaptionTexts(markersOf(track)[i], expected.captions[i].texts, expected.languages);
+        }
+    }
+    if (!expected.entries.empty()) {
+        const Element track = nextTrack("TableOfContents", expected.entries);
+        checkAttributes(track, {{"zelDM:image", expected.tocImage}});
+        for (std::size_t i = 0; i < expected.entries.size(); ++i)
+            checkAttributes(markersOf(track)[i],
+                            withTitle(expected.entries[i], expected.tocLanguages));
+    }
+    if (!expected.screenTexts.empty()) {
+        const Element track = nextTrack("ScreenText", expected.screenTexts);
+        for (std::size_t i = 0; i < expected.screenTexts.size(); ++i)
+            checkAttributes(markersOf(track)[i], expected.screenTexts[i].attributes);
+    }
+    require(next == tracks.size(), "a track too many");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    Input input(data, size);
+    Filler filler(input);
+    const std::unique_ptr<i_ZelInterchangeDataCore> document(
+        ZELDataCreator::createInterchangeData());
+    filler.fill(*document);
+    std::string text;
+    check(document->writeString(text, ZelDataFormat_Xmp, false));
+    const fuzz::Packet packet(text);
+    const Element description = packet.root().at("rdf:RDF/rdf:Description");
+    checkHeader(description, filler.expected());
+    checkTracks(description, filler.expected());
+    return 0;
+}

@@ -1,0 +1,418 @@
+/// @file
+/// Objects that a caller wrote, handed to ours and filled by ours. One call of theirs goes wrong as
+/// the input says: it gives any code, or throws.
+///
+/// The operation must end as the failure asks for, leave everything usable, and, when nothing goes
+/// wrong any more, give what it gives where nothing ever went wrong.
+
+#include "core/Describe.h"
+#include "core/ForeignContents.h"
+#include "support/AllocationFailure.h"
+#include "support/Input.h"
+#include "support/Require.h"
+#include "support/Target.h"
+
+#include <memory>
+#include <new>
+#include <string>
+#include <type_traits>
+
+using namespace ZelInterchangeData;
+using fuzz::Code;
+using fuzz::Input;
+using fuzz::require;
+using fuzz::requireEqual;
+using model::FakeControl;
+using model::FakeScript;
+
+namespace {
+
+/// What goes wrong, and where.
+struct Trouble {
+    FakeScript script;
+    bool isInItems = false;
+};
+
+Code someCode(Input& input)
+{
+    static constexpr Code codes[] = {
+        ZelData_NotFound,     ZelData_WarnTiming, ZelData_OutOfMemory,    ZelData_InternalError,
+        ZelData_WarnNoChange, ZelData_Ok,         ZelData_InvalidArgument};
+    const std::size_t choice = input.below(std::size(codes) + 1);
+    return choice == std::size(codes) ? input.raw<Code>() : codes[choice];
+}
+
+Trouble readTrouble(Input& input)
+{
+    Trouble trouble;
+    trouble.script.at = 1 + input.below(24);
+    trouble.script.mode = "ccdhbxBXlm"[input.below(10)];
+    trouble.script.code = someCode(input);
+    trouble.script.last = input.flag() ? trouble.script.code : someCode(input);
+    trouble.script.keepsOwn = input.flag();
+    trouble.isInItems = input.flag();
+    return trouble;
+}
+
+struct Outcome {
+    Code code = ZelData_Ok;
+    /// Whether a std::bad_alloc came through.
+    bool wasThrown = false;
+    /// Whether a caller's object went wrong on the way.
+    bool wentWrong = false;
+    /// The last error of the object whose operation it was.
+    Code lastError = ZelData_Ok;
+};
+
+template <class Object, class Call>
+Outcome perform(const Object& judge, Call&& call)
+{
+    Outcome outcome;
+    const auto before = FakeControl::wentWrong();
+    try {
+        outcome.code = call();
+    } catch (const std::bad_alloc&) {
+        outcome.wasThrown = true;
+    }
+    outcome.wentWrong = FakeControl::wentWrong() != before;
+    outcome.lastError = judge.Object::getLastError();
+    return outcome;
+}
+
+// The roads that a caller's object can take. Each has a target, and an operation that can be called
+// again and again with trouble and without.
+
+/// The copy of anything that has languages copies those by another operation, which may end with a
+/// code that lets the copy go on.
+template <class Kind>
+inline constexpr bool isCopiedInOne =
+    !std::is_base_of_v<i_ZelDataLanguage, typename Kind::Interface>;
+
+/// Ours is copied from theirs.
+template <class Kind>
+class OwnCopies {
+public:
+    /// Whether the operation itself meets the trouble, and not one of others below it.
+    static constexpr bool isDirect = isCopiedInOne<Kind>;
+    static constexpr bool throwsBadAlloc = std::is_same_v<Kind, fuzz::CaptionItemKind>;
+    static constexpr bool isTargetForeign = false;
+
+    explicit OwnCopies(Input& input) : target_(fuzz::makeOwn<Kind>(input)) {}
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        const auto source =
+            fuzz::makeForeign<Kind>(contents, trouble.isInItems ? trouble.script : FakeScript());
+        if (!trouble.isInItems) source->setScript(trouble.script);
+        const typename Kind::Interface& read = *source;
+        return perform<typename Kind::Interface>(*target_, [&] { return target_->copyFrom(read); });
+    }
+    std::string state() { return fuzz::described(*target_); }
+
+private:
+    std::unique_ptr<typename Kind::Interface> target_;
+};
+
+/// Theirs is copied from ours by the body that it inherits.
+template <class Kind>
+class ForeignCopies {
+    using Interface = typename Kind::Interface;
+
+public:
+    static constexpr bool isDirect = isCopiedInOne<Kind>;
+    static constexpr bool throwsBadAlloc = std::is_same_v<Kind, fuzz::CaptionItemKind>;
+    static constexpr bool isTargetForeign = true;
+
+    explicit ForeignCopies(Input& input) : target_(fuzz::makeForeign<Kind>(input, {})) {}
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        const auto source = fuzz::makeOwn<Kind>(contents);
+        target_->setScript(trouble.script);
+        const Outcome outcome =
+            perform<Interface>(*target_, [&] { return target_->Interface::copyFrom(*source); });
+        target_->setScript({});
+        return outcome;
+    }
+    std::string state() { return fuzz::described<Interface>(*target_); }
+
+private:
+    std::unique_ptr<typename Kind::Foreign> target_;
+};
+
+/// Theirs is copied from another one of theirs, which makes trouble.
+template <class Kind>
+class ForeignCopiesForeign {
+    using Interface = typename Kind::Interface;
+
+public:
+    static constexpr bool isDirect = isCopiedInOne<Kind>;
+    static constexpr bool throwsBadAlloc = std::is_same_v<Kind, fuzz::CaptionItemKind>;
+    static constexpr bool isTargetForeign = false;
+
+    explicit ForeignCopiesForeign(Input& input) : target_(fuzz::makeForeign<Kind>(input, {})) {}
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        const auto source = fuzz::makeForeign<Kind>(contents, {});
+        source->setScript(trouble.script);
+        const Interface& read = *source;
+        return perform<Interface>(*target_, [&] { return target_->Interface::copyFrom(read); });
+    }
+    std::string state() { return fuzz::described<Interface>(*target_); }
+
+private:
+    std::unique_ptr<typename Kind::Foreign> target_;
+};
+
+/// A collection of ours takes an item of theirs.
+template <class Kind>
+class CollectionAdds {
+    using ItemKind = typename Kind::Items;
+
+public:
+    static constexpr bool isDirect = false;
+    static constexpr bool throwsBadAlloc = false;
+    static constexpr bool isTargetForeign = false;
+
+    explicit CollectionAdds(Input& input) : target_(fuzz::makeOwn<Kind>(input)) {}
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        const auto item = fuzz::makeForeign<ItemKind>(contents, {});
+        item->setScript(trouble.script);
+        return perform<typename Kind::Interface>(*target_,
+                                                 [&] { return ((*target_).*Kind::add)(*item); });
+    }
+    std::string state() { return fuzz::described(*target_); }
+
+private:
+    std::unique_ptr<typename Kind::Interface> target_;
+};
+
+/// A formatter takes a set of theirs.
+template <class Kind>
+class FormatterHolds {
+public:
+    static constexpr bool isDirect = false;
+    static constexpr bool throwsBadAlloc = false;
+    static constexpr bool isTargetForeign = false;
+
+    explicit FormatterHolds(Input& /*input*/) : target_(fuzz::makeObject(Kind::createFormatter)) {}
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        const auto source =
+            fuzz::makeForeign<Kind>(contents, trouble.isInItems ? trouble.script : FakeScript());
+        if (!trouble.isInItems) source->setScript(trouble.script);
+        return perform<typename Kind::Formatter>(*target_,
+                                                 [&] { return ((*target_).*Kind::hold)(*source); });
+    }
+    std::string state() { return fuzz::described<i_ZelDataFormatterBase>(*target_); }
+
+private:
+    std::unique_ptr<typename Kind::Formatter> target_;
+};
+
+/// A document takes a set of theirs.
+template <class Kind>
+class DocumentTakes {
+public:
+    static constexpr bool isDirect = false;
+    static constexpr bool throwsBadAlloc = false;
+    static constexpr bool isTargetForeign = false;
+
+    explicit DocumentTakes(Input& /*input*/) : target_(ZELDataCreator::createInterchangeData())
+    {
+        Input nothing(nullptr, 0);
+        target_->setDataHeader(*fuzz::makeOwn<fuzz::HeaderKind>(nothing));
+    }
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        const auto source =
+            fuzz::makeForeign<Kind>(contents, trouble.isInItems ? trouble.script : FakeScript());
+        if (!trouble.isInItems) source->setScript(trouble.script);
+        return perform<i_ZelInterchangeDataCore>(*target_,
+                                                 [&] { return ((*target_).*Kind::set)(*source); });
+    }
+    std::string state() { return fuzz::described<i_ZelDataFormatterBase>(*target_); }
+
+private:
+    std::unique_ptr<i_ZelInterchangeDataCore> target_;
+};
+
+/// A document fills a set of theirs.
+template <class Kind>
+class DocumentGives {
+public:
+    static constexpr bool isDirect = false;
+    static constexpr bool throwsBadAlloc = false;
+    static constexpr bool isTargetForeign = true;
+
+    explicit DocumentGives(Input& input)
+        : target_(fuzz::makeForeign<Kind>(input, {})),
+          document_(ZELDataCreator::createInterchangeData())
+    {
+    }
+
+    Outcome run(Input contents, const Trouble& trouble)
+    {
+        ((*document_).*Kind::set)(*fuzz::makeOwn<Kind>(contents));
+        target_->setScript(trouble.script);
+        const Outcome outcome = perform<i_ZelInterchangeDataCore>(
+            *document_, [&] { return ((*document_).*Kind::get)(*target_); });
+        target_->setScript({});
+        return outcome;
+    }
+    std::string state() { return fuzz::described<typename Kind::Interface>(*target_); }
+
+private:
+    std::unique_ptr<typename Kind::Foreign> target_;
+    std::unique_ptr<i_ZelInterchangeDataCore> document_;
+};
+
+// What must come of it
+
+/// A code that makes the library stop, or an exception.
+bool isFatal(const FakeScript& script)
+{
+    const bool returnsCode = std::string("cdhlm").find(script.mode) != std::string::npos;
+    return !returnsCode || failed(script.code);
+}
+
+/// The code that an operation must end with when a call of a caller's object is fatal.
+Code fatalCode(const FakeScript& script)
+{
+    switch (script.mode) {
+    case 'b':
+    case 'B':
+    case 'l':
+        return ZelData_OutOfMemory;
+    case 'x':
+    case 'X':
+    case 'm':
+        return ZelData_InternalError;
+    default:
+        return script.last;
+    }
+}
+
+/// Whether @p outcome is what @p trouble must lead to.
+template <class Road>
+bool isRight(const Outcome& outcome, const Trouble& trouble)
+{
+    const Code expected = fatalCode(trouble.script);
+    const bool isMemory = expected == ZelData_OutOfMemory && trouble.script.mode != 'c' &&
+                          trouble.script.mode != 'd' && trouble.script.mode != 'h';
+    if (isMemory && Road::throwsBadAlloc) return outcome.wasThrown;
+    if (outcome.wasThrown) return false;
+    // A target with a last error of its own need not know of what its inherited bodies ended with.
+    if (Road::isTargetForeign && trouble.script.keepsOwn) return true;
+    // A last error that is no failure is taken as it is, and whoever stands above goes on.
+    const bool mayGoOn = (!Road::isDirect || trouble.isInItems) && !failed(expected);
+    if (mayGoOn || outcome.code == expected) return true;
+    // Of a header that takes a copy the setter's own code counts.
+    return Road::isTargetForeign && outcome.code == trouble.script.code;
+}
+
+template <class Road>
+void checkOutcome(const Outcome& outcome, const Trouble& trouble)
+{
+    require(outcome.wasThrown || outcome.lastError == outcome.code,
+            "the last error is not the code");
+    if (!outcome.wentWrong) {
+        require(!outcome.wasThrown, "an exception from nowhere");
+    } else if (isFatal(trouble.script)) {
+        require(isRight<Road>(outcome, trouble), "the failure of a caller's object is lost");
+    }
+}
+
+/// Adding twice leaves two items.
+template <class Road>
+inline constexpr bool isRepeatable = true;
+template <class Kind>
+inline constexpr bool isRepeatable<CollectionAdds<Kind>> = false;
+
+template <class Road>
+void tryRoad(Input& input)
+{
+    const Trouble trouble = readTrouble(input);
+    Input forTwin = input;
+    Road tested(input);
+    Road twin(forTwin);
+    const Outcome plain = twin.run(input, {});
+    const Outcome outcome = tested.run(input, trouble);
+    checkOutcome<Road>(outcome, trouble);
+    if (!isRepeatable<Road> && !failed(outcome.code)) return; // a second item would be added
+    const Outcome again = tested.run(input, {});
+    require(again.code == plain.code, "after the failure the operation gives another code");
+    if (failed(plain.code)) return; // what is left half-way depends on what was there before
+    requireEqual(twin.state(), tested.state(),
+                 "after the failure the operation gives another state");
+}
+
+template <class Kind>
+void tryItem(Input& input)
+{
+    switch (input.below(3)) {
+    case 0:
+        return tryRoad<OwnCopies<Kind>>(input);
+    case 1:
+        return tryRoad<ForeignCopies<Kind>>(input);
+    default:
+        return tryRoad<ForeignCopiesForeign<Kind>>(input);
+    }
+}
+
+template <class Kind>
+void trySet(Input& input)
+{
+    switch (input.below(7)) {
+    case 0:
+        return tryRoad<FormatterHolds<Kind>>(input);
+    case 1:
+        return tryRoad<DocumentTakes<Kind>>(input);
+    case 2:
+        return tryRoad<DocumentGives<Kind>>(input);
+    case 3:
+        if constexpr (fuzz::hasItems<Kind>) return tryRoad<CollectionAdds<Kind>>(input);
+        return;
+    default:
+        return tryItem<Kind>(input);
+    }
+}
+
+void tryAny(Input& input)
+{
+    switch (input.below(7)) {
+    case 0:
+        return trySet<fuzz::HeaderKind>(input);
+    case 1:
+        return trySet<fuzz::CaptionsKind>(input);
+    case 2:
+        return trySet<fuzz::TocKind>(input);
+    case 3:
+        return trySet<fuzz::ScreenTextKind>(input);
+    case 4:
+        return tryItem<fuzz::CaptionItemKind>(input);
+    case 5:
+        return tryItem<fuzz::TocItemKind>(input);
+    default:
+        return tryItem<fuzz::ScreenTextItemKind>(input);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const long long blocks = fuzz::liveBlocks();
+    {
+        Input input(data, size);
+        tryAny(input);
+    }
+    require(FakeControl::alive() == 0, "a caller's object is left behind");
+    require(fuzz::liveBlocks() == blocks, "memory is left behind");
+    return 0;
+}

@@ -1,0 +1,88 @@
+/// @file
+/// Factories, the creator, and the functions on texts and values.
+
+#include "core/Operations.h"
+
+#include <memory>
+
+namespace fuzz {
+
+using namespace ZelInterchangeData;
+
+namespace {
+
+using Utilities = ZelDataUtilities;
+
+/// Functions that return a text let the exception through.
+Traits throwing()
+{
+    Traits traits;
+    traits.throwsIt = true;
+    return traits;
+}
+
+/// A function that returns a text, as one that puts it into its first argument.
+template <class Value>
+Operation textFunction(std::string (*body)(Value))
+{
+    return function(std::function<Code(std::string&, Value)>([body](std::string& out, Value value) {
+                        out = body(value);
+                        return ZelData_Ok;
+                    }),
+                    throwing());
+}
+
+/// The line count gives no code; its result goes out.
+Code countLines(unsigned long& count, const std::string& text)
+{
+    count = Utilities::countLinesInUTF8(text);
+    return ZelData_Ok;
+}
+
+Code writeDate(std::string& out, long long seconds)
+{
+    long value = static_cast<long>(seconds);
+    out = Utilities::getDateString(&value);
+    return ZelData_Ok;
+}
+
+Code createDocument()
+{
+    const std::unique_ptr<i_ZelInterchangeDataCore> document(
+        ZELDataCreator::createInterchangeData());
+    return document ? ZelData_Ok : ZelData_InternalError;
+}
+
+void addFactories(std::vector<Operation>& operations)
+{
+    operations.insert(
+        operations.end(),
+        {function(&Utilities::createHeaderData), function(&Utilities::createCaptionItemData),
+         function(&Utilities::createCaptionData), function(&Utilities::createTocItemData),
+         function(&Utilities::createTocData), function(&Utilities::createScreenTextItemData),
+         function(&Utilities::createScreenTextData), function(&Utilities::createHeaderFormatter),
+         function(&Utilities::createCaptionFormatter), function(&Utilities::createTocFormatter),
+         function(&Utilities::createScreenTextFormatter), function(&createDocument, throwing())});
+}
+
+} // namespace
+
+void addFunctionOperations(std::vector<Operation>& operations)
+{
+    addFactories(operations);
+    operations.insert(
+        operations.end(),
+        {function(&Utilities::englishNameForLanguage), function(&Utilities::nativeNameForLanguage),
+         function(&Utilities::isValidLanguage), function(&Utilities::verifyUtf8Format),
+         function(&countLines), textFunction(&Utilities::stripUnsupportedCharacters),
+         textFunction(&Utilities::htmlTagsToText), textFunction(&Utilities::htmlTagsFromText),
+         textFunction(&Utilities::getVerticalAlignment),
+         textFunction(&Utilities::getHorizontalAlignment),
+         textFunction<float>(&Utilities::getValueString),
+         textFunction<unsigned long long>(&Utilities::getValueString),
+         textFunction<unsigned long>(&Utilities::getValueString),
+         textFunction(&Utilities::getRateString), textFunction(&Utilities::getVersionString),
+         textFunction<long>(&getValueString), function(&writeDate, throwing())});
+}
+
+} // namespace fuzz
