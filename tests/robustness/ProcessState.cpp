@@ -54,7 +54,7 @@ void addStatus(ProcessState& state)
 {
     std::ifstream status("/proc/self/status");
     const std::string names =
-        " Umask: Uid: Gid: Groups: Threads: SigQ: SigPnd: ShdPnd: SigBlk: SigIgn: SigCgt: CapEff:"
+        " Umask: Uid: Gid: Groups: Threads: SigPnd: ShdPnd: SigBlk: SigIgn: SigCgt: CapEff:"
         " NoNewPrivs: ";
     for (std::string line; std::getline(status, line);) {
         const auto name = line.substr(0, line.find('\t'));
