@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
 
 #include "ZelInterchangeData/ZelDataFindings.h"
+#include "support/FailingAllocation.h"
 #include "support/fakes/Failing.h"
-#include "xml/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 /// The check of UTF-8 sequences against a statement of the encoding in bits.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 
@@ -288,14 +288,14 @@ TEST(VerifyUtf8Format, AllocatesNothing)
 {
     const std::string text(1000, 'x');
     ZelDataResult_tags code = ZelData_InternalError;
-    long allocations = 0;
+    std::size_t allocations = 0;
     {
-        const AllocationWatch watch;
+        const FailingAllocation watch;
         code = check(text);
         allocations = watch.count();
     }
     EXPECT_EQ(code, ZelData_Ok);
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocations, 0U);
 }
 
 } // namespace
