@@ -1,8 +1,8 @@
 /// @file
 /// Text on its way into markup, against the two utilities that define it.
 
-#include "support/TextRules.h"
 #include "util/MarkupText.h"
+#include "support/TextRules.h"
 
 #include <gtest/gtest.h>
 
