@@ -4,10 +4,10 @@
 #include "hostile/StringParameter.h"
 
 #include "hostile/HostileTexts.h"
+#include "hostile/ParameterName.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cctype>
 #include <set>
 
@@ -28,15 +28,6 @@ const StringParameters& allStringParameters()
 
 namespace {
 
-/// The name as one that a test may have.
-std::string testName(const ::testing::TestParamInfo<StringParameter>& parameter)
-{
-    std::string name = parameter.param.name;
-    const auto isNoLetter = [](unsigned char c) { return std::isalnum(c) == 0; };
-    std::replace_if(name.begin(), name.end(), isNoLetter, '_');
-    return name;
-}
-
 class EachStringParameter : public ::testing::TestWithParam<StringParameter> {};
 
 TEST_P(EachStringParameter, TakesHostileTextsByItsRule)
@@ -49,17 +40,14 @@ TEST_P(EachStringParameter, TakesHostileTextsByItsRule)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EachStringParameter, ::testing::ValuesIn(allStringParameters()),
-                         testName);
+                         testName<StringParameter>);
 
 TEST(StringParameters, AreAllThatTheOperationsHave)
 {
     const std::multiset<std::string> expected = {
 #include "string_parameters.inc"
     };
-    std::multiset<std::string> listed;
-    for (const StringParameter& parameter : allStringParameters())
-        listed.insert(parameter.name);
-    EXPECT_EQ(expected, listed);
+    EXPECT_EQ(expected, namesOf(allStringParameters()));
 }
 
 /// What the expectations about language IDs are built on.

@@ -57,8 +57,9 @@ def interface_parameters(slot_folder, kind):
 
 
 def function_parameters(header, kind):
-    """The arguments of a header's static and exported functions."""
+    """The arguments of a header's public static and exported functions."""
     text = re.sub(r"//.*", "", header.read_text(encoding="ascii"))
+    text = re.sub(r"^private:.*?^};", "};", text, flags=re.MULTILINE | re.DOTALL)
     static = re.findall(r"\bstatic [^();]*?(\w+)(\([^)]*\))", text)
     free = re.findall(r"^ZELINTERCHANGEDATA_API [\w:]+ \*?(\w+)(\([^)]*\))", text, re.MULTILINE)
     for class_name, functions in ((header.stem, static), ("", free)):
