@@ -80,7 +80,10 @@ std::unique_ptr<i_ZelDataScreenText> screenTextWithItem()
 
 std::string packetOf(const i_ZelDataHeader& header)
 {
-    return packetWith([&](Core& document) { return document.setDataHeader(header); });
+    return packetWith([&](Core& document) {
+        EXPECT_EQ(ZelData_Ok, document.setDataToc(*tocWithEntry()));
+        return document.setDataHeader(header);
+    });
 }
 
 std::string packetOf(const i_ZelDataCaptionItem& item)

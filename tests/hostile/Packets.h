@@ -25,7 +25,8 @@ std::unique_ptr<i_ZelDataCaptions> captionsWithItem();
 std::unique_ptr<i_ZelDataToc> tocWithEntry();
 std::unique_ptr<i_ZelDataScreenText> screenTextWithItem();
 
-/// The packet of a document with the object, the date masked.
+/// The packet of a document with the object, the date masked. With a header comes a table of
+/// contents, so that a track shows its place.
 /// @{
 std::string packetOf(const i_ZelDataHeader& header);
 std::string packetOf(const i_ZelDataCaptionItem& item);
