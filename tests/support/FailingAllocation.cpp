@@ -56,6 +56,33 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept
     return allocate(size);
 }
 
+// The forms for arrays end in those for one object; a sanitizer's own would not.
+
+void* operator new[](std::size_t size)
+{
+    return ::operator new(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept
+{
+    return ::operator new(size, tag);
+}
+
+void operator delete[](void* block) noexcept
+{
+    release(block);
+}
+
+void operator delete[](void* block, std::size_t) noexcept
+{
+    release(block);
+}
+
+void operator delete[](void* block, const std::nothrow_t&) noexcept
+{
+    release(block);
+}
+
 void operator delete(void* block) noexcept
 {
     release(block);
