@@ -68,7 +68,9 @@ public:
         const std::uint8_t choice = input_.byte();
         if ((choice & 2U) == 0) return {};
         using ZelInterchangeData::Shortage;
-        return {choice / 4U, (choice & 1U) != 0 ? Shortage::Lasting : Shortage::Once};
+        // Most operations need only a few allocations.
+        const std::size_t granted = choice / 4U % ((choice & 128U) != 0 ? 32U : 4U);
+        return {granted, (choice & 1U) != 0 ? Shortage::Lasting : Shortage::Once};
     }
 
     /// Both worlds hold the same.
