@@ -403,6 +403,15 @@ TEST(ZelDataCaptionsMakeConsistent, LeavesAStylingInRangeAlone)
     EXPECT_EQ(given, styleOf(*captions));
 }
 
+TEST(ZelDataCaptionsMakeConsistent, FillsTheMissingTextsOfItemsOfAnotherClass)
+{
+    FailingCaptions captions;
+    add(captions, {{0, 1, {{"en", "e"}}}, {5, 1, {{"de", "d"}}}});
+    EXPECT_CODE(captions, ZelData_Ok, captions.makeCaptionsConsistent());
+    EXPECT_EQ((Texts{{"de", ""}, {"en", "e"}}), itemsOf(captions)[0].texts);
+    EXPECT_EQ((Texts{{"de", "d"}, {"en", ""}}), itemsOf(captions)[1].texts);
+}
+
 TEST(ZelDataCaptionsMakeConsistent, GivesTheLastErrorOfAnItemThatCannotBeFilled)
 {
     FailingCaptions captions;

@@ -126,6 +126,14 @@ TEST_F(CaptionsCopy, RebuildsTheLanguageListFromTheItems)
     EXPECT_EQ((IDs{"en", "fr", "de"}), languagesOf(*target_)) << "nobody has \"it\"";
 }
 
+TEST_F(CaptionsCopy, ListsNoLanguageThatOnlyARemovedItemHad)
+{
+    EXPECT_EQ(ZelData_Ok, source_->removeCaptionItemAt(0));
+    EXPECT_EQ(listed, languagesOf(*source_)) << "the source goes on listing all";
+    EXPECT_CODE(*target_, ZelData_Ok, target_->copyFrom(*source_));
+    EXPECT_EQ((IDs{"de", "en"}), languagesOf(*target_));
+}
+
 TEST_F(CaptionsCopy, AnOrderThatWasSetDoesNotSurvive)
 {
     EXPECT_EQ(ZelData_Ok, source_->setOrderedLanguageIDs({"de", "fr", "it", "en"}));

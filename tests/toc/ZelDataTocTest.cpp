@@ -339,6 +339,16 @@ TEST(StoredEntry, ThatCannotLoseItsTextEndsTheRemoval)
     EXPECT_CODE(toc, ZelData_NoData, toc.removeTocItemsForLanguage("en"));
 }
 
+TEST(StoredEntry, OfAnotherClassGetsTheTextsThatItLacks)
+{
+    TocOfFailing toc;
+    toc.added({0, {{"en", "a"}}});
+    toc.added({5, {{"de", "b"}}});
+    EXPECT_CODE(toc, ZelData_Ok, toc.makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{0, {{"de", ""}, {"en", "a"}}}, {5, {{"de", "b"}, {"en", ""}}}}),
+              entriesOf(toc));
+}
+
 TEST(StoredEntry, ThatCannotTakeAnEmptyTextEndsTheRepair)
 {
     TocOfFailing toc;
