@@ -7,7 +7,7 @@
 
 #include "core/Arguments.h"
 #include "core/World.h"
-#include "support/AllocationFailure.h"
+#include "support/FailingAllocation.h"
 #include "support/Input.h"
 #include "support/Require.h"
 
@@ -21,14 +21,22 @@
 namespace fuzz {
 
 using Code = ZelInterchangeData::ZelDataResult_tags;
+using ZelInterchangeData::FailingAllocation;
+
+/// Which allocations of an operation fail; none of them as it stands.
+struct FailurePlan {
+    /// How many succeed before.
+    std::size_t granted = FailingAllocation::unlimited;
+    ZelInterchangeData::Shortage shortage = ZelInterchangeData::Shortage::Lasting;
+};
 
 /// How an operation ended.
 struct Outcome {
     /// #ZelData_OutOfMemory for a std::bad_alloc, too.
     Code code = ZelInterchangeData::ZelData_Ok;
     bool wasThrown = false;
-    /// How many allocations failed.
-    std::size_t failures = 0;
+    /// Whether an allocation failed.
+    bool ranShort = false;
 };
 
 /// What may be seen after an operation whose memory ran out.
@@ -58,7 +66,9 @@ public:
     FailurePlan nextPlan()
     {
         const std::uint8_t choice = input_.byte();
-        return {choice / 4U, (choice & 1U) != 0, (choice & 2U) != 0};
+        if ((choice & 2U) == 0) return {};
+        using ZelInterchangeData::Shortage;
+        return {choice / 4U, (choice & 1U) != 0 ? Shortage::Lasting : Shortage::Once};
     }
 
     /// Both worlds hold the same.
@@ -81,7 +91,7 @@ template <class Call>
 Outcome perform(const FailurePlan& plan, Call&& call)
 {
     Outcome outcome;
-    const AllocationFailure failure(plan);
+    const FailingAllocation failure(plan.granted, plan.shortage);
     try {
         outcome.code = call();
     } catch (const std::bad_alloc&) {
@@ -91,7 +101,7 @@ Outcome perform(const FailurePlan& plan, Call&& call)
         outcome.code = ZelInterchangeData::ZelData_OutOfMemory;
         outcome.wasThrown = true;
     }
-    outcome.failures = failure.count();
+    outcome.ranShort = failure.failed();
     return outcome;
 }
 
@@ -157,7 +167,7 @@ public:
         const Code before = tested.getLastError();
         const Outcome outcome = run(session.tested(), plan, arguments);
         const Code after = tested.getLastError();
-        if (outcome.failures == 0) {
+        if (!outcome.ranShort) {
             result = shown(outcome, after, arguments);
             return false;
         }
@@ -228,10 +238,10 @@ Operation function(std::function<Code(Args...)> body, Traits traits = {})
         };
         auto first = arguments;
         const Outcome outcome = run(plan, first);
-        if (outcome.failures != 0) requireExhausted(outcome, traits, first);
+        if (outcome.ranShort) requireExhausted(outcome, traits, first);
         auto second = arguments;
         const Outcome again = run({}, second);
-        if (outcome.failures == 0)
+        if (!outcome.ranShort)
             requireEqual(shown(again, ZelInterchangeData::ZelData_Ok, second),
                          shown(outcome, ZelInterchangeData::ZelData_Ok, first),
                          "a function gives two results");

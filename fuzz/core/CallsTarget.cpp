@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const std::vector<fuzz::Operation> operations = fuzz::allOperations();
     fuzz::require(operations.size() <= 256, "a byte does not reach every operation");
     static const fuzz::OutputPath folder(0); // stays, so it is made before blocks are counted
-    const long long blocks = fuzz::liveBlocks();
+    const long long blocks = ZelInterchangeData::liveAllocations();
     {
         fuzz::Input input(data, size);
         fuzz::Session session(input);
@@ -59,6 +59,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             operations[input.byte() % operations.size()](session);
         session.requireTwins();
     }
-    fuzz::require(fuzz::liveBlocks() == blocks, "memory is left behind");
+    fuzz::require(ZelInterchangeData::liveAllocations() == blocks, "memory is left behind");
     return 0;
 }

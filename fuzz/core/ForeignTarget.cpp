@@ -7,7 +7,7 @@
 
 #include "core/Describe.h"
 #include "core/ForeignContents.h"
-#include "support/AllocationFailure.h"
+#include "support/FailingAllocation.h"
 #include "support/Input.h"
 #include "support/Require.h"
 #include "support/Target.h"
@@ -407,12 +407,12 @@ void tryAny(Input& input)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const long long blocks = fuzz::liveBlocks();
+    const long long blocks = ZelInterchangeData::liveAllocations();
     {
         Input input(data, size);
         tryAny(input);
     }
     require(FakeControl::alive() == 0, "a caller's object is left behind");
-    require(fuzz::liveBlocks() == blocks, "memory is left behind");
+    require(ZelInterchangeData::liveAllocations() == blocks, "memory is left behind");
     return 0;
 }

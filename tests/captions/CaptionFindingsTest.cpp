@@ -19,26 +19,6 @@ constexpr auto subject = ZelDataFindingSubject_Caption;
 const std::string fourLines = "1\n2\n3\n4";
 const std::string fiveLines = "1\n2\n3\n4\n5";
 
-ZelDataFinding limited(ZelDataFinding finding, long long value, long long limit)
-{
-    finding.value = value;
-    finding.limit = limit;
-    return finding;
-}
-
-ZelDataFinding inLanguage(ZelDataFinding finding, const std::string& language)
-{
-    finding.language = language;
-    return finding;
-}
-
-ZelDataFinding withLater(ZelDataFinding finding, unsigned long item, long long start)
-{
-    finding.laterItem = item;
-    finding.laterStart = start;
-    return limited(finding, finding.value, start);
-}
-
 TEST(CaptionFindings, ANewCollectionHasNone)
 {
     EXPECT_EQ(Lines{}, linesOf(*make(ZelDataUtilities::createCaptionData)));
@@ -113,9 +93,7 @@ TEST(CaptionFindings, AnOverlapNamesTheFirstLaterCaptionAndNotTheEarliest)
 
 TEST(CaptionFindings, ALaterCaptionThatStartsBeforeIsOutOfOrder)
 {
-    const auto outOfOrder =
-        limited(findingAt(ZelDataFinding_OutOfOrder, subject, 0, 5000), 5000, 0);
-    EXPECT_EQ(Findings{withLater(outOfOrder, 1, 4999)},
+    EXPECT_EQ(Findings{outOfOrder(subject, 0, 5000, 1, 4999)},
               findingsOf(*captionsOf({{5000, 1000, {}}, {4999, 1000, {}}})));
 }
 

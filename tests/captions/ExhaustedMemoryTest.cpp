@@ -3,7 +3,7 @@
 
 #include "captions/Captions.h"
 #include "captions/ZelDataCaptions.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 namespace ZelInterchangeData {
 namespace {

@@ -4,7 +4,7 @@
 #include "core/SampleSets.h"
 #include "core/WatchedDocument.h"
 #include "support/Checks.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 #include <new>
 #include <stdexcept>

@@ -7,7 +7,7 @@
 #include "core/ZelDataCore.h"
 #include "core/ZelDataCoreXmp.h"
 #include "support/Checks.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 namespace ZelInterchangeData {
 namespace {

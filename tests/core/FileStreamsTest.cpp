@@ -2,7 +2,7 @@
 
 #include "core/HostileLocale.h"
 #include "core/TempFile.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 #include <limits>
 #include <locale>

@@ -1,8 +1,8 @@
 #include "util/Guard.h"
 
 #include "support/Checks.h"
+#include "support/FailingAllocation.h"
 #include "util/GuardedCopy.h"
-#include "xml/FailingAllocation.h"
 
 #include <stdexcept>
 #include <string>

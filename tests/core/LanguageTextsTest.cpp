@@ -1,6 +1,6 @@
 #include "core/LanguageTexts.h"
 
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 

@@ -12,10 +12,10 @@
 #include "screentext/ZelDataScreenTextItem.h"
 #include "screentext/ZelDataXmpScreenTextFormatter.h"
 #include "support/Checks.h"
+#include "support/FailingAllocation.h"
 #include "toc/ZelDataToc.h"
 #include "toc/ZelDataTocItem.h"
 #include "toc/ZelDataXmpTocFormatter.h"
-#include "xml/FailingAllocation.h"
 
 #include <typeinfo>
 

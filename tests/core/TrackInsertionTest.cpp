@@ -1,7 +1,7 @@
 #include "core/TrackInsertion.h"
 
 #include "support/Checks.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 namespace ZelInterchangeData {
 namespace {

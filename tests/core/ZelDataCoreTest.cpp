@@ -4,7 +4,7 @@
 #include "core/TempFile.h"
 #include "core/WatchedDocument.h"
 #include "support/Checks.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 #include <typeinfo>
 

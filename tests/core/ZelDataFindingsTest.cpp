@@ -18,23 +18,7 @@ constexpr auto screenText = ZelDataFindingSubject_ScreenText;
 ZelDataFinding limited(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject,
                        unsigned long item, long long value, long long limit)
 {
-    ZelDataFinding finding = findingAt(kind, subject, item, 2000);
-    finding.value = value;
-    finding.limit = limit;
-    return finding;
-}
-
-ZelDataFinding inLanguage(ZelDataFinding finding, const std::string& language)
-{
-    finding.language = language;
-    return finding;
-}
-
-ZelDataFinding withLater(ZelDataFinding finding, unsigned long item, long long start)
-{
-    finding.laterItem = item;
-    finding.laterStart = start;
-    return finding;
+    return limited(findingAt(kind, subject, item, 2000), value, limit);
 }
 
 ZelDataFinding color(const std::string& property, float component, long long limit)

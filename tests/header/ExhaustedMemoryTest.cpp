@@ -2,8 +2,8 @@
 /// A header and its formatter when memory runs out: each allocation of each operation in turn.
 
 #include "header/Headers.h"
-#include "header/OneFailingAllocation.h"
 #include "support/Checks.h"
+#include "support/FailingAllocation.h"
 
 #include <functional>
 #include <initializer_list>
@@ -32,15 +32,16 @@ HeaderValues longValues()
 /// Lets each allocation of @p operation fail in turn, each time on a new object from @p create, and
 /// hands the object to @p check afterwards. The number of allocations.
 template <class Create, class Operation, class Check>
-long failAtEachAllocation(const Create& create, const Operation& operation, const Check& check)
+std::size_t failAtEachAllocation(const Create& create, const Operation& operation,
+                                 const Check& check)
 {
-    for (long index = 0;; ++index) {
+    for (std::size_t index = 0;; ++index) {
         SCOPED_TRACE("failing allocation: " + std::to_string(index));
         const auto object = create();
         ZelDataResult_tags code = ZelData_NoData;
         bool failed = false;
         {
-            const OneFailingAllocation failing(index);
+            const FailingAllocation failing(index, Shortage::Once);
             code = operation(*object);
             failed = failing.failed();
         }
@@ -78,7 +79,7 @@ TEST(HeaderWithoutMemory, RefusesWhatItCannotStoreAndStaysAsItWas)
             failAtEachAllocation(sampleHeader, operation, [](const i_ZelDataHeader& header) {
                 EXPECT_EQ(described(sampleValues()), described(header));
             });
-        EXPECT_GT(failures, 0);
+        EXPECT_GT(failures, 0U);
     }
 }
 
@@ -91,7 +92,7 @@ TEST(HeaderWithoutMemory, ReordersItsLanguagesAsAWholeOrNotAtAll)
         [](const i_ZelDataHeader& header) {
             EXPECT_EQ(Texts({"en", "de"}), valuesOf(header).languages);
         });
-    EXPECT_GT(failures, 0);
+    EXPECT_GT(failures, 0U);
 }
 
 std::unique_ptr<i_ZelDataHeader> longHeader()
@@ -111,7 +112,7 @@ TEST(HeaderWithoutMemory, GettersLeaveTheirArgumentAlone)
         const auto failures = failAtEachAllocation(
             longHeader, [&](const Header& header) { return (header.*get)(text); },
             [&](const Header& /*header*/) { EXPECT_EQ("as before", text); });
-        EXPECT_GT(failures, 0);
+        EXPECT_GT(failures, 0U);
         EXPECT_EQ(longText, text);
     }
     using ListGetter = ZelDataResult_tags (Header::*)(Texts&) const;
@@ -122,7 +123,7 @@ TEST(HeaderWithoutMemory, GettersLeaveTheirArgumentAlone)
         const auto failures = failAtEachAllocation(
             longHeader, [&](const Header& header) { return (header.*get)(list); },
             [&](const Header& /*header*/) { EXPECT_EQ(Texts({"as before"}), list); });
-        EXPECT_GT(failures, 0);
+        EXPECT_GT(failures, 0U);
         EXPECT_EQ(2U, list.size());
     }
 }
@@ -136,7 +137,7 @@ TEST(HeaderWithoutMemory, DisplayNamesEndWithOutOfMemory)
             EXPECT_LT(names.size(), 2U);
             names = Texts(); // gives its memory back, so that the next call needs as much
         });
-    EXPECT_GT(failures, 0);
+    EXPECT_GT(failures, 0U);
     EXPECT_EQ(Texts({"English", "Old Church Slavonic"}), names);
 }
 
@@ -150,7 +151,7 @@ TEST(HeaderWithoutMemory, ACopyEndsAndCanBeMadeAgain)
             EXPECT_CODE(header, ZelData_Ok, header.copyFrom(*source));
             EXPECT_EQ(described(longValues()), described(header));
         });
-    EXPECT_GT(failures, 0);
+    EXPECT_GT(failures, 0U);
 }
 
 std::unique_ptr<i_ZelDataHeaderFormatter> newFormatter()
@@ -167,7 +168,7 @@ TEST(HeaderFormatterWithoutMemory, TakesAHeaderAtTheNextAttempt)
         [&](i_ZelDataHeaderFormatter& formatter) {
             EXPECT_CODE(formatter, ZelData_Ok, formatter.setHeader(*source));
         });
-    EXPECT_GT(failures, 0);
+    EXPECT_GT(failures, 0U);
 }
 
 /// The lookup of a language's name included: a language is not dropped for want of memory.
@@ -185,7 +186,7 @@ TEST(HeaderFormatterWithoutMemory, WritesEverythingOrNothing)
             return formatter.writeString(text, ZelDataFormat_Xmp, false);
         },
         [&](const i_ZelDataHeaderFormatter& /*formatter*/) { EXPECT_EQ("as before", text); });
-    EXPECT_GT(failures, 20);
+    EXPECT_GT(failures, 20U);
     EXPECT_NE(std::string::npos, text.find(">Old Church Slavonic</rdf:li>"));
     EXPECT_NE(std::string::npos, text.find("</x:xmpmeta>"));
 }

@@ -15,17 +15,6 @@ using Lines = std::vector<std::string>;
 
 constexpr auto subject = ZelDataFindingSubject_ScreenText;
 
-ZelDataFinding outOfOrder(unsigned long item, long long start, unsigned long later,
-                          long long laterStart)
-{
-    ZelDataFinding finding = findingAt(ZelDataFinding_OutOfOrder, subject, item, start);
-    finding.value = start;
-    finding.limit = laterStart;
-    finding.laterItem = later;
-    finding.laterStart = laterStart;
-    return finding;
-}
-
 TEST(ScreenTextFindings, ANewCollectionHasNone)
 {
     EXPECT_EQ(Lines{}, linesOf(*make(ZelDataUtilities::createScreenTextData)));
@@ -44,7 +33,8 @@ TEST(ScreenTextFindings, AnEndThatWrapsIsFine)
 
 TEST(ScreenTextFindings, AnItemOutOfOrderNamesTheFirstOneThatStartsBeforeIt)
 {
-    EXPECT_EQ((Findings{outOfOrder(0, 5, 2, 4), outOfOrder(1, 6, 2, 4), outOfOrder(2, 4, 3, 1)}),
+    EXPECT_EQ((Findings{outOfOrder(subject, 0, 5, 2, 4), outOfOrder(subject, 1, 6, 2, 4),
+                        outOfOrder(subject, 2, 4, 3, 1)}),
               findingsOf(*screenTextOf({{5}, {6}, {4}, {1}})));
     EXPECT_EQ(Lines{"screen text 0 at 5: out of order: screen text 1 starts before it, at 4"},
               linesOf(*screenTextOf({{5}, {4}})));
@@ -142,7 +132,8 @@ Findings expectedOf(const std::vector<Shown>& items)
         std::size_t j = i + 1;
         while (j < items.size() && items[j].start >= items[i].start)
             ++j;
-        if (j < items.size()) expected.push_back(outOfOrder(i, items[i].start, j, items[j].start));
+        if (j < items.size())
+            expected.push_back(outOfOrder(subject, i, items[i].start, j, items[j].start));
     }
     return expected;
 }

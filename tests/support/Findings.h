@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
 
 #include "ZelInterchangeData/ZelDataFindings.h"
+#include "support/FailingAllocation.h"
 #include "support/fakes/Failing.h"
-#include "xml/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +50,35 @@ inline ZelDataFinding findingAt(ZelDataFinding_tags kind, ZelDataFindingSubject_
     finding.item = item;
     finding.start = start;
     return finding;
+}
+
+inline ZelDataFinding limited(ZelDataFinding finding, long long value, long long limit)
+{
+    finding.value = value;
+    finding.limit = limit;
+    return finding;
+}
+
+inline ZelDataFinding inLanguage(ZelDataFinding finding, const std::string& language)
+{
+    finding.language = language;
+    return finding;
+}
+
+/// @p finding with the later item that its value is measured by.
+inline ZelDataFinding withLater(ZelDataFinding finding, unsigned long item, long long start)
+{
+    finding.laterItem = item;
+    finding.laterStart = start;
+    return limited(finding, finding.value, start);
+}
+
+/// An item that is stored before one that starts earlier.
+inline ZelDataFinding outOfOrder(ZelDataFindingSubject_tags subject, unsigned long item,
+                                 long long start, unsigned long later, long long laterStart)
+{
+    const auto finding = findingAt(ZelDataFinding_OutOfOrder, subject, item, start);
+    return withLater(limited(finding, start, laterStart), later, laterStart);
 }
 
 /// All that is wrong with @p collection.

@@ -5,7 +5,7 @@
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_MEMORYSWEEP_H
 
 #include "ZelInterchangeData/i_ZelDataResult.h"
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 

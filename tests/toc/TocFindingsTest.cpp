@@ -15,18 +15,6 @@ using Lines = std::vector<std::string>;
 
 constexpr auto subject = ZelDataFindingSubject_TocEntry;
 
-/// An entry that is stored after one that starts at @p start.
-ZelDataFinding outOfOrder(unsigned long item, long long start, unsigned long later,
-                          long long laterStart)
-{
-    ZelDataFinding finding = findingAt(ZelDataFinding_OutOfOrder, subject, item, start);
-    finding.value = start;
-    finding.limit = laterStart;
-    finding.laterItem = later;
-    finding.laterStart = laterStart;
-    return finding;
-}
-
 ZelDataFinding missing(unsigned long item, long long start, const std::string& language)
 {
     ZelDataFinding finding = findingAt(ZelDataFinding_MissingText, subject, item, start);
@@ -46,7 +34,8 @@ TEST(TocFindings, EqualStartsAreInOrder)
 
 TEST(TocFindings, AnEntryOutOfOrderNamesTheFirstOneThatStartsBeforeIt)
 {
-    EXPECT_EQ((Findings{outOfOrder(0, 5, 2, 4), outOfOrder(1, 6, 2, 4), outOfOrder(2, 4, 3, 1)}),
+    EXPECT_EQ((Findings{outOfOrder(subject, 0, 5, 2, 4), outOfOrder(subject, 1, 6, 2, 4),
+                        outOfOrder(subject, 2, 4, 3, 1)}),
               findingsOf(*tocOf({{5}, {6}, {4}, {1}})));
 }
 
@@ -175,7 +164,7 @@ Findings expectedOf(const std::vector<Entry>& entries, const std::vector<std::st
         while (j < entries.size() && entries[j].start >= entries[i].start)
             ++j;
         if (j < entries.size())
-            expected.push_back(outOfOrder(i, entries[i].start, j, entries[j].start));
+            expected.push_back(outOfOrder(subject, i, entries[i].start, j, entries[j].start));
     }
     return expected;
 }

@@ -2,44 +2,18 @@
 /// Dates in UTC with the hours of the local zone behind them.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
+#include "support/TimeZone.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstdlib>
 #include <ctime>
 #include <new>
-#include <optional>
 #include <string>
 
 namespace ZelInterchangeData {
 namespace {
-
-/// Sets the time zone of the process while it lives.
-class TimeZone {
-public:
-    explicit TimeZone(const char* zone)
-    {
-        if (const char* const before = std::getenv("TZ")) before_ = before;
-        setenv("TZ", zone, 1);
-        tzset();
-    }
-    ~TimeZone()
-    {
-        if (before_) {
-            setenv("TZ", before_->c_str(), 1);
-        } else {
-            unsetenv("TZ");
-        }
-        tzset();
-    }
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
-
-private:
-    std::optional<std::string> before_;
-};
 
 // The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus.
 const char* const utc = "UTC0";
@@ -152,7 +126,7 @@ TEST(GetDateString, LetsExhaustedMemoryThrough)
     long seconds = march5;
     bool thrown = false;
     {
-        const AllocationWatch watch(0);
+        const FailingAllocation watch(0);
         try {
             ZelDataUtilities::getDateString(&seconds);
         } catch (const std::bad_alloc&) {

@@ -4,7 +4,7 @@
 #include "util/LanguageCatalogue.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
 #include "util/LanguageTable.h"
 
 #include <gtest/gtest.h>
@@ -192,14 +192,14 @@ TEST(FindLanguage, RefusesMalformedAndUnknownIds)
 TEST(FindLanguage, AllocatesNothing)
 {
     bool found = false;
-    long allocations = 0;
+    std::size_t allocations = 0;
     {
-        const AllocationWatch watch;
+        const FailingAllocation watch;
         found = findLanguage("zu-ZA-and-a-long-rest-behind-it") != nullptr;
         allocations = watch.count();
     }
     EXPECT_TRUE(found);
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocations, 0U);
 }
 
 // The key
@@ -323,7 +323,7 @@ TEST(EnglishNameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
     std::string name = "before";
     ZelDataResult_tags code = ZelData_Ok;
     {
-        const AllocationWatch watch(0);
+        const FailingAllocation watch(0);
         code = ZelDataUtilities::englishNameForLanguage(id, name);
     }
     EXPECT_EQ(code, ZelData_OutOfMemory);
@@ -375,7 +375,7 @@ TEST(NativeNameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
     std::string name = "before";
     ZelDataResult_tags code = ZelData_Ok;
     {
-        const AllocationWatch watch(0);
+        const FailingAllocation watch(0);
         code = ZelDataUtilities::nativeNameForLanguage(id, name);
     }
     EXPECT_EQ(code, ZelData_OutOfMemory);

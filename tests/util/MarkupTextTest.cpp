@@ -2,6 +2,7 @@
 /// Text on its way into markup, against the two utilities that define it.
 
 #include "util/MarkupText.h"
+#include "support/TextRules.h"
 
 #include <gtest/gtest.h>
 
@@ -10,42 +11,14 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// What each byte becomes, one at a time.
-std::string byteByByte(const std::string& text, bool strip)
-{
-    std::string result;
-    for (const char c : text) {
-        switch (c) {
-        case '"':
-            result += "&quot;";
-            break;
-        case '&':
-            result += "&amp;";
-            break;
-        case '\'':
-            result += "&apos;";
-            break;
-        case '<':
-            result += "&lt;";
-            break;
-        case '>':
-            result += "&gt;";
-            break;
-        default:
-            if (!strip || static_cast<unsigned char>(c) > 31 || c == '\n') result += c;
-        }
-    }
-    return result;
-}
-
 void expectBoth(const std::string& text)
 {
     std::string escaped = "before";
     appendEscaped(escaped, text);
-    ASSERT_EQ("before" + byteByByte(text, false), escaped);
+    ASSERT_EQ("before" + markupOf(text, false), escaped);
     std::string stripped = "before";
     appendEscapedStripped(stripped, text);
-    ASSERT_EQ("before" + byteByByte(text, true), stripped);
+    ASSERT_EQ("before" + markupOf(text, true), stripped);
 }
 
 TEST(MarkupText, EveryByteAtEveryPlaceOfABlockBecomesWhatItShould)

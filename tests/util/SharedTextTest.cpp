@@ -1,9 +1,10 @@
 #include "util/SharedText.h"
 
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -12,15 +13,15 @@ namespace {
 
 TEST(SharedText, AnEmptyOneTakesNoMemory)
 {
-    long asked = 0;
+    std::size_t asked = 0;
     {
-        const AllocationWatch watch;
+        const FailingAllocation watch;
         const SharedText none;
         const SharedText empty((std::string_view()));
         const SharedText copy(empty);
         asked = watch.count();
     }
-    EXPECT_EQ(0, asked);
+    EXPECT_EQ(0U, asked);
     EXPECT_EQ("", SharedText().view());
 }
 

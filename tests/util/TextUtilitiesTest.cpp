@@ -2,7 +2,7 @@
 /// Line counts, stripping, escaping and alignment words.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 
@@ -126,7 +126,7 @@ TEST(StripUnsupportedCharacters, LetsExhaustedMemoryThrough)
     const std::string text(1000, 'x');
     bool thrown = false;
     {
-        const AllocationWatch watch(0);
+        const FailingAllocation watch(0);
         try {
             strip(text);
         } catch (const std::bad_alloc&) {
@@ -173,7 +173,7 @@ TEST(HtmlTagsToText, LetsExhaustedMemoryThrough)
     const std::string text(1000, '&');
     bool thrown = false;
     {
-        const AllocationWatch watch(1); // the reservation succeeds, the growth fails
+        const FailingAllocation watch(1); // the reservation succeeds, the growth fails
         try {
             escape(text);
         } catch (const std::bad_alloc&) {
@@ -317,7 +317,7 @@ TEST(HtmlTagsFromText, LetsExhaustedMemoryThrough)
     const std::string text(1000, 'x');
     bool thrown = false;
     {
-        const AllocationWatch watch(0);
+        const FailingAllocation watch(0);
         try {
             unescape(text);
         } catch (const std::bad_alloc&) {

@@ -2,7 +2,8 @@
 /// The check of UTF-8 sequences against a statement of the encoding in bits.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "util/AllocationWatch.h"
+#include "support/FailingAllocation.h"
+#include "support/TextRules.h"
 
 #include <gtest/gtest.h>
 
@@ -10,43 +11,10 @@
 #include <cstddef>
 #include <random>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace ZelInterchangeData {
 namespace {
-
-int leadingOnes(unsigned byte)
-{
-    int ones = 0;
-    for (unsigned bit = 0x80; (byte & bit) != 0; bit >>= 1U)
-        ++ones;
-    return ones;
-}
-
-/// The length that a lead byte announces: as many bytes as it has ones at its head. A single one
-/// marks a continuation byte, seven and eight announce nothing, and C0 and C1 could only encode one
-/// byte.
-int announcedLength(unsigned lead)
-{
-    const int ones = leadingOnes(lead);
-    const bool announcesNothing = ones == 1 || ones > 6 || (lead >> 1U) == 0x60U;
-    return announcesNothing ? 0 : (ones == 0 ? 1 : ones);
-}
-
-ZelDataResult_tags expectedCode(std::string_view text, bool bmpOnly)
-{
-    int missing = 0;
-    for (const char c : text) {
-        const unsigned byte = static_cast<unsigned char>(c);
-        const bool continues = leadingOnes(byte) == 1;
-        if (continues != (missing > 0)) return ZelData_InvalidUtf8;
-        if (!continues && bmpOnly && leadingOnes(byte) >= 4) return ZelData_UnsupportedCharacter;
-        if (!continues && announcedLength(byte) == 0) return ZelData_InvalidUtf8;
-        missing = continues ? missing - 1 : announcedLength(byte) - 1;
-    }
-    return missing > 0 ? ZelData_InvalidUtf8 : ZelData_Ok;
-}
 
 ZelDataResult_tags check(const std::string& text)
 {
@@ -70,7 +38,7 @@ std::string hexOf(const std::string& text)
 
 bool agrees(const std::string& text, bool bmpOnly)
 {
-    return ZelDataUtilities::verifyUtf8Format(text, bmpOnly) == expectedCode(text, bmpOnly);
+    return ZelDataUtilities::verifyUtf8Format(text, bmpOnly) == utf8Code(text, bmpOnly);
 }
 
 /// Goes over all texts that replace the last @p free bytes of @p text.
@@ -288,14 +256,14 @@ TEST(VerifyUtf8Format, AllocatesNothing)
 {
     const std::string text(1000, 'x');
     ZelDataResult_tags code = ZelData_InternalError;
-    long allocations = 0;
+    std::size_t allocations = 0;
     {
-        const AllocationWatch watch;
+        const FailingAllocation watch;
         code = check(text);
         allocations = watch.count();
     }
     EXPECT_EQ(code, ZelData_Ok);
-    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(allocations, 0U);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 /// @file
 /// Each verb when memory runs out: the tree stays whole and nothing leaks.
 
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 #include "xml/Track.h"
 #include "xml/TreeVerbs.h"
 #include "xml/ZelDataXmlStream.h"

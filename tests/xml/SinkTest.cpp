@@ -3,7 +3,7 @@
 
 #include "xml/Sink.h"
 
-#include "xml/FailingAllocation.h"
+#include "support/FailingAllocation.h"
 #include "xml/TreeVerbs.h"
 #include "xml/ZelDataXmlStream.h"
 

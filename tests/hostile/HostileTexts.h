@@ -1,0 +1,27 @@
+/// @file
+/// Texts that nobody wishes for.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_HOSTILETEXTS_H
+#define ZELINTERCHANGEDATA_TESTS_HOSTILE_HOSTILETEXTS_H
+
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+struct HostileText {
+    /// For the reader of a failure.
+    std::string name;
+    std::string bytes;
+};
+
+/// The empty list that the tracks of a packet go into.
+extern const std::string emptyTracks;
+
+/// Markup, control characters, odd and malformed UTF-8, zero bytes, and texts of 1 MiB. None begins
+/// with a language ID.
+const std::vector<HostileText>& hostileTexts();
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,18 @@
+/// @file
+/// Documents that keep to what makes a packet well-formed, and go to its borders.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETGENERATOR_H
+#define ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETGENERATOR_H
+
+#include "hostile/PacketModel.h"
+
+#include <cstdint>
+
+namespace ZelInterchangeData {
+
+/// The document of @p seed, the same one on every machine. Every seed but 0 has one.
+PacketModel generatedModel(std::uint64_t seed);
+
+} // namespace ZelInterchangeData
+
+#endif

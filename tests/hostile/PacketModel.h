@@ -1,0 +1,82 @@
+/// @file
+/// A document in plain values, what the library makes of it and what a reader must find.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETMODEL_H
+#define ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETMODEL_H
+
+#include "ZelInterchangeData/ZelInterchangeData.h"
+#include "hostile/PacketReading.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+using TextsByLanguage = std::map<std::string, std::string>;
+
+struct CaptionModel {
+    long long start = 0;
+    long long duration = 1;
+    bool isAtTop = false;
+    TextsByLanguage texts;
+};
+
+struct ImageModel {
+    std::string file;
+    unsigned long index = 0;
+    unsigned long long offset = 0;
+};
+
+struct EntryModel {
+    long long start = 0;
+    ImageModel image;
+    TextsByLanguage texts;
+};
+
+struct ScreenTextModel {
+    long long start = 0;
+    long long duration = 0;
+    ImageModel image;
+    unsigned long group = 0;
+    std::string text;
+};
+
+struct PacketModel {
+    std::string title;
+    std::string creator;
+    std::string description;
+    std::string appName;
+    std::string appVersion;
+    std::vector<std::string> keywords;
+    std::vector<std::string> contentNames;
+    bool isExplicit = false;
+    bool showsSearch = true;
+    unsigned long length = 1;
+    unsigned long width = 2;
+    unsigned long height = 3;
+
+    std::string fontFamily = "Helvetica";
+    unsigned long fontSize = 20;
+    unsigned long captionRate = 1000;
+    std::vector<CaptionModel> captions;
+
+    std::string tableImage;
+    std::vector<EntryModel> entries;
+
+    unsigned long screenTextRate = 1000;
+    std::vector<ScreenTextModel> screenTexts;
+};
+
+/// The packet that the library writes for @p model. Each step must succeed.
+std::string packetOf(const PacketModel& model);
+
+/// What a reader must find in the packet, items in the order of their addition.
+PacketReading expectedOf(const PacketModel& model);
+
+/// The English name of the languages that documents here are in, by the code of the language.
+const std::map<std::string, std::string>& languageNames();
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,175 @@
+/// @file
+/// Each condition of the promise of well-formedness, broken in each field that it is about.
+
+#include "hostile/PacketModel.h"
+#include "support/TextRules.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace ZelInterchangeData {
+namespace {
+
+/// A field and what happens to it on its way into the packet.
+struct Field {
+    const char* name;
+    std::function<void(PacketModel&, const std::string&)> put;
+    bool isEscaped;
+    bool isStripped;
+    /// Whether its setter refuses what has not the form of UTF-8.
+    bool isChecked;
+};
+
+const std::vector<Field>& headerFields()
+{
+    using Model = PacketModel;
+    using Text = std::string;
+    static const std::vector<Field> fields = {
+        {"title", [](Model& m, const Text& t) { m.title = t; }, true, false, false},
+        {"description", [](Model& m, const Text& t) { m.description = t; }, true, false, false},
+        {"application", [](Model& m, const Text& t) { m.appName = t; }, true, false, false},
+        {"version", [](Model& m, const Text& t) { m.appVersion = t; }, true, false, false},
+        {"keyword", [](Model& m, const Text& t) { m.keywords = {t}; }, true, false, false},
+        {"creator", [](Model& m, const Text& t) { m.creator = t; }, false, false, false},
+        {"content name", [](Model& m, const Text& t) { m.contentNames = {t}; }, true, false, true}};
+    return fields;
+}
+
+const std::vector<Field>& trackFields()
+{
+    using Model = PacketModel;
+    using Text = std::string;
+    static const std::vector<Field> fields = {
+        {"language ID",
+         [](Model& m, const Text& t) {
+             m.captions = {{0, 1, false, {{"en-" + t, "text"}}}};
+         },
+         false, false, true},
+        {"font family", [](Model& m, const Text& t) { m.fontFamily = t; }, false, false, false},
+        {"caption", [](Model& m, const Text& t) { m.captions.front().texts["en"] = t; }, true, true,
+         true},
+        {"title of an entry", [](Model& m, const Text& t) { m.entries.front().texts["en"] = t; },
+         true, true, true},
+        {"image of the table", [](Model& m, const Text& t) { m.tableImage = t; }, true, false,
+         false},
+        {"image of an entry", [](Model& m, const Text& t) { m.entries.front().image.file = t; },
+         true, false, false},
+        {"screen text", [](Model& m, const Text& t) { m.screenTexts.front().text = t; }, true, true,
+         true},
+        {"image of a screen text",
+         [](Model& m, const Text& t) { m.screenTexts.front().image.file = t; }, false, false,
+         false}};
+    return fields;
+}
+
+std::vector<Field> allFields()
+{
+    std::vector<Field> fields = headerFields();
+    fields.insert(fields.end(), trackFields().begin(), trackFields().end());
+    return fields;
+}
+
+/// A packet with one item in each track and @p text between letters in @p field.
+std::string packetWith(const Field& field, const std::string& text)
+{
+    PacketModel model;
+    model.captions.emplace_back();
+    model.entries.emplace_back();
+    model.screenTexts.emplace_back();
+    field.put(model, "x" + text + "y");
+    return packetOf(model);
+}
+
+void expectWellFormed(bool expected, const Field& field, const std::string& text)
+{
+    SCOPED_TRACE(field.name + std::string(" with ") + ::testing::PrintToString(text));
+    const std::string packet = packetWith(field, text);
+    EXPECT_EQ(expected, faultOf(packet).empty()) << packet;
+    if (expected) {
+        EXPECT_EQ("", readPacket(packet).complaint);
+    }
+}
+
+const std::vector<std::string> breakingMarkup = {"\"", "&", "<"};
+const std::vector<std::string> harmlessMarkup = {"'", ">"};
+
+TEST(PromiseConditions, WhatIsWrittenAsGivenMustHoldNoMarkup)
+{
+    for (const Field& field : allFields()) {
+        for (const std::string& text : breakingMarkup)
+            expectWellFormed(field.isEscaped, field, text);
+    }
+}
+
+/// They are part of the condition, so that a caller who escapes need not choose.
+TEST(PromiseConditions, ApostropheAndGreaterThanSignDoNoHarmInAnAttribute)
+{
+    for (const Field& field : allFields()) {
+        for (const std::string& text : harmlessMarkup)
+            expectWellFormed(true, field, text);
+    }
+}
+
+/// Forms that the check of the setters lets through.
+TEST(PromiseConditions, EveryStringMustBeStrictUtf8)
+{
+    for (const Field& field : allFields()) {
+        for (const char* text : {"\xE0\x80\xBC", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xED\xBF\xBF",
+                                 "\xED\xA0\xBD\xED\xB8\x80", "\xF0\x80\x80\x80", "\xF0\x8F\xBF\xBF",
+                                 "\xF4\x90\x80\x80", "\xF7\xBF\xBF\xBF", "\xF8\x88\x80\x80\x80",
+                                 "\xFC\x84\x80\x80\x80\x80"}) {
+            ASSERT_EQ(ZelData_Ok, utf8Code(text, false));
+            expectWellFormed(false, field, text);
+        }
+    }
+}
+
+/// Forms that only fields without a check take.
+TEST(PromiseConditions, StringsThatNobodyChecksMustHaveTheFormOfUtf8)
+{
+    for (const Field& field : allFields()) {
+        for (const char* text : {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE2\x82",
+                                 "\xF0\x9F\x98", "\xFE", "\xFF"}) {
+            ASSERT_EQ(ZelData_InvalidUtf8, utf8Code(text + std::string("y"), false));
+            if (!field.isChecked) expectWellFormed(false, field, text);
+        }
+    }
+}
+
+TEST(PromiseConditions, NoStringMayHoldTheTwoLastCharactersOfTheFirstPlane)
+{
+    for (const Field& field : allFields()) {
+        expectWellFormed(false, field, "\xEF\xBF\xBE");
+        expectWellFormed(false, field, "\xEF\xBF\xBF");
+        expectWellFormed(true, field, "\xEF\xBF\xBD");
+        expectWellFormed(true, field, "\xEF\xB7\x90"); // U+FDD0 is no character either
+        expectWellFormed(true, field, "\xF0\x9F\xBF\xBE");
+    }
+}
+
+TEST(PromiseConditions, WhatIsNotStrippedMustHoldNoControlCharacterButWhiteSpace)
+{
+    for (const Field& field : allFields()) {
+        for (char c = 0; c < 0x20; ++c) {
+            const bool isSpace = c == '\t' || c == '\n' || c == '\r';
+            expectWellFormed(field.isStripped || isSpace, field, std::string(1, c));
+        }
+        expectWellFormed(true, field, "\x7F");
+    }
+}
+
+TEST(PromiseConditions, AreWhatTheFormatSays)
+{
+    std::string asGiven;
+    std::string stripped;
+    for (const Field& field : allFields()) {
+        if (!field.isEscaped) asGiven += field.name + std::string("; ");
+        if (field.isStripped) stripped += field.name + std::string("; ");
+    }
+    EXPECT_EQ("creator; language ID; font family; image of a screen text; ", asGiven);
+    EXPECT_EQ("caption; title of an entry; screen text; ", stripped);
+}
+
+} // namespace
+} // namespace ZelInterchangeData

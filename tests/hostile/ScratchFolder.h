@@ -1,0 +1,45 @@
+/// @file
+/// A folder for files with hostile names.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_SCRATCHFOLDER_H
+#define ZELINTERCHANGEDATA_TESTS_HOSTILE_SCRATCHFOLDER_H
+
+#include "core/TempFile.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// A new folder, removed at the end with all that is in it.
+class ScratchFolder {
+public:
+    ScratchFolder() { std::filesystem::create_directory(place_.path()); }
+    ~ScratchFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(place_.path(), ignored);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    /// The path of a file named @p name, which is used as it is.
+    std::string pathOf(const std::string& name) const { return place_.path() + "/" + name; }
+
+    /// The names of all files, byte for byte.
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(place_.path()))
+            names.push_back(entry.path().filename().native());
+        return names;
+    }
+
+private:
+    TempFile place_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

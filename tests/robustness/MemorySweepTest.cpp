@@ -1,0 +1,147 @@
+/// @file
+/// Every operation when memory runs out, at each of its allocations in turn.
+
+#include "robustness/Operation.h"
+#include "support/Checks.h"
+#include "support/FailingAllocation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iostream>
+#include <new>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+namespace {
+
+/// How one call ended.
+struct Ending {
+    ZelDataResult_tags code = untouched;
+    bool thrown = false;
+    bool memoryFailed = false;
+};
+
+Ending callWith(const Subject& subject, Outs& outs, std::size_t granted, Shortage shortage)
+{
+    Ending ending;
+    const FailingAllocation failing(granted, shortage);
+    try {
+        ending.code = subject.call(outs);
+    } catch (const std::bad_alloc&) {
+        ending.thrown = true;
+    }
+    ending.memoryFailed = failing.failed();
+    return ending;
+}
+
+/// All that shows of an operation that was called on @p subject without any failure.
+std::string success(const Operation& operation, const Subject& subject)
+{
+    Outs outs;
+    forgetLastError(subject);
+    const auto ending = callWith(subject, outs, FailingAllocation::unlimited, Shortage::Lasting);
+    EXPECT_FALSE(ending.thrown);
+    if (subject.object && !operation.storesNothing) {
+        EXPECT_EQ(ending.code, lastErrorOf(subject));
+    }
+    return outcome(ending.code, subject, outs);
+}
+
+void checkLastError(const Operation& operation, const Ending& ending, ZelDataResult_tags lastError)
+{
+    if (ending.thrown) {
+        EXPECT_TRUE(operation.stepwise || lastError == untouched);
+    } else if (operation.storesNothing) {
+        EXPECT_TRUE(lastError == untouched || lastError == ZelData_OutOfMemory) << lastError;
+    } else {
+        EXPECT_EQ(ZelData_OutOfMemory, lastError);
+    }
+}
+
+void checkFailure(const Operation& operation, const Subject& subject, const Ending& ending)
+{
+    EXPECT_EQ(operation.throws, ending.thrown);
+    if (!ending.thrown) {
+        EXPECT_EQ(ZelData_OutOfMemory, ending.code);
+    }
+    if (subject.object) checkLastError(operation, ending, lastErrorOf(subject));
+}
+
+/// Calls @p operation on a new object with one of its allocations failing, looks at what is left,
+/// and calls it once more on the same object. Whether an allocation failed.
+bool failsAt(std::size_t granted, Shortage shortage, const Operation& operation,
+             const std::string& expected)
+{
+    const Subject subject = operation.make();
+    Outs outs;
+    forgetLastError(subject);
+    const auto before = subject.contents() + outs.described();
+    forgetLastError(subject);
+    const auto ending = callWith(subject, outs, granted, shortage);
+    if (!ending.memoryFailed) return false;
+    checkFailure(operation, subject, ending);
+    if (!operation.stepwise) {
+        EXPECT_EQ(before, subject.contents() + outs.described());
+    }
+    EXPECT_EQ(expected, success(operation, subject));
+    return true;
+}
+
+/// The number of allocations of @p operation, each of which failed once.
+std::size_t sweep(const Operation& operation, Shortage shortage)
+{
+    const auto expected = success(operation, operation.make());
+    for (std::size_t granted = 0;; ++granted) {
+        SCOPED_TRACE("allocations granted: " + std::to_string(granted));
+        const auto live = liveAllocations();
+        const bool failed = failsAt(granted, shortage, operation, expected);
+        EXPECT_EQ(live, liveAllocations());
+        if (!failed) return granted;
+        if (::testing::Test::HasFailure()) return granted; // one finding at a time
+    }
+}
+
+/// Sweeps all operations. Most of what they hold is long, so most of them need memory.
+void sweepAll(Shortage shortage)
+{
+    std::size_t points = 0;
+    std::size_t needing = 0;
+    for (const Operation& operation : allOperations()) {
+        SCOPED_TRACE(operation.name);
+        const auto allocations = sweep(operation, shortage);
+        points += allocations;
+        needing += allocations != 0 ? 1 : 0;
+    }
+    EXPECT_GT(needing, 120U);
+    EXPECT_GT(points, 1500U);
+    std::cout << points << " failing allocations in " << needing << " of " << allOperations().size()
+              << " entries\n";
+}
+
+TEST(MemorySweep, OneFailingAllocationLeavesEveryObjectWhole)
+{
+    sweepAll(Shortage::Once);
+}
+
+TEST(MemorySweep, MemoryThatStaysExhaustedLeavesEveryObjectWhole)
+{
+    sweepAll(Shortage::Lasting);
+}
+
+TEST(MemorySweep, TheListHasEveryOperationOfEveryInterface)
+{
+    const std::set<std::string> expected = {
+#include "operation_names.inc"
+    };
+    std::set<std::string> listed;
+    for (const Operation& operation : allOperations())
+        listed.insert(operation.name.substr(0, operation.name.find('|')));
+    EXPECT_EQ(expected, listed);
+}
+
+} // namespace
+} // namespace ZelInterchangeData

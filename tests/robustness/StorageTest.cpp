@@ -1,0 +1,384 @@
+/// @file
+/// Documents written to places that do not take them.
+
+#include "core/TempFile.h"
+#include "robustness/ChildProcess.h"
+#include "robustness/Contents.h"
+#include "robustness/Subjects.h"
+#include "robustness/Writes.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <grp.h>
+#include <sched.h>
+#include <string>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <type_traits>
+#include <unistd.h>
+
+namespace ZelInterchangeData {
+namespace {
+
+constexpr auto xmp = ZelDataFormat_Xmp;
+
+/// A folder that is removed with all that is in it.
+class TempFolder {
+public:
+    TempFolder() { std::filesystem::create_directory(place_.path()); }
+    ~TempFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(place_.path(), ignored);
+    }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    std::string path(const std::string& name = "") const
+    {
+        return name.empty() ? place_.path() : place_.path() + "/" + name;
+    }
+    bool isEmpty() const { return std::filesystem::is_empty(place_.path()); }
+
+private:
+    TempFile place_;
+};
+
+/// Both documents are written; the plain one hands over to the other one.
+template <class Document>
+class Storage : public ::testing::Test {
+protected:
+    Storage() : document_(filledDocument<Document>())
+    {
+        // More than a buffer of the stream holds.
+        EXPECT_EQ(ZelData_Ok, document_->setDataCaptions(*manyCaptions()));
+    }
+    ~Storage() override { EXPECT_EQ(descriptors_, openDescriptors()); }
+
+    ZelDataResult_tags write(const std::string& path) const
+    {
+        return document_->writeFile(path, xmp, false);
+    }
+    /// What a file holds afterwards if nothing goes wrong, without the date.
+    std::string whole() const
+    {
+        const TempFile file;
+        EXPECT_EQ(ZelData_Ok, write(file.path()));
+        return dateMasked(file.bytes());
+    }
+    void expectNotOpened(const std::string& path) const
+    {
+        const Writes writes;
+        EXPECT_EQ(ZelData_FileOpenFailed, write(path)) << path.substr(0, 200);
+        EXPECT_EQ(0U, writes.count());
+    }
+
+    std::unique_ptr<i_ZelInterchangeDataCore> document_;
+
+private:
+    static std::unique_ptr<i_ZelDataCaptions> manyCaptions()
+    {
+        auto captions = filledCaptions();
+        for (int i = 0; i < 100; ++i)
+            EXPECT_EQ(ZelData_Ok, captions->addCaptionItem(*filledCaption()));
+        return captions;
+    }
+
+    std::size_t descriptors_ = openDescriptors();
+};
+
+using Documents = ::testing::Types<ZelDataCore, ZelDataCoreXmp>;
+TYPED_TEST_SUITE(Storage, Documents, );
+
+// Files that cannot be opened
+
+TYPED_TEST(Storage, ADirectoryCannotBeOpened)
+{
+    const TempFolder folder;
+    this->expectNotOpened(folder.path());
+    this->expectNotOpened(folder.path() + "/");
+    EXPECT_TRUE(folder.isEmpty());
+}
+
+TYPED_TEST(Storage, AFileInAMissingFolderCannotBeOpened)
+{
+    const TempFolder folder;
+    this->expectNotOpened(folder.path("missing/file"));
+    EXPECT_TRUE(folder.isEmpty());
+}
+
+TYPED_TEST(Storage, AFileIsNoFolder)
+{
+    const TempFile file;
+    file.fill("kept");
+    this->expectNotOpened(file.path() + "/file");
+    EXPECT_EQ("kept", file.bytes());
+}
+
+TYPED_TEST(Storage, ANameCanBeTooLong)
+{
+    const TempFolder folder;
+    this->expectNotOpened(folder.path(std::string(300, 'n')));
+    this->expectNotOpened(folder.path(std::string(100000, 'n')));
+    EXPECT_TRUE(folder.isEmpty());
+}
+
+TYPED_TEST(Storage, ALinkToItselfLeadsNowhere)
+{
+    const TempFolder folder;
+    std::filesystem::create_symlink("loop", folder.path("loop"));
+    this->expectNotOpened(folder.path("loop"));
+}
+
+TYPED_TEST(Storage, AnEmptyPathIsNoFile)
+{
+    this->expectNotOpened("");
+}
+
+TYPED_TEST(Storage, APathWithAZeroByteTouchesNoFile)
+{
+    const TempFolder folder;
+    const TempFile file;
+    file.fill("kept");
+    this->expectNotOpened(file.path() + std::string("\0.xmp", 5));
+    this->expectNotOpened(folder.path("new") + std::string(1, '\0'));
+    this->expectNotOpened(std::string(1, '\0') + file.path());
+    EXPECT_EQ("kept", file.bytes());
+    EXPECT_TRUE(folder.isEmpty());
+}
+
+/// Makes this process one of a user without rights. Whether it is one.
+bool becomeNobody()
+{
+    constexpr uid_t nobody = 65534;
+    if (geteuid() != 0) return true;
+    return setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0;
+}
+
+TYPED_TEST(Storage, AFileThatIsReadOnlyCannotBeOpened)
+{
+    const TempFile file;
+    file.fill("kept");
+    ASSERT_EQ(0, chmod(file.path().c_str(), S_IRUSR | S_IRGRP | S_IROTH));
+    expectFine(inChild([&]() -> std::string {
+        if (!becomeNobody()) return refusal("another user");
+        const auto code = this->write(file.path());
+        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+    }));
+    EXPECT_EQ("kept", file.bytes());
+}
+
+TYPED_TEST(Storage, AFolderThatIsReadOnlyTakesNoFile)
+{
+    const TempFolder folder;
+    ASSERT_EQ(0, chmod(folder.path().c_str(), 0555));
+    expectFine(inChild([&]() -> std::string {
+        if (!becomeNobody()) return refusal("another user");
+        const auto code = this->write(folder.path("new"));
+        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+    }));
+    EXPECT_TRUE(folder.isEmpty());
+}
+
+TYPED_TEST(Storage, WithoutAFreeDescriptorNoFileIsTouched)
+{
+    const TempFile file;
+    file.fill("kept");
+    expectFine(inChild([&]() -> std::string {
+        this->whole(); // a sanitizer needs descriptors to look at an object for the first time
+        const rlimit none = {0, 0};
+        if (setrlimit(RLIMIT_NOFILE, &none) != 0) return refusal("a limit of descriptors");
+        const auto code = this->write(file.path());
+        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+    }));
+    EXPECT_EQ("kept", file.bytes());
+}
+
+// Files that are opened and then do not take all
+
+TYPED_TEST(Storage, AFullDeviceIsNotReported)
+{
+    const Writes writes;
+    EXPECT_EQ(ZelData_Ok, this->write("/dev/full"));
+    EXPECT_GT(writes.count(), 0U);
+}
+
+void put(const std::string& path, const std::string& bytes)
+{
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+/// Keeps user and group of this process in its new user name space.
+void mapUser(uid_t user, gid_t group)
+{
+    put("/proc/self/setgroups", "deny");
+    put("/proc/self/uid_map", std::to_string(user) + " " + std::to_string(user) + " 1");
+    put("/proc/self/gid_map", std::to_string(group) + " " + std::to_string(group) + " 1");
+}
+
+/// Gives this process a file system of its own at @p folder that holds 16 KiB. Empty, or a refusal.
+std::string mountSmallFileSystem(const std::string& folder)
+{
+    const uid_t user = geteuid();
+    const gid_t group = getegid();
+    if (unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0)
+        return refusal("a mount name space");
+    if (user != 0) mapUser(user, group);
+    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        mount("none", folder.c_str(), "tmpfs", 0, "size=16k,mode=0777") != 0) {
+        return refusal("a mount");
+    }
+    return "";
+}
+
+/// Takes all of the room at @p folder but for @p left bytes.
+void fillUp(const std::string& folder, std::size_t left)
+{
+    put(folder + "/filler", std::string(16384 - left, 'f'));
+}
+
+/// What is to be said when writing gave @p code, and the file holds @p bytes, where @p size bytes of
+/// @p whole, in which the date is masked, had room.
+std::string judged(ZelDataResult_tags code, const std::string& bytes, const std::string& whole,
+                   std::size_t size)
+{
+    if (code != ZelData_Ok) return "code " + std::to_string(code);
+    if (bytes.size() != size) return std::to_string(bytes.size()) + " bytes";
+    const auto masked = dateMasked(bytes);
+    return whole.compare(0, masked.size(), masked) == 0 ? fine : "other bytes: " + bytes;
+}
+
+TYPED_TEST(Storage, AFullFileSystemIsNotReported)
+{
+    const TempFolder folder;
+    const auto whole = this->whole();
+    for (const std::size_t left : {0U, 4096U}) {
+        expectFine(inChild([&]() -> std::string {
+            if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty())
+                return refused;
+            fillUp(folder.path(), left);
+            const auto code = this->write(folder.path("packet"));
+            return judged(code, bytesOf(folder.path("packet")), whole, left);
+        }));
+    }
+    EXPECT_TRUE(folder.isEmpty());
+}
+
+TYPED_TEST(Storage, AFileSystemThatIsReadOnlyTakesNoFile)
+{
+    const TempFolder folder;
+    expectFine(inChild([&]() -> std::string {
+        if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty()) return refused;
+        if (mount("none", folder.path().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) != 0)
+            return refusal("a read-only mount");
+        const auto code = this->write(folder.path("packet"));
+        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+    }));
+}
+
+TYPED_TEST(Storage, AFileSizeLimitIsNotReported)
+{
+    const auto whole = this->whole();
+    constexpr std::size_t limit = 100; // ends before the date
+    const TempFile file;
+    expectFine(inChild([&]() -> std::string {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit size = {limit, limit};
+        if (setrlimit(RLIMIT_FSIZE, &size) != 0) return refusal("a limit of file sizes");
+        const auto code = this->write(file.path());
+        return judged(code, bytesOf(file.path()), whole, limit);
+    }));
+}
+
+TYPED_TEST(Storage, EachWriteThatFailsIsNotReported)
+{
+    const auto whole = this->whole();
+    const TempFile file;
+    for (const int error : {ENOSPC, EIO, EDQUOT, EFBIG, EPIPE, EBADF, EAGAIN, EINVAL}) {
+        std::size_t index = 0;
+        for (bool hit = true; hit; ++index) {
+            const Writes writes(Trouble::Fails, index, error);
+            EXPECT_EQ(ZelData_Ok, this->write(file.path())) << index << ' ' << error;
+            hit = writes.troubled() != 0;
+        }
+        EXPECT_GT(index, 4U);
+        EXPECT_EQ(whole, dateMasked(file.bytes())) << "the last one met no trouble";
+    }
+}
+
+TYPED_TEST(Storage, WritesThatAllFailAreNotReported)
+{
+    const TempFile file;
+    const Writes writes(Trouble::Fails, Writes::every, ENOSPC);
+    EXPECT_EQ(ZelData_Ok, this->write(file.path()));
+    EXPECT_GT(writes.troubled(), 0U);
+    EXPECT_EQ("", file.bytes());
+}
+
+TYPED_TEST(Storage, ShortWritesAreGoneOnWith)
+{
+    const auto whole = this->whole();
+    for (const int taken : {1, 7, 4095}) {
+        const TempFile file;
+        const Writes writes(Trouble::Short, Writes::every, taken);
+        EXPECT_EQ(ZelData_Ok, this->write(file.path()));
+        EXPECT_GE(writes.troubled(), whole.size() / 4096);
+        EXPECT_EQ(whole, dateMasked(file.bytes())) << taken;
+    }
+}
+
+TYPED_TEST(Storage, InterruptedWritesAreMadeAgain)
+{
+    const auto whole = this->whole();
+    const TempFile file;
+    const Writes writes(Trouble::Interrupted);
+    EXPECT_EQ(ZelData_Ok, this->write(file.path()));
+    EXPECT_GT(writes.troubled(), 4U);
+    EXPECT_EQ(whole, dateMasked(file.bytes()));
+}
+
+// Documents that cannot be written at all
+
+/// Expects that writing @p document gives @p code and neither opens nor makes a file.
+void expectNoFileTouched(const i_ZelInterchangeDataCore& document, ZelDataFormatType_tags format,
+                         ZelDataResult_tags code)
+{
+    const TempFile file;
+    const TempFolder folder;
+    file.fill("kept");
+    const Writes writes;
+    EXPECT_EQ(code, document.writeFile(file.path(), format, false));
+    EXPECT_EQ(code, document.writeFile(folder.path("new"), format, false));
+    EXPECT_EQ("kept", file.bytes());
+    EXPECT_TRUE(folder.isEmpty());
+    EXPECT_EQ(0U, writes.count());
+}
+
+TYPED_TEST(Storage, ADocumentWithoutAHeaderTouchesNoFile)
+{
+    const TypeParam document;
+    expectNoFileTouched(document, xmp, ZelData_InvalidArgument);
+}
+
+TYPED_TEST(Storage, AnUnknownFormatTouchesNoFile)
+{
+    expectNoFileTouched(*this->document_, static_cast<ZelDataFormatType_tags>(2),
+                        ZelData_UnsupportedFormat);
+}
+
+TYPED_TEST(Storage, AHeaderThatIsNotValidTouchesNoFile)
+{
+    TypeParam document;
+    const auto header = make(&ZelDataUtilities::createHeaderData);
+    EXPECT_NE(ZelData_Ok, document.setDataHeader(*header));
+    const bool isWriter = std::is_same_v<TypeParam, ZelDataCoreXmp>;
+    expectNoFileTouched(document, xmp, isWriter ? ZelData_InvalidData : ZelData_InvalidArgument);
+}
+
+} // namespace
+} // namespace ZelInterchangeData

@@ -1,0 +1,140 @@
+#include "robustness/Subjects.h"
+
+#include <initializer_list>
+
+namespace ZelInterchangeData {
+
+namespace {
+
+void expectOk(std::initializer_list<ZelDataResult_tags> codes)
+{
+    for (const auto code : codes)
+        EXPECT_EQ(ZelData_Ok, code);
+}
+
+std::unique_ptr<i_ZelDataCaptionItem> captionAt(long long start, const std::string& id)
+{
+    auto item = make(&ZelDataUtilities::createCaptionItemData);
+    expectOk({item->setTextForLanguage(longText, id), item->setStart(start),
+              item->setDuration(2000), item->setAlignment(ZelAlignTop | ZelAlignRight)});
+    return item;
+}
+
+std::unique_ptr<i_ZelDataTocItem> entryAt(long long start, const std::string& id)
+{
+    auto item = make(&ZelDataUtilities::createTocItemData);
+    expectOk({item->setTextForLanguage(longText, id), item->setStart(start),
+              item->setImageFile(otherText), item->setImageIndex(3), item->setImageOffset(4096)});
+    return item;
+}
+
+std::unique_ptr<i_ZelDataScreenTextItem> screenTextAt(long long start)
+{
+    auto item = make(&ZelDataUtilities::createScreenTextItemData);
+    expectOk({item->setText(longText), item->setStart(start), item->setDuration(1500),
+              item->setImageFile(otherText), item->setImageIndex(3), item->setImageOffset(4096),
+              item->setGroupId(1)});
+    return item;
+}
+
+} // namespace
+
+const std::string longText = "a <text> that is too long to be kept inside of a string object";
+const std::string otherText = "another & longer text that is not kept inside of a string object";
+const std::string firstID = "de-a-language-id-that-is-too-long-for-a-string";
+const std::string secondID = "en-a-language-id-that-is-too-long-for-a-string";
+const std::string otherID = "fr-a-language-id-that-is-too-long-for-a-string";
+const std::string contentName = "a-name-of-a-content-file-that-is-too-long.mp4";
+const std::vector<std::string> otherList = {otherText, longText, otherText};
+const std::vector<std::string> reversedIDs = {secondID, firstID};
+
+std::unique_ptr<i_ZelDataHeader> filledHeader()
+{
+    auto header = make(&ZelDataUtilities::createHeaderData);
+    expectOk({header->setAppName(longText), header->setAppVersion(longText),
+              header->setTitle(longText), header->setCreator(longText),
+              header->setDescription(longText), header->setKeywords({longText, otherText})});
+    expectOk({header->setIPodExplicit(true), header->setShowSearchBar(false),
+              header->setVideoLength(90500), header->setVideoWidth(640),
+              header->setVideoHeight(480)});
+    expectOk({header->addLanguage(firstID), header->addLanguage(secondID),
+              header->addContentName(contentName), header->addContentName(longText + ".xml")});
+    return header;
+}
+
+std::unique_ptr<i_ZelDataCaptionItem> filledCaption()
+{
+    auto item = captionAt(1500, firstID);
+    expectOk({item->setTextForLanguage(otherText, secondID)});
+    return item;
+}
+
+std::unique_ptr<i_ZelDataCaptions> filledCaptions()
+{
+    auto captions = make(&ZelDataUtilities::createCaptionData);
+    expectOk({captions->setFrameRate(25), captions->setFontFamily(longText),
+              captions->setFontSize(24), captions->setForegroundColor(1.0F, 0.5F, 0.75F),
+              captions->setBackgroundColor(0.0F, 0.25F, 0.0F),
+              captions->setBackgroundOpacity(0.25F)});
+    expectOk({captions->addCaptionItem(*captionAt(4000, firstID)),
+              captions->addCaptionItem(*captionAt(1000, secondID))});
+    return captions;
+}
+
+std::unique_ptr<i_ZelDataTocItem> filledEntry()
+{
+    auto item = entryAt(1500, firstID);
+    expectOk({item->setTextForLanguage(otherText, secondID)});
+    return item;
+}
+
+std::unique_ptr<i_ZelDataToc> filledToc()
+{
+    auto toc = make(&ZelDataUtilities::createTocData);
+    expectOk({toc->setFrameRate(30), toc->setImageFile(longText),
+              toc->addTocItem(*entryAt(5000, firstID)), toc->addTocItem(*entryAt(0, secondID))});
+    return toc;
+}
+
+std::unique_ptr<i_ZelDataScreenTextItem> filledScreenTextItem()
+{
+    return screenTextAt(1500);
+}
+
+std::unique_ptr<i_ZelDataScreenText> filledScreenText()
+{
+    auto texts = make(&ZelDataUtilities::createScreenTextData);
+    expectOk({texts->setFrameRate(50), texts->addScreenTextItem(*screenTextAt(6000)),
+              texts->addScreenTextItem(*screenTextAt(2000))});
+    return texts;
+}
+
+std::unique_ptr<i_ZelDataHeaderFormatter> filledHeaderFormatter()
+{
+    auto formatter = make(&ZelDataUtilities::createHeaderFormatter);
+    expectOk({formatter->setHeader(*filledHeader())});
+    return formatter;
+}
+
+std::unique_ptr<i_ZelDataCaptionFormatter> filledCaptionFormatter()
+{
+    auto formatter = make(&ZelDataUtilities::createCaptionFormatter);
+    expectOk({formatter->setCaptions(*filledCaptions())});
+    return formatter;
+}
+
+std::unique_ptr<i_ZelDataTocFormatter> filledTocFormatter()
+{
+    auto formatter = make(&ZelDataUtilities::createTocFormatter);
+    expectOk({formatter->setToc(*filledToc())});
+    return formatter;
+}
+
+std::unique_ptr<i_ZelDataScreenTextFormatter> filledScreenTextFormatter()
+{
+    auto formatter = make(&ZelDataUtilities::createScreenTextFormatter);
+    expectOk({formatter->setScreenText(*filledScreenText())});
+    return formatter;
+}
+
+} // namespace ZelInterchangeData

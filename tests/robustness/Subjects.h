@@ -1,0 +1,68 @@
+/// @file
+/// Objects that hold something everywhere, in texts too long for any string to hold without an
+/// allocation.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_SUBJECTS_H
+#define ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_SUBJECTS_H
+
+#include "ZelInterchangeData/ZelInterchangeData.h"
+#include "core/ZelDataCore.h"
+#include "core/ZelDataCoreXmp.h"
+#include "support/Checks.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+extern const std::string longText;
+extern const std::string otherText;
+/// Languages that the objects below know, in ascending order, and one that they do not know.
+extern const std::string firstID;
+extern const std::string secondID;
+extern const std::string otherID;
+/// One of the names of the header's contents.
+extern const std::string contentName;
+extern const std::vector<std::string> otherList;
+/// The languages of the objects, the other way round.
+extern const std::vector<std::string> reversedIDs;
+
+std::unique_ptr<i_ZelDataHeader> filledHeader();
+std::unique_ptr<i_ZelDataCaptionItem> filledCaption();
+/// Two captions, the later one first. Each lacks the language of the other one.
+std::unique_ptr<i_ZelDataCaptions> filledCaptions();
+std::unique_ptr<i_ZelDataTocItem> filledEntry();
+/// Two entries, the later one first. Each lacks the language of the other one.
+std::unique_ptr<i_ZelDataToc> filledToc();
+std::unique_ptr<i_ZelDataScreenTextItem> filledScreenTextItem();
+/// Two texts, the later one first.
+std::unique_ptr<i_ZelDataScreenText> filledScreenText();
+
+std::unique_ptr<i_ZelDataHeaderFormatter> filledHeaderFormatter();
+std::unique_ptr<i_ZelDataCaptionFormatter> filledCaptionFormatter();
+std::unique_ptr<i_ZelDataTocFormatter> filledTocFormatter();
+std::unique_ptr<i_ZelDataScreenTextFormatter> filledScreenTextFormatter();
+
+/// A document of the class @p Document with all four sets.
+template <class Document>
+std::unique_ptr<i_ZelInterchangeDataCore> filledDocument()
+{
+    auto document = std::make_unique<Document>();
+    EXPECT_EQ(ZelData_Ok, document->setDataHeader(*filledHeader()));
+    EXPECT_EQ(ZelData_Ok, document->setDataCaptions(*filledCaptions()));
+    EXPECT_EQ(ZelData_Ok, document->setDataToc(*filledToc()));
+    EXPECT_EQ(ZelData_Ok, document->setDataScreenText(*filledScreenText()));
+    return document;
+}
+
+/// A document of the class @p Document without any set.
+template <class Document>
+std::unique_ptr<i_ZelInterchangeDataCore> newDocument()
+{
+    return std::make_unique<Document>();
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,226 @@
+/// @file
+/// Distinct documents in many threads. Each test runs in a process of its own, so that the first
+/// use of everything falls into the race; nothing of the library is used before the threads start.
+
+#include "core/TempFile.h"
+#include "robustness/Contents.h"
+#include "support/Checks.h"
+
+#include <gtest/gtest.h>
+
+#include <condition_variable>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace ZelInterchangeData {
+namespace {
+
+constexpr std::size_t threadCount = 16;
+constexpr std::size_t writeCount = 10000;
+constexpr std::size_t writesPerThread = writeCount / threadCount;
+constexpr auto xmp = ZelDataFormat_Xmp;
+
+/// Lets nobody through before all are there.
+class Barrier {
+public:
+    void wait()
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        if (++arrived_ == threadCount) everybody_.notify_all();
+        everybody_.wait(lock, [this] { return arrived_ == threadCount; });
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable everybody_;
+    std::size_t arrived_ = 0;
+};
+
+/// Calls @p work with the number of its thread, in all threads at once.
+void race(const std::function<void(std::size_t)>& work)
+{
+    Barrier barrier;
+    std::vector<std::thread> threads;
+    for (std::size_t number = 0; number < threadCount; ++number) {
+        threads.emplace_back([&, number] {
+            barrier.wait();
+            work(number);
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+}
+
+/// Whether all @p codes are success.
+bool allOk(std::initializer_list<ZelDataResult_tags> codes)
+{
+    for (const auto code : codes) {
+        if (code != ZelData_Ok) return false;
+    }
+    return true;
+}
+
+std::string ownText(std::size_t number)
+{
+    return "the <text> of the thread with the number " + std::to_string(number);
+}
+
+bool addItems(i_ZelDataCaptions& captions, i_ZelDataToc& toc, i_ZelDataScreenText& screenText,
+              std::size_t number)
+{
+    const auto caption = make(&ZelDataUtilities::createCaptionItemData);
+    const auto entry = make(&ZelDataUtilities::createTocItemData);
+    const auto shown = make(&ZelDataUtilities::createScreenTextItemData);
+    const auto text = ownText(number);
+    return allOk({caption->setTextForLanguage(text, "de"), caption->setTextForLanguage(text, "cu"),
+                  caption->setDuration(2000), captions.addCaptionItem(*caption),
+                  entry->setTextForLanguage(text, "en"), toc.addTocItem(*entry),
+                  shown->setText(text), shown->setDuration(5),
+                  screenText.addScreenTextItem(*shown)});
+}
+
+std::unique_ptr<i_ZelDataHeader> ownHeader(std::size_t number)
+{
+    auto header = make(&ZelDataUtilities::createHeaderData);
+    EXPECT_TRUE(allOk({header->setTitle(ownText(number)), header->setVideoLength(1000 + number),
+                       header->setVideoWidth(640), header->setVideoHeight(480)}));
+    return header;
+}
+
+/// A document whose contents tell the thread.
+std::unique_ptr<i_ZelInterchangeDataCore> ownDocument(std::size_t number)
+{
+    const auto captions = make(&ZelDataUtilities::createCaptionData);
+    const auto toc = make(&ZelDataUtilities::createTocData);
+    const auto screenText = make(&ZelDataUtilities::createScreenTextData);
+    EXPECT_TRUE(addItems(*captions, *toc, *screenText, number));
+    std::unique_ptr<i_ZelInterchangeDataCore> document(ZELDataCreator::createInterchangeData());
+    EXPECT_TRUE(
+        allOk({document->setDataHeader(*ownHeader(number)), document->setDataCaptions(*captions),
+               document->setDataToc(*toc), document->setDataScreenText(*screenText)}));
+    return document;
+}
+
+std::string writtenAsString(const i_ZelInterchangeDataCore& document)
+{
+    std::string packet;
+    EXPECT_EQ(ZelData_Ok, document.writeString(packet, xmp, false));
+    return dateMasked(packet);
+}
+
+std::string writtenAsFile(const i_ZelInterchangeDataCore& document)
+{
+    const TempFile file;
+    EXPECT_EQ(ZelData_Ok, document.writeFile(file.path(), xmp, false));
+    const std::string declaration = "<?xml version=\"1.0\" encoding=\"utf-8\" ?>";
+    const std::string bytes = file.bytes();
+    EXPECT_EQ(declaration, bytes.substr(0, declaration.size()));
+    return dateMasked(bytes.substr(declaration.size()));
+}
+
+/// Writes @p document often; each time must give the same. What it gave.
+std::string writtenOften(const i_ZelInterchangeDataCore& document)
+{
+    const std::string first = writtenAsString(document);
+    std::size_t differing = 0;
+    for (std::size_t i = 1; i < writesPerThread; ++i) {
+        const auto again = i % 25 == 0 ? writtenAsFile(document) : writtenAsString(document);
+        if (again != first) ++differing;
+    }
+    EXPECT_EQ(0U, differing);
+    return first;
+}
+
+/// What the threads wrote must be what one thread alone writes.
+void expectAsAlone(const std::vector<std::string>& packets)
+{
+    for (std::size_t number = 0; number < threadCount; ++number) {
+        EXPECT_EQ(writtenAsString(*ownDocument(number)), packets[number]);
+        EXPECT_NE(std::string::npos, packets[number].find(std::to_string(1000 + number)));
+    }
+}
+
+TEST(Threads, EachMakesAndWritesItsOwnDocument)
+{
+    std::vector<std::string> packets(threadCount);
+    race([&](std::size_t number) { packets[number] = writtenOften(*ownDocument(number)); });
+    expectAsAlone(packets);
+}
+
+struct Sets {
+    std::unique_ptr<i_ZelDataCaptions> captions = make(&ZelDataUtilities::createCaptionData);
+    std::unique_ptr<i_ZelDataToc> toc = make(&ZelDataUtilities::createTocData);
+    std::unique_ptr<i_ZelDataScreenText> text = make(&ZelDataUtilities::createScreenTextData);
+};
+
+/// Copies that share their items with each other and with nobody else, so that one of the threads
+/// lets go of the last share.
+std::vector<Sets> copiesOfOneSet()
+{
+    const Sets original;
+    EXPECT_TRUE(addItems(*original.captions, *original.toc, *original.text, threadCount));
+    std::vector<Sets> copies(threadCount);
+    for (Sets& copy : copies) {
+        EXPECT_TRUE(
+            allOk({copy.captions->copyFrom(*original.captions), copy.toc->copyFrom(*original.toc),
+                   copy.text->copyFrom(*original.text)}));
+    }
+    return copies;
+}
+
+/// Replaces the item that is there by the thread's own.
+void change(const Sets& sets, std::size_t number)
+{
+    EXPECT_TRUE(addItems(*sets.captions, *sets.toc, *sets.text, number));
+    EXPECT_TRUE(allOk({sets.captions->removeCaptionItemAt(0), sets.toc->removeTocItemAt(0),
+                       sets.text->removeScreenTextItemAt(0)}));
+}
+
+bool hand(i_ZelInterchangeDataCore& document, const Sets& sets)
+{
+    return allOk({document.setDataCaptions(*sets.captions), document.setDataToc(*sets.toc),
+                  document.setDataScreenText(*sets.text)});
+}
+
+TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
+{
+    const auto copies = copiesOfOneSet();
+    std::vector<std::string> packets(threadCount);
+    race([&](std::size_t number) {
+        const Sets& own = copies[number];
+        const auto document = ownDocument(number);
+        EXPECT_TRUE(hand(*document, own));
+        EXPECT_NE(std::string::npos, writtenAsString(*document).find("the number 16<"));
+        change(own, number);
+        EXPECT_TRUE(hand(*document, own));
+        packets[number] = writtenOften(*document);
+    });
+    expectAsAlone(packets);
+}
+
+TEST(Threads, EachUsesTheUtilities)
+{
+    std::vector<std::string> results(threadCount);
+    race([&](std::size_t number) {
+        std::string& result = results[number];
+        for (int i = 0; i < 500; ++i) {
+            std::string name;
+            long march5 = 1236262029;
+            EXPECT_EQ(ZelData_Ok, ZelDataUtilities::nativeNameForLanguage("ja-JP", name));
+            result = name + ZelDataUtilities::getValueString(0.1F) +
+                     ZelDataUtilities::getDateString(&march5) +
+                     ZelDataUtilities::htmlTagsToText("<a & b>") + getValueString(-7L);
+        }
+    });
+    for (const std::string& result : results)
+        EXPECT_EQ(results.front(), result);
+    EXPECT_NE(std::string::npos, results.front().find("2009-03-05T14:07:09"));
+}
+
+} // namespace
+} // namespace ZelInterchangeData

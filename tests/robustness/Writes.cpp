@@ -1,0 +1,92 @@
+/// @file
+/// The write functions of this test program. Those of the C library would be called without them.
+
+#include "robustness/Writes.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/syscall.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+namespace {
+
+using ZelInterchangeData::Trouble;
+using ZelInterchangeData::Writes;
+
+bool active = false;
+Trouble currentTrouble = Trouble::None;
+std::size_t troubledIndex = 0;
+int currentDetail = 0;
+std::size_t writes = 0;
+std::size_t troubles = 0;
+
+/// What is to happen at this write, which is counted.
+Trouble troubleNow(int descriptor)
+{
+    if (!active || descriptor <= STDERR_FILENO) return Trouble::None;
+    const std::size_t index = writes++;
+    const bool isHit = troubledIndex == Writes::every
+                           ? currentTrouble != Trouble::Interrupted || index % 2 == 0
+                           : index == troubledIndex;
+    if (!isHit || currentTrouble == Trouble::None) return Trouble::None;
+    ++troubles;
+    return currentTrouble;
+}
+
+ssize_t refused(int error)
+{
+    errno = error;
+    return -1;
+}
+
+} // namespace
+
+extern "C" ssize_t write(int descriptor, const void* bytes, size_t size)
+{
+    const auto trouble = troubleNow(descriptor);
+    if (trouble == Trouble::Fails) return refused(currentDetail);
+    if (trouble == Trouble::Interrupted) return refused(EINTR);
+    if (trouble == Trouble::Short) size = std::min(size, static_cast<size_t>(currentDetail));
+    return syscall(SYS_write, descriptor, bytes, size);
+}
+
+extern "C" ssize_t writev(int descriptor, const iovec* parts, int count)
+{
+    const auto trouble = troubleNow(descriptor);
+    if (trouble == Trouble::Fails) return refused(currentDetail);
+    if (trouble == Trouble::Interrupted) return refused(EINTR);
+    if (trouble != Trouble::Short) return syscall(SYS_writev, descriptor, parts, count);
+    const auto first = std::find_if(parts, parts + count, [](auto& p) { return p.iov_len != 0; });
+    if (first == parts + count) return 0;
+    return syscall(SYS_write, descriptor, first->iov_base,
+                   std::min(first->iov_len, static_cast<size_t>(currentDetail)));
+}
+
+namespace ZelInterchangeData {
+
+Writes::Writes(Trouble trouble, std::size_t at, int detail)
+{
+    currentTrouble = trouble;
+    troubledIndex = at;
+    currentDetail = detail;
+    writes = troubles = 0;
+    active = true;
+}
+
+Writes::~Writes()
+{
+    active = false;
+}
+
+std::size_t Writes::count() const noexcept
+{
+    return writes;
+}
+
+std::size_t Writes::troubled() const noexcept
+{
+    return troubles;
+}
+
+} // namespace ZelInterchangeData

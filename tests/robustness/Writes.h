@@ -1,0 +1,46 @@
+/// @file
+/// The system's writes into files, as a test wants them.
+
+#ifndef ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_WRITES_H
+#define ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_WRITES_H
+
+#include <cstddef>
+#include <limits>
+
+namespace ZelInterchangeData {
+
+/// What happens at one of the writes.
+enum class Trouble {
+    None,
+    /// It is refused with an error number.
+    Fails,
+    /// A signal came before any byte was taken.
+    Interrupted,
+    /// No more than some bytes are taken.
+    Short
+};
+
+/// While it lives, the write functions of the system go through it, in this test program and in the
+/// libraries that it loads. One at a time; the standard streams are left alone.
+class Writes {
+public:
+    static constexpr std::size_t every = std::numeric_limits<std::size_t>::max();
+
+    /// @p trouble comes at the write with the index @p at, counted from 0, or at every one; one of
+    /// two writes when it is Trouble::Interrupted, since no write would ever end.
+    ///
+    /// @param detail the error number, or how many bytes are taken.
+    explicit Writes(Trouble trouble = Trouble::None, std::size_t at = every, int detail = 0);
+    ~Writes();
+    Writes(const Writes&) = delete;
+    Writes& operator=(const Writes&) = delete;
+
+    /// How many writes there were.
+    [[nodiscard]] std::size_t count() const noexcept;
+    /// How many of them met the trouble.
+    [[nodiscard]] std::size_t troubled() const noexcept;
+};
+
+} // namespace ZelInterchangeData
+
+#endif
