@@ -203,6 +203,14 @@ TEST_F(CaptionsCopy, AsksAForeignSourceInOrder)
               source.calls());
 }
 
+TEST_F(CaptionsCopy, AColorThatASourceLeavesOpenIsBlack)
+{
+    FailingCaptions source;
+    source.failAt("getForegroundColor", ZelData_Ok, ZelData_Ok);
+    EXPECT_CODE(*target_, ZelData_Ok, target_->copyFrom(source));
+    EXPECT_EQ((std::array<float, 3>{0.0F, 0.0F, 0.0F}), styleOf(*target_).foreground);
+}
+
 TEST_F(CaptionsCopy, SetsTheTargetInOrder)
 {
     FailingCaptions target;

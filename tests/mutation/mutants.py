@@ -1,8 +1,10 @@
-"""The mutants of a source file: each differs from it in one token, and each should be noticed by a test.
+"""The mutants of a source file: each differs from it in one token, and each should be noticed by a
+test.
 
-What is changed are comparisons, boolean connectives and values, whole numbers and result codes, outside
-of comments, texts, directives and static assertions. The format of the sources tells operators from
-brackets of templates and from references: the operators have a blank on both sides."""
+What is changed are comparisons, boolean connectives and values, whole numbers and result codes,
+outside of comments, texts, directives and static assertions. The format of the sources tells
+operators from brackets of templates and from references: the operators have a blank on both
+sides."""
 
 import re
 from collections import Counter
@@ -73,8 +75,8 @@ def replacement(token):
     if kind == "truth":
         return old, TRUTHS[old]
     if kind == "code":
-        other = "ZelData_InvalidArgument" if old == "ZelData_InternalError" else "ZelData_InternalError"
-        return old, other
+        usual = "ZelData_InternalError"
+        return old, "ZelData_InvalidArgument" if old == usual else usual
     if old.lower().startswith("0x"):
         return old, hex(int(old, 16) + 1)
     return old, str(int(old) + 1)
@@ -97,8 +99,8 @@ def mutants_of(file, text):
 def read_equivalents(text):
     """The listed equivalent mutants: their keys with the reason of each.
 
-    An entry is three lines, the file, the line as it stands there and the change, and behind them the
-    reason, in one line or more. Entries are parted by an empty line; `#` begins a comment."""
+    An entry is three lines, the file, the line as it stands there and the change, and behind them
+    the reason, in one line or more. Entries are parted by an empty line; `#` begins a comment."""
     entries, offences = {}, []
     body = "\n".join(line for line in text.splitlines() if not line.startswith("#"))
     for block in re.split(r"\n\s*\n", body.strip()) if body.strip() else []:

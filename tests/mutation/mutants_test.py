@@ -30,7 +30,8 @@ class Mutants(unittest.TestCase):
 
     def test_a_negation_goes(self):
         found, = mutants.mutants_of("f", "if (!a) b();")
-        self.assertEqual((found.change, found.apply("if (!a) b();")), ("! -> nothing", "if (a) b();"))
+        self.assertEqual((found.change, found.apply("if (!a) b();")),
+                         ("! -> nothing", "if (a) b();"))
 
     def test_true_and_false_change_places(self):
         self.assertEqual(changes("f(true, false);"), ["true -> false", "false -> true"])

@@ -104,7 +104,8 @@ class Branches(unittest.TestCase):
         self.assertEqual(figures(self.row(document(lines, functions=places))), (1, 1, 2, 4))
 
     def test_what_another_program_takes_is_taken(self):
-        row = self.row(document([line(1, 1, decision(1, 0))]), document([line(1, 1, decision(0, 1))]))
+        row = self.row(document([line(1, 1, decision(1, 0))]),
+                       document([line(1, 1, decision(0, 1))]))
         self.assertEqual(figures(row), (1, 1, 2, 2))
 
 
