@@ -172,7 +172,7 @@ private:
         unsigned long height = 0;
         unsigned long width = 0;
         if (failed(header_.getVideoHeight(height)) || failed(header_.getVideoWidth(width))) {
-            return header_.getLastError();
+            return header_.getLastError(); // uncovered line: our own copy always gives them
         }
         description_.element("xmpDM:videoFrameSize")
             .attribute("stDim:unit", "pixel")

@@ -139,6 +139,24 @@ TEST(ZelDataCaptionsIsValid, DoesNotAskTheItemsUnlessStrict)
     EXPECT_CODE(captions, keptCode, captions.isValid(true));
 }
 
+TEST(ZelDataCaptionsIsValid, GivesTheLastErrorOfAnItemThatDoesNotTellItsEnd)
+{
+    FailingCaptions captions;
+    captions.prepareItems(
+        [](FailingCaptionItem& item) { item.failAt("getEnd", returnedCode, keptCode); });
+    add(captions, {{0, 1}});
+    EXPECT_CODE(captions, keptCode, captions.isValid(false));
+}
+
+TEST(ZelDataCaptionsIsValid, AnEndThatAnItemLeavesOpenCountsAsZero)
+{
+    FailingCaptions captions;
+    captions.prepareItems(
+        [](FailingCaptionItem& item) { item.failAt("getEnd", ZelData_Ok, ZelData_Ok); });
+    add(captions, {{0, 5}, {0, 5}});
+    EXPECT_CODE(captions, ZelData_Ok, captions.isValid(false));
+}
+
 TEST(ZelDataCaptionsIsValid, AnItemsOwnCodeComesBeforeItsMissingTexts)
 {
     const auto captions = captionsOf({{0, 999}, {999, 1000, {{"en", "a"}}}});
@@ -401,6 +419,15 @@ TEST(ZelDataCaptionsMakeConsistent, LeavesAStylingInRangeAlone)
     dress(*captions, given);
     EXPECT_CODE(*captions, ZelData_Ok, captions->makeCaptionsConsistent());
     EXPECT_EQ(given, styleOf(*captions));
+}
+
+TEST(ZelDataCaptionsMakeConsistent, FillsTheMissingTextsOfItemsOfAnotherClass)
+{
+    FailingCaptions captions;
+    add(captions, {{0, 1, {{"en", "e"}}}, {5, 1, {{"de", "d"}}}});
+    EXPECT_CODE(captions, ZelData_Ok, captions.makeCaptionsConsistent());
+    EXPECT_EQ((Texts{{"de", ""}, {"en", "e"}}), itemsOf(captions)[0].texts);
+    EXPECT_EQ((Texts{{"de", "d"}, {"en", ""}}), itemsOf(captions)[1].texts);
 }
 
 TEST(ZelDataCaptionsMakeConsistent, GivesTheLastErrorOfAnItemThatCannotBeFilled)

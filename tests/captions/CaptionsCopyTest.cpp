@@ -126,6 +126,14 @@ TEST_F(CaptionsCopy, RebuildsTheLanguageListFromTheItems)
     EXPECT_EQ((IDs{"en", "fr", "de"}), languagesOf(*target_)) << "nobody has \"it\"";
 }
 
+TEST_F(CaptionsCopy, ListsNoLanguageThatOnlyARemovedItemHad)
+{
+    EXPECT_EQ(ZelData_Ok, source_->removeCaptionItemAt(0));
+    EXPECT_EQ(listed, languagesOf(*source_)) << "the source goes on listing all";
+    EXPECT_CODE(*target_, ZelData_Ok, target_->copyFrom(*source_));
+    EXPECT_EQ((IDs{"de", "en"}), languagesOf(*target_));
+}
+
 TEST_F(CaptionsCopy, AnOrderThatWasSetDoesNotSurvive)
 {
     EXPECT_EQ(ZelData_Ok, source_->setOrderedLanguageIDs({"de", "fr", "it", "en"}));
@@ -193,6 +201,14 @@ TEST_F(CaptionsCopy, AsksAForeignSourceInOrder)
                      "getForegroundColor", "getBackgroundColor", "getBackgroundOpacity",
                      "getCaptionItems"}),
               source.calls());
+}
+
+TEST_F(CaptionsCopy, AColorThatASourceLeavesOpenIsBlack)
+{
+    FailingCaptions source;
+    source.failAt("getForegroundColor", ZelData_Ok, ZelData_Ok);
+    EXPECT_CODE(*target_, ZelData_Ok, target_->copyFrom(source));
+    EXPECT_EQ((std::array<float, 3>{0.0F, 0.0F, 0.0F}), styleOf(*target_).foreground);
 }
 
 TEST_F(CaptionsCopy, SetsTheTargetInOrder)

@@ -96,6 +96,23 @@ TEST(ZelDataXmpCaptionFormatter, WritesEverythingThatDiffersFromTheDefaults)
               written(*captions));
 }
 
+TEST(ZelDataXmpCaptionFormatter, WritesManyCaptionsInTheOrderOfTheirStarts)
+{
+    std::vector<Caption> captions;
+    std::string expected = "<rdf:Seq>";
+    for (long long i = 0; i != 40; ++i) {
+        const long long start = i * 7 % 40; // each start once
+        captions.push_back({start, 1, {{"en", "at " + std::to_string(start)}}});
+        const std::string number = std::to_string(i);
+        expected += "<rdf:li><rdf:Description xmpDM:startTime=\"" + number +
+                    "\" xmpDM:duration=\"1\" zelDM:valign=\"bottom\" zelDM:halign=\"center\" >"
+                    "<xmpDM:name><rdf:Alt><rdf:li xml:lang=\"en\">at " +
+                    number + "</rdf:li></rdf:Alt></xmpDM:name></rdf:Description></rdf:li>";
+    }
+    EXPECT_EQ(expected + "</rdf:Seq>",
+              part(written(*captionsOf(captions)), "<rdf:Seq>", "</rdf:Seq>"));
+}
+
 TEST(ZelDataXmpCaptionFormatter, ACaptionWithoutAnyLanguageHasAnEmptyName)
 {
     EXPECT_EQ("<xmpDM:name><rdf:Alt></rdf:Alt></xmpDM:name>",
@@ -366,6 +383,15 @@ TEST(BuildCaptionList, TakesAWarningForAMissingText)
     item.failAt("getTextForLanguage", ZelData_WarnTiming, keptCode);
     std::string text;
     EXPECT_FALSE(buildCaptionList({"en"}, item, text));
+}
+
+TEST(BuildCaptionList, DoesNotTakeExhaustedMemoryForAMissingText)
+{
+    FailingCaptionItem item;
+    fill(item, {0, 1, {{"en", "e"}}});
+    item.failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
+    std::string text;
+    EXPECT_THROW(buildCaptionList({"en"}, item, text), std::bad_alloc);
 }
 
 } // namespace

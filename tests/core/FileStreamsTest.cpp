@@ -4,7 +4,10 @@
 #include "core/TempFile.h"
 #include "support/FailingAllocation.h"
 
+#include <limits>
+#include <locale>
 #include <memory>
+#include <string>
 
 namespace ZelInterchangeData {
 namespace {
@@ -98,6 +101,87 @@ TEST(FileStreams, MoreThanOneBufferfulIsReadWhole)
     const TempFile file;
     file.fill(std::string(20000, '\xE9'));
     EXPECT_EQ(std::wstring(20000, L'\xE9'), contentsOf(file));
+}
+
+TEST(FileStreams, AReaderKnowsItsPlaceInBytesAndGoesBackToIt)
+{
+    const TempFile file;
+    file.fill("a\xE9\xFF!");
+    const auto stream = createWifstreamWithFile(file.path());
+    EXPECT_EQ(L'a', static_cast<wchar_t>(stream->get()));
+    EXPECT_EQ(L'\xE9', static_cast<wchar_t>(stream->get()));
+    const auto place = stream->tellg();
+    EXPECT_EQ(2, place);
+    EXPECT_EQ(L'\xFF', static_cast<wchar_t>(stream->get()));
+    stream->seekg(place);
+    EXPECT_EQ(L'\xFF', static_cast<wchar_t>(stream->get()));
+}
+
+TEST(FileStreams, TheLocaleWidensManyCharactersAsItWidensOne)
+{
+    const TempFile file;
+    const std::locale locale = createWofstreamWithFile(file.path())->getloc();
+    const auto& characters = std::use_facet<std::ctype<wchar_t>>(locale);
+    const std::string bytes = allBytes();
+    std::wstring widened(bytes.size(), L'?');
+    EXPECT_EQ(bytes.data() + bytes.size(),
+              characters.widen(bytes.data(), bytes.data() + bytes.size(), widened.data()));
+    for (std::size_t i = 0; i != bytes.size(); ++i) {
+        EXPECT_EQ(static_cast<wchar_t>(i), widened[i]);
+        EXPECT_EQ(widened[i], characters.widen(bytes[i]));
+    }
+}
+
+using Conversion = std::codecvt<wchar_t, char, std::mbstate_t>;
+
+TEST(FileStreams, TheConversionStopsWhereTheRoomEndsAndGoesOnFromThere)
+{
+    const TempFile file;
+    const std::locale locale = createWofstreamWithFile(file.path())->getloc();
+    const auto& conversion = std::use_facet<Conversion>(locale);
+    std::mbstate_t state{};
+    const std::wstring wide = L"a\xE9!";
+    std::string bytes(2, '?');
+    const wchar_t* wideNext = nullptr;
+    char* byteNext = nullptr;
+    EXPECT_EQ(Conversion::partial,
+              conversion.out(state, wide.data(), wide.data() + wide.size(), wideNext, bytes.data(),
+                             bytes.data() + bytes.size(), byteNext));
+    EXPECT_EQ(2, wideNext - wide.data());
+    EXPECT_EQ(2, byteNext - bytes.data());
+    EXPECT_EQ("a\xE9", bytes);
+
+    std::wstring read(1, L'?');
+    const char* from = nullptr;
+    wchar_t* to = nullptr;
+    EXPECT_EQ(Conversion::partial, conversion.in(state, bytes.data(), bytes.data() + bytes.size(),
+                                                 from, read.data(), read.data() + read.size(), to));
+    EXPECT_EQ(1, from - bytes.data());
+    EXPECT_EQ(1, to - read.data());
+    EXPECT_EQ(L"a", read);
+}
+
+TEST(FileStreams, TheConversionCountsAByteForEachCharacter)
+{
+    const TempFile file;
+    const std::locale locale = createWofstreamWithFile(file.path())->getloc();
+    const auto& conversion = std::use_facet<Conversion>(locale);
+    std::mbstate_t state{};
+    const std::string bytes = "a\xE9!";
+    EXPECT_EQ(2, conversion.length(state, bytes.data(), bytes.data() + bytes.size(), 2));
+    EXPECT_EQ(3, conversion.length(state, bytes.data(), bytes.data() + bytes.size(), 9));
+    EXPECT_EQ(1, conversion.encoding());
+    EXPECT_EQ(1, conversion.max_length());
+    EXPECT_FALSE(conversion.always_noconv());
+}
+
+TEST(FileStreams, AWideCharacterBelowZeroFailsTheStream)
+{
+    const TempFile file;
+    const auto stream = createWofstreamWithFile(file.path());
+    stream->put(std::numeric_limits<wchar_t>::min()).flush();
+    EXPECT_TRUE(stream->fail());
+    EXPECT_EQ("", file.bytes());
 }
 
 TEST(FileStreams, AMissingFileIsNotOpenedForReadingAndNotMade)

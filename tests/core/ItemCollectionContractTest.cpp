@@ -39,6 +39,16 @@ struct CaptionKind {
         }
     };
 
+    /// A collection that hands out a null pointer behind its items.
+    struct HandingOutNull : Collection {
+        ZelDataResult_tags getCaptionItems(std::vector<Item*>& items) const override
+        {
+            const auto code = Collection::getCaptionItems(items);
+            items.push_back(nullptr);
+            return code;
+        }
+    };
+
     static constexpr auto create = &Collection::createCaptionItem;
     static constexpr auto add = &Collection::addCaptionItem;
     static constexpr auto count = &Collection::getCaptionItemCount;
@@ -77,6 +87,16 @@ struct TocKind {
         }
     };
 
+    /// A collection that hands out a null pointer behind its items.
+    struct HandingOutNull : Collection {
+        ZelDataResult_tags getTocItems(std::vector<Item*>& items) const override
+        {
+            const auto code = Collection::getTocItems(items);
+            items.push_back(nullptr);
+            return code;
+        }
+    };
+
     static constexpr auto create = &Collection::createTocItem;
     static constexpr auto add = &Collection::addTocItem;
     static constexpr auto count = &Collection::getTocItemCount;
@@ -111,6 +131,16 @@ struct ScreenTextKind {
         ZelDataResult_tags createScreenTextItem(Item** out) const override
         {
             return maker ? maker(out) : Collection::createScreenTextItem(out);
+        }
+    };
+
+    /// A collection that hands out a null pointer behind its items.
+    struct HandingOutNull : Collection {
+        ZelDataResult_tags getScreenTextItems(std::vector<Item*>& items) const override
+        {
+            const auto code = Collection::getScreenTextItems(items);
+            items.push_back(nullptr);
+            return code;
         }
     };
 
@@ -508,6 +538,26 @@ TYPED_TEST(ItemCollection, ACopyOfTheCollectionHoldsCopiesOfTheItemsAlone)
     EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.copyFrom(source));
     EXPECT_EQ(ZelData_Ok, (source.*TypeParam::clear)());
     EXPECT_EQ(this->three_, this->contents());
+}
+
+TYPED_TEST(ItemCollection, ASourceThatHandsOutANullPointerEndsTheCopyBehindTheItemsBefore)
+{
+    typename TypeParam::HandingOutNull source;
+    typename TypeParam::OwnItem item;
+    this->fill(item, {5, "before"});
+    EXPECT_EQ(ZelData_Ok, (source.*TypeParam::add)(item));
+    EXPECT_CODE(this->collection_, ZelData_InternalError, this->collection_.copyFrom(source));
+    EXPECT_EQ((std::vector<Timed>{{5, "before"}}), this->contents());
+}
+
+TYPED_TEST(ItemCollection, AMakerThatSucceedsWithoutAnItemIsAnInternalError)
+{
+    typename TypeParam::OwnItem item;
+    this->fill(item, {5, "lost"});
+    this->collection_.maker = [](typename TypeParam::Item**) { return ZelData_Ok; };
+    EXPECT_CODE(this->collection_, ZelData_InternalError,
+                (this->collection_.*TypeParam::add)(item));
+    EXPECT_EQ(0UL, this->count());
 }
 
 TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)

@@ -186,6 +186,23 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
     EXPECT_CODE(second, ZelData_WarnTiming, second.isValid(true));
 }
 
+// The order is looked at first, so an item is asked for its start a second time.
+
+TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotTellItsStartIsTakenOver)
+{
+    ScreenTextOfFailing texts;
+    texts.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
+    EXPECT_CODE(texts, ZelData_NoData, texts.isValid(false));
+}
+
+TEST(StoredScreenText, AStartThatItLeavesOpenCountsAsZero)
+{
+    ScreenTextOfFailing texts;
+    texts.added({5}).failAt("getStart", ZelData_Ok, ZelData_Ok, 2);
+    texts.added({0});
+    EXPECT_CODE(texts, ZelData_Ok, texts.isValid(false));
+}
+
 TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
 {
     ScreenTextOfFailing texts;

@@ -56,6 +56,19 @@ protected:
         make(ZelDataUtilities::createScreenTextFormatter);
 };
 
+TEST_F(ScreenTextFormatter, WritesManyItemsInTheOrderOfTheirStarts)
+{
+    std::vector<Shown> items;
+    std::string markers;
+    for (long long i = 0; i != 40; ++i) {
+        const long long start = i * 7 % 40; // each start once
+        items.push_back({start, 1, "at " + std::to_string(start)});
+        markers += marker("at " + std::to_string(i), std::to_string(i), "1");
+    }
+    give(items);
+    EXPECT_EQ(track("f1000", markers), written());
+}
+
 TEST_F(ScreenTextFormatter, WritesTextTimesImageAndGroup)
 {
     give({{2000, 1500, "Click Save", "shots.png", 3, 4096, 1}});

@@ -100,6 +100,15 @@ TEST_F(TocCopy, DoesNotKeepAnOrderOfLanguagesThatWasSet)
     EXPECT_EQ((Ids{"fr", "de", "en"}), languagesOf(target_));
 }
 
+TEST_F(TocCopy, ListsNoLanguageThatOnlyARemovedEntryHad)
+{
+    ZelDataToc source;
+    fillSource(source);
+    EXPECT_EQ(ZelData_Ok, source.removeTocItemAt(0));
+    EXPECT_CODE(target_, ZelData_Ok, target_.copyFrom(source));
+    EXPECT_EQ((Ids{"de", "en"}), languagesOf(target_));
+}
+
 TEST_F(TocCopy, OntoItselfIsAnErrorThatChangesNothing)
 {
     const Contents before = contentsOf(target_);

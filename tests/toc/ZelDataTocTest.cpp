@@ -331,12 +331,39 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
+// The order is looked at first, so an entry is asked for its start a second time.
+
+TEST(StoredEntry, TheLastErrorOfOneThatDoesNotTellItsStartIsTakenOver)
+{
+    TocOfFailing toc;
+    toc.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
+    EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
+}
+
+TEST(StoredEntry, AStartThatItLeavesOpenCountsAsZero)
+{
+    TocOfFailing toc;
+    toc.added({5}).failAt("getStart", ZelData_Ok, ZelData_Ok, 2);
+    toc.added({0});
+    EXPECT_CODE(toc, ZelData_Ok, toc.isValid(false));
+}
+
 TEST(StoredEntry, ThatCannotLoseItsTextEndsTheRemoval)
 {
     TocOfFailing toc;
     toc.added({0, {{"en", "a"}}})
         .failAt("removeTextForLanguage", ZelData_NotImplemented, ZelData_NoData);
     EXPECT_CODE(toc, ZelData_NoData, toc.removeTocItemsForLanguage("en"));
+}
+
+TEST(StoredEntry, OfAnotherClassGetsTheTextsThatItLacks)
+{
+    TocOfFailing toc;
+    toc.added({0, {{"en", "a"}}});
+    toc.added({5, {{"de", "b"}}});
+    EXPECT_CODE(toc, ZelData_Ok, toc.makeTocConsistent());
+    EXPECT_EQ((std::vector<Entry>{{0, {{"de", ""}, {"en", "a"}}}, {5, {{"de", "b"}, {"en", ""}}}}),
+              entriesOf(toc));
 }
 
 TEST(StoredEntry, ThatCannotTakeAnEmptyTextEndsTheRepair)

@@ -56,6 +56,19 @@ protected:
     std::unique_ptr<i_ZelDataTocFormatter> formatter_ = make(ZelDataUtilities::createTocFormatter);
 };
 
+TEST_F(TocFormatter, WritesManyEntriesInTheOrderOfTheirStarts)
+{
+    std::vector<Entry> entries;
+    std::string markers;
+    for (long long i = 0; i != 40; ++i) {
+        const long long start = i * 7 % 40; // each start once
+        entries.push_back({start, {{"en", "at " + std::to_string(start)}}});
+        markers += marker("at " + std::to_string(i), std::to_string(i));
+    }
+    give(entries);
+    EXPECT_EQ(track("", markers), written());
+}
+
 TEST_F(TocFormatter, WritesImageEntriesAndThumbnails)
 {
     give({{0, {{"en", "Intro"}}, "thumbs.png", 0, 0},
@@ -307,6 +320,15 @@ TEST(TocList, SkipsLanguagesWithoutTitleAndTellsSo)
     EXPECT_EQ("<xmpDM:name><rdf:Alt><rdf:li xml:lang=\"de\">Eins</rdf:li>"
               "<rdf:li xml:lang=\"en\"></rdf:li></rdf:Alt></xmpDM:name>",
               out);
+}
+
+TEST(TocList, DoesNotTakeExhaustedMemoryForAMissingTitle)
+{
+    FailingTocItem item;
+    fill(item, {0, {{"de", "Eins"}}});
+    item.failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
+    std::string out;
+    EXPECT_THROW(buildTocList({"de"}, item, out), std::bad_alloc);
 }
 
 TEST(TocList, WithoutLanguagesIsEmptyAndComplete)
