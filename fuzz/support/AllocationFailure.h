@@ -21,7 +21,7 @@ struct FailurePlan {
 /// As long as it lives, allocations fail as planned.
 class AllocationFailure {
 public:
-    explicit AllocationFailure(const FailurePlan& plan) noexcept;
+    explicit AllocationFailure(const FailurePlan& wanted) noexcept;
     ~AllocationFailure();
     AllocationFailure(const AllocationFailure&) = delete;
     AllocationFailure& operator=(const AllocationFailure&) = delete;
