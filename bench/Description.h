@@ -23,7 +23,7 @@ public:
     const char* text() const { return text_.data(); }
 
 private:
-    std::array<char, 24> text_;
+    std::array<char, 24> text_{};
 };
 
 /// Tells a document to a @p Writer, which has open(name), attribute(name, text or number),

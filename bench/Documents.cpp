@@ -125,7 +125,7 @@ std::uint64_t seedOf(std::size_t captions, Order order, Pair pair)
 void addCaptions(Document& document, Dice& dice, std::size_t count, Order order, const Lists& lists)
 {
     for (const long long start : makeStarts(dice, count, order)) {
-        const auto duration = static_cast<long long>(1500 + dice.below(1000));
+        const auto duration = 1500 + static_cast<long long>(dice.below(1000));
         // Braces evaluate from left to right, so the dice fall the same with every compiler.
         document.captions.push_back(
             {start, duration, {captionText(dice, lists[0]), captionText(dice, lists[1])}});
@@ -144,7 +144,7 @@ void addEntries(Document& document, Dice& dice, std::size_t count, Order order, 
 void addScreenTexts(Document& document, Dice& dice, std::size_t count, Order order)
 {
     for (const long long start : makeStarts(dice, count, order)) {
-        const auto duration = static_cast<long long>(1500 + dice.below(1000));
+        const auto duration = 1500 + static_cast<long long>(dice.below(1000));
         const std::size_t i = document.screenTexts.size();
         document.screenTexts.push_back({start, duration, titleText(dice, 0), makeThumbnail(i),
                                         static_cast<unsigned long>(i / 5)});
@@ -155,9 +155,11 @@ template <class Item>
 std::vector<Item> ordered(const std::vector<Item>& items)
 {
     std::vector<long long> starts;
+    starts.reserve(items.size());
     for (const Item& item : items)
         starts.push_back(item.start);
     std::vector<Item> result;
+    result.reserve(items.size());
     for (const std::size_t index : writtenOrder(starts))
         result.push_back(items[index]);
     return result;

@@ -12,7 +12,7 @@ namespace {
 
 class TreeBuilder {
 public:
-    explicit TreeBuilder(pugi::xml_document& document) : node_(document) {}
+    explicit TreeBuilder(pugi::xml_document& document) : node_(document.root()) {}
 
     void open(const char* name) { node_ = node_.append_child(name); }
     void close() { node_ = node_.parent(); }

@@ -79,6 +79,7 @@ private:
     template <class Number>
     void number(Number value)
     {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): written before it is read.
         std::array<char, 24> digits;
         const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value);
         out_.append(digits.data(), written.ptr);

@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <memory>
+#include <system_error>
 
 namespace publish {
 
@@ -19,7 +19,7 @@ namespace {
 
 [[noreturn]] void failToRead(const std::string& name)
 {
-    throw PublishError(name + ": cannot be read: " + std::strerror(errno));
+    throw PublishError(name + ": cannot be read: " + std::generic_category().message(errno));
 }
 
 struct FileCloser {

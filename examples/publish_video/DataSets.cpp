@@ -8,6 +8,7 @@
 #include "PublishError.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace publish {
 
@@ -65,9 +66,10 @@ void addScreenText(i_ZelDataScreenText& screenText, const CueFile& file, const C
 std::vector<long long> entryStarts(const std::optional<CueFile>& toc)
 {
     std::vector<long long> starts;
-    if (toc)
-        for (const Cue& cue : toc->cues)
-            starts.push_back(cue.start);
+    if (toc) {
+        std::transform(toc->cues.begin(), toc->cues.end(), std::back_inserter(starts),
+                       [](const Cue& cue) { return cue.start; });
+    }
     std::sort(starts.begin(), starts.end());
     return starts;
 }

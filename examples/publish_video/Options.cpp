@@ -89,7 +89,7 @@ bool isLanguageForm(std::string_view text)
 LanguageFile languageFile(const std::string& argument, const std::string& name)
 {
     const std::size_t equals = argument.find('=');
-    const LanguageFile file{argument.substr(0, equals), argument.substr(equals + 1)};
+    LanguageFile file{argument.substr(0, equals), argument.substr(equals + 1)};
     if (!isLanguageForm(file.language))
         throw PublishError(name + ": '" + printable(file.language) +
                            "' is not a language such as en or pt-BR");
@@ -159,8 +159,7 @@ public:
     std::vector<std::string> texts(const std::string& key) const
     {
         std::vector<std::string> texts = values(key);
-        for (std::string& text : texts)
-            text = argumentText(text);
+        std::transform(texts.begin(), texts.end(), texts.begin(), argumentText);
         return texts;
     }
 

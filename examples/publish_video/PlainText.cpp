@@ -3,6 +3,9 @@
 
 #include "PlainText.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace publish {
 
 namespace {
@@ -26,9 +29,11 @@ bool startsWith(std::string_view text, std::string_view beginning)
 
 const Entity* entityAt(std::string_view text)
 {
-    for (const Entity& entity : entities)
-        if (startsWith(text, entity.name)) return &entity;
-    return nullptr;
+    const auto* const end = std::end(entities);
+    const auto* const found = std::find_if(std::begin(entities), end, [&](const Entity& entity) {
+        return startsWith(text, entity.name);
+    });
+    return found != end ? found : nullptr;
 }
 
 /// Finds where markup ends. The last closing characters are looked up once, so that a text of many

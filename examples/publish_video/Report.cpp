@@ -9,6 +9,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace publish {
@@ -60,8 +61,7 @@ std::string reasonOf(const ZelDataFinding& finding)
 std::string describeCaption(const std::vector<ZelDataFinding>& findings)
 {
     std::vector<std::string> reasons;
-    for (const ZelDataFinding& finding : findings)
-        reasons.push_back(reasonOf(finding));
+    std::transform(findings.begin(), findings.end(), std::back_inserter(reasons), reasonOf);
     return "caption at " + std::to_string(findings.front().start) + " ms: " + joined(reasons, ", ");
 }
 
@@ -95,7 +95,7 @@ std::string describeLanguages(const i_ZelDataCaptions& captions)
     std::vector<std::string> languages;
     check(captions.getOrderedLanguageIDs(languages), "reading the languages");
     // The library lists this one where the captions have none.
-    if (languages.empty()) languages.push_back("en-US");
+    if (languages.empty()) languages.emplace_back("en-US");
     return "languages: " + joined(languages, ", ");
 }
 

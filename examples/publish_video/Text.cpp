@@ -3,7 +3,9 @@
 
 #include "Text.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 namespace publish {
 
@@ -38,9 +40,11 @@ bool isBetween(unsigned char byte, unsigned char first, unsigned char last)
 
 const Lead* leadOf(unsigned char byte)
 {
-    for (const Lead& lead : leads)
-        if (isBetween(byte, lead.first, lead.last)) return &lead;
-    return nullptr;
+    const auto* const end = std::end(leads);
+    const auto* const found = std::find_if(std::begin(leads), end, [&](const Lead& lead) {
+        return isBetween(byte, lead.first, lead.last);
+    });
+    return found != end ? found : nullptr;
 }
 
 /// The length of the sequence at @p at, or 0 where none stands.

@@ -12,9 +12,11 @@
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
 
+#include <algorithm>
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -44,12 +46,15 @@ std::vector<std::string> describe(const Options& options, const CueFiles& files,
                                   const i_ZelDataCaptions& captions)
 {
     std::vector<std::string> lines;
-    for (const CueFile& file : files.captions)
-        lines.push_back(describeFile(file, options.skipEmpty));
-    if (files.toc) lines.push_back(describeFile(*files.toc, options.skipEmpty));
-    if (files.screenText) lines.push_back(describeFile(*files.screenText, options.skipEmpty));
-    for (const std::string& line : describeCaptions(captions))
-        lines.push_back(line);
+    const auto describeOne = [&](const CueFile& file) {
+        return describeFile(file, options.skipEmpty);
+    };
+    std::transform(files.captions.begin(), files.captions.end(), std::back_inserter(lines),
+                   describeOne);
+    if (files.toc) lines.push_back(describeOne(*files.toc));
+    if (files.screenText) lines.push_back(describeOne(*files.screenText));
+    const auto captionLines = describeCaptions(captions);
+    lines.insert(lines.end(), captionLines.begin(), captionLines.end());
     lines.push_back(describeLanguages(captions));
     return lines;
 }

@@ -102,6 +102,7 @@ public:
     }
     void show(std::string& text)
     {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): it is one of the world's, none const.
         describe(text, *const_cast<std::remove_const_t<Interface>*>(object_));
     }
     /// What operations do to it is seen when it is compared with its twin.

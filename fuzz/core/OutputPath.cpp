@@ -5,10 +5,10 @@
 
 #include "support/Require.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdlib.h>
 
 namespace fuzz {
 
@@ -42,7 +42,7 @@ private:
 std::string pathOf(std::size_t kind)
 {
     static const Folder folder;
-    const std::string file = folder.path() + "/packet.xmp";
+    std::string file = folder.path() + "/packet.xmp";
     switch (kind % 8) {
     case 0:
         return {};

@@ -201,8 +201,9 @@ void checkLanguage(const std::string& id)
     require(Utilities::isValidLanguage(id) == code, "whether a language is known");
     require(Utilities::englishNameForLanguage(id, english) == code, "the code of an English name");
     require(Utilities::nativeNameForLanguage(id, native) == code, "the code of a native name");
-    requireEqual(names ? bytesOf(names->englishName) : "before", english, "an English name");
-    requireEqual(names ? bytesOf(names->nativeName) : "before", native, "a native name");
+    requireEqual(names != nullptr ? bytesOf(names->englishName) : "before", english,
+                 "an English name");
+    requireEqual(names != nullptr ? bytesOf(names->nativeName) : "before", native, "a native name");
 }
 
 // Values
@@ -236,7 +237,7 @@ std::string plainDate(long seconds)
 {
     std::tm utc{};
     std::tm local{};
-    if (!gmtime_r(&seconds, &utc) || !localtime_r(&seconds, &local)) return "";
+    if (gmtime_r(&seconds, &utc) == nullptr || localtime_r(&seconds, &local) == nullptr) return "";
     std::array<char, 100> text{};
     const int hours = local.tm_hour - utc.tm_hour;
     std::snprintf(text.data(), text.size(), "%04lld-%02d-%02dT%02d:%02d:%02d%c%d:00",
@@ -247,9 +248,11 @@ std::string plainDate(long seconds)
 
 void checkAlignment(ZelAlignment_tags alignment)
 {
-    const auto bits = static_cast<unsigned>(alignment);
-    const char* vertical = bits & 1U ? "bottom" : bits & 2U ? "top" : "center";
-    const char* horizontal = bits & 0x10U ? "left" : bits & 0x20U ? "right" : "center";
+    const auto has = [bits = static_cast<unsigned>(alignment)](unsigned bit) {
+        return (bits & bit) != 0;
+    };
+    const char* vertical = has(1U) ? "bottom" : has(2U) ? "top" : "center";
+    const char* horizontal = has(0x10U) ? "left" : has(0x20U) ? "right" : "center";
     requireEqual(vertical, Utilities::getVerticalAlignment(alignment), "a vertical alignment");
     requireEqual(horizontal, Utilities::getHorizontalAlignment(alignment),
                  "a horizontal alignment");

@@ -56,6 +56,7 @@ inline constexpr ZelDataResultText zelDataUnknownResultText = {
 constexpr const ZelDataResultText& zelDataResultTextOf(ZelDataResult_tags code) noexcept
 {
     for (const ZelDataResultText& text : zelDataResultTexts) {
+        // cppcheck-suppress useStlAlgorithm ; std::find_if is not constexpr in C++17
         if (text.code == code) return text;
     }
     return zelDataUnknownResultText;

@@ -41,13 +41,17 @@ void checkStyle(const CaptionStyle& style, FindingList& found)
 
 Ending readStyle(const i_ZelDataCaptions& captions, CaptionStyle& style)
 {
-    auto& [red, green, blue] = style.foreground;
-    auto& [backRed, backGreen, backBlue] = style.background;
     Ending ending = endingOf(captions.getFrameRate(style.frameRate.value));
     if (!ending) ending = endingOf(captions.getFontFamily(style.fontFamily));
     if (!ending) ending = endingOf(captions.getFontSize(style.fontSize));
-    if (!ending) ending = endingOf(captions.getForegroundColor(red, green, blue));
-    if (!ending) ending = endingOf(captions.getBackgroundColor(backRed, backGreen, backBlue));
+    if (!ending) {
+        auto& [red, green, blue] = style.foreground;
+        ending = endingOf(captions.getForegroundColor(red, green, blue));
+    }
+    if (!ending) {
+        auto& [red, green, blue] = style.background;
+        ending = endingOf(captions.getBackgroundColor(red, green, blue));
+    }
     if (!ending) ending = endingOf(captions.getBackgroundOpacity(style.backgroundOpacity));
     return ending;
 }

@@ -14,6 +14,7 @@ namespace {
 using Captions = i_ZelDataCaptions;
 
 /// FieldCopy for a colour, which is got and set as three numbers.
+// cppcheck-suppress constParameter ; the setter changes the target
 Ending copyColor(const Captions& source, Captions& target,
                  ZelDataResult_tags (Captions::*get)(float&, float&, float&) const,
                  ZelDataResult_tags (Captions::*set)(float, float, float))

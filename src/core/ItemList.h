@@ -11,6 +11,8 @@
 #include "util/ExactType.h"
 #include "util/Prefetch.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -69,26 +71,26 @@ public:
     const Summary& summary()
     {
         if (!summary_) {
-            Summary summary;
+            Summary made;
             for (const Slot& slot : slots_.read())
-                summary.add(slot.state);
-            summary_ = std::move(summary);
+                made.add(slot.state);
+            summary_ = std::move(made);
         }
         return *summary_;
     }
 
     void append(std::unique_ptr<Item> item)
     {
-        auto summary = std::exchange(summary_, std::nullopt); // comes back when the item is in
+        auto known = std::exchange(summary_, std::nullopt); // comes back when the item is in
         Slot slot;
         if (const auto* own = exactly<Own>(std::as_const(*item))) {
             slot.state = own->state();
-            if (summary) summary->add(slot.state);
+            if (known) known->add(slot.state);
         } else {
             slot.foreign = std::move(item);
         }
         slots_.write().push_back(std::move(slot));
-        summary_ = std::move(summary);
+        summary_ = std::move(known);
     }
 
     /// What @p use, a callable for an item, gives for the item at @p index.
@@ -116,8 +118,9 @@ public:
     {
         std::vector<long long> starts;
         starts.reserve(count());
-        for (const Slot& slot : slots_.read())
-            starts.push_back(slot.start());
+        const Slots& slots = slots_.read();
+        std::transform(slots.begin(), slots.end(), std::back_inserter(starts),
+                       [](const Slot& slot) { return slot.start(); });
         return starts;
     }
 
@@ -150,8 +153,9 @@ public:
         if (places.empty()) return;
         Slots ordered;
         ordered.reserve(places.size());
-        for (const std::size_t place : places)
-            ordered.push_back(slots_.read()[place]);
+        const Slots& slots = slots_.read();
+        std::transform(places.begin(), places.end(), std::back_inserter(ordered),
+                       [&](std::size_t place) { return slots[place]; });
         summary_.reset();
         slots_ = CopyOnWrite<Slots>(std::move(ordered));
     }
@@ -191,8 +195,8 @@ public:
             copies.push_back(std::move(copy.item));
         }
         out.reserve(copies.size());
-        for (auto& copy : copies)
-            out.push_back(copy.release());
+        std::transform(copies.begin(), copies.end(), std::back_inserter(out),
+                       [](std::unique_ptr<Item>& copy) { return copy.release(); });
         return ZelData_Ok;
     }
 

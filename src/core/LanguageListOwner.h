@@ -86,6 +86,7 @@ protected:
         std::vector<std::string> ids;
         if (failed(item.getLanguageIDs(ids))) return item.getLastError();
         for (const std::string& id : ids) {
+            // cppcheck-suppress useStlAlgorithm ; each call changes the object, in this order
             if (isError(this->addLanguage(id))) return this->getLastError();
         }
         return {};

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -215,8 +216,10 @@ void LanguageTexts::addMissing(const std::vector<std::string>& languageIDs)
     missing.erase(std::unique(missing.begin(), missing.end(), same), missing.end());
     std::vector<Edit> edits;
     edits.reserve(missing.size());
-    for (const Entry& entry : missing)
-        edits.push_back({placeOf(entry.languageID), 0, &entry});
+    std::transform(missing.begin(), missing.end(), std::back_inserter(edits),
+                   [&](const Entry& entry) {
+                       return Edit{placeOf(entry.languageID), 0, &entry};
+                   });
     if (!edits.empty()) bytes_ = edited(*this, bytes_, edits.data(), edits.data() + edits.size());
 }
 

@@ -48,8 +48,8 @@ protected:
                 if (failed(created)) return created;
                 held_.reset(static_cast<Own*>(made)); // that is what our factory makes
             }
-            Data& held = *held_;
-            return replaceContents(held, clear, source) ? ZelData_Ok : held.getLastError();
+            Data& copy = *held_;
+            return replaceContents(copy, clear, source) ? ZelData_Ok : copy.getLastError();
         }));
     }
 

@@ -24,7 +24,13 @@ namespace {
 
 constexpr std::string_view xmlDeclaration = R"(<?xml version="1.0" encoding="utf-8" ?>)";
 
-/// The tracks of a packet, each with the formatter that writes it.
+/// A track with the formatter that writes it.
+struct FormattedTrack {
+    std::unique_ptr<i_ZelDataFormatterBase> formatter;
+    const TrackWriter* writer;
+};
+
+/// The tracks of a packet, those that there are.
 class Tracks {
 public:
     explicit Tracks(ZelDataFormatType_tags type) : type_(type) {}
@@ -48,29 +54,24 @@ public:
 
     void appendTo(std::string& packet) const
     {
-        for (const Track& track : tracks_)
+        for (const FormattedTrack& track : tracks_)
             track.writer->append(packet);
     }
 
 private:
-    struct Track {
-        std::unique_ptr<i_ZelDataFormatterBase> formatter;
-        const TrackWriter* writer;
-    };
-
     Ending keep(std::unique_ptr<i_ZelDataFormatterBase> formatter)
     {
         const auto& writer = dynamic_cast<const TrackWriter&>(*formatter); // our factories made it
-        std::size_t size = 0;
-        if (const auto measured = writer.measure(size); failed(measured)) return measured;
-        size_ += size;
-        if (size != 0) tracks_.push_back({std::move(formatter), &writer});
+        std::size_t length = 0;
+        if (const auto measured = writer.measure(length); failed(measured)) return measured;
+        size_ += length;
+        if (length != 0) tracks_.push_back({std::move(formatter), &writer});
         return {};
     }
 
     ZelDataFormatType_tags type_;
     std::size_t size_ = 0;
-    std::vector<Track> tracks_;
+    std::vector<FormattedTrack> tracks_;
 };
 
 /// Writes each byte as one wide character, in blocks on the stack: the stream's own insertion of
@@ -108,6 +109,7 @@ Ending ZelDataCoreXmp::copyCaptionLanguages() const
     // Meant to go on: captions that cannot name their languages are written under "en-US".
     if (failed(listed)) return {};
     for (const std::string& id : ids) {
+        // cppcheck-suppress useStlAlgorithm ; each call changes the object, in this order
         if (isError(header()->addLanguage(id))) return header()->getLastError();
     }
     return {};

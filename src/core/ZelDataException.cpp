@@ -2,6 +2,7 @@
 
 namespace ZelInterchangeData {
 
+// NOLINTNEXTLINE(modernize-pass-by-value): the parameter is part of the exported name.
 ZelDataException::ZelDataException(const std::string& message) : message_(message) {}
 
 ZelDataException::~ZelDataException() = default;

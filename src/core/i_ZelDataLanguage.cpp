@@ -14,6 +14,7 @@ ZelDataResult_tags i_ZelDataLanguage::copyFrom(const i_ZelDataLanguage& other)
         std::vector<std::string> ids;
         if (failed(other.getOrderedLanguageIDs(ids))) return other.getLastError();
         for (const std::string& id : ids) {
+            // cppcheck-suppress useStlAlgorithm ; each call changes the object, in this order
             if (failed(addLanguage(id))) return getLastError();
         }
         return ZelData_Ok;

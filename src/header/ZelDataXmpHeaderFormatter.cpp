@@ -92,6 +92,7 @@ public:
               &PacketFrame::addSource, &PacketFrame::addFlagAndKeywords, &PacketFrame::addDuration,
               &PacketFrame::addFrameSize, &PacketFrame::addLanguages, &PacketFrame::addTrackList,
               &PacketFrame::addController, &PacketFrame::addContentNames}) {
+            // cppcheck-suppress useStlAlgorithm ; each step adds to the packet, in this order
             if (const Ending ending = (this->*step)()) return *ending;
         }
         out = stream_.getXml(false);

@@ -42,12 +42,12 @@ using Index = std::array<std::uint8_t, letterCount * letterCount>;
 
 constexpr Index makeIndex() noexcept
 {
-    Index index{};
+    Index places{};
     std::uint8_t place = 0;
     for (const LanguageEntry& entry : languageTable) {
-        index[indexOf(letterNumber(entry.code[0]), letterNumber(entry.code[1]))] = ++place;
+        places[indexOf(letterNumber(entry.code[0]), letterNumber(entry.code[1]))] = ++place;
     }
-    return index;
+    return places;
 }
 
 constexpr bool isComplete(const LanguageEntry& entry) noexcept
@@ -63,6 +63,7 @@ constexpr bool isLowerCase(std::string_view code) noexcept
 constexpr bool everyEntryIsComplete() noexcept
 {
     for (const LanguageEntry& entry : languageTable) {
+        // cppcheck-suppress useStlAlgorithm ; std::all_of is not constexpr in C++17
         if (!isComplete(entry) || !isLowerCase(entry.code)) return false;
     }
     return true;

@@ -16,13 +16,16 @@ inline void prefetch([[maybe_unused]] const void* address,
                      [[maybe_unused]] std::size_t size) noexcept
 {
 #ifdef __GNUC__
-    // Numbers, because pointers must not leave what they point into.
+    const auto askFor = [](std::uintptr_t place) {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): a pointer must not leave what it points into.
+        __builtin_prefetch(reinterpret_cast<const void*>(place));
+    };
     constexpr std::uintptr_t cacheLine = 64;
     const auto first = reinterpret_cast<std::uintptr_t>(address);
     const auto last = first + size; // may lie in one line more
     for (std::uintptr_t line = first; line < last; line += cacheLine)
-        __builtin_prefetch(reinterpret_cast<const void*>(line));
-    __builtin_prefetch(reinterpret_cast<const void*>(last));
+        askFor(line);
+    askFor(last);
 #endif
 }
 

@@ -18,9 +18,10 @@ public:
     SharedText() noexcept = default;
 
     /// A copy of @p text.
-    explicit SharedText(std::string_view text)
-        : bytes_(text.empty() ? SharedBytes() : SharedBytes(text.size())), size_(text.size())
+    explicit SharedText(std::string_view text) : size_(text.size())
     {
+        if (text.empty()) return;
+        bytes_ = SharedBytes(text.size());
         text.copy(characters(), size_);
     }
 

@@ -17,6 +17,7 @@ namespace ZelInterchangeData {
 class TextBlock {
 public:
     /// Appends to @p out, which outlives this object and lacks the last pieces until flush().
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): written before it is read.
     explicit TextBlock(std::string& out) : out_(out) {}
     TextBlock(const TextBlock&) = delete;
     TextBlock& operator=(const TextBlock&) = delete;
@@ -27,8 +28,7 @@ public:
             appendLong(piece);
             return;
         }
-        size_ +=
-            piece.copy(block_.data() + size_, piece.size()); // takes an empty view of nothing, too
+        appendShort(piece);
     }
 
     /// Appends @p number in decimal.
@@ -53,11 +53,17 @@ public:
     }
 
 private:
+    void appendShort(std::string_view piece)
+    {
+        // A copy takes an empty view of nothing, too.
+        size_ += piece.copy(block_.data() + size_, piece.size());
+    }
+
     void appendLong(std::string_view piece)
     {
         flush();
         if (piece.size() <= block_.size()) {
-            append(piece);
+            appendShort(piece);
             return;
         }
         out_.append(piece);

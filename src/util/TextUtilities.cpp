@@ -126,9 +126,9 @@ constexpr EntityPlaces makeEntityPlaces() noexcept
 {
     EntityPlaces places{};
     for (std::uint8_t& place : places)
-        place = noEntity;
-    for (std::uint8_t place = 0; place < entities.size(); ++place) {
-        places[byteOf(entities[place].character)] = place;
+        place = noEntity; // cppcheck-suppress useStlAlgorithm ; std::fill is not constexpr in C++17
+    for (std::size_t place = 0; place < entities.size(); ++place) {
+        places[byteOf(entities[place].character)] = static_cast<std::uint8_t>(place);
     }
     return places;
 }
@@ -223,9 +223,10 @@ bool beginsWith(std::string_view text, const Entity& entity) noexcept
 /// Takes the entity off the begin of @p text and appends its character. False where there is none.
 bool decodeEntity(std::string_view& text, std::string& result)
 {
-    const auto entity = std::find_if(entities.begin(), entities.end(),
-                                     [text](const Entity& each) { return beginsWith(text, each); });
-    if (entity == entities.end()) return false;
+    const auto* const end = entities.data() + entities.size();
+    const auto* const entity = std::find_if(
+        entities.data(), end, [text](const Entity& each) { return beginsWith(text, each); });
+    if (entity == end) return false;
     result.push_back(entity->character);
     text.remove_prefix(entity->markup.size());
     return true;

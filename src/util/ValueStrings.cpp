@@ -31,11 +31,11 @@ std::string numberText(Number value, Format... format)
 /// The calendar date and the time of day; the year in 64 bits, as the calendar's may exceed an int.
 std::string dateAndTime(const std::tm& utc)
 {
-    std::array<char, 128> buffer;
+    std::array<char, 128> buffer{};
     const int length = std::snprintf(
         buffer.data(), buffer.size(), "%04lld-%02d-%02dT%02d:%02d:%02d", utc.tm_year + 1900LL,
         utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
-    return std::string(buffer.data(), static_cast<std::size_t>(length));
+    return {buffer.data(), static_cast<std::size_t>(length)};
 }
 
 /// The zone offset of a date, from the hour fields alone.
@@ -99,6 +99,7 @@ std::string ZelDataUtilities::getVersionString(unsigned long version)
            getValueString(version & 0xFFU);
 }
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the parameter is part of the exported name.
 std::string ZelDataUtilities::getDateString(long* seconds)
 {
     const std::time_t instant = seconds == nullptr ? std::time(nullptr) : *seconds;

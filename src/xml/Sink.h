@@ -26,6 +26,7 @@ public:
 };
 
 /// @p node, or the sink in @p sink when it is null. The sink is made when it is first needed.
+// cppcheck-suppress constParameter ; the node is given on to be changed
 inline ZelDataXmlNode& orSink(ZelDataXmlNode* node, std::unique_ptr<ZelDataXmlNode>& sink)
 {
     if (node != nullptr) return *node;

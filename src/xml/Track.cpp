@@ -14,7 +14,7 @@ Track::Track() : description_(stream_.element("rdf:li/rdf:Description"))
 
 ZelDataXmlNode& Track::addProperty(const char* name)
 {
-    return description_ < name;
+    return description_.element(name);
 }
 
 /// Ends @p frame behind the start tag of the marker sequence and gives what stood there.

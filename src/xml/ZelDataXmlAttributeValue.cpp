@@ -32,12 +32,12 @@ ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(std::string&& text)
 
 ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(int number)
 {
-    return *this < static_cast<long long>(number);
+    return operator<(static_cast<long long>(number));
 }
 
 ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(long number)
 {
-    return *this < static_cast<long long>(number);
+    return operator<(static_cast<long long>(number));
 }
 
 ZelDataXmlNode& ZelDataXmlAttributeValue::operator<(long long number)

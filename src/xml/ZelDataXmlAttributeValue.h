@@ -41,12 +41,13 @@ public:
     /// Replaces the value by @p number with up to six significant digits ("0.6", "1.23457e+06").
     ZelDataXmlNode& operator<(double number);
 
+    /// As `*this < text`.
+    ZelDataXmlNode& assign(std::string text);
+
     ZelDataXmlAttributeValue(const ZelDataXmlAttributeValue&) = delete;
     ZelDataXmlAttributeValue& operator=(const ZelDataXmlAttributeValue&) = delete;
 
 private:
-    ZelDataXmlNode& assign(std::string text);
-
     ZelDataXmlNode* parent_ = nullptr;
     std::string value_;
     std::unique_ptr<ZelDataXmlNode> sink_;

@@ -3,6 +3,7 @@
 
 #include "xml/ZelDataXmlNode.h"
 
+#include "util/ValueStrings.h"
 #include "xml/OrEmpty.h"
 
 #include <cstddef>
@@ -41,6 +42,7 @@ ZelDataXmlNode::ZelDataXmlNode(ZelDataXmlNode* parent)
 
 // Leaves go first, found by way of the parents: neither the stack nor the memory that a recursion
 // or a list of nodes would take grows with the depth of the tree.
+// NOLINTNEXTLINE(misc-no-recursion): one step, because a leaf has nothing below.
 ZelDataXmlNode::~ZelDataXmlNode()
 {
     ZelDataXmlNode* node = this;
@@ -50,11 +52,11 @@ ZelDataXmlNode::~ZelDataXmlNode()
         } else {
             ZelDataXmlNode* const leaf = std::exchange(node, node->parent_);
             node->children_.pop_back();
-            std::destroy_at(leaf); // its memory goes with the root
+            leaf->~ZelDataXmlNode(); // its memory goes with the root
         }
     }
-    for (ZelDataXmlAttribute* attribute : attributes_)
-        std::destroy_at(attribute);
+    for (ZelDataXmlAttribute* own : attributes_)
+        std::destroy_at(own);
 }
 
 /// A new object in the tree's memory, which its owner destroys and does not delete.
@@ -72,7 +74,7 @@ ZelDataXmlNode& ZelDataXmlNode::operator<(const char* path)
 
 ZelDataXmlNode& ZelDataXmlNode::operator<(const std::string& path)
 {
-    return *this < path.c_str();
+    return operator<(path.c_str());
 }
 
 ZelDataXmlNode& ZelDataXmlNode::operator<([[maybe_unused]] long long* newGroupVerb)
@@ -94,36 +96,39 @@ ZelDataXmlValue& ZelDataXmlNode::operator<([[maybe_unused]] void** textVerb)
     return text_;
 }
 
+// cppcheck-suppress operatorEqRetRefThis ; a verb, no assignment
 ZelDataXmlNode& ZelDataXmlNode::operator=(long number)
 {
-    return text_ < number;
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): a verb, which leads on as text() does.
+    return text_.assign(decimalText(static_cast<long long>(number)));
 }
 
 ZelDataXmlNode& ZelDataXmlNode::newGroup()
 {
-    return *this < static_cast<long long*>(nullptr);
+    return operator<(static_cast<long long*>(nullptr));
 }
 
 ZelDataXmlNode& ZelDataXmlNode::attribute(const char* name, std::string value)
 {
-    return *this < static_cast<void*>(nullptr) < name < std::move(value);
+    ZelDataXmlAttribute& added = operator<(static_cast<void*>(nullptr));
+    return (added < name).assign(std::move(value));
 }
 
 ZelDataXmlNode& ZelDataXmlNode::attribute(const char* name, long long value)
 {
-    return *this < static_cast<void*>(nullptr) < name < value;
+    return attribute(name, decimalText(value));
 }
 
 ZelDataXmlNode& ZelDataXmlNode::text(const std::string& markup)
 {
-    return *this < static_cast<void**>(nullptr) < markup;
+    return operator<(static_cast<void**>(nullptr)).assign(markup);
 }
 
 ZelDataXmlNode& ZelDataXmlNode::setName(const std::string& path)
 {
     const std::size_t slash = path.find('/');
     name_ = std::string_view(path).substr(0, slash);
-    return slash == std::string::npos ? *this : *this < path.substr(slash + 1);
+    return slash == std::string::npos ? *this : operator<(path.substr(slash + 1));
 }
 
 void ZelDataXmlNode::write(std::string& out) const
@@ -198,8 +203,8 @@ void ZelDataXmlNode::writeStartTag(std::string& out) const
     // Meant: a blank follows every attribute, the last one too, as in <x:xmpmeta xmlns:x="…" >.
     // Without it an XML reader would see no difference, but the bytes of every packet would change.
     if (!attributes_.empty()) out += ' ';
-    for (const auto& attribute : attributes_)
-        attribute->write(out);
+    for (const auto* own : attributes_)
+        own->write(out);
     out += '>';
 }
 

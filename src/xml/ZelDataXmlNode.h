@@ -64,8 +64,8 @@ public:
     ZelDataXmlNode& operator=(long number);
 
     /// As `*this < path`.
-    ZelDataXmlNode& element(const char* path) { return *this < path; }
-    ZelDataXmlNode& element(const std::string& path) { return *this < path; }
+    ZelDataXmlNode& element(const char* path) { return operator<(path); }
+    ZelDataXmlNode& element(const std::string& path) { return operator<(path); }
     /// Starts a new child group: every child made so far keeps its place but is no longer found by
     /// its name. Returns this node.
     ZelDataXmlNode& newGroup();

@@ -4,6 +4,7 @@
 #include "xml/ZelDataXmlStream.h"
 
 #include <cstddef>
+#include <string_view>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -51,7 +52,7 @@ std::string& replaceAll(std::string& subject, const std::string& from, const std
         position = found + from.length();
         found = subject.find(from, position);
     }
-    result.append(subject, position, std::string::npos);
+    result.append(std::string_view(subject).substr(position));
     subject = std::move(result);
     return subject;
 }

@@ -28,7 +28,7 @@ ZelDataXmlNode& ZelDataXmlValue::operator<(const std::string& text)
 
 ZelDataXmlNode& ZelDataXmlValue::operator<(long number)
 {
-    return *this < static_cast<long long>(number);
+    return operator<(static_cast<long long>(number));
 }
 
 ZelDataXmlNode& ZelDataXmlValue::operator<(long long number)

@@ -36,12 +36,13 @@ public:
     /// Replaces the text by @p number in decimal.
     ZelDataXmlNode& operator<(long long number);
 
+    /// As `*this < text`.
+    ZelDataXmlNode& assign(std::string text);
+
     ZelDataXmlValue(const ZelDataXmlValue&) = delete;
     ZelDataXmlValue& operator=(const ZelDataXmlValue&) = delete;
 
 private:
-    ZelDataXmlNode& assign(std::string text);
-
     ZelDataXmlNode* owner_ = nullptr;
     std::string text_;
     std::unique_ptr<ZelDataXmlNode> sink_;

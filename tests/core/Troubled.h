@@ -39,7 +39,7 @@ Act throwing(Exception exception)
 }
 
 /// Does @p act at the call @p number, counted from 1, and nothing at the others.
-inline Act atCall(int number, Act act)
+inline Act atCall(int number, const Act& act)
 {
     return [=, calls = 0](const i_ZelDataResult& object) mutable {
         return ++calls == number ? act(object) : std::nullopt;

@@ -82,7 +82,7 @@ TEST(GetValueStringOfFloat, EqualsTheClassicStreamOverTheWholeRange)
 {
     ClassicStream stream;
     for (std::uint64_t bits = 0; bits <= UINT32_MAX; bits += 21839) {
-        const float value = fromBits<float>(static_cast<std::uint32_t>(bits));
+        const auto value = fromBits<float>(static_cast<std::uint32_t>(bits));
         ASSERT_EQ(ofFloat(value), stream.textOf(value)) << bits;
     }
 }
@@ -136,7 +136,7 @@ TEST(GeneralText, EqualsTheClassicStreamForAnyBits)
     std::mt19937_64 random(20090305);
     for (int round = 0; round < 200000; ++round) {
         const std::uint64_t bits = random();
-        const double value = fromBits<double>(bits);
+        const auto value = fromBits<double>(bits);
         ASSERT_EQ(generalText(value), stream.textOf(value)) << bits;
     }
 }

@@ -20,9 +20,9 @@ constexpr bool isObject =
     std::is_base_of_v<ZelInterchangeData::i_ZelDataResult, std::remove_cv_t<T>>;
 
 template <class T>
-constexpr bool isItemList = false;
+inline constexpr bool isItemList = false;
 template <class I>
-constexpr bool isItemList<std::vector<I*>> = true;
+inline constexpr bool isItemList<std::vector<I*>> = true;
 
 /// A pointer that is never followed: what stood in an out-argument before.
 template <class I>

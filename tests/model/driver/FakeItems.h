@@ -53,19 +53,23 @@ protected:
     FakeTexts(const FakeTexts&) = default;
     FakeTexts& operator=(const FakeTexts&) = delete;
 
-    std::pair<Text, Text>* find(const Text& language)
+    std::pair<Text, Text>* find(const Text& language) { return findIn(texts_, language); }
+    const std::pair<Text, Text>* find(const Text& language) const
     {
-        for (auto& entry : texts_) {
+        return findIn(texts_, language);
+    }
+
+    std::vector<std::pair<Text, Text>> texts_;
+
+private:
+    template <class Texts>
+    static auto findIn(Texts& texts, const Text& language) -> decltype(texts.data())
+    {
+        for (auto& entry : texts) {
             if (entry.first == language) return &entry;
         }
         return nullptr;
     }
-    const std::pair<Text, Text>* find(const Text& language) const
-    {
-        return const_cast<FakeTexts*>(this)->find(language);
-    }
-
-    std::vector<std::pair<Text, Text>> texts_;
 };
 
 /// The operations on texts per language, kept in the order of their coming.

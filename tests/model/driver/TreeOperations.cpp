@@ -43,7 +43,7 @@ public:
     std::string returned(ZelDataXmlNode& node, const ZelDataXmlNode& of)
     {
         if (&node == of.parent()) return made(node);
-        const std::string number = known(node);
+        std::string number = known(node);
         if (number == "none") node < "outside/of/the/tree";
         return number;
     }
@@ -111,7 +111,7 @@ ZelDataXmlNode& giveNumber(ZelDataXmlValue& value, Session& session)
 
 ZelDataXmlAttributeValue& named(const KnownAttribute& attribute)
 {
-    if (!attribute.value) throw MissingObject();
+    if (attribute.value == nullptr) throw MissingObject();
     return *attribute.value;
 }
 
