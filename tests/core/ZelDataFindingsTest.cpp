@@ -23,6 +23,110 @@ ZelDataFinding limited(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subj
 
 ZelDataFinding color(const std::string& property, float component, long long limit)
 {
+    ZelDataFinding finding =
+        limited(ZelDataFinding_ColorOutOfRange, caption, ZelDataFinding::noItem, 0, limit);
+    finding.property = property;
+    finding.component = component;
+    return finding;
+}
+
+/// How far into @p finding its member @p field lies, in bytes.
+template <class Field>
+std::ptrdiff_t placeOf(const ZelDataFinding& finding, const Field& field)
+{
+    return reinterpret_cast<const char*>(&field) - reinterpret_cast<const char*>(&finding);
+}
+
+TEST(ZelDataFinding, HasTheLayoutThatCallersWereCompiledWith)
+{
+    const ZelDataFinding finding;
+    EXPECT_EQ(128U, sizeof(finding));
+    EXPECT_EQ(0, placeOf(finding, finding.kind));
+    EXPECT_EQ(4, placeOf(finding, finding.subject));
+    EXPECT_EQ(8, placeOf(finding, finding.item));
+    EXPECT_EQ(16, placeOf(finding, finding.start));
+    EXPECT_EQ(24, placeOf(finding, finding.language));
+    EXPECT_EQ(56, placeOf(finding, finding.property));
+    EXPECT_EQ(88, placeOf(finding, finding.component));
+    EXPECT_EQ(96, placeOf(finding, finding.value));
+    EXPECT_EQ(104, placeOf(finding, finding.limit));
+    EXPECT_EQ(112, placeOf(finding, finding.laterItem));
+    EXPECT_EQ(120, placeOf(finding, finding.laterStart));
+}
+
+TEST(ZelDataFinding, KindsAndSubjectsKeepTheirNumbers)
+{
+    const std::vector<ZelDataFinding_tags> kinds = {ZelDataFinding_FrameRateOutOfRange,
+                                                    ZelDataFinding_FontFamilyMissing,
+                                                    ZelDataFinding_FontSizeOutOfRange,
+                                                    ZelDataFinding_ColorOutOfRange,
+                                                    ZelDataFinding_NoDuration,
+                                                    ZelDataFinding_TooShort,
+                                                    ZelDataFinding_BadText,
+                                                    ZelDataFinding_BadLanguage,
+                                                    ZelDataFinding_TooManyLines,
+                                                    ZelDataFinding_MissingText,
+                                                    ZelDataFinding_Overlap,
+                                                    ZelDataFinding_OutOfOrder};
+    for (std::size_t i = 0; i < kinds.size(); ++i)
+        EXPECT_EQ(i + 1, static_cast<std::uint32_t>(kinds[i]));
+    EXPECT_EQ(1U, static_cast<std::uint32_t>(caption));
+    EXPECT_EQ(2U, static_cast<std::uint32_t>(entry));
+    EXPECT_EQ(3U, static_cast<std::uint32_t>(screenText));
+}
+
+TEST(DescribeFinding, DurationsOfCaptions)
+{
+    EXPECT_EQ("caption 2 at 2000 ms: too short (900 ms, at least 1000 ms)",
+              describe(limited(ZelDataFinding_TooShort, caption, 2, 900, 1000)));
+    EXPECT_EQ("caption 2 at 2000 ms: no duration (-5 ms, at least 1 ms)",
+              describe(limited(ZelDataFinding_NoDuration, caption, 2, -5, 1)));
+}
+
+TEST(DescribeFinding, Texts)
+{
+    const auto at = [](ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject) {
+        return inLanguage(findingAt(kind, subject, 0, 7), "de");
+    };
+    EXPECT_EQ("caption 0 at 7 ms: the text in de is not UTF-8",
+              describe(at(ZelDataFinding_BadText, caption)));
+    EXPECT_EQ("entry 0 at 7: the language de is not known",
+              describe(at(ZelDataFinding_BadLanguage, entry)));
+    EXPECT_EQ("entry 0 at 7: no text in de", describe(at(ZelDataFinding_MissingText, entry)));
+    EXPECT_EQ("screen text 3 at 9: the text is not UTF-8",
+              describe(findingAt(ZelDataFinding_BadText, screenText, 3, 9)));
+    EXPECT_EQ("caption 1 at 2000 ms: too many lines in en (5, at most 4)",
+              describe(inLanguage(limited(ZelDataFinding_TooManyLines, caption, 1, 5, 4), "en")));
+}
+
+TEST(DescribeFinding, OrderAndOverlapNameTheLaterItem)
+{
+    EXPECT_EQ(
+        "caption 1 at 2000 ms: overlap: it ends at 5000 ms, caption 4 starts at 4500 ms",
+        describe(withLater(limited(ZelDataFinding_Overlap, caption, 1, 5000, 4500), 4, 4500)));
+    EXPECT_EQ(
+        "entry 1 at 2000: out of order: entry 2 starts before it, at 1000",
+        describe(withLater(limited(ZelDataFinding_OutOfOrder, entry, 1, 2000, 1000), 2, 1000)));
+}
+
+TEST(DescribeFinding, CollectionsAreNamedWhereNoItemIs)
+{
+    const auto rate = [](ZelDataFindingSubject_tags subject, long long value, long long limit) {
+        return describe(limited(ZelDataFinding_FrameRateOutOfRange, subject, ZelDataFinding::noItem,
+                                value, limit));
+    };
+    EXPECT_EQ("captions: frame rate out of range (0, at least 1)", rate(caption, 0, 1));
+    EXPECT_EQ("table of contents: frame rate out of range (10001, at most 10000)",
+              rate(entry, 10001, 10000));
+    EXPECT_EQ("screen texts: frame rate out of range (0, at least 1)", rate(screenText, 0, 1));
+}
+
+// No search gives such findings, but anybody may make them.
+TEST(DescribeFinding, AValueAtItsLimitIsSaidToBeAtMostThat)
+{
+    EXPECT_EQ("captions: frame rate out of range (7, at most 7)",
+              describe(limited(ZelDataFinding_FrameRateOutOfRange, caption, ZelDataFinding::noItem,
+                               7, 7)));
     EXPECT_EQ("captions: background opacity out of range (1, at most 1)",
               describe(color("background opacity", 1.0F, 1)));
 }
