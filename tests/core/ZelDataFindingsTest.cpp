@@ -121,6 +121,16 @@ TEST(DescribeFinding, CollectionsAreNamedWhereNoItemIs)
     EXPECT_EQ("screen texts: frame rate out of range (0, at least 1)", rate(screenText, 0, 1));
 }
 
+// No search gives such findings, but anybody may make them.
+TEST(DescribeFinding, AValueAtItsLimitIsSaidToBeAtMostThat)
+{
+    EXPECT_EQ("captions: frame rate out of range (7, at most 7)",
+              describe(limited(ZelDataFinding_FrameRateOutOfRange, caption, ZelDataFinding::noItem,
+                               7, 7)));
+    EXPECT_EQ("captions: background opacity out of range (1, at most 1)",
+              describe(color("background opacity", 1.0F, 1)));
+}
+
 TEST(DescribeFinding, Styling)
 {
     constexpr auto noItem = ZelDataFinding::noItem;
