@@ -97,6 +97,7 @@ ZelDataResult_tags ZelDataUtilities::createCaptionFormatter(i_ZelDataCaptionForm
     return createFormatter<ZelDataXmpCaptionFormatter>(out, format);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): its signature is fixed.
 bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCaptionItem& item,
                       std::string& text)
 {

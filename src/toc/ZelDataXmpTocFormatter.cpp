@@ -41,7 +41,7 @@ ZelDataResult_tags ZelDataUtilities::createTocFormatter(i_ZelDataTocFormatter** 
     return createFormatter<ZelDataXmpTocFormatter>(out, format);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): as buildCaptionList() has it.
+// NOLINTNEXTLINE(performance-unnecessary-value-param): its signature is fixed.
 bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& item,
                   std::string& out)
 {

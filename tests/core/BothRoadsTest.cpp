@@ -44,8 +44,7 @@ std::string randomText(Dice& dice)
         "<b>&amp;</b>",
         "\x01\x02",
         "déjà vu",
-        "a rather long text, so that "
-        "it does not fit into the place that a short one would have"};
+        "a rather long text, which does not fit into the place that a short one would have"};
     return texts[dice.below(static_cast<unsigned>(texts.size()))];
 }
 

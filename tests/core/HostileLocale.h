@@ -18,9 +18,9 @@ public:
     explicit HostileLocale(const char* name)
         : cBefore_(std::setlocale(LC_ALL, nullptr)),
           before_(std::locale::global(
-              std::locale(std::locale(std::locale(), new Widening), new Conversion)))
+              std::locale(std::locale(std::locale(), new Widening), new Conversion))),
+          named_(std::setlocale(LC_ALL, name) != nullptr)
     {
-        named_ = std::setlocale(LC_ALL, name) != nullptr;
     }
     ~HostileLocale()
     {
@@ -56,7 +56,7 @@ private:
 
     std::string cBefore_;
     std::locale before_;
-    bool named_ = false;
+    bool named_;
 };
 
 } // namespace ZelInterchangeData

@@ -65,9 +65,10 @@ RunResult runProgram(const std::vector<std::string>& words)
 {
     const Capture out;
     const Capture err;
+    std::vector<std::string> copies = words;
     std::vector<char*> arguments;
-    for (const std::string& word : words)
-        arguments.push_back(const_cast<char*>(word.c_str()));
+    for (std::string& word : copies)
+        arguments.push_back(word.data());
     arguments.push_back(nullptr);
     const pid_t child = ::fork();
     if (child == 0) {
@@ -141,7 +142,7 @@ RunResult ProgramRunner::publish(const std::vector<std::string>& words) const
 {
     std::vector<std::string> all{"--length", "90500"};
     all.insert(all.end(), words.begin(), words.end());
-    const RunResult done = run(all);
+    RunResult done = run(all);
     EXPECT_EQ(done.status, 0) << done.err;
     return done;
 }

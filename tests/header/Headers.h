@@ -90,13 +90,13 @@ inline Described described(const HeaderValues& values)
             {"setCreator", {values.creator}},
             {"setDescription", {values.description}},
             {"setKeywords", values.keywords},
-            {"setIPodExplicit", {std::to_string(values.iPodExplicit)}},
+            {"setIPodExplicit", {values.iPodExplicit ? "1" : "0"}},
             {"setVideoLength", {std::to_string(values.videoLength)}},
             {"setVideoWidth", {std::to_string(values.videoWidth)}},
             {"setVideoHeight", {std::to_string(values.videoHeight)}},
             {"languages", values.languages},
             {"contentNames", values.contentNames},
-            {"setShowSearchBar", {std::to_string(values.showSearchBar)}}};
+            {"setShowSearchBar", {values.showSearchBar ? "1" : "0"}}};
 }
 
 inline Described described(const i_ZelDataHeader& header)

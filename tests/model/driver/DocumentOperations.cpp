@@ -26,7 +26,7 @@ std::string pathOf(const std::string& where, const std::string& folder)
     if (where == "empty") return "";
     if (where == "missing") return folder + "/no such folder/packet.xmp";
     if (where == "zero") return folder + "/cut" + '\0' + "tail";
-    const std::string path = folder + "/p\xC3\xA4" + "cket.xmp";
+    std::string path = folder + "/p\xC3\xA4" + "cket.xmp";
     std::ofstream(path, std::ios::binary) << "before";
     return path;
 }

@@ -42,7 +42,7 @@ void FakeControl::setScript(const FakeScript& script)
 
 void FakeControl::note(const std::string& call) const
 {
-    if (notes_) notes_->push_back(name_ + ":" + call);
+    if (notes_ != nullptr) notes_->push_back(name_ + ":" + call);
 }
 
 void FakeControl::throwIfLastErrorDoes() const
