@@ -42,7 +42,7 @@ template <class Number>
 Number numberFrom(std::string_view text)
 {
     Number number{};
-    const auto end = text.data() + text.size();
+    const auto* const end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, number);
     if (read.ec != std::errc() || read.ptr != end || number < 1) {
         throw std::invalid_argument("not a number of at least 1: " + std::string(text));
@@ -52,8 +52,8 @@ Number numberFrom(std::string_view text)
 
 Order orderFrom(std::string_view text)
 {
-    const auto found = std::find_if(allOrders.begin(), allOrders.end(),
-                                    [&](Order order) { return nameOf(order) == text; });
+    const auto* const found = std::find_if(allOrders.begin(), allOrders.end(),
+                                           [&](Order order) { return nameOf(order) == text; });
     if (found == allOrders.end()) throw std::invalid_argument("no order: " + std::string(text));
     return *found;
 }
