@@ -342,6 +342,18 @@ TYPED_TEST(Storage, InterruptedWritesAreMadeAgain)
     EXPECT_EQ(whole, dateMasked(file.bytes()));
 }
 
+TYPED_TEST(Storage, AFileThatCannotBeClosedIsNotReported)
+{
+    const auto whole = this->whole();
+    const TempFile file;
+    {
+        const FailingCloses closes;
+        EXPECT_EQ(ZelData_Ok, this->write(file.path()));
+        EXPECT_GT(closes.count(), 0U);
+    }
+    EXPECT_EQ(whole, dateMasked(file.bytes()));
+}
+
 // Documents that cannot be written at all
 
 /// Expects that writing @p document gives @p code and neither opens nor makes a file.

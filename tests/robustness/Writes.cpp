@@ -1,10 +1,12 @@
 /// @file
-/// The write functions of this test program. Those of the C library would be called without them.
+/// The write and close functions of this test program. Those of the C library would be called without them.
 
 #include "robustness/Writes.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <dlfcn.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -20,6 +22,8 @@ std::size_t troubledIndex = 0;
 int currentDetail = 0;
 std::size_t writes = 0;
 std::size_t troubles = 0;
+bool closesFail = false;
+std::size_t closes = 0;
 
 /// What is to happen at this write, which is counted.
 Trouble troubleNow(int descriptor)
@@ -63,6 +67,16 @@ extern "C" ssize_t writev(int descriptor, const iovec* parts, int count)
                    std::min(first->iov_len, static_cast<size_t>(currentDetail)));
 }
 
+extern "C" int fclose(FILE* file)
+{
+    static const auto close = reinterpret_cast<int (*)(FILE*)>(dlsym(RTLD_NEXT, "fclose"));
+    const int result = close(file);
+    if (!closesFail) return result;
+    ++closes;
+    errno = EIO;
+    return EOF;
+}
+
 namespace ZelInterchangeData {
 
 Writes::Writes(Trouble trouble, std::size_t at, int detail)
@@ -87,6 +101,22 @@ std::size_t Writes::count() const noexcept
 std::size_t Writes::troubled() const noexcept
 {
     return troubles;
+}
+
+FailingCloses::FailingCloses()
+{
+    closes = 0;
+    closesFail = true;
+}
+
+FailingCloses::~FailingCloses()
+{
+    closesFail = false;
+}
+
+std::size_t FailingCloses::count() const noexcept
+{
+    return closes;
 }
 
 } // namespace ZelInterchangeData
