@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <exception>
 #include <filesystem>
@@ -48,6 +49,7 @@ std::string inChild(const std::function<std::string()>& body)
 {
     int ends[2];
     if (pipe(ends) != 0) return "no pipe";
+    std::fflush(nullptr); // what waits in a buffer would be written by the child as well
     const pid_t child = fork();
     if (child == 0) answer(ends[1], saidBy(body));
     close(ends[1]);
