@@ -49,7 +49,7 @@ std::string inChild(const std::function<std::string()>& body)
 {
     int ends[2];
     if (pipe(ends) != 0) return "no pipe";
-    std::fflush(nullptr); // what waits in a buffer would be written by the child as well
+    std::fflush(nullptr); // what is still to be said here is not the child's to say
     const pid_t child = fork();
     if (child == 0) answer(ends[1], saidBy(body));
     close(ends[1]);
