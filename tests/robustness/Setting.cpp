@@ -41,12 +41,7 @@ private:
 /// The same for this thread alone. newlocale() would leak where LOCPATH is set.
 class ThreadLocale {
 public:
-    explicit ThreadLocale(const char* name)
-    {
-        const CLocale original(name);
-        own_ = duplocale(LC_GLOBAL_LOCALE);
-        before_ = uselocale(own_);
-    }
+    explicit ThreadLocale(const char* name) : own_(copyOf(name)), before_(uselocale(own_)) {}
     ~ThreadLocale()
     {
         uselocale(before_);
@@ -56,8 +51,14 @@ public:
     ThreadLocale& operator=(const ThreadLocale&) = delete;
 
 private:
-    locale_t own_ = locale_t();
-    locale_t before_ = locale_t();
+    static locale_t copyOf(const char* name)
+    {
+        const CLocale original(name);
+        return duplocale(LC_GLOBAL_LOCALE);
+    }
+
+    locale_t own_;
+    locale_t before_;
 };
 
 /// A global locale of C++.

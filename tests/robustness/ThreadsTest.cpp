@@ -127,7 +127,7 @@ std::string writtenAsFile(const i_ZelInterchangeDataCore& document)
 /// Writes @p document often; each time must give the same. What it gave.
 std::string writtenOften(const i_ZelInterchangeDataCore& document)
 {
-    const std::string first = writtenAsString(document);
+    std::string first = writtenAsString(document);
     std::size_t differing = 0;
     for (std::size_t i = 1; i < writesPerThread; ++i) {
         const auto again = i % 25 == 0 ? writtenAsFile(document) : writtenAsString(document);
