@@ -84,7 +84,7 @@ private:
 
 using Operation = std::function<void(Session&)>;
 
-/// Every operation of every object, every factory and every function.
+/// Every operation of every object, every factory and every function on texts and values.
 std::vector<Operation> allOperations();
 
 // How a member or a function becomes an operation

@@ -157,7 +157,7 @@ private:
     /// A start that other markers may have, too.
     long long start()
     {
-        const long long start = input_.number<long long>();
+        const auto start = input_.number<long long>();
         return start < 0 ? 7 : start;
     }
 
@@ -255,8 +255,9 @@ private:
         check(item->setDuration(duration));
         check(item->setAlignment(alignment));
         marker.texts = fillTexts(*item);
-        const char* vertical = alignment & 1U ? "bottom" : alignment & 2U ? "top" : "center";
-        const char* horizontal = alignment & 16U ? "left" : alignment & 32U ? "right" : "center";
+        const auto isSet = [alignment](unsigned bit) { return (alignment & bit) != 0; };
+        const char* vertical = isSet(1) ? "bottom" : isSet(2) ? "top" : "center";
+        const char* horizontal = isSet(16) ? "left" : isSet(32) ? "right" : "center";
         marker.attributes = {{"xmpDM:startTime", std::to_string(marker.start)},
                              {"xmpDM:duration", std::to_string(duration)},
                              {"zelDM:valign", vertical},

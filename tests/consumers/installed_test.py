@@ -1,8 +1,10 @@
 """Projects that use an installed library: find_package, pkg-config and the plain compiler line."""
 
 import os
+import re
 import subprocess
 import unittest
+from pathlib import Path
 
 from support import (ABSOLUTE, CONSUMERS, CXX, CXXFLAGS, PREFIX, RELEASE_TREE, SOURCE, VERSION,
                      ChecksOfPrograms, build, configure, fresh_folder, install,
@@ -167,6 +169,39 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
                                        "ZelInterchangeData", flags=STRICT)
         self.assert_needs(program, RELEASE_LIBRARY)
         self.assert_works(program, PREFIX / "lib")
+
+
+class RebuiltLibrary(unittest.TestCase):
+    """A program stays as it is while the library is built again: without optimisation, and by the
+    other compiler."""
+
+    def setUp(self):
+        self.folder = fresh_folder(self.id())
+        run(CXX, *CXXFLAGS, "-std=c++17", SOURCE / "examples/complete_document/main.cpp",
+            "-I", PREFIX / "include", "-L", PREFIX / "lib", "-lZelInterchangeData",
+            "-o", self.folder / "program")
+        other_tree = Path(os.environ["OTHER_COMPILERS_TREE"]).resolve()
+        self.rebuilt = {"debug": PREFIX / "lib" / DEBUG_LIBRARY,
+                        "other_compiler": other_tree / "src" / RELEASE_LIBRARY}
+        for name, library in self.rebuilt.items():
+            (self.folder / name).mkdir()
+            (self.folder / name / RELEASE_LIBRARY).symlink_to(library)
+
+    def written_with(self, library_folder):
+        """What the loader says of the libraries that the program gets, and what the program writes."""
+        environment = dict(os.environ, LD_LIBRARY_PATH=str(library_folder))
+        loaded = run(self.folder / "program", env=dict(environment, LD_TRACE_LOADED_OBJECTS="1"))
+        run(self.folder / "program", cwd=self.folder, env=environment)
+        packet = (self.folder / "intro.xmp").read_text(encoding="utf-8")
+        return loaded, re.sub(r'dc:date="[^"]+"', 'dc:date=""', packet) + "\n"
+
+    def test_a_program_that_was_built_before_writes_the_same(self):
+        expected = (SOURCE / "tests/face/data/complete_document.xmp").read_text(encoding="utf-8")
+        for library_folder in (PREFIX / "lib", *(self.folder / name for name in self.rebuilt)):
+            with self.subTest(library_folder.name):
+                loaded, written = self.written_with(library_folder)
+                self.assertIn(f"{RELEASE_LIBRARY} => {library_folder}/", loaded)
+                self.assertEqual(written, expected)
 
 
 class MovedPrefix(ChecksOfPrograms, unittest.TestCase):

@@ -39,11 +39,11 @@ void addItemOperations(OperationList& list)
     add("getTextForLanguage",
         [](Item& i, Outs& o) { return i.getTextForLanguage(o.text, firstID); });
     add("copyFrom", [](Item& i, Outs&) {
-        static const auto source = filledCaption();
+        thread_local const auto source = filledCaption();
         return i.copyFrom(*source);
     }).inSteps();
     add("copyFrom|of a caller's class", [](Item& i, Outs&) {
-        static const auto source = callersCopyOf<ZelDataCaptionItem>(*filledCaption());
+        thread_local const auto source = callersCopyOf<ZelDataCaptionItem>(*filledCaption());
         return i.copyFrom(*source);
     }).inSteps();
 }
@@ -71,11 +71,11 @@ void addItems(OperationsOf<Captions>& of)
 {
     of.add("clearCaptionItems", [](Captions& c, Outs&) { return c.clearCaptionItems(); });
     of.add("addCaptionItem", [](Captions& c, Outs&) {
-        static const auto item = filledCaption();
+        thread_local const auto item = filledCaption();
         return c.addCaptionItem(*item);
     });
     of.add("addCaptionItem|of a caller's class", [](Captions& c, Outs&) {
-        static const auto item = callersCopyOf<ZelDataCaptionItem>(*filledCaption());
+        thread_local const auto item = callersCopyOf<ZelDataCaptionItem>(*filledCaption());
         return c.addCaptionItem(*item);
     });
     of.add("createCaptionItem",
@@ -108,11 +108,11 @@ void addCaptionOperations(OperationList& list)
     addStyle(of);
     addItems(of);
     of.add("copyFrom(const i_ZelDataCaptions&)", [](Captions& c, Outs&) {
-          static const auto source = filledCaptions();
+          thread_local const auto source = filledCaptions();
           return c.copyFrom(*source);
       }).inSteps();
     of.add("copyFrom(const i_ZelDataCaptions&)|of a caller's class", [](Captions& c, Outs&) {
-          static const auto source = callersCopyOf<ZelDataCaptions>(*filledCaptions());
+          thread_local const auto source = callersCopyOf<ZelDataCaptions>(*filledCaptions());
           return c.copyFrom(*source);
       }).inSteps();
 }

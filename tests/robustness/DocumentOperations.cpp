@@ -25,19 +25,19 @@ void addGetters(Of& of)
 void addSetters(Of& of, std::unique_ptr<Core> (*makeEmpty)())
 {
     of.addOn(makeEmpty, "setDataHeader", [](Core& d, Outs&) {
-          static const auto source = filledHeader();
+          thread_local const auto source = filledHeader();
           return d.setDataHeader(*source);
       }).inSteps();
     of.add("setDataCaptions", [](Core& d, Outs&) {
-          static const auto source = filledCaptions();
+          thread_local const auto source = filledCaptions();
           return d.setDataCaptions(*source);
       }).inSteps();
     of.add("setDataToc", [](Core& d, Outs&) {
-          static const auto source = filledToc();
+          thread_local const auto source = filledToc();
           return d.setDataToc(*source);
       }).inSteps();
     of.add("setDataScreenText", [](Core& d, Outs&) {
-          static const auto source = filledScreenText();
+          thread_local const auto source = filledScreenText();
           return d.setDataScreenText(*source);
       }).inSteps();
 }
@@ -46,15 +46,15 @@ void addSetters(Of& of, std::unique_ptr<Core> (*makeEmpty)())
 void addFirstSets(Of& of, std::unique_ptr<Core> (*makeEmpty)())
 {
     of.addOn(makeEmpty, "setDataCaptions|the first", [](Core& d, Outs&) {
-          static const auto source = filledCaptions();
+          thread_local const auto source = filledCaptions();
           return d.setDataCaptions(*source);
       }).inSteps();
     of.addOn(makeEmpty, "setDataToc|the first", [](Core& d, Outs&) {
-          static const auto source = filledToc();
+          thread_local const auto source = filledToc();
           return d.setDataToc(*source);
       }).inSteps();
     of.addOn(makeEmpty, "setDataScreenText|the first", [](Core& d, Outs&) {
-          static const auto source = filledScreenText();
+          thread_local const auto source = filledScreenText();
           return d.setDataScreenText(*source);
       }).inSteps();
 }

@@ -10,7 +10,7 @@ void addFormatterOperations(OperationList& list)
     header
         .add("setHeader",
              [](i_ZelDataHeaderFormatter& f, Outs&) {
-                 static const auto source = filledHeader();
+                 thread_local const auto source = filledHeader();
                  return f.setHeader(*source);
              })
         .inSteps();
@@ -23,7 +23,7 @@ void addFormatterOperations(OperationList& list)
     captions
         .add("setCaptions",
              [](i_ZelDataCaptionFormatter& f, Outs&) {
-                 static const auto source = filledCaptions();
+                 thread_local const auto source = filledCaptions();
                  return f.setCaptions(*source);
              })
         .inSteps();
@@ -35,7 +35,7 @@ void addFormatterOperations(OperationList& list)
     addFormatterBaseOperations(toc);
     toc.add("setToc",
             [](i_ZelDataTocFormatter& f, Outs&) {
-                static const auto source = filledToc();
+                thread_local const auto source = filledToc();
                 return f.setToc(*source);
             })
         .inSteps();
@@ -47,7 +47,7 @@ void addFormatterOperations(OperationList& list)
     screenText
         .add("setScreenText",
              [](i_ZelDataScreenTextFormatter& f, Outs&) {
-                 static const auto source = filledScreenText();
+                 thread_local const auto source = filledScreenText();
                  return f.setScreenText(*source);
              })
         .inSteps();

@@ -62,11 +62,11 @@ void addHeaderOperations(OperationList& list)
     addGetters(of);
     addContentNames(of);
     of.add("copyFrom(const i_ZelDataHeader&)", [](Header& h, Outs&) {
-          static const auto source = filledHeader();
+          thread_local const auto source = filledHeader();
           return h.copyFrom(*source);
       }).inSteps();
     of.add("copyFrom(const i_ZelDataHeader&)|of a caller's class", [](Header& h, Outs&) {
-          static const auto source = callersCopyOf<ZelDataHeader>(*filledHeader());
+          thread_local const auto source = callersCopyOf<ZelDataHeader>(*filledHeader());
           return h.copyFrom(*source);
       }).inSteps();
 }

@@ -40,7 +40,7 @@ void addLanguageOperations(OperationsOf<Object>& of)
     of.add("doesLanguageExist",
            [](Object& o, Outs& outs) { return o.doesLanguageExist(outs.id, outs.flag); });
     of.add("copyFrom(const i_ZelDataLanguage&)", [](Object& o, Outs&) {
-          static const auto source = filledHeader();
+          thread_local const auto source = filledHeader();
           return o.copyFrom(static_cast<const i_ZelDataLanguage&>(*source));
       }).inSteps();
 }

@@ -19,6 +19,21 @@ std::string outcome(ZelDataResult_tags code, const Subject& subject, const Outs&
            '\n' + outs.described();
 }
 
+void callPlainly(const std::function<void()>& call)
+{
+    call();
+}
+
+std::string outcomeOf(const Operation& operation, const Around& around)
+{
+    const Subject subject = operation.make();
+    Outs outs;
+    forgetLastError(subject);
+    ZelDataResult_tags code = untouched;
+    around([&] { code = subject.call(outs); });
+    return outcome(code, subject, outs);
+}
+
 const OperationList& allOperations()
 {
     static const OperationList operations = [] {

@@ -24,7 +24,8 @@ struct Subject {
 };
 
 /// One entry of the list. Memory that runs out gives #ZelData_OutOfMemory, returned and stored, and
-/// leaves object and arguments as they were, unless the entry says otherwise.
+/// leaves object and arguments as they were, unless the entry says otherwise. What an operation reads
+/// besides is made once for each thread.
 struct Operation {
     /// Class and operation, with the types of the arguments where the name alone would not do.
     /// What follows a bar tells several entries for one operation apart.
@@ -101,6 +102,14 @@ void forgetLastError(const Subject& subject);
 ZelDataResult_tags lastErrorOf(const Subject& subject);
 /// All that shows of an operation of @p subject that gave @p code and was called with @p outs.
 std::string outcome(ZelDataResult_tags code, const Subject& subject, const Outs& outs);
+
+/// Calls what it is given, with something set up around it.
+using Around = std::function<void(const std::function<void()>&)>;
+
+/// Calls with nothing around.
+void callPlainly(const std::function<void()>& call);
+/// What @p operation gives and leaves on a new object; @p around calls it. All else happens as always.
+std::string outcomeOf(const Operation& operation, const Around& around = callPlainly);
 
 /// All operations.
 const OperationList& allOperations();

@@ -41,11 +41,12 @@ void addItemOperations(OperationList& list)
     addSetters(of);
     addGetters(of);
     of.add("copyFrom", [](Item& i, Outs&) {
-          static const auto source = filledScreenTextItem();
+          thread_local const auto source = filledScreenTextItem();
           return i.copyFrom(*source);
       }).inSteps();
     of.add("copyFrom|of a caller's class", [](Item& i, Outs&) {
-          static const auto source = callersCopyOf<ZelDataScreenTextItem>(*filledScreenTextItem());
+          thread_local const auto source =
+              callersCopyOf<ZelDataScreenTextItem>(*filledScreenTextItem());
           return i.copyFrom(*source);
       }).inSteps();
 }
@@ -54,11 +55,12 @@ void addItems(OperationsOf<ScreenText>& of)
 {
     of.add("clearScreenTextItems", [](ScreenText& s, Outs&) { return s.clearScreenTextItems(); });
     of.add("addScreenTextItem", [](ScreenText& s, Outs&) {
-        static const auto item = filledScreenTextItem();
+        thread_local const auto item = filledScreenTextItem();
         return s.addScreenTextItem(*item);
     });
     of.add("addScreenTextItem|of a caller's class", [](ScreenText& s, Outs&) {
-        static const auto item = callersCopyOf<ZelDataScreenTextItem>(*filledScreenTextItem());
+        thread_local const auto item =
+            callersCopyOf<ZelDataScreenTextItem>(*filledScreenTextItem());
         return s.addScreenTextItem(*item);
     });
     of.add("createScreenTextItem",
@@ -88,11 +90,11 @@ void addScreenTextOperations(OperationList& list)
     of.add("getFrameRate", [](ScreenText& s, Outs& o) { return s.getFrameRate(o.number); });
     addItems(of);
     of.add("copyFrom", [](ScreenText& s, Outs&) {
-          static const auto source = filledScreenText();
+          thread_local const auto source = filledScreenText();
           return s.copyFrom(*source);
       }).inSteps();
     of.add("copyFrom|of a caller's class", [](ScreenText& s, Outs&) {
-          static const auto source = callersCopyOf<ZelDataScreenText>(*filledScreenText());
+          thread_local const auto source = callersCopyOf<ZelDataScreenText>(*filledScreenText());
           return s.copyFrom(*source);
       }).inSteps();
 }

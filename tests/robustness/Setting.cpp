@@ -10,10 +10,12 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <cwctype>
 #include <langinfo.h>
 #include <locale>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -39,12 +41,7 @@ private:
 /// The same for this thread alone. newlocale() would leak where LOCPATH is set.
 class ThreadLocale {
 public:
-    explicit ThreadLocale(const char* name)
-    {
-        const CLocale original(name);
-        own_ = duplocale(LC_GLOBAL_LOCALE);
-        before_ = uselocale(own_);
-    }
+    explicit ThreadLocale(const char* name) : own_(copyOf(name)), before_(uselocale(own_)) {}
     ~ThreadLocale()
     {
         uselocale(before_);
@@ -54,8 +51,14 @@ public:
     ThreadLocale& operator=(const ThreadLocale&) = delete;
 
 private:
-    locale_t own_ = locale_t();
-    locale_t before_ = locale_t();
+    static locale_t copyOf(const char* name)
+    {
+        const CLocale original(name);
+        return duplocale(LC_GLOBAL_LOCALE);
+    }
+
+    locale_t own_;
+    locale_t before_;
 };
 
 /// A global locale of C++.
@@ -135,6 +138,60 @@ private:
     char do_toupper(char /*character*/) const override { return '?'; }
 };
 
+[[noreturn]] void refuse()
+{
+    throw std::runtime_error("nobody may use this facet");
+}
+
+/// Throws where it is used.
+template <class Character>
+class ThrowingNumbers : public std::num_put<Character> {
+    using To = typename std::num_put<Character>::iter_type;
+    To do_put(To, std::ios_base&, Character, bool) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, long) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, unsigned long) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, long long) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, unsigned long long) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, double) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, long double) const override { refuse(); }
+    To do_put(To, std::ios_base&, Character, const void*) const override { refuse(); }
+};
+
+/// Throws where it is used.
+class ThrowingTime : public std::time_put<char> {
+    iter_type do_put(iter_type, std::ios_base&, char, const std::tm*, char, char) const override
+    {
+        refuse();
+    }
+};
+
+/// Throws where it is used.
+class ThrowingOrder : public std::collate<char> {
+    int do_compare(const char*, const char*, const char*, const char*) const override { refuse(); }
+    string_type do_transform(const char*, const char*) const override { refuse(); }
+    long do_hash(const char*, const char*) const override { refuse(); }
+};
+
+/// Throws where it is used.
+class ThrowingCharacters : public std::ctype<wchar_t> {
+    bool do_is(mask, wchar_t) const override { refuse(); }
+    wchar_t do_toupper(wchar_t) const override { refuse(); }
+    wchar_t do_tolower(wchar_t) const override { refuse(); }
+    wchar_t do_widen(char) const override { refuse(); }
+    const char* do_widen(const char*, const char*, wchar_t*) const override { refuse(); }
+    char do_narrow(wchar_t, char) const override { refuse(); }
+};
+
+/// Throws where it is used.
+class ThrowingConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
+    result do_out(std::mbstate_t&, const wchar_t*, const wchar_t*, const wchar_t*&, char*, char*,
+                  char*&) const override
+    {
+        refuse();
+    }
+    result do_unshift(std::mbstate_t&, char*, char*, char*&) const override { refuse(); }
+};
+
 /// The classic locale with the facets given in the place of its own; it owns them.
 template <class... Facets>
 std::locale classicWith(Facets*... facets)
@@ -202,6 +259,10 @@ std::vector<Setting> cppLocales()
                               classicWith(new Caseless)),
         setting<HostileLocale>("C++, no conversion",
                                sampleOf(plainC, plain, ascii, "I", "3 -3", "a?"), "C"),
+        setting<GlobalLocale>(
+            "C++, facets that throw", sampleOf(plainC, "", ascii, "I", "3 -3", "thrown"),
+            classicWith(new ThrowingNumbers<char>, new ThrowingNumbers<wchar_t>, new ThrowingTime,
+                        new ThrowingOrder, new ThrowingCharacters, new ThrowingConversion)),
     };
 }
 
@@ -215,6 +276,18 @@ std::vector<Setting> roundings()
         setting<Rounding>("rounding down", rounded("2 -3"), FE_DOWNWARD),
         setting<Rounding>("rounding towards zero", rounded("2 -2"), FE_TOWARDZERO),
     };
+}
+
+/// A small letter and a wide one, as the global locale of C++ makes them.
+std::string sampleLetters()
+{
+    const std::locale global;
+    try {
+        const auto widened = std::use_facet<std::ctype<wchar_t>>(global).widen('x');
+        return {std::tolower('A', global), static_cast<char>(widened)};
+    } catch (const std::runtime_error&) {
+        return "thrown";
+    }
 }
 
 /// The UTF-8 of a letter below U+0800.
@@ -246,12 +319,9 @@ std::string sampleText()
     stream << 1234567.5;
     std::array<char, 64> rounded{};
     std::snprintf(rounded.data(), rounded.size(), "%.0f %.0f", 2.6, -2.6);
-    const std::locale global;
-    const auto widened = std::use_facet<std::ctype<wchar_t>>(global).widen('x');
-    const std::string letters = {std::tolower('A', global), static_cast<char>(widened)};
     const auto c = number.data() + std::string(" ") + std::localeconv()->thousands_sep;
     return sampleOf(c, stream.str(), nl_langinfo(CODESET), utf8(std::towupper(L'i')),
-                    rounded.data(), letters);
+                    rounded.data(), sampleLetters());
 }
 
 } // namespace ZelInterchangeData

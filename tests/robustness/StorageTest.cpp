@@ -229,7 +229,7 @@ std::string mountSmallFileSystem(const std::string& folder)
     if (unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0)
         return refusal("a mount name space");
     if (user != 0) mapUser(user, group);
-    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+    if (mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("none", folder.c_str(), "tmpfs", 0, "size=16k,mode=0777") != 0) {
         return refusal("a mount");
     }
@@ -274,7 +274,7 @@ TYPED_TEST(Storage, AFileSystemThatIsReadOnlyTakesNoFile)
     const TempFolder folder;
     expectFine(inChild([&]() -> std::string {
         if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty()) return refused;
-        if (mount("none", folder.path().c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) != 0)
+        if (mount("none", folder.path().c_str(), "none", MS_REMOUNT | MS_RDONLY, nullptr) != 0)
             return refusal("a read-only mount");
         const auto code = this->write(folder.path("packet"));
         return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
@@ -339,6 +339,18 @@ TYPED_TEST(Storage, InterruptedWritesAreMadeAgain)
     const Writes writes(Trouble::Interrupted);
     EXPECT_EQ(ZelData_Ok, this->write(file.path()));
     EXPECT_GT(writes.troubled(), 4U);
+    EXPECT_EQ(whole, dateMasked(file.bytes()));
+}
+
+TYPED_TEST(Storage, AFileThatCannotBeClosedIsNotReported)
+{
+    const auto whole = this->whole();
+    const TempFile file;
+    {
+        const FailingCloses closes;
+        EXPECT_EQ(ZelData_Ok, this->write(file.path()));
+        EXPECT_GT(closes.count(), 0U);
+    }
     EXPECT_EQ(whole, dateMasked(file.bytes()));
 }
 

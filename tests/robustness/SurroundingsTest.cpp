@@ -29,23 +29,6 @@ namespace ZelInterchangeData {
 namespace {
 
 constexpr auto xmp = ZelDataFormat_Xmp;
-using Around = std::function<void(const std::function<void()>&)>;
-
-/// What @p operation gives and leaves; @p around calls it. All else happens as always.
-std::string outcomeOf(const Operation& operation, const Around& around)
-{
-    const Subject subject = operation.make();
-    Outs outs;
-    forgetLastError(subject);
-    ZelDataResult_tags code = untouched;
-    around([&] { code = subject.call(outs); });
-    return outcome(code, subject, outs);
-}
-
-void callPlainly(const std::function<void()>& call)
-{
-    call();
-}
 
 /// The outcome of each operation when nothing is special.
 const std::vector<std::string>& plainOutcomes()
@@ -53,7 +36,7 @@ const std::vector<std::string>& plainOutcomes()
     static const std::vector<std::string> outcomes = [] {
         std::vector<std::string> all;
         for (const Operation& operation : allOperations())
-            all.push_back(outcomeOf(operation, callPlainly));
+            all.push_back(outcomeOf(operation));
         return all;
     }();
     return outcomes;

@@ -4,6 +4,7 @@
 
 #include "core/TempFile.h"
 #include "robustness/Contents.h"
+#include "robustness/Operation.h"
 #include "support/Checks.h"
 
 #include <gtest/gtest.h>
@@ -126,7 +127,7 @@ std::string writtenAsFile(const i_ZelInterchangeDataCore& document)
 /// Writes @p document often; each time must give the same. What it gave.
 std::string writtenOften(const i_ZelInterchangeDataCore& document)
 {
-    const std::string first = writtenAsString(document);
+    std::string first = writtenAsString(document);
     std::size_t differing = 0;
     for (std::size_t i = 1; i < writesPerThread; ++i) {
         const auto again = i % 25 == 0 ? writtenAsFile(document) : writtenAsString(document);
@@ -150,6 +151,23 @@ TEST(Threads, EachMakesAndWritesItsOwnDocument)
     std::vector<std::string> packets(threadCount);
     race([&](std::size_t number) { packets[number] = writtenOften(*ownDocument(number)); });
     expectAsAlone(packets);
+}
+
+/// What @p operation gives and leaves in each thread, called in all of them at once.
+std::vector<std::string> outcomesInThreads(const Operation& operation)
+{
+    std::vector<std::string> outcomes(threadCount);
+    race([&](std::size_t number) { outcomes[number] = outcomeOf(operation); });
+    return outcomes;
+}
+
+TEST(Threads, AllCallEachOperationAtOnceAndForTheFirstTime)
+{
+    for (const Operation& operation : allOperations()) {
+        const auto outcomes = outcomesInThreads(operation);
+        const std::vector<std::string> expected(threadCount, outcomeOf(operation));
+        EXPECT_EQ(expected, outcomes) << operation.name;
+    }
 }
 
 struct Sets {

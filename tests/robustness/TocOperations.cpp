@@ -37,11 +37,11 @@ void addItemOperations(OperationList& list)
     of.add("getTextForLanguage",
            [](Item& i, Outs& o) { return i.getTextForLanguage(o.text, firstID); });
     of.add("copyFrom", [](Item& i, Outs&) {
-          static const auto source = filledEntry();
+          thread_local const auto source = filledEntry();
           return i.copyFrom(*source);
       }).inSteps();
     of.add("copyFrom|of a caller's class", [](Item& i, Outs&) {
-          static const auto source = callersCopyOf<ZelDataTocItem>(*filledEntry());
+          thread_local const auto source = callersCopyOf<ZelDataTocItem>(*filledEntry());
           return i.copyFrom(*source);
       }).inSteps();
 }
@@ -50,11 +50,11 @@ void addItems(OperationsOf<Toc>& of)
 {
     of.add("clearTocItems", [](Toc& t, Outs&) { return t.clearTocItems(); });
     of.add("addTocItem", [](Toc& t, Outs&) {
-        static const auto item = filledEntry();
+        thread_local const auto item = filledEntry();
         return t.addTocItem(*item);
     });
     of.add("addTocItem|of a caller's class", [](Toc& t, Outs&) {
-        static const auto item = callersCopyOf<ZelDataTocItem>(*filledEntry());
+        thread_local const auto item = callersCopyOf<ZelDataTocItem>(*filledEntry());
         return t.addTocItem(*item);
     });
     of.add("createTocItem", [](Toc& t, Outs& o) { return t.createTocItem(&o.entry.object); });
@@ -83,11 +83,11 @@ void addTocOperations(OperationList& list)
     of.add("getImageFile", [](Toc& t, Outs& o) { return t.getImageFile(o.text); });
     addItems(of);
     of.add("copyFrom(const i_ZelDataToc&)", [](Toc& t, Outs&) {
-          static const auto source = filledToc();
+          thread_local const auto source = filledToc();
           return t.copyFrom(*source);
       }).inSteps();
     of.add("copyFrom(const i_ZelDataToc&)|of a caller's class", [](Toc& t, Outs&) {
-          static const auto source = callersCopyOf<ZelDataToc>(*filledToc());
+          thread_local const auto source = callersCopyOf<ZelDataToc>(*filledToc());
           return t.copyFrom(*source);
       }).inSteps();
 }

@@ -114,19 +114,19 @@ void addFindings(OperationList& list)
         return "findProblems(const " + std::string(set) + "&, std::vector<ZelDataFinding>&)";
     };
     add(list, name("i_ZelDataCaptions"), [](Outs& o) {
-        static const auto captions = filledCaptions();
+        thread_local const auto captions = filledCaptions();
         return findProblems(*captions, o.findings);
     });
     add(list, name("i_ZelDataToc"), [](Outs& o) {
-        static const auto toc = filledToc();
+        thread_local const auto toc = filledToc();
         return findProblems(*toc, o.findings);
     });
     add(list, name("i_ZelDataScreenText"), [](Outs& o) {
-        static const auto screenText = filledScreenText();
+        thread_local const auto screenText = filledScreenText();
         return findProblems(*screenText, o.findings);
     });
     add(list, "describe", [](Outs& o) {
-        static const auto findings = [] {
+        thread_local const auto findings = [] {
             std::vector<ZelDataFinding> found;
             EXPECT_EQ(ZelData_Ok, findProblems(*filledCaptions(), found));
             return found;

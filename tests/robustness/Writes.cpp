@@ -1,10 +1,12 @@
 /// @file
-/// The write functions of this test program. Those of the C library would be called without them.
+/// The write and close functions of this test program. Those of the C library would be called without them.
 
 #include "robustness/Writes.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <dlfcn.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -20,6 +22,8 @@ std::size_t troubledIndex = 0;
 int currentDetail = 0;
 std::size_t writes = 0;
 std::size_t troubles = 0;
+bool closesFail = false;
+std::size_t closes = 0;
 
 /// What is to happen at this write, which is counted.
 Trouble troubleNow(int descriptor)
@@ -42,25 +46,38 @@ ssize_t refused(int error)
 
 } // namespace
 
-extern "C" ssize_t write(int descriptor, const void* bytes, size_t size)
+// Parameters have the names of the declarations.
+
+extern "C" ssize_t write(int fd, const void* buf, size_t n)
 {
-    const auto trouble = troubleNow(descriptor);
+    const auto trouble = troubleNow(fd);
     if (trouble == Trouble::Fails) return refused(currentDetail);
     if (trouble == Trouble::Interrupted) return refused(EINTR);
-    if (trouble == Trouble::Short) size = std::min(size, static_cast<size_t>(currentDetail));
-    return syscall(SYS_write, descriptor, bytes, size);
+    if (trouble == Trouble::Short) n = std::min(n, static_cast<size_t>(currentDetail));
+    return syscall(SYS_write, fd, buf, n);
 }
 
-extern "C" ssize_t writev(int descriptor, const iovec* parts, int count)
+extern "C" ssize_t writev(int fd, const iovec* vec, int count)
 {
-    const auto trouble = troubleNow(descriptor);
+    const auto trouble = troubleNow(fd);
     if (trouble == Trouble::Fails) return refused(currentDetail);
     if (trouble == Trouble::Interrupted) return refused(EINTR);
-    if (trouble != Trouble::Short) return syscall(SYS_writev, descriptor, parts, count);
-    const auto first = std::find_if(parts, parts + count, [](auto& p) { return p.iov_len != 0; });
-    if (first == parts + count) return 0;
-    return syscall(SYS_write, descriptor, first->iov_base,
+    if (trouble != Trouble::Short) return syscall(SYS_writev, fd, vec, count);
+    const auto* const first =
+        std::find_if(vec, vec + count, [](auto& p) { return p.iov_len != 0; });
+    if (first == vec + count) return 0;
+    return syscall(SYS_write, fd, first->iov_base,
                    std::min(first->iov_len, static_cast<size_t>(currentDetail)));
+}
+
+extern "C" int fclose(FILE* stream)
+{
+    static const auto close = reinterpret_cast<int (*)(FILE*)>(dlsym(RTLD_NEXT, "fclose"));
+    const int result = close(stream);
+    if (!closesFail) return result;
+    ++closes;
+    errno = EIO;
+    return EOF;
 }
 
 namespace ZelInterchangeData {
@@ -87,6 +104,22 @@ std::size_t Writes::count() const noexcept
 std::size_t Writes::troubled() const noexcept
 {
     return troubles;
+}
+
+FailingCloses::FailingCloses()
+{
+    closes = 0;
+    closesFail = true;
+}
+
+FailingCloses::~FailingCloses()
+{
+    closesFail = false;
+}
+
+std::size_t FailingCloses::count() const noexcept
+{
+    return closes;
 }
 
 } // namespace ZelInterchangeData

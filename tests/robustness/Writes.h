@@ -41,6 +41,18 @@ public:
     [[nodiscard]] std::size_t troubled() const noexcept;
 };
 
+/// While it lives, closing a file of the C library closes it and then tells of an error. One at a time.
+class FailingCloses {
+public:
+    FailingCloses();
+    ~FailingCloses();
+    FailingCloses(const FailingCloses&) = delete;
+    FailingCloses& operator=(const FailingCloses&) = delete;
+
+    /// How many files were closed.
+    [[nodiscard]] std::size_t count() const noexcept;
+};
+
 } // namespace ZelInterchangeData
 
 #endif

@@ -56,7 +56,7 @@ inline std::string plainText(const PlainNode& node)
 {
     std::string attributes;
     for (const auto& [name, value] : node.attributes)
-        attributes += name + "=\"" + value + "\" ";
+        attributes.append(name).append("=\"").append(value).append("\" ");
     std::string content;
     for (const auto& child : node.children)
         content += plainText(*child);

@@ -1,0 +1,60 @@
+"""The figures of the README's table of evidence that can be counted in the tree.
+
+The environment names ROOT, the project's folder."""
+
+import os
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(os.environ["ROOT"])
+WORDS = ["No", "One", "Two", "Three", "Four", "Five", "Six", "Seven", "Eight", "Nine", "Ten"]
+
+
+def evidence():
+    text = (ROOT / "README.md").read_text(encoding="utf-8")
+    return text.split("\n## Evidence\n", 1)[1].split("\n## ", 1)[0]
+
+
+def arguments(kind):
+    """How many arguments of a kind the operations have."""
+    with tempfile.TemporaryDirectory() as folder:
+        output = Path(folder) / "names"
+        subprocess.run([sys.executable, "-B", ROOT / "tests/hostile/parameter_names.py", kind,
+                        ROOT / "tests/abi/slots", ROOT / "include", output], check=True)
+        return len(output.read_text(encoding="ascii").splitlines())
+
+
+class Figures(unittest.TestCase):
+    def assert_named(self, words):
+        self.assertIn(words, evidence())
+
+    def test_arguments(self):
+        self.assert_named(f"{arguments('strings')} text and {arguments('numbers')} number arguments")
+
+    def test_dates(self):
+        dates = (ROOT / "tests/robustness/zone_dates.inc").read_text(encoding="ascii")
+        zones = re.findall(r'^\{"([^"]+)", ', dates, re.MULTILINE)
+        self.assert_named(f"{len(zones)} dates in {len(set(zones))} time zones")
+
+    def test_fuzz_targets(self):
+        targets = [path for path in (ROOT / "fuzz/seeds").iterdir() if path.is_dir()]
+        self.assert_named(f"{WORDS[len(targets)]} fuzz targets")
+
+    def test_documents(self):
+        rules = (ROOT / "tests/hostile/CMakeLists.txt").read_text(encoding="ascii")
+        count = int(re.search(r"set\(promise_documents (\d+)\)", rules)[1])
+        self.assert_named(f"{count:,} documents")
+
+    def test_threads_and_writes(self):
+        source = (ROOT / "tests/robustness/ThreadsTest.cpp").read_text(encoding="ascii")
+        threads, writes = (int(re.search(rf"{name} = (\d+);", source)[1])
+                           for name in ("threadCount", "writeCount"))
+        self.assert_named(f"{threads} threads, {writes:,} writes")
+
+
+if __name__ == "__main__":
+    unittest.main()
