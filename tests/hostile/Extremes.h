@@ -92,6 +92,7 @@ inline std::vector<float> floatExtremes()
 template <class Number>
 bool isSameNumber(Number a, Number b)
 {
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits of two floats are meant.
     return std::memcmp(&a, &b, sizeof a) == 0;
 }
 

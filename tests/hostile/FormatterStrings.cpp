@@ -86,7 +86,8 @@ void tryReplacing(const Document& document, const std::string& text)
 bool isFileName(const std::string& name)
 {
     const std::string forbidden("/\0", 2);
-    return !name.empty() && name.size() <= 255 && name.find_first_of(forbidden) == name.npos;
+    return !name.empty() && name.size() <= 255 &&
+           name.find_first_of(forbidden) == std::string::npos;
 }
 
 void tryFile(const Document& document, const std::string& name)

@@ -47,10 +47,17 @@ void addLanguageLookups(StringParameters& list, const std::string& of,
                              Rule::Language,
                              {ZelData_Ok, "no"},
                              {ZelData_Ok, "yes"}});
+}
+
+/// Adds the order of the list that @p make gives an object with.
+template <class Object>
+void addLanguageOrder(StringParameters& list, const std::string& of,
+                      std::unique_ptr<Object> (*make)())
+{
     // The text that is there last is wanted first.
     addLookup<Object>(list, {of + "setOrderedLanguageIDs 1",
                              make,
-                             add,
+                             [](Object& o, const std::string& id) { return o.addLanguage(id); },
                              [](Object& o, const std::string& id, std::string& /*found*/) {
                                  Texts ids = languagesOf(o);
                                  ids.pop_back();
@@ -101,6 +108,7 @@ void addLanguageStrings(StringParameters& list, const std::string& of,
                             [](Object& o, const std::string& id) { return o.addLanguage(id); },
                             languagesOf<Object>, Rule::Language, Treatment::NotWritten, true});
     addLanguageLookups<Object>(list, of, make, codeForAbsent);
+    addLanguageOrder<Object>(list, of, make);
     addLanguageOuts<Object>(list, of, make);
 }
 

@@ -42,7 +42,7 @@ const Pieces& harmless()
                                   "\xCC\x81",
                                   "\xD7\x90",
                                   "\xE2\x80\xA8",
-                                  "\xE2\x80\xAE",
+                                  "\xE2\x80\xAE", // NOLINT(misc-misleading-bidirectional): meant
                                   "\xE8\x8C\xB6",
                                   "\xED\x9F\xBF",
                                   "\xEE\x80\x80",

@@ -13,12 +13,12 @@ namespace {
 
 std::string plain(const xmlChar* text)
 {
-    return text ? reinterpret_cast<const char*>(text) : "";
+    return text != nullptr ? reinterpret_cast<const char*>(text) : "";
 }
 
 std::string qualified(const xmlNs* ns, const xmlChar* name)
 {
-    return (ns ? plain(ns->prefix) + ':' : std::string()) + plain(name);
+    return (ns != nullptr ? plain(ns->prefix) + ':' : std::string()) + plain(name);
 }
 
 std::string nameOf(const xmlNode& node)
@@ -30,14 +30,14 @@ std::string nameOf(const xmlNode& node)
 std::string textOf(const xmlNode* node)
 {
     std::string text;
-    for (; node; node = node->next)
+    for (; node != nullptr; node = node->next)
         text += plain(node->content);
     return text;
 }
 
 const xmlNode* firstElement(const xmlNode* node)
 {
-    while (node && node->type != XML_ELEMENT_NODE)
+    while (node != nullptr && node->type != XML_ELEMENT_NODE)
         node = node->next;
     return node;
 }
@@ -46,8 +46,8 @@ const xmlNode* firstElement(const xmlNode* node)
 const xmlNode* inside(const xmlNode* node, std::initializer_list<const char*> names)
 {
     for (const char* name : names) {
-        node = node ? firstElement(node->children) : nullptr;
-        while (node && nameOf(*node) != name)
+        node = node != nullptr ? firstElement(node->children) : nullptr;
+        while (node != nullptr && nameOf(*node) != name)
             node = firstElement(node->next);
     }
     return node;
@@ -56,13 +56,15 @@ const xmlNode* inside(const xmlNode* node, std::initializer_list<const char*> na
 /// Appends all that stands in @p node but the elements named @p leftOut.
 void append(Record& record, const xmlNode& node, std::string_view leftOut)
 {
-    for (const xmlAttr* attribute = node.properties; attribute; attribute = attribute->next) {
+    for (const xmlAttr* attribute = node.properties; attribute != nullptr;
+         attribute = attribute->next) {
         const std::string name = qualified(attribute->ns, attribute->name);
         if (name != "dc:date") record.push_back(name + '=' + textOf(attribute->children));
     }
     const xmlNode* child = firstElement(node.children);
-    if (!child && node.children) record.push_back("text=" + textOf(node.children));
-    for (; child; child = firstElement(child->next)) {
+    if (child == nullptr && node.children != nullptr)
+        record.push_back("text=" + textOf(node.children));
+    for (; child != nullptr; child = firstElement(child->next)) {
         if (nameOf(*child) != leftOut) append(record, *child, leftOut);
     }
 }
@@ -72,8 +74,8 @@ TrackReading readTrack(const xmlNode& track)
     TrackReading reading;
     append(reading.head, track, "xmpDM:markers");
     const xmlNode* list = inside(&track, {"rdf:Description", "xmpDM:markers", "rdf:Seq"});
-    const xmlNode* item = list ? firstElement(list->children) : nullptr;
-    for (; item; item = firstElement(item->next))
+    const xmlNode* item = list != nullptr ? firstElement(list->children) : nullptr;
+    for (; item != nullptr; item = firstElement(item->next))
         append(reading.items.emplace_back(), *item, "");
     return reading;
 }
@@ -82,20 +84,21 @@ void readTree(const xmlNode& root, PacketReading& reading)
 {
     const xmlNode* frame = inside(&root, {"rdf:RDF", "rdf:Description"});
     const xmlNode* tracks = inside(frame, {"xmpDM:Tracks", "rdf:Bag"});
-    if (!tracks || nameOf(root) != "x:xmpmeta") {
+    if (tracks == nullptr || nameOf(root) != "x:xmpmeta") {
         reading.complaint += "no frame of a packet";
         return;
     }
     append(reading.header, *frame, "xmpDM:Tracks");
     const xmlNode* track = firstElement(tracks->children);
-    for (; track; track = firstElement(track->next))
+    for (; track != nullptr; track = firstElement(track->next))
         reading.tracks.push_back(readTrack(*track));
 }
 
 /// Keeps what libxml2 says.
 void keepComplaint(void* complaint, xmlErrorPtr error)
 {
-    *static_cast<std::string*>(complaint) += error->message ? error->message : "no message";
+    *static_cast<std::string*>(complaint) +=
+        error->message != nullptr ? error->message : "no message";
 }
 
 } // namespace
@@ -109,8 +112,8 @@ PacketReading readPacket(const std::string& packet)
                       XML_PARSE_NONET),
         &xmlFreeDoc);
     xmlSetStructuredErrorFunc(nullptr, nullptr);
-    const xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
-    if (root) {
+    const xmlNode* root = document != nullptr ? xmlDocGetRootElement(document.get()) : nullptr;
+    if (root != nullptr) {
         readTree(*root, reading);
     } else if (reading.complaint.empty()) {
         reading.complaint = "no document";
@@ -125,7 +128,7 @@ std::string faultOf(const std::string& packet)
     const int length = static_cast<int>(packet.size());
     if (XML_Parse(parser.get(), packet.data(), length, XML_TRUE) == XML_STATUS_OK) return {};
     const char* fault = XML_ErrorString(XML_GetErrorCode(parser.get()));
-    return fault ? fault : "an error without a name";
+    return fault != nullptr ? fault : "an error without a name";
 }
 
 } // namespace ZelInterchangeData

@@ -39,8 +39,8 @@ struct Field {
     ZelDataResult_tags (*set)(Object&, const std::string&);
     /// All texts that the operation has left in the object.
     Texts (*get)(const Object&);
-    Rule rule;
-    Treatment treatment;
+    Rule rule = Rule::Anything;
+    Treatment treatment = Treatment::NotWritten;
     /// Whether what was there before stays beside what is new.
     bool adds = false;
     /// The code of success where there was a text before.
@@ -121,7 +121,7 @@ struct Lookup {
     ZelDataResult_tags (*look)(Object&, const std::string&, std::string&);
     Texts (*get)(const Object&);
     /// What put() accepts.
-    Rule rule;
+    Rule rule = Rule::Anything;
     Answer absent;
     Answer present;
     /// What is left of the texts when the one looked for was there; by default all.

@@ -111,7 +111,7 @@ std::string date(long seconds)
 {
     std::tm utc = {};
     std::tm local = {};
-    if (!gmtime_r(&seconds, &utc) || !localtime_r(&seconds, &local)) return {};
+    if (gmtime_r(&seconds, &utc) == nullptr || localtime_r(&seconds, &local) == nullptr) return {};
     const long days = seconds / 86400 - (seconds % 86400 < 0 ? 1 : 0);
     const long ofDay = seconds - days * 86400;
     const long hours = local.tm_hour - ofDay / 3600;

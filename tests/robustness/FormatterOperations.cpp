@@ -2,7 +2,9 @@
 
 namespace ZelInterchangeData {
 
-void addFormatterOperations(OperationList& list)
+namespace {
+
+void addHeaderFormatter(OperationList& list)
 {
     OperationsOf<i_ZelDataHeaderFormatter> header(list, "ZelDataXmpHeaderFormatter",
                                                   filledHeaderFormatter);
@@ -16,7 +18,10 @@ void addFormatterOperations(OperationList& list)
         .inSteps();
     header.add("getHeader",
                [](i_ZelDataHeaderFormatter& f, Outs& o) { return f.getHeader(*o.headerTarget); });
+}
 
+void addCaptionFormatter(OperationList& list)
+{
     OperationsOf<i_ZelDataCaptionFormatter> captions(list, "ZelDataXmpCaptionFormatter",
                                                      filledCaptionFormatter);
     addFormatterBaseOperations(captions);
@@ -30,7 +35,10 @@ void addFormatterOperations(OperationList& list)
     captions.add("getCaptions", [](i_ZelDataCaptionFormatter& f, Outs& o) {
         return f.getCaptions(*o.captionsTarget);
     });
+}
 
+void addTocFormatter(OperationList& list)
+{
     OperationsOf<i_ZelDataTocFormatter> toc(list, "ZelDataXmpTocFormatter", filledTocFormatter);
     addFormatterBaseOperations(toc);
     toc.add("setToc",
@@ -40,7 +48,10 @@ void addFormatterOperations(OperationList& list)
             })
         .inSteps();
     toc.add("getToc", [](i_ZelDataTocFormatter& f, Outs& o) { return f.getToc(*o.tocTarget); });
+}
 
+void addScreenTextFormatter(OperationList& list)
+{
     OperationsOf<i_ZelDataScreenTextFormatter> screenText(list, "ZelDataXmpScreenTextFormatter",
                                                           filledScreenTextFormatter);
     addFormatterBaseOperations(screenText);
@@ -54,6 +65,16 @@ void addFormatterOperations(OperationList& list)
     screenText.add("getScreenText", [](i_ZelDataScreenTextFormatter& f, Outs& o) {
         return f.getScreenText(*o.screenTextTarget);
     });
+}
+
+} // namespace
+
+void addFormatterOperations(OperationList& list)
+{
+    addHeaderFormatter(list);
+    addCaptionFormatter(list);
+    addTocFormatter(list);
+    addScreenTextFormatter(list);
 }
 
 } // namespace ZelInterchangeData

@@ -1,10 +1,8 @@
 #include "robustness/ProcessState.h"
 
-#include <array>
 #include <cfenv>
 #include <clocale>
 #include <csignal>
-#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -24,11 +22,10 @@ namespace {
 template <class Value>
 std::string bytesOf(const Value& value)
 {
-    std::array<unsigned char, sizeof(Value)> bytes;
-    std::memcpy(bytes.data(), &value, sizeof(Value));
     std::string text;
-    for (const unsigned char byte : bytes)
-        text += std::to_string(byte) + ' ';
+    const auto* const end = reinterpret_cast<const unsigned char*>(&value + 1);
+    for (const auto* byte = reinterpret_cast<const unsigned char*>(&value); byte != end; ++byte)
+        text += std::to_string(*byte) + ' ';
     return text;
 }
 
@@ -73,8 +70,7 @@ std::string membersOf(const sigset_t& signals)
 void addSignals(ProcessState& state)
 {
     for (int number = 1; number < NSIG; ++number) {
-        struct sigaction action;
-        std::memset(&action, 0, sizeof action);
+        struct sigaction action {};
         if (sigaction(number, nullptr, &action) != 0) continue;
         state.emplace_back("handler of signal " + std::to_string(number),
                            bytesOf(action.sa_handler) + std::to_string(action.sa_flags) + ' ' +
@@ -93,7 +89,7 @@ void addLimits(ProcessState& state)
     }
     itimerval timer{};
     getitimer(ITIMER_REAL, &timer);
-    state.emplace_back("timer", std::to_string(timer.it_value.tv_sec != 0));
+    state.emplace_back("timer", timer.it_value.tv_sec != 0 ? "1" : "0");
 }
 
 void addDescriptors(ProcessState& state)
