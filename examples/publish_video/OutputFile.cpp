@@ -9,7 +9,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -24,13 +23,14 @@ namespace {
 
 [[noreturn]] void failToWrite(const std::string& output, int error)
 {
-    throw PublishError(printable(output) + ": cannot be written: " + std::strerror(error));
+    throw PublishError(printable(output) +
+                       ": cannot be written: " + std::generic_category().message(error));
 }
 
 fs::path folderOf(const fs::path& file, const std::string& output)
 {
     std::error_code error;
-    const fs::path folder =
+    fs::path folder =
         fs::canonical(file.has_parent_path() ? file.parent_path() : fs::path("."), error);
     if (error) failToWrite(output, error.value());
     return folder;
