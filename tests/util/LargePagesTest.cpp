@@ -98,14 +98,14 @@ TEST(LargePages, ARefusedHintLeavesTheCallersErrno)
 
 #ifdef __linux__
 
-/// In place of the C library's: writes the hint down and passes it on.
-extern "C" int madvise(void* memory, std::size_t size, int advice) noexcept
+/// In place of the C library's, whose names the parameters have: writes the hint down and passes it on.
+extern "C" int madvise(void* addr, std::size_t len, int advice) noexcept
 {
     using ZelInterchangeData::hints;
     if (hints != nullptr) {
-        hints->push_back({reinterpret_cast<std::uintptr_t>(memory), size, advice});
+        hints->push_back({reinterpret_cast<std::uintptr_t>(addr), len, advice});
     }
-    return static_cast<int>(syscall(SYS_madvise, memory, size, advice));
+    return static_cast<int>(syscall(SYS_madvise, addr, len, advice));
 }
 
 #endif
