@@ -260,11 +260,12 @@ std::vector<TextSpeed> measureTexts(const Effort& effort)
             sample, effort, [&] { return countValid(sample); },
             [&] { return countValidPlainly(sample); }));
     }
-    const TextSample sample = captionSample();
-    std::string out;
-    speeds.push_back(measureText(
-        sample, effort, [&] { return escapeAll(sample, out); },
-        [&] { return escapeAllPlainly(sample, out); }));
+    for (const TextSample& sample : {captionSample(), entitySample()}) {
+        std::string out;
+        speeds.push_back(measureText(
+            sample, effort, [&] { return escapeAll(sample, out); },
+            [&] { return escapeAllPlainly(sample, out); }));
+    }
     return speeds;
 }
 

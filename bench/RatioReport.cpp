@@ -128,11 +128,12 @@ struct TextLimits {
 };
 
 /// In the order of measureTexts().
-constexpr std::array<TextLimits, 4> textLimits = {{
+constexpr std::array<TextLimits, 5> textLimits = {{
     {"UTF-8 check, short ASCII texts", 2, 4, 2.4},
     {"UTF-8 check, short Latin texts", 1, 2, 1.5},
     {"UTF-8 check, short CJK texts", 0.75, 2, 1.5},
     {"escape and strip, caption-length texts", 1.2, 2, 3.4},
+    {"escape, a text of nothing but \"&\", output", 0.4, 1, 1},
 }};
 
 void addTextRows(std::vector<Row>& rows, const std::vector<TextSpeed>& texts)

@@ -49,6 +49,13 @@ TextSample captionSample()
     return sampleOf("captions", std::move(texts));
 }
 
+TextSample entitySample()
+{
+    constexpr std::size_t length = std::size_t{1} << 20;
+    constexpr std::size_t entityLength = 5; // of "&amp;"
+    return {"entities", {std::string(length, '&')}, length * entityLength};
+}
+
 std::size_t countValid(const TextSample& sample)
 {
     std::size_t valid = 0;

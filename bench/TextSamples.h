@@ -21,6 +21,8 @@ struct TextSample {
 std::array<TextSample, 3> utf8Samples();
 /// Texts of caption length in all three, every sixth with special characters.
 TextSample captionSample();
+/// One long text whose every character becomes an entity; its bytes are those of the entities.
+TextSample entitySample();
 
 /// A pass over all texts; the result is there to be used, so that no call can be left out.
 std::size_t countValid(const TextSample& sample);

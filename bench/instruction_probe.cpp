@@ -1,6 +1,7 @@
 /// @file
 /// A fixed amount of work for callgrind, one dump for each named section.
 
+#include "ZelInterchangeData/ZelDataFace.h"
 #include "bench/FaceRun.h"
 #include "bench/LibraryRun.h"
 #include "bench/StraightAppender.h"
@@ -86,6 +87,50 @@ void probeFindings(std::size_t size)
     });
 }
 
+std::string languageID(std::size_t number)
+{
+    return "en-" + std::to_string(number);
+}
+
+/// Texts in many languages, on one item and in one list.
+void probeLanguages(std::size_t size)
+{
+    const auto item = createCaptionItem();
+    checked(*item).setDuration(1000);
+    section("texts." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            checked(*item).setTextForLanguage("text", languageID(i * 7919 % size));
+        return size;
+    });
+    const auto header = createHeader();
+    section("languages." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            checked(*header).addLanguage(languageID(i));
+        return size;
+    });
+    const auto captions = createCaptions();
+    section("item." + std::to_string(size),
+            [&] { return checked(*captions).addCaptionItem(*item).getLanguageCount(); });
+}
+
+/// All captions taken from the front, one after another.
+void probeFront(std::size_t size)
+{
+    const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
+    const auto captions = checked(*sets.captions);
+    section("front." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            captions.removeCaptionItemAt(0);
+        return captions.getCaptionItemCount() + 1;
+    });
+    std::vector<const void*> pointers(size);
+    section("front.pointers." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            pointers.erase(pointers.begin());
+        return pointers.size() + 1;
+    });
+}
+
 } // namespace
 
 } // namespace ZelInterchangeData::bench
@@ -99,7 +144,10 @@ int main()
     }
     probeTexts();
     probeFace();
-    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}})
+    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}}) {
         probeFindings(size);
+        probeLanguages(size);
+        probeFront(size);
+    }
     return 0;
 }

@@ -36,8 +36,6 @@ public:
     /// and puts styling values that are out of range back into it. Overlaps stay.
     ///
     /// The order is that of an exchange sort: items with equal starts may change places.
-    /// - #ZelData_OutOfMemory: the items may be in order and have some of the missing texts
-    ///   already.
     virtual ZelDataResult_tags makeCaptionsConsistent() = 0;
 
     /// @name Styling
@@ -86,6 +84,7 @@ public:
     /// - The code of copying the item (see i_ZelDataCaptionItem::copyFrom()): nothing is added. An
     ///   item whose end is not after its start cannot be copied: #ZelData_InvalidArgument.
     /// - The error of listing a language: the item is not added; languages listed before it stay.
+    ///   When memory runs out, they do not.
     virtual ZelDataResult_tags addCaptionItem(const i_ZelDataCaptionItem& item) = 0;
     /// Hands out a new item with its defaults, which does not belong to the collection.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.

@@ -29,6 +29,9 @@ namespace ZelInterchangeData {
 /// - When an implementation of an interface that the caller wrote throws, `std::bad_alloc` counts
 ///   as exhausted memory and any other exception gives #ZelData_InternalError. None leaves the
 ///   library.
+/// - An item of a caller's own class may change the collection that holds it, even while the
+///   collection calls it. An operation that only reads goes on with the items that it began with;
+///   one that changes the items gives #ZelData_InternalError, and the item's change stays.
 /// - Distinct objects may be used from distinct threads; one object serves one thread at a time.
 ///
 /// The order of the virtual operations of every interface is its binary interface and never

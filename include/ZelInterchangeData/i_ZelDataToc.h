@@ -34,8 +34,6 @@ public:
     /// lacks, and puts a frame rate that is out of range to 1000.
     ///
     /// The order is that of an exchange sort: entries with equal starts may change places.
-    /// - #ZelData_OutOfMemory: the entries may be in order and have some of the missing texts
-    ///   already.
     virtual ZelDataResult_tags makeTocConsistent() = 0;
 
     /// Ticks per second of the entries' starts, 1 to 10000. Default 1000. It is never copied, so
@@ -59,6 +57,7 @@ public:
     /// order. The order of starts is not checked.
     /// - The code of copying the entry (see i_ZelDataTocItem::copyFrom()): nothing is added.
     /// - The error of listing a language: the entry is not added; languages listed before it stay.
+    ///   When memory runs out, they do not.
     virtual ZelDataResult_tags addTocItem(const i_ZelDataTocItem& item) = 0;
     /// Hands out a new entry with its defaults, which does not belong to the table.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.

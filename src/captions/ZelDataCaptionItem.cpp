@@ -5,6 +5,8 @@
 #include "core/Factory.h"
 #include "util/TextLines.h"
 
+#include <algorithm>
+
 namespace ZelInterchangeData {
 
 ZelDataResult_tags ZelDataUtilities::createCaptionItemData(i_ZelDataCaptionItem** out)
@@ -35,11 +37,13 @@ ZelDataResult_tags CaptionState::check(bool strict) const
     if (strict && time.duration < CaptionLimits::recommendedDuration)
         return ZelData_WarnItemGuidelines;
     // Languages and texts were checked when they were set; what is left are the lines.
-    for (std::size_t i = 0; strict && i < texts().count(); ++i) {
-        if (countLines(texts()[i].text) > CaptionLimits::recommendedLines)
-            return ZelData_WarnItemGuidelines;
+    unsigned long most = 0;
+    if (strict) {
+        texts().forEach([&](std::string_view /*languageID*/, std::string_view text) {
+            most = std::max(most, countLines(text));
+        });
     }
-    return ZelData_Ok;
+    return most > CaptionLimits::recommendedLines ? ZelData_WarnItemGuidelines : ZelData_Ok;
 }
 
 ZelDataResult_tags ZelDataCaptionItem::isValid(bool strict) const

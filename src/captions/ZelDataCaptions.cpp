@@ -22,12 +22,12 @@ bool ZelDataCaptions::canHandOutItems() const
 /// The finding of one item, which no later item of those that start at @p earliestLater or after may
 /// overlap.
 Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
-                                  long long earliestLater) const
+                                  const std::vector<std::string>& listed, long long earliestLater)
 {
     // Without `strict` the items' own validity is meant not to matter: with it, captions that are
     // written today would be called invalid.
     if (strict && failed(item.isValid(true))) return item.getLastError();
-    if (const Ending ending = findMissingText(item, languageIDs())) return ending;
+    if (const Ending ending = findMissingText(item, listed)) return ending;
     long long end = 0;
     if (failed(item.getEnd(end))) return item.getLastError();
     if (end > earliestLater) return ZelData_WarnTiming;
@@ -37,14 +37,12 @@ Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
 /// The first finding of the items, in stored order.
 ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
 {
-    const auto earliestLater = earliestLaterStarts(items_.starts());
-    for (unsigned long i = 0; i < items_.count(); ++i) {
-        const Ending ending = items_.use(i, [&](const i_ZelDataCaptionItem& item) {
-            return checkItem(item, strict, earliestLater[i]);
+    const auto listed = languageIDs(); // an item of a caller's may change the list
+    const Ending ending =
+        items_.checkAll([&](const i_ZelDataCaptionItem& item, long long earliestLater) {
+            return checkItem(item, strict, listed, earliestLater);
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptions::isValid(bool strict) const
@@ -55,17 +53,14 @@ ZelDataResult_tags ZelDataCaptions::isValid(bool strict) const
 
 ZelDataResult_tags ZelDataCaptions::orderCaptions()
 {
-    return store(guarded([&] {
-        items_.order();
-        return ZelData_Ok;
-    }));
+    return store(guarded([&] { return items_.order().value_or(ZelData_Ok); }));
 }
 
 ZelDataResult_tags ZelDataCaptions::makeCaptionsConsistent()
 {
     return store(guarded([&] {
-        items_.order();
-        if (const Ending ending = fillMissingTexts(items_, languageIDs())) return *ending;
+        const auto listed = languageIDs(); // an item of a caller's may change the list
+        if (const Ending ending = orderAndFillMissingTexts(items_, listed)) return *ending;
         style_.repair();
         return ZelData_Ok;
     }));
@@ -172,9 +167,7 @@ ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& i
     return store(guarded([&] {
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
-        if (const Ending ending = addLanguagesOf(*copy.item)) return *ending;
-        items_.append(std::move(copy.item));
-        return ZelData_Ok;
+        return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });
     }));
 }
 

@@ -67,7 +67,8 @@ protected:
 
 private:
     ZelDataResult_tags storeColor(CaptionColor& field, CaptionColor color) const;
-    Ending checkItem(const i_ZelDataCaptionItem& item, bool strict, long long earliestLater) const;
+    static Ending checkItem(const i_ZelDataCaptionItem& item, bool strict,
+                            const std::vector<std::string>& listed, long long earliestLater);
     ZelDataResult_tags checkItems(bool strict) const;
     /// createCaptionItem() as a callable.
     auto newItem() const

@@ -8,7 +8,9 @@
 #include "core/ItemCopies.h"
 #include "core/ItemOrder.h"
 #include "util/CopyOnWrite.h"
+#include "util/Ending.h"
 #include "util/ExactType.h"
+#include "util/FrontVector.h"
 #include "util/Prefetch.h"
 
 #include <algorithm>
@@ -24,7 +26,10 @@ namespace ZelInterchangeData {
 ///
 /// An item of our own is kept as its bare state, and a copy of the list shares all states with it
 /// until one of the two changes. A collection that makes other items, as a derived one may, has
-/// them kept as they are; such a list is not copied.
+/// them kept as they are, and copies of its list share them.
+///
+/// Such an item is a caller's, and may change its collection in any of its operations. So each
+/// operation here that calls one keeps the items that it works on: a change makes others.
 ///
 /// @tparam Item the interface of the items.
 /// @tparam Own our implementation of it. It has a `State` with a `start()`, is made from one, and
@@ -55,17 +60,8 @@ public:
         summary_ = Summary();
     }
 
-    /// Whether the item at @p index is one of our own.
-    bool isOwn(unsigned long index) const noexcept { return !slots_.read()[index].foreign; }
     /// The state of the item at @p index, which is one of our own.
     const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
-
-    /// The state of the item at @p index, which is one of our own, to be changed.
-    State& changeState(unsigned long index)
-    {
-        summary_.reset();
-        return slots_.write()[index].state;
-    }
 
     /// What is known of all items, which are our own.
     const Summary& summary()
@@ -93,35 +89,37 @@ public:
         summary_ = std::move(known);
     }
 
-    /// What @p use, a callable for an item, gives for the item at @p index.
-    template <class Use>
-    auto use(unsigned long index, Use&& use) const
+    /// Calls @p changeState with the state of each item that is one of our own, and @p changeItem with
+    /// each other item, until a call ends. #ZelData_InternalError when an item changed this list.
+    template <class ChangeState, class ChangeItem>
+    Ending changeAll(ChangeState&& changeState, ChangeItem&& changeItem)
     {
-        const Slot& slot = slots_.read()[index];
-        if (slot.foreign) return use(std::as_const(*slot.foreign));
-        const Own item(slot.state);
-        return use(static_cast<const Item&>(item));
+        return rework([&](Slots& slots) { return changeEach(slots, changeState, changeItem); });
     }
 
-    /// What @p change, a callable for an item that it may change, gives for the item at @p index.
-    template <class Change>
-    auto change(unsigned long index, Change&& change)
+    /// The same with the items in the order of order().
+    template <class ChangeState, class ChangeItem>
+    Ending orderAndChangeAll(ChangeState&& changeState, ChangeItem&& changeItem)
     {
-        summary_.reset();
-        Slot& slot = slots_.write()[index];
-        if (slot.foreign) return change(*slot.foreign);
-        Borrowed borrowed(slot.state);
-        return change(static_cast<Item&>(borrowed.item));
+        return rework([&](Slots& slots) {
+            orderByStart(slots);
+            return changeEach(slots, changeState, changeItem);
+        });
     }
 
-    std::vector<long long> starts() const
+    /// Calls @p check, which may end, with each item and the earliest start of those after it, until
+    /// it ends.
+    template <class Check>
+    Ending checkAll(Check&& check) const
     {
-        std::vector<long long> starts;
-        starts.reserve(count());
-        const Slots& slots = slots_.read();
-        std::transform(slots.begin(), slots.end(), std::back_inserter(starts),
-                       [](const Slot& slot) { return slot.start(); });
-        return starts;
+        const auto held = slots_;
+        const auto earliestLater = earliestLaterStarts(startsOf(held.read()));
+        for (std::size_t i = 0; i < earliestLater.size(); ++i) {
+            const Ending ending = use(
+                held.read()[i], [&](const Item& item) { return check(item, earliestLater[i]); });
+            if (ending) return ending;
+        }
+        return {};
     }
 
     /// Calls @p visit with the state of each item, which is one of our own, in the order that
@@ -129,35 +127,32 @@ public:
     template <class Visit>
     void visitOrdered(Visit&& visit) const
     {
-        const auto places = exchangeOrder(starts());
+        const Slots& slots = slots_.read();
+        const auto places = exchangeOrder(startsOf(slots));
         if (places.empty()) {
-            for (const Slot& slot : slots_.read())
+            for (const Slot& slot : slots)
                 visit(slot.state);
             return;
         }
         // The items lie anywhere in memory: what a later visit needs is called for in time.
         constexpr std::size_t ahead = 8;
-        const auto& slots = slots_.read();
+        const Slot* const first = &slots[0];
         for (std::size_t i = 0; i < places.size(); ++i) {
             if (i + 2 * ahead < places.size())
-                prefetch(&slots[places[i + 2 * ahead]], sizeof(Slot));
-            if (i + ahead < places.size()) slots[places[i + ahead]].state.prefetch();
-            visit(slots[places[i]].state);
+                prefetch(first + places[i + 2 * ahead], sizeof(Slot));
+            if (i + ahead < places.size()) first[places[i + ahead]].state.prefetch();
+            visit(first[places[i]].state);
         }
     }
 
-    /// Orders the items by start, as exchangeOrder() says.
-    void order()
+    /// Orders the items by start, as exchangeOrder() says. #ZelData_InternalError when an item changed
+    /// this list.
+    Ending order()
     {
-        const auto places = exchangeOrder(starts());
-        if (places.empty()) return;
-        Slots ordered;
-        ordered.reserve(places.size());
-        const Slots& slots = slots_.read();
-        std::transform(places.begin(), places.end(), std::back_inserter(ordered),
-                       [&](std::size_t place) { return slots[place]; });
-        summary_.reset();
-        slots_ = CopyOnWrite<Slots>(std::move(ordered));
+        return rework([](Slots& slots) -> Ending {
+            orderByStart(slots);
+            return {};
+        });
     }
 
     /// #ZelData_InvalidArgument when there is no item at @p index.
@@ -165,8 +160,7 @@ public:
     {
         if (index >= count()) return ZelData_InvalidArgument;
         summary_.reset();
-        Slots& slots = slots_.write();
-        slots.erase(slots.begin() + static_cast<typename Slots::difference_type>(index));
+        slots_.write().erase(index);
         return ZelData_Ok;
     }
 
@@ -176,7 +170,9 @@ public:
     ZelDataResult_tags copyOut(Item** out, unsigned long index, Create&& create) const
     {
         if (!isEmptyOutPointer(out) || index >= count()) return ZelData_InvalidArgument;
-        auto copy = use(index, [&](const Item& item) { return copyItem(item, create); });
+        const auto held = slots_;
+        auto copy =
+            use(held.read()[index], [&](const Item& item) { return copyItem(item, create); });
         *out = copy.item.release();
         return copy.code;
     }
@@ -187,10 +183,11 @@ public:
     ZelDataResult_tags copyOutAll(std::vector<Item*>& out, Create&& create) const
     {
         out.clear();
+        const auto held = slots_;
         std::vector<std::unique_ptr<Item>> copies;
-        copies.reserve(count());
-        for (unsigned long i = 0; i < count(); ++i) {
-            auto copy = use(i, [&](const Item& item) { return copyItem(item, create); });
+        copies.reserve(held.read().size());
+        for (const Slot& slot : held.read()) {
+            auto copy = use(slot, [&](const Item& item) { return copyItem(item, create); });
             if (!copy.item) return copy.code;
             copies.push_back(std::move(copy.item));
         }
@@ -214,18 +211,61 @@ private:
         State state;
         std::shared_ptr<Item> foreign;
     };
-    using Slots = std::vector<Slot>;
+    using Slots = FrontVector<Slot>;
 
-    /// An item with a state that is given back, changed, in the end.
-    struct Borrowed {
-        explicit Borrowed(State& from) : home(from), item(std::move(from)) {}
-        Borrowed(const Borrowed&) = delete;
-        Borrowed& operator=(const Borrowed&) = delete;
-        ~Borrowed() { home = item.state(); }
+    /// Replaces the slots by what @p change, which may end, makes of a copy. Until then the items of
+    /// our own are as they were, so when memory runs out nothing has happened to them.
+    template <class Change>
+    Ending rework(Change&& change)
+    {
+        const auto before = slots_;
+        Slots slots(before.read());
+        const Ending ending = change(slots);
+        if (&slots_.read() != &before.read()) return ZelData_InternalError;
+        slots_ = CopyOnWrite<Slots>(std::move(slots));
+        summary_.reset();
+        return ending;
+    }
 
-        State& home;
-        Own item;
-    };
+    template <class ChangeState, class ChangeItem>
+    static Ending changeEach(Slots& slots, ChangeState& changeState, ChangeItem& changeItem)
+    {
+        for (Slot& slot : slots) {
+            const Ending ending =
+                slot.foreign ? changeItem(*slot.foreign) : changeState(slot.state);
+            if (ending) return ending;
+        }
+        return {};
+    }
+
+    static void orderByStart(Slots& slots)
+    {
+        const auto places = exchangeOrder(startsOf(slots));
+        if (places.empty()) return;
+        Slots ordered;
+        ordered.reserve(places.size());
+        for (const std::size_t place : places)
+            ordered.push_back(std::move(slots[place]));
+        slots = std::move(ordered);
+    }
+
+    /// What @p use, a callable for an item, gives for the one in @p slot.
+    template <class Use>
+    static auto use(const Slot& slot, Use&& use)
+    {
+        if (slot.foreign) return use(std::as_const(*slot.foreign));
+        const Own item(slot.state);
+        return use(static_cast<const Item&>(item));
+    }
+
+    static std::vector<long long> startsOf(const Slots& slots)
+    {
+        std::vector<long long> starts;
+        starts.reserve(slots.size());
+        std::transform(slots.begin(), slots.end(), std::back_inserter(starts),
+                       [](const Slot& slot) { return slot.start(); });
+        return starts;
+    }
 
     CopyOnWrite<Slots> slots_;
     std::optional<Summary> summary_ = Summary(); // none while it is not known

@@ -5,21 +5,12 @@
 #define ZELINTERCHANGEDATA_CORE_ITEMTEXTS_H
 
 #include "core/ItemList.h"
-#include "core/LanguageTexts.h"
 #include "util/Ending.h"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
-
-/// Whether @p texts has one for each of @p languageIDs.
-inline bool hasAllTexts(const LanguageTexts& texts, const std::vector<std::string>& languageIDs)
-{
-    return std::all_of(languageIDs.begin(), languageIDs.end(),
-                       [&](const std::string& id) { return texts.find(id).has_value(); });
-}
 
 /// Ends with the item's last error when @p item has no text for one of @p languageIDs.
 template <class Item>
@@ -48,38 +39,36 @@ Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
     return {};
 }
 
-/// The same for all items. One of our own takes all its missing texts at once: a collection lists no
-/// language that an item would refuse. One that lacks nothing is not touched and so goes on sharing.
+/// Orders @p items by start and gives each an empty text for each of @p languageIDs that it has none
+/// for. An item of our own takes them unchecked: a collection lists no language that it would refuse.
 template <class Item, class Own>
-Ending fillMissingTexts(ItemList<Item, Own>& items, const std::vector<std::string>& languageIDs)
+Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
+                                const std::vector<std::string>& languageIDs)
 {
-    for (unsigned long i = 0; i < items.count(); ++i) {
-        if (items.isOwn(i)) {
-            if (hasAllTexts(items.state(i).texts(), languageIDs)) continue;
-            items.changeState(i).changeTexts().addMissing(languageIDs);
-            continue;
-        }
-        const Ending ending =
-            items.change(i, [&](Item& item) { return fillMissingTexts(item, languageIDs); });
-        if (ending) return ending;
-    }
-    return {};
+    return items.orderAndChangeAll(
+        [&](typename Own::State& state) -> Ending {
+            state.changeTexts().addMissing(languageIDs);
+            return {};
+        },
+        [&](Item& item) { return fillMissingTexts(item, languageIDs); });
 }
 
-/// Removes the text for @p languageID from each item. It is meant to stop at the first item without
-/// such a text, with the item's last error: callers tell from the code that the language was not
-/// complete.
+/// Removes the text for @p languageID from each item. Deliberate: it stops at the first item without
+/// such a text, with the item's last error; otherwise the code would not tell that the language was
+/// incomplete.
 template <class Item, class Own>
 ZelDataResult_tags removeTexts(ItemList<Item, Own>& items, const std::string& languageID)
 {
-    for (unsigned long i = 0; i < items.count(); ++i) {
-        const Ending ending = items.change(i, [&](Item& item) -> Ending {
+    const Ending ending = items.changeAll(
+        [&](typename Own::State& state) -> Ending {
+            const auto code = state.changeTexts().remove(languageID);
+            return failed(code) ? Ending(code) : Ending();
+        },
+        [&](Item& item) -> Ending {
             if (failed(item.removeTextForLanguage(languageID))) return item.getLastError();
             return {};
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

@@ -5,7 +5,9 @@
 #define ZELINTERCHANGEDATA_CORE_LANGUAGELIST_H
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "util/TextList.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,8 +21,8 @@ public:
     /// The catalogue's answer for one language: a name, or a code.
     using NameLookup = ZelDataResult_tags (*)(const std::string& id, std::string& name);
 
-    const std::vector<std::string>& ids() const noexcept { return ids_; }
-    bool contains(std::string_view id) const;
+    const std::vector<std::string>& ids() const noexcept { return ids_.texts(); }
+    bool contains(std::string_view id) const { return ids_.contains(id); }
 
     void clear() noexcept { ids_.clear(); }
     /// The code of the UTF-8 check, #ZelData_UnknownLanguage or #ZelData_WarnAlreadyExists.
@@ -31,14 +33,16 @@ public:
     /// Lists @p id, which was checked before, unless it is listed.
     void addChecked(std::string_view id);
     /// Removes the first identical entry; false when there is none.
-    bool remove(const std::string& id);
+    bool remove(const std::string& id) { return ids_.remove(id); }
+    /// Removes all entries but the first @p count, if there are as many.
+    void truncate(std::size_t count) noexcept { ids_.truncate(count); }
     /// #ZelData_InvalidArgument when @p ids has another count or an entry that is not listed.
     ZelDataResult_tags reorder(const std::vector<std::string>& ids);
     /// Replaces @p names with what @p lookup finds; #ZelData_InternalError when a name is missing.
     ZelDataResult_tags names(std::vector<std::string>& names, NameLookup lookup) const;
 
 private:
-    std::vector<std::string> ids_;
+    TextList ids_;
 };
 
 } // namespace ZelInterchangeData

@@ -11,6 +11,7 @@
 #include "util/Guard.h"
 #include "util/GuardedCopy.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -78,6 +79,22 @@ protected:
     const LanguageList& languages() const noexcept { return languages_; }
     LanguageList& languages() noexcept { return languages_; }
 
+    /// Lists the languages of @p item and then calls @p append, which appends it. When memory runs out,
+    /// no language was listed.
+    template <class Item, class Append>
+    ZelDataResult_tags addWithLanguages(const Item& item, Append&& append)
+    {
+        const std::size_t listed = languageIDs().size();
+        const auto added = guarded([&] {
+            if (const Ending ending = addLanguagesOf(item)) return *ending;
+            append();
+            return ZelData_Ok;
+        });
+        if (added == ZelData_OutOfMemory) languages_.truncate(listed);
+        return added;
+    }
+
+private:
     /// Lists the languages of @p item, ascending. An error ends it; that a language is listed
     /// already is no error.
     template <class Item>
@@ -92,7 +109,6 @@ protected:
         return {};
     }
 
-private:
     ZelDataResult_tags namesInto(std::vector<std::string>& names,
                                  LanguageList::NameLookup lookup) const
     {

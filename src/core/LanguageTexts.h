@@ -5,8 +5,12 @@
 #define ZELINTERCHANGEDATA_CORE_LANGUAGETEXTS_H
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
-#include "util/SharedBytes.h"
+#include "core/PackedTexts.h"
+#include "util/CopyOnWrite.h"
 
+#include <cstddef>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,41 +18,49 @@
 
 namespace ZelInterchangeData {
 
-/// The texts of an item by language ID, in ascending byte order. Exhausted memory passes through as
-/// `std::bad_alloc` and changes nothing.
+/// The texts of an item by language ID, in ascending byte order. Copies share them until one of them
+/// changes. Exhausted memory passes through as `std::bad_alloc` and changes nothing.
 ///
-/// All of them lie in one piece of memory that copies share; a change makes a new one. Texts are
-/// set once and then copied and read many times, so the cheap copy and the one step to the bytes
-/// are worth the copying of a change.
+/// They are packed as long as a change then copies few bytes, as it does for nearly every item, and
+/// in a map beyond that, so that no number and no length of texts makes a change slow.
 class LanguageTexts {
 public:
-    /// A language ID and its text.
-    struct Entry {
-        std::string_view languageID;
-        std::string_view text;
-    };
-
     /// #ZelData_Ok when both are UTF-8 and the catalogue knows the language, else
     /// #ZelData_InvalidItem.
     static ZelDataResult_tags check(const std::string& text, const std::string& languageID);
 
     std::size_t count() const noexcept;
-    /// The entry at @p index, which is below count(). Its views hold until the texts change.
-    Entry operator[](std::size_t index) const noexcept;
-    /// The text for @p languageID; none when there is no such text.
-    std::optional<std::string_view> find(std::string_view languageID) const noexcept;
-    /// About how many bytes the texts have.
-    std::size_t size() const noexcept;
+    /// The text for @p languageID, valid until the texts change; none when there is no such text.
+    std::optional<std::string_view> find(std::string_view languageID) const
+    {
+        return many_ ? many_->read().find(languageID) : few_.find(languageID);
+    }
+    /// The bytes of all language IDs and texts.
+    std::size_t characters() const noexcept;
+    /// Calls @p visit with each language ID and its text.
+    template <class Visit>
+    void forEach(Visit&& visit) const
+    {
+        if (many_) {
+            for (const auto& [languageID, text] : many_->read().texts)
+                visit(std::string_view(languageID), std::string_view(text));
+            return;
+        }
+        for (std::size_t i = 0; i < few_.count(); ++i) {
+            const auto [languageID, text] = few_[i];
+            visit(languageID, text);
+        }
+    }
 
-    /// Has the texts at hand when they are needed, as far as they are of usual length.
-    void prefetch() const noexcept { bytes_.prefetch(224); }
+    /// Prefetches the texts, as far as they are packed and of usual length.
+    void prefetch() const noexcept { few_.prefetch(); }
 
-    void clear() noexcept { bytes_ = SharedBytes(); }
-    /// Stores a copy of @p text. Both stood check(). #ZelData_WarnAlreadyExists when it replaced a
-    /// text.
+    void clear() noexcept;
+    /// Stores a copy of @p text. Both must already have passed check(). #ZelData_WarnAlreadyExists
+    /// when it replaced a text.
     ZelDataResult_tags set(std::string_view text, std::string_view languageID);
-    /// Stores an empty text for each of @p languageIDs that has none; all stood check(). However
-    /// many they are, this is one change.
+    /// Stores an empty text for each of @p languageIDs that has none; all must already have passed
+    /// check().
     void addMissing(const std::vector<std::string>& languageIDs);
     /// #ZelData_InvalidArgument when there is none.
     ZelDataResult_tags get(std::string& text, const std::string& languageID) const;
@@ -58,10 +70,19 @@ public:
     ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const;
 
 private:
-    std::size_t placeOf(std::string_view languageID) const noexcept;
-    bool holds(std::size_t place, std::string_view languageID) const noexcept;
+    struct Map {
+        std::optional<std::string_view> find(std::string_view languageID) const;
+        /// Whether it replaced a text.
+        bool set(std::string_view text, std::string_view languageID);
 
-    SharedBytes bytes_;
+        std::map<std::string, std::string, std::less<>> texts;
+        std::size_t characters = 0;
+    };
+
+    Map unpacked() const;
+
+    PackedTexts few_;                      // empty while there are many
+    std::optional<CopyOnWrite<Map>> many_; // none while there are few
 };
 
 } // namespace ZelInterchangeData

@@ -5,8 +5,10 @@
 #define ZELINTERCHANGEDATA_CORE_TEXTSUMMARY_H
 
 #include "core/LanguageList.h"
+#include "util/MarkupText.h"
 
 #include <cstddef>
+#include <string_view>
 
 namespace ZelInterchangeData {
 
@@ -15,17 +17,17 @@ struct TextSummary {
     /// The languages of the texts in the order of their first occurrence, those of one item
     /// ascending.
     LanguageList languages;
-    /// The bytes of all texts.
+    /// About how many bytes all texts have in the packet, their language IDs included.
     std::size_t size = 0;
 
     /// Takes in the next item, whose texts @p state has.
     template <class State>
     void add(const State& state)
     {
-        const auto& texts = state.texts();
-        for (std::size_t i = 0; i < texts.count(); ++i)
-            languages.addChecked(texts[i].languageID);
-        size += texts.size();
+        state.texts().forEach([this](std::string_view languageID, std::string_view text) {
+            languages.addChecked(languageID);
+            size += languageID.size() + sizeWithEntities(text);
+        });
     }
 };
 

@@ -3,8 +3,6 @@
 #include "core/Factory.h"
 #include "util/GuardedCopy.h"
 
-#include <algorithm>
-
 namespace ZelInterchangeData {
 
 ZelDataResult_tags ZelDataUtilities::createHeaderData(i_ZelDataHeader** out)
@@ -173,37 +171,33 @@ ZelDataResult_tags ZelDataHeader::addContentName(const std::string& name)
     return store(guarded([&] {
         const auto form = ZelDataUtilities::verifyUtf8Format(name, false);
         if (failed(form)) return form;
-        const auto found = std::find(contentNames_.begin(), contentNames_.end(), name);
         // Meant to be another code than for a language that is listed already: callers tell the two
         // apart, and with that code they would take the name for a language.
-        if (found != contentNames_.end()) return ZelData_WarnNoChange;
-        contentNames_.push_back(name);
+        if (contentNames_.contains(name)) return ZelData_WarnNoChange;
+        contentNames_.append(name);
         return ZelData_Ok;
     }));
 }
 
 ZelDataResult_tags ZelDataHeader::removeContentName(const std::string& name)
 {
-    const auto found = std::find(contentNames_.begin(), contentNames_.end(), name);
-    if (found == contentNames_.end()) return store(ZelData_WarnNoChange);
-    contentNames_.erase(found);
-    return store(ZelData_Ok);
+    return store(contentNames_.remove(name) ? ZelData_Ok : ZelData_WarnNoChange);
 }
 
 ZelDataResult_tags ZelDataHeader::getContentNameCount(unsigned long& count) const
 {
-    count = contentNames_.size();
+    count = contentNames_.texts().size();
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataHeader::getContentNames(std::vector<std::string>& names) const
 {
-    return store(guardedCopy(names, contentNames_));
+    return store(guardedCopy(names, contentNames_.texts()));
 }
 
 ZelDataResult_tags ZelDataHeader::doesContentNameExist(std::string& name, bool& exists) const
 {
-    exists = std::find(contentNames_.begin(), contentNames_.end(), name) != contentNames_.end();
+    exists = contentNames_.contains(name);
     return store(ZelData_Ok);
 }
 

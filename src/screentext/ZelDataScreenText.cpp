@@ -26,14 +26,11 @@ Ending ZelDataScreenText::checkItem(const i_ZelDataScreenTextItem& item, bool de
 /// The first finding of the items, in stored order.
 ZelDataResult_tags ZelDataScreenText::checkItems(bool deep) const
 {
-    const auto earliestLater = earliestLaterStarts(items_.starts());
-    for (unsigned long i = 0; i < items_.count(); ++i) {
-        const Ending ending = items_.use(i, [&](const i_ZelDataScreenTextItem& item) {
-            return checkItem(item, deep, earliestLater[i]);
+    const Ending ending =
+        items_.checkAll([&](const i_ZelDataScreenTextItem& item, long long earliestLater) {
+            return checkItem(item, deep, earliestLater);
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenText::isValid(bool deep) const
@@ -44,10 +41,7 @@ ZelDataResult_tags ZelDataScreenText::isValid(bool deep) const
 
 ZelDataResult_tags ZelDataScreenText::orderScreenTextItems()
 {
-    return store(guarded([&] {
-        items_.order();
-        return ZelData_Ok;
-    }));
+    return store(guarded([&] { return items_.order().value_or(ZelData_Ok); }));
 }
 
 ZelDataResult_tags ZelDataScreenText::makeScreenTextConsistent()

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_SCREENTEXT_ZELDATASCREENTEXTITEM_H
 
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
+#include "util/MarkupText.h"
 #include "util/SharedText.h"
 #include "util/TimeSpan.h"
 
@@ -16,7 +17,7 @@ class ScreenTextState;
 
 /// What is worth knowing of all items of a collection together.
 struct ScreenTextSummary {
-    /// The bytes of all texts and file names.
+    /// About how many bytes all texts and file names have in the packet.
     std::size_t size = 0;
 
     /// Takes in the next item.
@@ -53,7 +54,7 @@ private:
 
 inline void ScreenTextSummary::add(const ScreenTextState& state) noexcept
 {
-    size += state.text().size() + state.imageFile().size();
+    size += sizeWithEntities(state.text()) + state.imageFile().size();
 }
 
 /// The screen-text item that the library makes.

@@ -12,10 +12,11 @@ ZelDataResult_tags ZelDataUtilities::createTocData(i_ZelDataToc** out)
 // Checking and repairing
 
 /// The finding of one entry; no later one starts before @p earliestLater.
-Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep, long long earliestLater) const
+Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep,
+                             const std::vector<std::string>& listed, long long earliestLater)
 {
     if (deep && failed(item.isValid(true))) return item.getLastError();
-    if (const Ending ending = findMissingText(item, languageIDs())) return ending;
+    if (const Ending ending = findMissingText(item, listed)) return ending;
     long long start = 0;
     if (failed(item.getStart(start))) return item.getLastError();
     if (start > earliestLater) return ZelData_WarnTiming;
@@ -25,14 +26,12 @@ Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep, long long 
 /// The first finding of the items, in stored order.
 ZelDataResult_tags ZelDataToc::checkItems(bool deep) const
 {
-    const auto earliestLater = earliestLaterStarts(items_.starts());
-    for (unsigned long i = 0; i < items_.count(); ++i) {
-        const Ending ending = items_.use(i, [&](const i_ZelDataTocItem& item) {
-            return checkItem(item, deep, earliestLater[i]);
+    const auto listed = languageIDs(); // an item of a caller's may change the list
+    const Ending ending =
+        items_.checkAll([&](const i_ZelDataTocItem& item, long long earliestLater) {
+            return checkItem(item, deep, listed, earliestLater);
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataToc::isValid(bool deep) const
@@ -43,17 +42,14 @@ ZelDataResult_tags ZelDataToc::isValid(bool deep) const
 
 ZelDataResult_tags ZelDataToc::orderTocItems()
 {
-    return store(guarded([&] {
-        items_.order();
-        return ZelData_Ok;
-    }));
+    return store(guarded([&] { return items_.order().value_or(ZelData_Ok); }));
 }
 
 ZelDataResult_tags ZelDataToc::makeTocConsistent()
 {
     return store(guarded([&] {
-        items_.order();
-        if (const Ending ending = fillMissingTexts(items_, languageIDs())) return *ending;
+        const auto listed = languageIDs(); // an item of a caller's may change the list
+        if (const Ending ending = orderAndFillMissingTexts(items_, listed)) return *ending;
         frameRate_.repair();
         return ZelData_Ok;
     }));
@@ -98,9 +94,7 @@ ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
     return store(guarded([&] {
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
-        if (const Ending ending = addLanguagesOf(*copy.item)) return *ending;
-        items_.append(std::move(copy.item));
-        return ZelData_Ok;
+        return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });
     }));
 }
 

@@ -53,7 +53,8 @@ protected:
     FrameRate frameRate_;
 
 private:
-    Ending checkItem(const i_ZelDataTocItem& item, bool deep, long long earliestLater) const;
+    static Ending checkItem(const i_ZelDataTocItem& item, bool deep,
+                            const std::vector<std::string>& listed, long long earliestLater);
     ZelDataResult_tags checkItems(bool deep) const;
     /// createTocItem() as a callable.
     auto newItem() const

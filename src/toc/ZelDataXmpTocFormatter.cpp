@@ -81,7 +81,8 @@ ZelDataResult_tags ZelDataXmpTocFormatter::measureTrack(std::size_t& size) const
     size = trackMarkup + toc.imageFile().size() + toc.items().count() * markerMarkup;
     for (unsigned long i = 0; i < toc.items().count(); ++i) {
         const TocEntryState& entry = toc.items().state(i);
-        size += titleOf(entry, toc.languageIDs()).size() + entry.imageFile().size();
+        size += sizeWithEntities(titleOf(entry, toc.languageIDs())) +
+                sizeWithEntities(entry.imageFile());
     }
     return ZelData_Ok;
 }

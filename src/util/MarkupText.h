@@ -7,10 +7,15 @@
 #include "ZelInterchangeData/ZelAlignment_tags.h"
 #include "util/TextBlock.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace ZelInterchangeData {
+
+/// About how many bytes @p text has with its entities: exact for a long text, which may consist of
+/// them, and its own length for any other.
+std::size_t sizeWithEntities(std::string_view text) noexcept;
 
 /// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() gives it.
 void appendEscaped(std::string& out, std::string_view text);

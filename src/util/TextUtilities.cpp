@@ -173,43 +173,37 @@ const char* skipHarmless(const char* text, const char* end, Mark mark,
     return std::find_if_not(text, end, isHarmless);
 }
 
-/// Appends runs of harmless bytes as they are, and what @p replace appends for each byte between them.
-template <class Out, class Mark, class IsHarmless, class Replace>
-void appendRuns(Out& out, std::string_view text, Mark mark, IsHarmless isHarmless, Replace replace)
-{
-    const char* run = text.data();
-    const char* const end = run + text.size();
-    for (;;) {
-        const char* const stop = skipHarmless(run, end, mark, isHarmless);
-        out.append(std::string_view(run, static_cast<std::size_t>(stop - run)));
-        if (stop == end) return;
-        replace(*stop);
-        run = stop + 1;
-    }
-}
-
-std::string_view entityFor(char character)
+std::string_view entityFor(char character) noexcept
 {
     return entities[entityPlaces[byteOf(character)]].markup;
+}
+
+/// Appends runs of harmless bytes as they are, and an entity for each byte between them that needs one.
+template <class Out, class Mark, class IsHarmless>
+void appendRuns(Out& out, std::string_view text, Mark mark, IsHarmless isHarmless)
+{
+    const char* position = text.data();
+    const char* const end = position + text.size();
+    while (position != end) {
+        const char* const stop = skipHarmless(position, end, mark, isHarmless);
+        out.append(std::string_view(position, static_cast<std::size_t>(stop - position)));
+        for (position = stop; position != end && !isHarmless(*position); ++position) {
+            if (needsEntity(*position)) out.append(entityFor(*position));
+        }
+    }
 }
 
 template <class Out>
 void appendEscapedTo(Out& out, std::string_view text)
 {
-    appendRuns(
-        out, text, needingEntity, [](char c) { return !needsEntity(c); },
-        [&](char c) { out.append(entityFor(c)); });
+    appendRuns(out, text, needingEntity, [](char c) { return !needsEntity(c); });
 }
 
 template <class Out>
 void appendEscapedStrippedTo(Out& out, std::string_view text)
 {
-    appendRuns(
-        out, text, needingEntityOrControl,
-        [](char c) { return !needsEntity(c) && !isUnsupported(c); },
-        [&](char c) {
-            if (needsEntity(c)) out.append(entityFor(c));
-        });
+    appendRuns(out, text, needingEntityOrControl,
+               [](char c) { return !needsEntity(c) && !isUnsupported(c); });
 }
 
 /// Whether @p text begins with the markup of @p entity and goes on behind it.
@@ -264,6 +258,16 @@ ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, b
     return ZelData_Ok;
 }
 
+std::size_t sizeWithEntities(std::string_view text) noexcept
+{
+    constexpr std::size_t longText = 4096;
+    std::size_t size = text.size();
+    if (size < longText) return size;
+    for (const char c : text)
+        size += needsEntity(c) ? entityFor(c).size() - 1 : 0;
+    return size;
+}
+
 void appendEscaped(std::string& out, std::string_view text)
 {
     appendEscapedTo(out, text);
@@ -312,7 +316,7 @@ std::string ZelDataUtilities::stripUnsupportedCharacters(const std::string& text
 std::string ZelDataUtilities::htmlTagsToText(const std::string& text)
 {
     std::string result;
-    result.reserve(text.size());
+    result.reserve(sizeWithEntities(text));
     appendEscaped(result, text);
     return result;
 }

@@ -524,6 +524,100 @@ TYPED_TEST(ItemCollection, WhenOneOfAllCopiesFailsTheOthersAreDestroyedAndTheVec
     }
 }
 
+// Items that change their collection while it looks at them
+
+/// Three items, the first of which changes its collection when it is first asked for its start.
+template <class Kind>
+class Meddled {
+public:
+    using Change = void (*)(typename Kind::Made& collection);
+
+    explicit Meddled(Change change)
+    {
+        collection_.maker = [this](typename Kind::Item** out) {
+            *out = new OddItem<Kind>([this](long long& start) {
+                if (const auto once = std::exchange(change_, nullptr)) once(collection_);
+                start = 0;
+                return ZelData_Ok;
+            });
+            return ZelData_Ok;
+        };
+        for (int i = 0; i < 3; ++i)
+            addOne(collection_);
+        change_ = change;
+    }
+
+    static void addOne(typename Kind::Made& collection)
+    {
+        typename Kind::OwnItem item;
+        Kind::setTag(item, "tag");
+        EXPECT_EQ(ZelData_Ok, (collection.*Kind::add)(item));
+    }
+
+    unsigned long count()
+    {
+        unsigned long count = 0;
+        EXPECT_EQ(ZelData_Ok, (collection_.*Kind::count)(count));
+        return count;
+    }
+
+    typename Kind::Made collection_;
+
+private:
+    Change change_ = nullptr;
+};
+
+template <class Kind>
+void addMany(typename Kind::Made& collection)
+{
+    for (int i = 0; i < 100; ++i)
+        Meddled<Kind>::addOne(collection);
+}
+
+template <class Kind>
+void clearAll(typename Kind::Made& collection)
+{
+    EXPECT_EQ(ZelData_Ok, (collection.*Kind::clear)());
+}
+
+TYPED_TEST(ItemCollection, AnItemMayChangeItsCollectionWhileThatIsRead)
+{
+    for (const auto& [change, left] :
+         {std::pair(&addMany<TypeParam>, 103UL), std::pair(&clearAll<TypeParam>, 0UL)}) {
+        Meddled<TypeParam> checked(change);
+        EXPECT_FALSE(isError(checked.collection_.isValid(false))); // captions overlap here
+        EXPECT_EQ(left, checked.count());
+        Meddled<TypeParam> one(change);
+        typename TypeParam::Item* out = nullptr;
+        EXPECT_CODE(one.collection_, ZelData_Ok, (one.collection_.*TypeParam::at)(&out, 0));
+        const std::unique_ptr<typename TypeParam::Item> owner(out);
+        EXPECT_EQ(left, one.count());
+        Meddled<TypeParam> all(change);
+        std::vector<typename TypeParam::Item*> items;
+        EXPECT_CODE(all.collection_, ZelData_Ok, (all.collection_.*TypeParam::all)(items));
+        EXPECT_EQ(3U, items.size());
+        for (auto* item : items)
+            delete item;
+        EXPECT_EQ(left, all.count());
+    }
+}
+
+TYPED_TEST(ItemCollection, AnItemThatChangesItsCollectionStopsTheOrdering)
+{
+    for (const auto& [change, left] :
+         {std::pair(&addMany<TypeParam>, 103UL), std::pair(&clearAll<TypeParam>, 0UL)}) {
+        Meddled<TypeParam> ordered(change);
+        EXPECT_CODE(ordered.collection_, ZelData_InternalError,
+                    (ordered.collection_.*TypeParam::order)());
+        EXPECT_EQ(left, ordered.count());
+        EXPECT_CODE(ordered.collection_, ZelData_Ok, (ordered.collection_.*TypeParam::order)());
+        Meddled<TypeParam> repaired(change);
+        EXPECT_CODE(repaired.collection_, ZelData_InternalError,
+                    (repaired.collection_.*TypeParam::makeConsistent)());
+        EXPECT_EQ(left, repaired.count());
+    }
+}
+
 // Copies of whole collections
 
 TYPED_TEST(ItemCollection, ACopyOfTheCollectionHoldsCopiesOfTheItemsAlone)

@@ -4,9 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace ZelInterchangeData {
 namespace {
@@ -16,8 +20,8 @@ using Map = std::map<std::string, std::string>;
 Map mapOf(const LanguageTexts& texts)
 {
     Map map;
-    for (std::size_t i = 0; i < texts.count(); ++i)
-        map.emplace(texts[i].languageID, texts[i].text);
+    texts.forEach([&](std::string_view id, std::string_view text) { map.emplace(id, text); });
+    EXPECT_EQ(map.size(), texts.count());
     return map;
 }
 
@@ -27,7 +31,7 @@ TEST(LanguageTexts, NewOnesAreEmptyAndTakeNoMemory)
     const LanguageTexts texts;
     const LanguageTexts copy(texts);
     EXPECT_EQ(0U, copy.count());
-    EXPECT_EQ(0U, copy.size());
+    EXPECT_EQ(0U, copy.characters());
     EXPECT_FALSE(copy.find("en").has_value());
 }
 
@@ -42,12 +46,12 @@ TEST(LanguageTexts, StandInAscendingOrderOfTheIDs)
     EXPECT_EQ("text pt", texts.find("pt"));
 }
 
-TEST(LanguageTexts, SizeCountsIDsAndTexts)
+TEST(LanguageTexts, TheirCharactersAreThoseOfIDsAndTexts)
 {
     LanguageTexts texts;
     texts.set("four", "en");
     texts.set("", "de");
-    EXPECT_EQ(8U, texts.size());
+    EXPECT_EQ(8U, texts.characters());
 }
 
 TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
@@ -103,7 +107,9 @@ TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
         const std::string& id = ids[random() % ids.size()];
         switch (random() % 4) {
         case 0: {
-            const std::string text(random() % 40, static_cast<char>('a' + random() % 26));
+            // Now and then a text that is too long to be packed.
+            const std::size_t length = random() % 8 == 0 ? 9000 : random() % 40;
+            const std::string text(length, static_cast<char>('a' + random() % 26));
             const bool replaces = map.count(id) != 0;
             EXPECT_EQ(replaces ? ZelData_WarnAlreadyExists : ZelData_Ok, texts.set(text, id));
             map[id] = text;
@@ -147,7 +153,7 @@ TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
     texts.set("Hallo", "de");
     const LanguageTexts copy(texts);
     texts.addMissing({"de", "de"});
-    EXPECT_EQ(copy[0].text.data(), texts[0].text.data());
+    EXPECT_EQ(copy.find("de")->data(), texts.find("de")->data());
 }
 
 TEST(LanguageTexts, MissingOnesComeAllOrNot)
@@ -161,6 +167,92 @@ TEST(LanguageTexts, MissingOnesComeAllOrNot)
     }
     EXPECT_LT(0U, granted);
     EXPECT_EQ((Map{{"de", "Hallo"}, {"en", ""}, {"fr", ""}}), mapOf(texts));
+}
+
+/// Texts that are no longer packed, with one for "en" and one for "de".
+LanguageTexts unpackedTexts()
+{
+    LanguageTexts texts;
+    texts.set(std::string(9000, 'x'), "en");
+    texts.set("zwei", "de");
+    return texts;
+}
+
+TEST(LanguageTexts, AreTheSameTextsWhenTheyAreManyOrLong)
+{
+    LanguageTexts texts;
+    Map map;
+    std::size_t characters = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const std::string id = "en-" + std::to_string(i * 7 % 2000);
+        EXPECT_EQ(ZelData_Ok, texts.set("text of " + id, id));
+        map[id] = "text of " + id;
+        characters += 2 * id.size() + 8;
+        ASSERT_EQ(characters, texts.characters());
+    }
+    EXPECT_EQ(map, mapOf(texts));
+    std::vector<std::string> ids;
+    EXPECT_EQ(ZelData_Ok, texts.getLanguageIDs(ids));
+    EXPECT_TRUE(std::is_sorted(ids.begin(), ids.end()));
+    EXPECT_EQ(map.size(), ids.size());
+}
+
+TEST(LanguageTexts, LongOnesAreSharedUntilACopyChanges)
+{
+    LanguageTexts texts = unpackedTexts();
+    const LanguageTexts copy(texts);
+    EXPECT_EQ(copy.find("en")->data(), texts.find("en")->data());
+    EXPECT_EQ(ZelData_WarnAlreadyExists, texts.set("short", "en"));
+    EXPECT_EQ(9000U, copy.find("en")->size());
+    EXPECT_EQ((Map{{"de", "zwei"}, {"en", "short"}}), mapOf(texts));
+    EXPECT_EQ(13U, texts.characters());
+}
+
+TEST(LanguageTexts, LongOnesCanAllBeRemoved)
+{
+    LanguageTexts texts = unpackedTexts();
+    EXPECT_EQ(ZelData_NotFound, texts.remove("fr"));
+    EXPECT_EQ(ZelData_Ok, texts.remove("en"));
+    EXPECT_EQ(6U, texts.characters());
+    EXPECT_EQ(ZelData_Ok, texts.remove("de"));
+    EXPECT_EQ(0U, texts.count());
+    EXPECT_EQ(ZelData_NotFound, texts.remove("de"));
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
+    EXPECT_EQ((Map{{"en", "one"}}), mapOf(texts));
+}
+
+TEST(LanguageTexts, ATextOfTheirOwnMayMakeThemTooLong)
+{
+    LanguageTexts texts;
+    texts.set(std::string(5000, 'x'), "en");
+    texts.set(*texts.find("en"), "de");
+    EXPECT_EQ((Map{{"de", std::string(5000, 'x')}, {"en", std::string(5000, 'x')}}), mapOf(texts));
+}
+
+TEST(LanguageTexts, WithoutMemoryAChangeOfLongOnesChangesNothing)
+{
+    const auto changes = {
+        +[](LanguageTexts& texts) { texts.set(std::string(20, 'y'), "en"); },
+        +[](LanguageTexts& texts) { texts.set("autre", "fr"); },
+        +[](LanguageTexts& texts) { texts.remove("de"); },
+        +[](LanguageTexts& texts) {
+            texts.addMissing({"fr", "ja"});
+        },
+    };
+    for (const auto change : changes) {
+        LanguageTexts texts = unpackedTexts();
+        const LanguageTexts shared(texts); // so that each change needs memory
+        const Map before = mapOf(texts);
+        std::size_t granted = 0;
+        while (runsOutOfMemory(granted, [&] { change(texts); })) {
+            EXPECT_EQ(before, mapOf(texts));
+            EXPECT_EQ(shared.characters(), texts.characters());
+            ++granted;
+        }
+        EXPECT_LT(0U, granted);
+        EXPECT_NE(before, mapOf(texts));
+        EXPECT_EQ(before, mapOf(shared));
+    }
 }
 
 } // namespace
