@@ -45,8 +45,8 @@ TEST(LanguageTexts, StandInAscendingOrderOfTheIDs)
 TEST(LanguageTexts, SizeCountsIDsAndTexts)
 {
     LanguageTexts texts;
-    texts.set("four", "en");
-    texts.set("", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("four", "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("", "de"));
     EXPECT_EQ(8U, texts.size());
 }
 
@@ -54,8 +54,8 @@ TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
 {
     LanguageTexts texts;
     const std::string zeros(3, '\0');
-    texts.set(zeros, "en");
-    texts.set("", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set(zeros, "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("", "de"));
     EXPECT_EQ(zeros, texts.find("en"));
     EXPECT_EQ("", texts.find("de"));
     EXPECT_FALSE(texts.find("fr").has_value());
@@ -64,10 +64,10 @@ TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
 TEST(LanguageTexts, ACopyKeepsItsTextsWhenTheOriginalChanges)
 {
     LanguageTexts texts;
-    texts.set("one", "en");
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
     const LanguageTexts copy(texts);
     EXPECT_EQ(ZelData_WarnAlreadyExists, texts.set("another", "en"));
-    texts.set("zwei", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("zwei", "de"));
     EXPECT_EQ((Map{{"en", "one"}}), mapOf(copy));
     EXPECT_EQ((Map{{"de", "zwei"}, {"en", "another"}}), mapOf(texts));
 }
@@ -75,20 +75,20 @@ TEST(LanguageTexts, ACopyKeepsItsTextsWhenTheOriginalChanges)
 TEST(LanguageTexts, ATextOfTheirOwnCanBeSetForAnotherLanguage)
 {
     LanguageTexts texts;
-    texts.set("one", "en");
-    texts.set(*texts.find("en"), "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set(*texts.find("en"), "de"));
     EXPECT_EQ((Map{{"de", "one"}, {"en", "one"}}), mapOf(texts));
 }
 
 TEST(LanguageTexts, WithoutMemoryAChangeChangesNothing)
 {
     LanguageTexts texts;
-    texts.set("one", "en");
-    texts.set("zwei", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("zwei", "de"));
     {
         const FailingAllocation failing(0);
-        EXPECT_THROW(texts.set("autre", "fr"), std::bad_alloc);
-        EXPECT_THROW(texts.set("other", "en"), std::bad_alloc);
+        EXPECT_THROW(static_cast<void>(texts.set("autre", "fr")), std::bad_alloc);
+        EXPECT_THROW(static_cast<void>(texts.set("other", "en")), std::bad_alloc);
     }
     EXPECT_EQ((Map{{"de", "zwei"}, {"en", "one"}}), mapOf(texts));
 }
@@ -132,8 +132,8 @@ TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
 TEST(LanguageTexts, MissingOnesAreAddedEmptyAndOnceEach)
 {
     LanguageTexts texts;
-    texts.set("Hallo", "de");
-    texts.set("Hello", "en");
+    EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
+    EXPECT_EQ(ZelData_Ok, texts.set("Hello", "en"));
     texts.addMissing({"fr", "en", "bg", "fr", "de"});
     EXPECT_EQ((Map{{"bg", ""}, {"de", "Hallo"}, {"en", "Hello"}, {"fr", ""}}), mapOf(texts));
     LanguageTexts none;
@@ -144,7 +144,7 @@ TEST(LanguageTexts, MissingOnesAreAddedEmptyAndOnceEach)
 TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
 {
     LanguageTexts texts;
-    texts.set("Hallo", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
     const LanguageTexts copy(texts);
     texts.addMissing({"de", "de"});
     EXPECT_EQ(copy[0].text.data(), texts[0].text.data());
@@ -153,7 +153,7 @@ TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
 TEST(LanguageTexts, MissingOnesComeAllOrNot)
 {
     LanguageTexts texts;
-    texts.set("Hallo", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
     std::size_t granted = 0;
     while (runsOutOfMemory(granted, [&] { texts.addMissing({"fr", "en"}); })) {
         EXPECT_EQ((Map{{"de", "Hallo"}}), mapOf(texts));
