@@ -225,7 +225,8 @@ public:
     explicit DocumentTakes(Input& /*input*/) : target_(ZELDataCreator::createInterchangeData())
     {
         Input nothing(nullptr, 0);
-        target_->setDataHeader(*fuzz::makeOwn<fuzz::HeaderKind>(nothing));
+        require(target_->setDataHeader(*fuzz::makeOwn<fuzz::HeaderKind>(nothing)) == ZelData_Ok,
+                "a header is refused");
     }
 
     Outcome run(Input contents, const Trouble& trouble)
@@ -258,7 +259,7 @@ public:
 
     Outcome run(Input contents, const Trouble& trouble)
     {
-        ((*document_).*Kind::set)(*fuzz::makeOwn<Kind>(contents));
+        fuzz::mayRefuse(((*document_).*Kind::set)(*fuzz::makeOwn<Kind>(contents)));
         target_->setScript(trouble.script);
         const Outcome outcome = perform<i_ZelInterchangeDataCore>(
             *document_, [&] { return ((*document_).*Kind::get)(*target_); });

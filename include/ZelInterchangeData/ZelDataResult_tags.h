@@ -11,7 +11,9 @@ namespace ZelInterchangeData {
 /// What an operation answers. Bit 31 marks an error, bit 30 a warning; 0 is plain success.
 ///
 /// The underlying type is fixed, so a value that is not listed may travel in it unharmed.
-enum ZelDataResult_tags : std::uint32_t {
+///
+/// The compiler warns where a code is dropped. Cast it to `void` where that is meant.
+enum [[nodiscard]] ZelDataResult_tags : std::uint32_t{
     /// Success.
     ZelData_Ok = 0x00000000,
     /// The entry existed already: a language is not added twice, an item's text is replaced.
@@ -48,8 +50,7 @@ enum ZelDataResult_tags : std::uint32_t {
     /// The requested data set was never given to the document.
     ZelData_NoData = 0x8000000D,
     /// The format is not one that the library writes.
-    ZelData_UnsupportedFormat = 0x8000000E
-};
+    ZelData_UnsupportedFormat = 0x8000000E};
 
 /// Whether @p code is a warning or an error. Most operations stop at the first such code.
 constexpr bool failed(ZelDataResult_tags code) noexcept

@@ -204,6 +204,7 @@ private:
         {
             if (!foreign) return state.start();
             long long start = 0;
+            // Meant to be dropped: an item that cannot tell its start is ordered as one at 0.
             static_cast<void>(foreign->getStart(start));
             return start;
         }

@@ -64,27 +64,28 @@ void LanguageTexts::clear() noexcept
     many_.reset();
 }
 
+bool LanguageTexts::replace(std::string_view text, std::string_view languageID)
+{
+    if (many_) return many_->write().set(text, languageID);
+    if (few_.bytesWith(languageID.size() + text.size()) <= mostPackedBytes)
+        return few_.set(text, languageID);
+    Map map = unpacked();
+    const bool replaced = map.set(text, languageID);
+    many_.emplace(std::move(map));
+    few_.clear();
+    return replaced;
+}
+
 ZelDataResult_tags LanguageTexts::set(std::string_view text, std::string_view languageID)
 {
-    bool replaced = false;
-    if (many_) {
-        replaced = many_->write().set(text, languageID);
-    } else if (few_.bytesWith(languageID.size() + text.size()) <= mostPackedBytes) {
-        replaced = few_.set(text, languageID);
-    } else {
-        Map map = unpacked();
-        replaced = map.set(text, languageID);
-        many_.emplace(std::move(map));
-        few_.clear();
-    }
-    return replaced ? ZelData_WarnAlreadyExists : ZelData_Ok;
+    return replace(text, languageID) ? ZelData_WarnAlreadyExists : ZelData_Ok;
 }
 
 void LanguageTexts::addMissing(const std::vector<std::string>& languageIDs)
 {
     LanguageTexts filled(*this);
     for (const std::string& id : languageIDs) {
-        if (!filled.find(id)) filled.set({}, id);
+        if (!filled.find(id)) filled.replace({}, id);
     }
     *this = std::move(filled);
 }

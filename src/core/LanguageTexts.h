@@ -80,6 +80,8 @@ private:
     };
 
     Map unpacked() const;
+    /// Stores a copy of @p text. Whether it replaced one.
+    bool replace(std::string_view text, std::string_view languageID);
 
     PackedTexts few_;                      // empty while there are many
     std::optional<CopyOnWrite<Map>> many_; // none while there are few

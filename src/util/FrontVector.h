@@ -44,7 +44,7 @@ public:
 
     void erase(std::size_t index)
     {
-        const Value erased = std::exchange((*this)[index], Value());
+        [[maybe_unused]] const Value erased = std::exchange((*this)[index], Value());
         if (index == 0) {
             ++front_;
             if (2 * front_ >= values_.size()) eraseFront();

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <initializer_list>
 #include <map>
 #include <random>
 #include <string>
@@ -49,8 +50,8 @@ TEST(LanguageTexts, StandInAscendingOrderOfTheIDs)
 TEST(LanguageTexts, TheirCharactersAreThoseOfIDsAndTexts)
 {
     LanguageTexts texts;
-    texts.set("four", "en");
-    texts.set("", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("four", "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("", "de"));
     EXPECT_EQ(8U, texts.characters());
 }
 
@@ -58,8 +59,8 @@ TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
 {
     LanguageTexts texts;
     const std::string zeros(3, '\0');
-    texts.set(zeros, "en");
-    texts.set("", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set(zeros, "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("", "de"));
     EXPECT_EQ(zeros, texts.find("en"));
     EXPECT_EQ("", texts.find("de"));
     EXPECT_FALSE(texts.find("fr").has_value());
@@ -68,10 +69,10 @@ TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
 TEST(LanguageTexts, ACopyKeepsItsTextsWhenTheOriginalChanges)
 {
     LanguageTexts texts;
-    texts.set("one", "en");
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
     const LanguageTexts copy(texts);
     EXPECT_EQ(ZelData_WarnAlreadyExists, texts.set("another", "en"));
-    texts.set("zwei", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("zwei", "de"));
     EXPECT_EQ((Map{{"en", "one"}}), mapOf(copy));
     EXPECT_EQ((Map{{"de", "zwei"}, {"en", "another"}}), mapOf(texts));
 }
@@ -79,20 +80,20 @@ TEST(LanguageTexts, ACopyKeepsItsTextsWhenTheOriginalChanges)
 TEST(LanguageTexts, ATextOfTheirOwnCanBeSetForAnotherLanguage)
 {
     LanguageTexts texts;
-    texts.set("one", "en");
-    texts.set(*texts.find("en"), "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set(*texts.find("en"), "de"));
     EXPECT_EQ((Map{{"de", "one"}, {"en", "one"}}), mapOf(texts));
 }
 
 TEST(LanguageTexts, WithoutMemoryAChangeChangesNothing)
 {
     LanguageTexts texts;
-    texts.set("one", "en");
-    texts.set("zwei", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("one", "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("zwei", "de"));
     {
         const FailingAllocation failing(0);
-        EXPECT_THROW(texts.set("autre", "fr"), std::bad_alloc);
-        EXPECT_THROW(texts.set("other", "en"), std::bad_alloc);
+        EXPECT_THROW(static_cast<void>(texts.set("autre", "fr")), std::bad_alloc);
+        EXPECT_THROW(static_cast<void>(texts.set("other", "en")), std::bad_alloc);
     }
     EXPECT_EQ((Map{{"de", "zwei"}, {"en", "one"}}), mapOf(texts));
 }
@@ -138,8 +139,8 @@ TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
 TEST(LanguageTexts, MissingOnesAreAddedEmptyAndOnceEach)
 {
     LanguageTexts texts;
-    texts.set("Hallo", "de");
-    texts.set("Hello", "en");
+    EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
+    EXPECT_EQ(ZelData_Ok, texts.set("Hello", "en"));
     texts.addMissing({"fr", "en", "bg", "fr", "de"});
     EXPECT_EQ((Map{{"bg", ""}, {"de", "Hallo"}, {"en", "Hello"}, {"fr", ""}}), mapOf(texts));
     LanguageTexts none;
@@ -150,7 +151,7 @@ TEST(LanguageTexts, MissingOnesAreAddedEmptyAndOnceEach)
 TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
 {
     LanguageTexts texts;
-    texts.set("Hallo", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
     const LanguageTexts copy(texts);
     texts.addMissing({"de", "de"});
     EXPECT_EQ(copy.find("de")->data(), texts.find("de")->data());
@@ -159,7 +160,7 @@ TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
 TEST(LanguageTexts, MissingOnesComeAllOrNot)
 {
     LanguageTexts texts;
-    texts.set("Hallo", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
     std::size_t granted = 0;
     while (runsOutOfMemory(granted, [&] { texts.addMissing({"fr", "en"}); })) {
         EXPECT_EQ((Map{{"de", "Hallo"}}), mapOf(texts));
@@ -173,8 +174,8 @@ TEST(LanguageTexts, MissingOnesComeAllOrNot)
 LanguageTexts unpackedTexts()
 {
     LanguageTexts texts;
-    texts.set(std::string(9000, 'x'), "en");
-    texts.set("zwei", "de");
+    EXPECT_EQ(ZelData_Ok, texts.set(std::string(9000, 'x'), "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set("zwei", "de"));
     return texts;
 }
 
@@ -224,19 +225,21 @@ TEST(LanguageTexts, LongOnesCanAllBeRemoved)
 TEST(LanguageTexts, ATextOfTheirOwnMayMakeThemTooLong)
 {
     LanguageTexts texts;
-    texts.set(std::string(5000, 'x'), "en");
-    texts.set(*texts.find("en"), "de");
+    EXPECT_EQ(ZelData_Ok, texts.set(std::string(5000, 'x'), "en"));
+    EXPECT_EQ(ZelData_Ok, texts.set(*texts.find("en"), "de"));
     EXPECT_EQ((Map{{"de", std::string(5000, 'x')}, {"en", std::string(5000, 'x')}}), mapOf(texts));
 }
 
 TEST(LanguageTexts, WithoutMemoryAChangeOfLongOnesChangesNothing)
 {
-    const auto changes = {
-        +[](LanguageTexts& texts) { texts.set(std::string(20, 'y'), "en"); },
-        +[](LanguageTexts& texts) { texts.set("autre", "fr"); },
-        +[](LanguageTexts& texts) { texts.remove("de"); },
-        +[](LanguageTexts& texts) {
+    using Change = ZelDataResult_tags (*)(LanguageTexts&);
+    const std::initializer_list<Change> changes = {
+        [](LanguageTexts& texts) { return texts.set(std::string(20, 'y'), "en"); },
+        [](LanguageTexts& texts) { return texts.set("autre", "fr"); },
+        [](LanguageTexts& texts) { return texts.remove("de"); },
+        [](LanguageTexts& texts) {
             texts.addMissing({"fr", "ja"});
+            return ZelData_Ok;
         },
     };
     for (const auto change : changes) {
@@ -244,12 +247,14 @@ TEST(LanguageTexts, WithoutMemoryAChangeOfLongOnesChangesNothing)
         const LanguageTexts shared(texts); // so that each change needs memory
         const Map before = mapOf(texts);
         std::size_t granted = 0;
-        while (runsOutOfMemory(granted, [&] { change(texts); })) {
+        ZelDataResult_tags code = ZelData_NoData;
+        while (runsOutOfMemory(granted, [&] { code = change(texts); })) {
             EXPECT_EQ(before, mapOf(texts));
             EXPECT_EQ(shared.characters(), texts.characters());
             ++granted;
         }
         EXPECT_LT(0U, granted);
+        EXPECT_FALSE(isError(code));
         EXPECT_NE(before, mapOf(texts));
         EXPECT_EQ(before, mapOf(shared));
     }

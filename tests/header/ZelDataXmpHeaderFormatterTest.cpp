@@ -270,7 +270,7 @@ TEST_F(HeaderFormatter, HoldsACopy)
     const auto header = make(&ZelDataUtilities::createHeaderData);
     fill(*header, sampleValues());
     EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setHeader(*header));
-    header->setTitle("Changed");
+    EXPECT_EQ(ZelData_Ok, header->setTitle("Changed"));
     EXPECT_EQ("Boats", attribute(written(), "dc:title"));
 }
 

@@ -86,8 +86,8 @@ protected:
                             const std::string& arguments = {},
                             const std::function<void()>& half = {}) const;
     void throwIfLastErrorDoes() const;
-    /// Keeps @p code as the last error and gives it back.
-    virtual ZelDataResult_tags keep(ZelDataResult_tags code) const = 0;
+    /// Keeps @p code as the last error.
+    virtual void keep(ZelDataResult_tags code) const = 0;
 
 private:
     ZelDataResult_tags goWrong(const Work& work, const std::function<void()>& half) const;
@@ -124,10 +124,13 @@ protected:
         Interface::setLastError(ZelInterchangeData::ZelData_Ok);
         own_ = ZelInterchangeData::ZelData_Ok;
     }
-    ZelDataResult_tags keep(ZelDataResult_tags code) const override
+    void keep(ZelDataResult_tags code) const override
     {
-        if (keepsOwn()) return own_ = code;
-        return this->store(code);
+        if (keepsOwn()) {
+            own_ = code;
+        } else {
+            Interface::setLastError(code);
+        }
     }
     template <class T, class V>
     ZelDataResult_tags put(const std::string& operation, T& field, const V& value)
