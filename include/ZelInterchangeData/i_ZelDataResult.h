@@ -33,6 +33,11 @@ namespace ZelInterchangeData {
 ///   collection calls it. An operation that only reads goes on with the items that it began with;
 ///   one that changes the items gives #ZelData_InternalError, and the item's change stays.
 /// - Distinct objects may be used from distinct threads; one object serves one thread at a time.
+/// - A thread may be cancelled (`pthread_cancel`, deferred) or exit (`pthread_exit`) inside an
+///   operation, with libstdc++ on glibc: it unwinds, and what the operation obtained is released.
+///   The operation stores no code, its finished steps have stored theirs, and the object is left
+///   as by a failure of the step that did not return. Asynchronous cancellation is not supported,
+///   and neither is any inside an operation with another standard library.
 ///
 /// The order of the virtual operations of every interface is its binary interface and never
 /// changes.

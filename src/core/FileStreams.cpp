@@ -28,15 +28,25 @@ protected:
     }
 };
 
+using Conversion = std::codecvt<wchar_t, char, std::mbstate_t>;
+
 /// One byte of the file for each wide character up to 255.
-class ByteConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
+class ByteConversion : public Conversion {
 public:
     ~ByteConversion() override = default;
+
+    /// From now on there is no byte for any character.
+    void drop() const { isDropping_ = true; }
 
 protected:
     result do_out(std::mbstate_t& /*state*/, const wchar_t* from, const wchar_t* fromEnd,
                   const wchar_t*& fromNext, char* to, char* toEnd, char*& toNext) const override
     {
+        if (isDropping_) {
+            fromNext = fromEnd;
+            toNext = to;
+            return ok;
+        }
         for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
             if (*fromNext < 0 || *fromNext > 255) return error;
             if (toNext == toEnd) return partial;
@@ -49,6 +59,11 @@ protected:
                  const char*& fromNext, wchar_t* to, wchar_t* toEnd,
                  wchar_t*& toNext) const override
     {
+        if (isDropping_) {
+            fromNext = fromEnd;
+            toNext = to;
+            return ok;
+        }
         for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
             if (toNext == toEnd) return partial;
             *toNext = static_cast<wchar_t>(static_cast<unsigned char>(*fromNext));
@@ -72,6 +87,9 @@ protected:
     int do_encoding() const noexcept override { return 1; }
     int do_max_length() const noexcept override { return 1; }
     bool do_always_noconv() const noexcept override { return false; }
+
+private:
+    mutable bool isDropping_ = false; // facets are const; each stream has its own
 };
 
 /// @p base with @p Facet in place of its own. A locale that cannot be made leaves the facet to us.
@@ -106,6 +124,18 @@ public:
         // A path ends at its first zero byte for the system, so it would name another file.
         if (path.find('\0') == std::string::npos) this->open(path);
     }
+
+    /// What a write that failed, or was cancelled, has left is dropped: a pipe that is full would block
+    /// the thread again.
+    ~ByteFileStream() override
+    {
+        if (!this->bad()) return;
+        const std::locale locale = this->rdbuf()->getloc();
+        const auto& conversion = std::use_facet<Conversion>(locale);
+        if (const auto* own = dynamic_cast<const ByteConversion*>(&conversion)) own->drop();
+    }
+    ByteFileStream(const ByteFileStream&) = delete;
+    ByteFileStream& operator=(const ByteFileStream&) = delete;
 };
 
 } // namespace

@@ -16,6 +16,8 @@ namespace ZelInterchangeData {
 /// its byte and writes a wide character up to 255 as that byte. It is not open when the file cannot
 /// be opened, or when @p path is empty or holds a zero byte; then no file was touched.
 ///
+/// Destroying it writes what is left, unless an earlier write failed.
+///
 /// All memory is obtained before the file is opened: `std::bad_alloc` means that no file was
 /// touched.
 std::unique_ptr<std::wofstream> createWofstreamWithFile(const std::string& path);

@@ -4,9 +4,11 @@
 #ifndef ZELINTERCHANGEDATA_CORE_ITEMCOPIES_H
 #define ZELINTERCHANGEDATA_CORE_ITEMCOPIES_H
 
+#include "core/Factory.h"
 #include "util/Ending.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -22,9 +24,7 @@ struct ItemCopy {
 template <class Item, class Create>
 ItemCopy<Item> copyItem(const Item& source, Create&& create)
 {
-    Item* made = nullptr;
-    const auto created = create(&made);
-    std::unique_ptr<Item> copy(made);
+    auto [copy, created] = receive<Item>(std::forward<Create>(create));
     if (failed(created)) return {nullptr, created};
     if (copy == nullptr) return {nullptr, ZelData_InternalError};
     if (failed(copy->copyFrom(source))) return {nullptr, copy->getLastError()};

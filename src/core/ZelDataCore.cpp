@@ -1,6 +1,7 @@
 #include "core/ZelDataCore.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "core/Factory.h"
 #include "core/ReplaceContents.h"
 #include "core/ZelDataCoreXmp.h"
 #include "util/Guard.h"
@@ -73,9 +74,8 @@ Ending ZelDataCore::makeSet(std::unique_ptr<Data>& set,
                             ZelDataResult_tags (ZelDataCore::*create)(Data**) const) const
 {
     if (set) return {};
-    Data* made = nullptr;
-    const auto created = (this->*create)(&made);
-    set.reset(made);
+    auto [made, created] = receive<Data>([&](Data** out) { return (this->*create)(out); });
+    set = std::move(made);
     if (failed(created)) return getLastError();
     return {};
 }

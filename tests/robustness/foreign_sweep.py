@@ -42,7 +42,8 @@ OWN = {"L": ["H", "C", "T"], "D": ["D", "X"]}
 # What goes wrong: the model's letter for it, the code returned and the code kept. A known error and
 # a known warning, unknown ones, both bits at once, a failure that is kept as success, a code that is
 # no failure; a failure after the work was done or half of the items were handed out; exhausted
-# memory, an exception, a number thrown; a last error that cannot be asked for any more.
+# memory, an exception, a number thrown; the end of the thread; a last error that cannot be asked for
+# any more.
 WAYS = [
     ("c", INVALID_ARGUMENT, WARN_TIMING), ("c", WARN_TIMING, INVALID_ARGUMENT),
     ("c", 0x80000E11, 0x40000E22), ("c", 0x40000E22, 0x80000E11), ("c", 0xC0000E33, 0x80000E44),
@@ -50,9 +51,11 @@ WAYS = [
     ("c", INVALID_ARGUMENT, OK), ("d", 0x3FFFFFFF, INVALID_ARGUMENT),
     ("d", 0x80000E11, 0x40000E22), ("h", 0x80000E11, 0x40000E22),
     ("b", OK, OK), ("x", OK, OK), ("B", OK, OK), ("X", OK, OK),
+    ("e", OK, OK), ("k", OK, OK), ("E", OK, OK),
 ]
 # Of a target whose last error cannot be asked for, nothing can be said.
-SOURCE_WAYS = WAYS + [("l", 0x80000E11, 0x80000E11), ("m", 0x80000E11, 0x80000E11)]
+SOURCE_WAYS = WAYS + [("l", 0x80000E11, 0x80000E11), ("m", 0x80000E11, 0x80000E11),
+                        ("n", 0x80000E11, 0x80000E11)]
 
 # One operation with the family of the caller's object that it reads ("c") or changes ("m").
 Operation = namedtuple("Operation", "owner name direction family")

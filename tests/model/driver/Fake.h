@@ -24,7 +24,9 @@ using ZelInterchangeData::ZelDataResult_tags;
 ///
 /// c: fails; d: does its work, then fails; h: hands out half of the items, then fails; b, x: throws
 /// exhausted memory, something else; B, X: the same after handing out half of the items; l, m:
-/// fails, and from then on getLastError() throws exhausted memory, something else.
+/// fails, and from then on getLastError() throws exhausted memory, something else; e, k: ends its
+/// thread, which exits or is cancelled; E: exits after handing out half of the items; n: fails, and
+/// from then on getLastError() ends its thread.
 struct FakeScript {
     unsigned long at = 0;
     char mode = 'c';
@@ -63,6 +65,8 @@ public:
     static int alive() { return alive_; }
     /// How many calls of all fakes did what a script says.
     static unsigned long wentWrong() { return wentWrong_; }
+    /// Whether a script that ends a thread was set after the last one that did.
+    static bool mayEndThread() { return mayEndThread_; }
 
     virtual ~FakeControl() { --alive_; }
 
@@ -94,6 +98,7 @@ private:
 
     inline static int alive_ = 0;
     inline static unsigned long wentWrong_ = 0;
+    inline static bool mayEndThread_ = false;
 
     std::string name_;
     Notes* notes_ = nullptr;

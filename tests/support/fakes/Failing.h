@@ -13,6 +13,9 @@
 
 namespace ZelInterchangeData {
 
+/// Called before each operation of every such object in this thread, unless it is empty.
+inline thread_local std::function<void()> beforeEachCall;
+
 /// A @p Base that fails where a test asks for it. A class that derives from it overrides operations
 /// and passes each through run(). It counts the objects of its kind that are alive.
 template <class Base>
@@ -69,6 +72,7 @@ protected:
     template <class Operation>
     ZelDataResult_tags run(const char* name, Operation&& operation) const
     {
+        if (beforeEachCall) beforeEachCall();
         calls_.emplace_back(name);
         if (name != operation_ || --remaining_ != 0) return operation();
         return action_();
