@@ -7,7 +7,7 @@
 #include "bench/Documents.h"
 #include "bench/PlainLoops.h"
 
-#include "util/MarkupText.h"
+#include "util/TextUtilities.h"
 
 #include <utility>
 

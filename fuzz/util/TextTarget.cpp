@@ -5,7 +5,7 @@
 #include "support/Input.h"
 #include "support/Require.h"
 #include "support/Target.h"
-#include "util/MarkupText.h"
+#include "util/TextUtilities.h"
 #include "xml/ZelDataXmlStream.h"
 
 #include <algorithm>

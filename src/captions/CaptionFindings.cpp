@@ -4,7 +4,7 @@
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/CaptionLimits.h"
 #include "captions/CaptionStyle.h"
-#include "core/ItemFindings.h"
+#include "sets/ItemFindings.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_CAPTIONS_CAPTIONSTYLE_H
 #define ZELINTERCHANGEDATA_CAPTIONS_CAPTIONSTYLE_H
 
-#include "core/FrameRate.h"
+#include "sets/FrameRate.h"
 
 #include <string>
 

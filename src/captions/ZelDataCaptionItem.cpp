@@ -2,8 +2,8 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "captions/CaptionLimits.h"
-#include "core/Factory.h"
-#include "util/TextLines.h"
+#include "sets/Factory.h"
+#include "util/TextUtilities.h"
 
 #include <algorithm>
 
@@ -18,17 +18,6 @@ ZelDataCaptionItem& ZelDataCaptionItem::operator=(const ZelDataCaptionItem& othe
 {
     if (&other != this) state_ = other.state_;
     return *this;
-}
-
-ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    state_.changeTexts() = other.state_.texts();
-    state_.time.start = other.state_.time.start;
-    if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
-    state_.time.duration = other.state_.time.duration;
-    state_.alignment = other.state_.alignment;
-    return store(ZelData_Ok);
 }
 
 ZelDataResult_tags CaptionState::check(bool strict) const

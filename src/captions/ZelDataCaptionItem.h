@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_CAPTIONS_ZELDATACAPTIONITEM_H
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
-#include "core/LanguageTexts.h"
-#include "core/TextSummary.h"
+#include "sets/LanguageTexts.h"
+#include "sets/TextSummary.h"
 #include "util/TimeSpan.h"
 
 #include <utility>

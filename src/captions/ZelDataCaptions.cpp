@@ -1,6 +1,6 @@
 #include "captions/ZelDataCaptions.h"
 
-#include "core/ItemTexts.h"
+#include "sets/ItemTexts.h"
 
 namespace ZelInterchangeData {
 
@@ -168,24 +168,6 @@ ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& i
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
         return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });
-    }));
-}
-
-ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    return store(guarded([&] {
-        items_.clear();
-        const auto listed = languages().copyFrom(other.languages());
-        if (failed(listed)) return listed;
-        style_ = other.style_;
-        if (!other.canHandOutItems()) {
-            other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
-            return ZelData_InvalidArgument;
-        }
-        items_ = other.items_;
-        languages() = items_.summary().languages; // rebuilt from the items
-        return ZelData_Ok;
     }));
 }
 

@@ -8,8 +8,8 @@
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/CaptionStyle.h"
 #include "captions/ZelDataCaptionItem.h"
-#include "core/ItemList.h"
-#include "core/LanguageListOwner.h"
+#include "sets/ItemList.h"
+#include "sets/LanguageListOwner.h"
 #include "util/Ending.h"
 
 namespace ZelInterchangeData {
@@ -56,7 +56,7 @@ public:
     const CaptionStyle& style() const noexcept { return style_; }
     const Items& items() const noexcept { return items_; }
     /// What is known of all items.
-    const TextSummary& summary() { return items_.summary(); }
+    const TextSummary& summary() const { return items_.summary(); }
     using LanguageListOwner::languageIDs;
 
     /// Orders the items by start, as makeCaptionsConsistent() does.

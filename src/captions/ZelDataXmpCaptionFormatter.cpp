@@ -2,7 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -91,6 +91,8 @@ void writeMarker(MarkerWriter& markers, const CaptionState& item,
 
 } // namespace
 
+i_ZelDataCaptionFormatter::~i_ZelDataCaptionFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createCaptionFormatter(i_ZelDataCaptionFormatter** out,
                                                             ZelDataFormatType_tags format)
 {
@@ -128,19 +130,23 @@ ZelDataResult_tags ZelDataXmpCaptionFormatter::getCaptions(i_ZelDataCaptions& /*
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpCaptionFormatter::measureTrack(std::size_t& size) const
+Ending ZelDataXmpCaptionFormatter::checkTrack() const
+{
+    if (!held()->canHandOutItems()) return ZelData_InvalidArgument;
+    return {};
+}
+
+std::optional<std::size_t> ZelDataXmpCaptionFormatter::estimateTrack() const
 {
     // The texts with a little room for entities, and the markup.
     constexpr std::size_t trackMarkup = 700;
     constexpr std::size_t markerMarkup = 210;
     constexpr std::size_t languageMarkup = 40;
-    ZelDataCaptions& captions = *held();
+    const ZelDataCaptions& captions = *held();
     const std::size_t count = captions.items().count();
-    if (count == 0) return ZelData_Ok;
-    if (!captions.canHandOutItems()) return ZelData_InvalidArgument;
-    size = trackMarkup + count * (markerMarkup + captions.languageIDs().size() * languageMarkup) +
+    if (count == 0) return {};
+    return trackMarkup + count * (markerMarkup + captions.languageIDs().size() * languageMarkup) +
            captions.summary().size;
-    return ZelData_Ok;
 }
 
 /// The captions are written as makeCaptionsConsistent() leaves them: in order, with a text in each

@@ -7,7 +7,7 @@
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/ZelDataCaptions.h"
-#include "core/XmpFormatter.h"
+#include "sets/XmpFormatter.h"
 
 #include <string>
 #include <vector>
@@ -30,7 +30,9 @@ public:
     ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) override;
     ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const override;
 
-    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    /// Ends when an item cannot be copied.
+    Ending checkTrack() const;
+    std::optional<std::size_t> estimateTrack() const;
     void appendTrack(std::string& packet) const;
 };
 

@@ -1,8 +1,8 @@
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
 #include "captions/ZelDataCaptionItem.h"
-#include "core/FieldCopy.h"
-#include "core/TextCopy.h"
+#include "sets/FieldCopy.h"
+#include "sets/TextCopy.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -28,6 +28,17 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
             .field(&Item::getAlignment, &Item::setAlignment);
         return fields.ending().value_or(ZelData_Ok);
     }));
+}
+
+ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    state_.changeTexts() = other.state_.texts();
+    state_.time.start = other.state_.time.start;
+    if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
+    state_.time.duration = other.state_.time.duration;
+    state_.alignment = other.state_.alignment;
+    return store(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

@@ -2,8 +2,8 @@
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "captions/ZelDataCaptions.h"
-#include "core/FieldCopy.h"
-#include "core/ItemCopies.h"
+#include "sets/FieldCopy.h"
+#include "sets/ItemCopies.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -66,6 +66,24 @@ ZelDataResult_tags i_ZelDataCaptions::copyFrom(const i_ZelDataCaptions& other)
         // The list just copied is meant to go: it is rebuilt from the items, as players expect it.
         if (failed(clearLanguages())) return getLastError();
         return items.addTo(*this, &i_ZelDataCaptions::addCaptionItem).value_or(ZelData_Ok);
+    }));
+}
+
+ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    return store(guarded([&] {
+        items_.clear();
+        const auto listed = languages().copyFrom(other.languages());
+        if (failed(listed)) return listed;
+        style_ = other.style_;
+        if (!other.canHandOutItems()) {
+            other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
+            return ZelData_InvalidArgument;
+        }
+        items_ = other.items_;
+        languages() = items_.summary().languages; // rebuilt from the items
+        return ZelData_Ok;
     }));
 }
 

@@ -5,7 +5,6 @@
 #define ZELINTERCHANGEDATA_CORE_TRACKINSERTION_H
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
-#include "util/LargePages.h"
 
 #include <cstddef>
 #include <string>
@@ -25,7 +24,6 @@ ZelDataResult_tags insertTracks(std::string& packet, std::size_t size, Append&& 
     if (place == std::string::npos) return ZelData_InternalError;
     const std::string rest = packet.substr(place);
     packet.reserve(packet.size() + size);
-    preferLargePages(packet.data(), packet.capacity());
     packet.resize(place);
     append(packet);
     packet += rest;

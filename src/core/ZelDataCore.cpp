@@ -1,14 +1,16 @@
 #include "core/ZelDataCore.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
-#include "core/ReplaceContents.h"
 #include "core/ZelDataCoreXmp.h"
+#include "sets/Factory.h"
+#include "sets/ReplaceContents.h"
 #include "util/Guard.h"
 
 #include <utility>
 
 namespace ZelInterchangeData {
+
+i_ZelInterchangeDataCore::~i_ZelInterchangeDataCore() = default;
 
 ZelDataCore::~ZelDataCore() = default;
 

@@ -32,7 +32,7 @@ private:
     Ending copyCaptionLanguages() const;
     Ending replaceHeaderLanguages() const;
     Ending writeHeader(std::string& packet, ZelDataFormatType_tags format) const;
-    ZelDataResult_tags writeTracks(std::string& packet, ZelDataFormatType_tags format) const;
+    ZelDataResult_tags writeTracks(std::string& packet) const;
     ZelDataResult_tags assemble(std::string& packet, ZelDataFormatType_tags format) const;
 };
 

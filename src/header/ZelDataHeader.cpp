@@ -1,6 +1,6 @@
 #include "header/ZelDataHeader.h"
 
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/GuardedCopy.h"
 
 namespace ZelInterchangeData {

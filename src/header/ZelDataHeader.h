@@ -5,7 +5,7 @@
 #define ZELINTERCHANGEDATA_HEADER_ZELDATAHEADER_H
 
 #include "ZelInterchangeData/i_ZelDataHeader.h"
-#include "core/LanguageListOwner.h"
+#include "sets/LanguageListOwner.h"
 #include "util/TextList.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 #include "header/ZelDataXmpHeaderFormatter.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/Ending.h"
 #include "util/ValueStrings.h"
 #include "xml/LanguageAlternative.h"
@@ -229,6 +229,8 @@ private:
 };
 
 } // namespace
+
+i_ZelDataHeaderFormatter::~i_ZelDataHeaderFormatter() = default;
 
 ZelDataResult_tags ZelDataUtilities::createHeaderFormatter(i_ZelDataHeaderFormatter** out,
                                                            ZelDataFormatType_tags format)

@@ -1,6 +1,6 @@
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 
-#include "core/FieldCopy.h"
+#include "sets/FieldCopy.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {

@@ -85,17 +85,6 @@ ZelDataResult_tags ZelDataScreenText::addScreenTextItem(const i_ZelDataScreenTex
     }));
 }
 
-ZelDataResult_tags ZelDataScreenText::copyOwn(const ZelDataScreenText& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    return store(guarded([&] {
-        reserved_.clear();
-        frameRate_ = other.frameRate_;
-        items_ = other.items_;
-        return ZelData_Ok;
-    }));
-}
-
 ZelDataResult_tags ZelDataScreenText::createScreenTextItem(i_ZelDataScreenTextItem** out) const
 {
     return store(ZelDataUtilities::createScreenTextItemData(out));

@@ -6,9 +6,9 @@
 
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/FrameRate.h"
-#include "core/ItemList.h"
 #include "screentext/ZelDataScreenTextItem.h"
+#include "sets/FrameRate.h"
+#include "sets/ItemList.h"
 #include "util/Ending.h"
 
 #include <string>
@@ -43,7 +43,7 @@ public:
     const Items& items() const noexcept { return items_; }
     FrameRate frameRate() const noexcept { return frameRate_; }
     /// What is known of all items.
-    const ScreenTextSummary& summary() { return items_.summary(); }
+    const ScreenTextSummary& summary() const { return items_.summary(); }
 
     /// Orders the items by start, as makeScreenTextConsistent() does.
     ZelDataResult_tags orderScreenTextItems();

@@ -1,7 +1,7 @@
 #include "screentext/ZelDataScreenTextItem.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/GuardedCopy.h"
 
 namespace ZelInterchangeData {
@@ -15,13 +15,6 @@ ZelDataScreenTextItem& ZelDataScreenTextItem::operator=(const ZelDataScreenTextI
 {
     if (&other != this) state_ = other.state_;
     return *this;
-}
-
-ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    state_ = other.state_;
-    return store(ZelData_Ok);
 }
 
 /// An item is always valid: its text was checked when it was set. The flag is meant to change nothing:

@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_SCREENTEXT_ZELDATASCREENTEXTITEM_H
 
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "util/MarkupText.h"
 #include "util/SharedText.h"
+#include "util/TextUtilities.h"
 #include "util/TimeSpan.h"
 
 #include <utility>

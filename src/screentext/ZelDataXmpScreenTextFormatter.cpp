@@ -2,7 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "xml/Track.h"
 
 namespace ZelInterchangeData {
@@ -28,6 +28,8 @@ void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
 
 } // namespace
 
+i_ZelDataScreenTextFormatter::~i_ZelDataScreenTextFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTextFormatter** out,
                                                                ZelDataFormatType_tags format)
 {
@@ -47,15 +49,14 @@ ZelDataXmpScreenTextFormatter::getScreenText(i_ZelDataScreenText& /*screenText*/
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpScreenTextFormatter::measureTrack(std::size_t& size) const
+std::optional<std::size_t> ZelDataXmpScreenTextFormatter::estimateTrack() const
 {
     // The texts with a little room for entities, and the markup.
     constexpr std::size_t trackMarkup = 250;
     constexpr std::size_t markerMarkup = 260;
-    ZelDataScreenText& screenText = *held();
-    if (screenText.items().count() == 0) return ZelData_Ok;
-    size = trackMarkup + screenText.items().count() * markerMarkup + screenText.summary().size;
-    return ZelData_Ok;
+    const ZelDataScreenText& screenText = *held();
+    if (screenText.items().count() == 0) return {};
+    return trackMarkup + screenText.items().count() * markerMarkup + screenText.summary().size;
 }
 
 /// The items are written as makeScreenTextConsistent() leaves them: in order, with a frame rate in its

@@ -1,9 +1,9 @@
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/FieldCopy.h"
-#include "core/ItemCopies.h"
 #include "screentext/ZelDataScreenText.h"
+#include "sets/FieldCopy.h"
+#include "sets/ItemCopies.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -27,6 +27,17 @@ ZelDataResult_tags i_ZelDataScreenText::copyFrom(const i_ZelDataScreenText& sour
         ReceivedItems<i_ZelDataScreenTextItem> items;
         if (failed(source.getScreenTextItems(items.vector()))) return source.getLastError();
         return items.addTo(*this, &i_ZelDataScreenText::addScreenTextItem).value_or(ZelData_Ok);
+    }));
+}
+
+ZelDataResult_tags ZelDataScreenText::copyOwn(const ZelDataScreenText& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    return store(guarded([&] {
+        reserved_.clear();
+        frameRate_ = other.frameRate_;
+        items_ = other.items_;
+        return ZelData_Ok;
     }));
 }
 

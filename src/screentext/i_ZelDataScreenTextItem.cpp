@@ -1,7 +1,7 @@
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
-#include "core/FieldCopy.h"
 #include "screentext/ZelDataScreenTextItem.h"
+#include "sets/FieldCopy.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -30,6 +30,13 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
             .field(&Item::getGroupId, &Item::setGroupId);
         return fields.ending().value_or(ZelData_Ok);
     }));
+}
+
+ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    state_ = other.state_;
+    return store(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

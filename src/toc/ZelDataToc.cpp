@@ -1,6 +1,6 @@
 #include "toc/ZelDataToc.h"
 
-#include "core/ItemTexts.h"
+#include "sets/ItemTexts.h"
 
 namespace ZelInterchangeData {
 
@@ -95,20 +95,6 @@ ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
         return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });
-    }));
-}
-
-ZelDataResult_tags ZelDataToc::copyOwn(const ZelDataToc& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    return store(guarded([&] {
-        items_.clear();
-        const auto listed = languages().copyFrom(other.languages());
-        if (failed(listed)) return listed;
-        imageFile_ = other.imageFile_;
-        items_ = other.items_;
-        languages() = items_.summary().languages; // rebuilt from the items
-        return ZelData_Ok;
     }));
 }
 

@@ -6,9 +6,9 @@
 
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/FrameRate.h"
-#include "core/ItemList.h"
-#include "core/LanguageListOwner.h"
+#include "sets/FrameRate.h"
+#include "sets/ItemList.h"
+#include "sets/LanguageListOwner.h"
 #include "toc/ZelDataTocItem.h"
 #include "util/Ending.h"
 

@@ -1,7 +1,7 @@
 #include "toc/ZelDataTocItem.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/GuardedCopy.h"
 
 namespace ZelInterchangeData {
@@ -15,13 +15,6 @@ ZelDataTocItem& ZelDataTocItem::operator=(const ZelDataTocItem& other)
 {
     if (&other != this) state_ = other.state_;
     return *this;
-}
-
-ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    state_ = other.state_;
-    return store(ZelData_Ok);
 }
 
 /// An entry is always valid: its languages and titles were checked when they were set. The flag is meant

@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_TOC_ZELDATATOCITEM_H
 
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/LanguageTexts.h"
-#include "core/TextSummary.h"
+#include "sets/LanguageTexts.h"
+#include "sets/TextSummary.h"
 #include "util/SharedText.h"
 
 #include <utility>

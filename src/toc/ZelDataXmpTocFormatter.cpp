@@ -2,7 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -34,6 +34,8 @@ void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
 }
 
 } // namespace
+
+i_ZelDataTocFormatter::~i_ZelDataTocFormatter() = default;
 
 ZelDataResult_tags ZelDataUtilities::createTocFormatter(i_ZelDataTocFormatter** out,
                                                         ZelDataFormatType_tags format)
@@ -71,20 +73,20 @@ ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpTocFormatter::measureTrack(std::size_t& size) const
+std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
 {
     // The texts with a little room for entities, and the markup.
     constexpr std::size_t trackMarkup = 300;
     constexpr std::size_t markerMarkup = 210;
     const ZelDataToc& toc = *held();
-    if (toc.items().count() == 0) return ZelData_Ok;
-    size = trackMarkup + toc.imageFile().size() + toc.items().count() * markerMarkup;
+    if (toc.items().count() == 0) return {};
+    std::size_t size = trackMarkup + toc.imageFile().size() + toc.items().count() * markerMarkup;
     for (unsigned long i = 0; i < toc.items().count(); ++i) {
         const TocEntryState& entry = toc.items().state(i);
         size += sizeWithEntities(titleOf(entry, toc.languageIDs())) +
                 sizeWithEntities(entry.imageFile());
     }
-    return ZelData_Ok;
+    return size;
 }
 
 /// The table is written as makeTocConsistent() leaves it: in order, with a frame rate in its range. What

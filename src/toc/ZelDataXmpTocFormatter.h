@@ -6,7 +6,7 @@
 
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocFormatter.h"
-#include "core/XmpFormatter.h"
+#include "sets/XmpFormatter.h"
 #include "toc/ZelDataToc.h"
 
 #include <string>
@@ -30,7 +30,7 @@ public:
     ZelDataResult_tags setToc(const i_ZelDataToc& toc) override;
     ZelDataResult_tags getToc(i_ZelDataToc& toc) const override;
 
-    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    std::optional<std::size_t> estimateTrack() const;
     void appendTrack(std::string& packet) const;
 };
 

@@ -1,8 +1,8 @@
 #include "ZelInterchangeData/i_ZelDataToc.h"
 
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/FieldCopy.h"
-#include "core/ItemCopies.h"
+#include "sets/FieldCopy.h"
+#include "sets/ItemCopies.h"
 #include "toc/ZelDataToc.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
@@ -31,6 +31,20 @@ ZelDataResult_tags i_ZelDataToc::copyFrom(const i_ZelDataToc& source)
         // it.
         if (failed(clearLanguages())) return getLastError();
         return items.addTo(*this, &i_ZelDataToc::addTocItem).value_or(ZelData_Ok);
+    }));
+}
+
+ZelDataResult_tags ZelDataToc::copyOwn(const ZelDataToc& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    return store(guarded([&] {
+        items_.clear();
+        const auto listed = languages().copyFrom(other.languages());
+        if (failed(listed)) return listed;
+        imageFile_ = other.imageFile_;
+        items_ = other.items_;
+        languages() = items_.summary().languages; // rebuilt from the items
+        return ZelData_Ok;
     }));
 }
 

@@ -1,7 +1,7 @@
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
-#include "core/FieldCopy.h"
-#include "core/TextCopy.h"
+#include "sets/FieldCopy.h"
+#include "sets/TextCopy.h"
 #include "toc/ZelDataTocItem.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
@@ -27,6 +27,13 @@ ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
             .field(&Item::getImageOffset, &Item::setImageOffset);
         return fields.ending().value_or(ZelData_Ok);
     }));
+}
+
+ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters leave it
+    state_ = other.state_;
+    return store(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

@@ -1,10 +1,10 @@
 /// @file
 /// Checks and transformations of UTF-8 texts, and the alignment words.
 
+#include "util/TextUtilities.h"
+
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "util/ByteBlocks.h"
-#include "util/MarkupText.h"
-#include "util/TextLines.h"
 
 #include <algorithm>
 #include <array>

@@ -33,8 +33,13 @@ void closeLanguageItem(Markup& markup)
 
 /// Appends `<rdf:li xml:lang="ID">text</rdf:li>` to @p markup. Nothing is escaped here: @p text is
 /// handed over as it is to be written, and so is @p languageID.
-void appendLanguageItem(std::string& markup, const std::string& languageID,
-                        const std::string& text);
+inline void appendLanguageItem(std::string& markup, std::string_view languageID,
+                               std::string_view text)
+{
+    openLanguageItem(markup, languageID);
+    markup += text;
+    closeLanguageItem(markup);
+}
 
 } // namespace ZelInterchangeData
 

@@ -4,8 +4,8 @@
 #ifndef ZELINTERCHANGEDATA_XML_MARKERWRITER_H
 #define ZELINTERCHANGEDATA_XML_MARKERWRITER_H
 
-#include "util/MarkupText.h"
 #include "util/TextBlock.h"
+#include "util/TextUtilities.h"
 
 #include <string>
 #include <string_view>
