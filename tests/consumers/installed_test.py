@@ -164,6 +164,12 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
                     run(CXX, *CXXFLAGS, f"-std={standard}", *STRICT, "-I", PREFIX / "include",
                         "-fsyntax-only", source)
 
+    def test_the_version_can_be_had_without_the_language(self):
+        source = fresh_folder(self.id()) / "version.c"
+        source.write_text('#include "ZelInterchangeData/ZelDataVersion.h"\n'
+                          "int version = ZELINTERCHANGEDATA_VERSION;\n", encoding="utf-8")
+        run(CXX, "-x", "c", "-I", PREFIX / "include", "-fsyntax-only", source)
+
     def test_exceptions_cross_the_boundary_with_hidden_visibility(self):
         program = make_with_pkg_config(fresh_folder(self.id()), PREFIX / "lib" / "pkgconfig",
                                        "ZelInterchangeData", flags=STRICT)
