@@ -90,6 +90,13 @@ class PkgConfig(ChecksOfPrograms, unittest.TestCase):
             with self.subTest(module):
                 self.check(PREFIX / "lib", module, [], static=True)
 
+    def test_a_static_link_defines_the_static_form_and_no_other_does(self):
+        environment = dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig"))
+        for options, defined in (((), False), (("--static",), True)):
+            with self.subTest(options):
+                flags = run("pkg-config", *options, "--cflags", "ZelInterchangeData", env=environment)
+                self.assertEqual("-DZELINTERCHANGEDATA_STATIC" in flags.split(), defined)
+
     def test_absolute_folders(self):
         self.assertFalse((ABSOLUTE / "prefix" / "lib").exists())
         self.check(ABSOLUTE / "lib", "ZelInterchangeData", [RELEASE_LIBRARY])
