@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "core/Factory.h"
+#include "util/ExactType.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -97,6 +98,11 @@ ZelDataResult_tags ZelDataUtilities::createCaptionFormatter(i_ZelDataCaptionForm
     return createFormatter<ZelDataXmpCaptionFormatter>(out, format);
 }
 
+const TrackWriter* trackWriterOf(const i_ZelDataCaptionFormatter& formatter) noexcept
+{
+    return exactly<ZelDataXmpCaptionFormatter>(formatter);
+}
+
 // NOLINTNEXTLINE(performance-unnecessary-value-param): its signature is fixed.
 bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCaptionItem& item,
                       std::string& text)
@@ -119,8 +125,7 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
 
 ZelDataResult_tags ZelDataXmpCaptionFormatter::setCaptions(const i_ZelDataCaptions& captions)
 {
-    return hold(captions, &ZelDataUtilities::createCaptionData,
-                &i_ZelDataCaptions::clearCaptionItems);
+    return hold(captions, &i_ZelDataCaptions::clearCaptionItems);
 }
 
 ZelDataResult_tags ZelDataXmpCaptionFormatter::getCaptions(i_ZelDataCaptions& /*captions*/) const

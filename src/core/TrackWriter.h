@@ -11,6 +11,10 @@
 
 namespace ZelInterchangeData {
 
+class i_ZelDataCaptionFormatter;
+class i_ZelDataScreenTextFormatter;
+class i_ZelDataTocFormatter;
+
 /// What the document asks of our formatters of tracks beside their interface: to append the track
 /// to the packet itself. Got as a string and inserted, a large track would be copied once more.
 ///
@@ -38,6 +42,15 @@ private:
     Measure measure_;
     Append append_;
 };
+
+/// @name Looking before writing
+/// Each gives @p formatter as the writer of its track when it is exactly our own, else null. Each is
+/// defined beside the class that it looks for.
+/// @{
+const TrackWriter* trackWriterOf(const i_ZelDataCaptionFormatter& formatter) noexcept;
+const TrackWriter* trackWriterOf(const i_ZelDataTocFormatter& formatter) noexcept;
+const TrackWriter* trackWriterOf(const i_ZelDataScreenTextFormatter& formatter) noexcept;
+/// @}
 
 } // namespace ZelInterchangeData
 

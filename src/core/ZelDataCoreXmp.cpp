@@ -46,7 +46,9 @@ public:
         std::unique_ptr<Formatter> formatter(made);
         if (failed(created)) return created;
         if (failed((made->*set)(*data))) return made->getLastError();
-        return keep(std::move(formatter));
+        const TrackWriter* writer = trackWriterOf(*made);
+        if (writer == nullptr) return ZelData_InternalError;
+        return keep({std::move(formatter), writer});
     }
 
     /// About how many bytes all tracks have; 0 when there are none.
@@ -59,13 +61,12 @@ public:
     }
 
 private:
-    Ending keep(std::unique_ptr<i_ZelDataFormatterBase> formatter)
+    Ending keep(FormattedTrack track)
     {
-        const auto& writer = dynamic_cast<const TrackWriter&>(*formatter); // our factories made it
         std::size_t length = 0;
-        if (const auto measured = writer.measure(length); failed(measured)) return measured;
+        if (const auto measured = track.writer->measure(length); failed(measured)) return measured;
         size_ += length;
-        if (length != 0) tracks_.push_back({std::move(formatter), &writer});
+        if (length != 0) tracks_.push_back(std::move(track));
         return {};
     }
 

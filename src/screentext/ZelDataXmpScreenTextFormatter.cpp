@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 #include "core/Factory.h"
+#include "util/ExactType.h"
 #include "xml/Track.h"
 
 namespace ZelInterchangeData {
@@ -34,11 +35,15 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTe
     return createFormatter<ZelDataXmpScreenTextFormatter>(out, format);
 }
 
+const TrackWriter* trackWriterOf(const i_ZelDataScreenTextFormatter& formatter) noexcept
+{
+    return exactly<ZelDataXmpScreenTextFormatter>(formatter);
+}
+
 ZelDataResult_tags
 ZelDataXmpScreenTextFormatter::setScreenText(const i_ZelDataScreenText& screenText)
 {
-    return hold(screenText, &ZelDataUtilities::createScreenTextData,
-                &i_ZelDataScreenText::clearScreenTextItems);
+    return hold(screenText, &i_ZelDataScreenText::clearScreenTextItems);
 }
 
 ZelDataResult_tags

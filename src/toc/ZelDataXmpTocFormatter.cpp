@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "core/Factory.h"
+#include "util/ExactType.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -41,6 +42,11 @@ ZelDataResult_tags ZelDataUtilities::createTocFormatter(i_ZelDataTocFormatter** 
     return createFormatter<ZelDataXmpTocFormatter>(out, format);
 }
 
+const TrackWriter* trackWriterOf(const i_ZelDataTocFormatter& formatter) noexcept
+{
+    return exactly<ZelDataXmpTocFormatter>(formatter);
+}
+
 // NOLINTNEXTLINE(performance-unnecessary-value-param): its signature is fixed.
 bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& item,
                   std::string& out)
@@ -63,7 +69,7 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
 
 ZelDataResult_tags ZelDataXmpTocFormatter::setToc(const i_ZelDataToc& toc)
 {
-    return hold(toc, &ZelDataUtilities::createTocData, &i_ZelDataToc::clearTocItems);
+    return hold(toc, &i_ZelDataToc::clearTocItems);
 }
 
 ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
