@@ -4,6 +4,8 @@
 #ifndef ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
 #define ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
 
+#include "ZelInterchangeData/ZelDataExport.h"
+
 #include <cstdint>
 
 namespace ZelInterchangeData {
@@ -25,7 +27,8 @@ enum ZelAlignment_tags : std::uint32_t {
 };
 
 /// Joins the flags of @p a and @p b.
-constexpr ZelAlignment_tags operator|(ZelAlignment_tags a, ZelAlignment_tags b) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr ZelAlignment_tags operator|(ZelAlignment_tags a,
+                                                                ZelAlignment_tags b) noexcept
 {
     return static_cast<ZelAlignment_tags>(static_cast<std::uint32_t>(a) |
                                           static_cast<std::uint32_t>(b));

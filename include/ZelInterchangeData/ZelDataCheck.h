@@ -5,10 +5,11 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECK_H
 
 #include "ZelInterchangeData/ZelDataError.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <string_view>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// Throws ZelDataError, which names @p operation, when @p code is an error or a warning: the
 /// throwing form of failed().

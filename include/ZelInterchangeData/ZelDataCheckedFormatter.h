@@ -5,11 +5,12 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDFORMATTER_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataFormatterBase.h"
 
 #include <string>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// The part that the views of the document and of the formatters share. What an operation does
 /// stands at i_ZelDataFormatterBase and at the interfaces that derive from it.

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDOBJECT_H
 
 #include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of an object through which a failing operation throws ZelDataError instead of returning
 /// its code.
@@ -28,7 +29,9 @@ namespace ZelInterchangeData {
 /// library itself stops at them. allowWarnings() lets them pass where they are welcome, as when a
 /// text is meant to be replaced.
 ///
-/// A view is as small as a pointer and a flag. It owns nothing and must not outlive its object.
+/// A view is as small as a pointer and a flag. It owns nothing and must not outlive its object. Keep
+/// the object in a class of yours, not a view of it: g++ warns there (-Wattributes), because views
+/// are hidden from other modules.
 /// @tparam Self the view that derives from this class.
 /// @tparam Object the interface, `const` for a view with the const operations only.
 template <class Self, class Object>

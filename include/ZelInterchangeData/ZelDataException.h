@@ -17,6 +17,10 @@ class ZELINTERCHANGEDATA_API ZelDataException : public std::exception {
 public:
     /// Keeps a copy of @p message.
     explicit ZelDataException(const std::string& message);
+    /// Copies the message along.
+    ZELINTERCHANGEDATA_INLINE ZelDataException(const ZelDataException&) = default;
+    /// Copies the message along.
+    ZELINTERCHANGEDATA_INLINE ZelDataException& operator=(const ZelDataException&) = default;
     ~ZelDataException() override;
 
     /// The message; valid as long as this object lives.

@@ -9,6 +9,7 @@
 #include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
 #include "ZelInterchangeData/ZelDataCheckedScreenTextItem.h"
 #include "ZelInterchangeData/ZelDataCheckedTocItem.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
@@ -25,7 +26,7 @@
 #include <string>
 #include <utility>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// What the factory @p create hands out for @p arguments. Never null: throws ZelDataError, which
 /// names @p operation, when the factory fails.

@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATAFINDING_H
 #define ZELINTERCHANGEDATA_ZELDATAFINDING_H
 
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFindingSubject_tags.h"
 #include "ZelInterchangeData/ZelDataFinding_tags.h"
 
@@ -16,7 +17,18 @@ namespace ZelInterchangeData {
 /// fields, their types and their order are part of the binary interface.
 struct ZelDataFinding {
     /// Stands for no item.
-    static constexpr unsigned long noItem = std::numeric_limits<unsigned long>::max();
+    ZELINTERCHANGEDATA_INLINE static constexpr unsigned long noItem =
+        std::numeric_limits<unsigned long>::max();
+
+    /// @cond
+    // What the compiler would make by itself, marked.
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding() = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding(const ZelDataFinding&) = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding(ZelDataFinding&&) = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding& operator=(const ZelDataFinding&) = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding& operator=(ZelDataFinding&&) = default;
+    ZELINTERCHANGEDATA_INLINE ~ZelDataFinding() = default;
+    /// @endcond
 
     /// What is wrong. 0, which is no kind, in a new finding.
     ZelDataFinding_tags kind = static_cast<ZelDataFinding_tags>(0);

@@ -7,11 +7,12 @@
 #include "ZelInterchangeData/ZelDataCheckedCaptions.h"
 #include "ZelInterchangeData/ZelDataCheckedScreenText.h"
 #include "ZelInterchangeData/ZelDataCheckedToc.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <memory>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// @name Items
 /// Copies of all items in stored order, owned by the vector: a change to one does not reach the

@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATARESULTTEXT_H
 #define ZELINTERCHANGEDATA_ZELDATARESULTTEXT_H
 
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 
 namespace ZelInterchangeData {
@@ -19,7 +20,7 @@ struct ZelDataResultText {
 };
 
 /// All codes in ascending order.
-inline constexpr ZelDataResultText zelDataResultTexts[] = {
+ZELINTERCHANGEDATA_INLINE inline constexpr ZelDataResultText zelDataResultTexts[] = {
     {ZelData_Ok, "ZelData_Ok", "The operation succeeded."},
     {ZelData_WarnAlreadyExists, "ZelData_WarnAlreadyExists",
      "The entry existed already: a listed language was not added again, or a text was replaced."},
@@ -49,11 +50,12 @@ inline constexpr ZelDataResultText zelDataResultTexts[] = {
 };
 
 /// What stands for every value that is no code of the library.
-inline constexpr ZelDataResultText zelDataUnknownResultText = {
+ZELINTERCHANGEDATA_INLINE inline constexpr ZelDataResultText zelDataUnknownResultText = {
     ZelData_Ok, "ZelData_Unknown", "The value is not a result code of this library."};
 
 /// The words for @p code, those of #zelDataUnknownResultText where it is none.
-constexpr const ZelDataResultText& zelDataResultTextOf(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr const ZelDataResultText&
+zelDataResultTextOf(ZelDataResult_tags code) noexcept
 {
     for (const ZelDataResultText& text : zelDataResultTexts) {
         // cppcheck-suppress useStlAlgorithm ; std::find_if is not constexpr in C++17
@@ -64,14 +66,14 @@ constexpr const ZelDataResultText& zelDataResultTextOf(ZelDataResult_tags code) 
 
 /// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is no code.
 /// Never null; valid for ever.
-constexpr const char* toString(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr const char* toString(ZelDataResult_tags code) noexcept
 {
     return zelDataResultTextOf(code).name;
 }
 
 /// What @p code means, in one sentence; a sentence that says so for a value that is no code. Never
 /// null; valid for ever. What a code means to an operation stands at the operation.
-constexpr const char* describe(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr const char* describe(ZelDataResult_tags code) noexcept
 {
     return zelDataResultTextOf(code).meaning;
 }

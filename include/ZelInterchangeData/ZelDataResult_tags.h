@@ -4,6 +4,8 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATARESULT_TAGS_H
 #define ZELINTERCHANGEDATA_ZELDATARESULT_TAGS_H
 
+#include "ZelInterchangeData/ZelDataExport.h"
+
 #include <cstdint>
 
 namespace ZelInterchangeData {
@@ -53,13 +55,13 @@ enum [[nodiscard]] ZelDataResult_tags : std::uint32_t{
     ZelData_UnsupportedFormat = 0x8000000E};
 
 /// Whether @p code is a warning or an error. Most operations stop at the first such code.
-constexpr bool failed(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr bool failed(ZelDataResult_tags code) noexcept
 {
     return (code & 0xC0000000U) != 0;
 }
 
 /// Whether @p code is an error; warnings pass. For calls where a warning is expected and harmless.
-constexpr bool isError(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr bool isError(ZelDataResult_tags code) noexcept
 {
     return (code & 0x80000000U) != 0;
 }

@@ -8,6 +8,7 @@
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 
 #include <string>
 
@@ -137,7 +138,9 @@ public:
     static std::string getValueString(unsigned long value);
     /// The letter f and the plain decimal rate ("f1000").
     static std::string getRateString(unsigned long rate);
-    /// Major (all bits from 16 up), minor (bits 8 to 15) and patch (bits 0 to 7), joined by dots.
+    /// Major (all bits from 16 up), minor (bits 8 to 15) and patch (bits 0 to 7), joined by dots:
+    /// 66048 gives "1.2.0". #ZELINTERCHANGEDATA_VERSION and libraryVersion() are packed in another
+    /// way: there, 10200 is version 1.2.0.
     static std::string getVersionString(unsigned long version);
     /// The date and time of @p seconds since the Unix epoch, or of now when null, in UTC, followed
     /// by an offset in hours ("2009-03-05T14:07:09+2:00"). Empty when the instant has no calendar

@@ -19,6 +19,7 @@ namespace ZelInterchangeData {
 /// library's own items let `std::bad_alloc` through and then leave the item as it was.
 class ZELINTERCHANGEDATA_API i_ZelDataCaptionItem : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataCaptionItem);
     ~i_ZelDataCaptionItem() override;
 
     /// Checks the item; the start is not checked, and an item without any text passes.

@@ -20,6 +20,7 @@ class ZELINTERCHANGEDATA_API i_ZelDataCaptions : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
 
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataCaptions);
     ~i_ZelDataCaptions() override;
 
     /// Checks styling, texts and timing; the first finding is returned. Without items only the

@@ -17,6 +17,7 @@ namespace ZelInterchangeData {
 /// they give.
 class ZELINTERCHANGEDATA_API i_ZelDataFormatterBase : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataFormatterBase);
     ~i_ZelDataFormatterBase() override;
 
     /// Writes the data into @p out, which stays as it was on failure.

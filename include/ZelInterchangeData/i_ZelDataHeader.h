@@ -18,6 +18,7 @@ class ZELINTERCHANGEDATA_API i_ZelDataHeader : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
 
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataHeader);
     ~i_ZelDataHeader() override;
 
     /// Whether video length, width and height are all set; nothing else is checked.

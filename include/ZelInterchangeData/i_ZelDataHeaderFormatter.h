@@ -19,6 +19,7 @@ class i_ZelDataHeader;
 ///   #ZelData_NotImplemented. Nothing is read or written.
 class ZELINTERCHANGEDATA_API i_ZelDataHeaderFormatter : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataHeaderFormatter);
     ~i_ZelDataHeaderFormatter() override;
 
     /// Replaces the held copy with a copy of @p header.

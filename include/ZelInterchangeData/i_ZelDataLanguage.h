@@ -18,6 +18,7 @@ namespace ZelInterchangeData {
 /// compared byte for byte, so "en", "EN" and "en-GB" are three different entries.
 class ZELINTERCHANGEDATA_API i_ZelDataLanguage : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataLanguage);
     ~i_ZelDataLanguage() override;
 
     /// Empties the list.

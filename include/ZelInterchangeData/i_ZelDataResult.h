@@ -44,7 +44,7 @@ namespace ZelInterchangeData {
 class ZELINTERCHANGEDATA_API i_ZelDataResult {
 public:
     /// The last error starts as #ZelData_Ok.
-    i_ZelDataResult() = default;
+    ZELINTERCHANGEDATA_INLINE i_ZelDataResult() = default;
 
     /// Stores @p code as the last error.
     virtual void setLastError(ZelDataResult_tags code) const;
@@ -54,19 +54,21 @@ public:
 
 protected:
     /// Copies the last error along. For implementations that want to be copyable.
-    i_ZelDataResult(const i_ZelDataResult&) = default;
+    ZELINTERCHANGEDATA_INLINE i_ZelDataResult(const i_ZelDataResult&) = default;
     /// Copies the last error along. For implementations that want to be copyable.
-    i_ZelDataResult& operator=(const i_ZelDataResult&) = default;
+    ZELINTERCHANGEDATA_INLINE i_ZelDataResult& operator=(const i_ZelDataResult&) = default;
 
     /// Keeps @p code as the last error and gives it back, for `return store(...)`.
-    [[nodiscard]] ZelDataResult_tags store(ZelDataResult_tags code) const noexcept
+    [[nodiscard]] ZELINTERCHANGEDATA_INLINE ZelDataResult_tags
+    store(ZelDataResult_tags code) const noexcept
     {
         lastError_ = code;
         return code;
     }
 
     /// Takes over the last error of @p object as it is, even when that is #ZelData_Ok.
-    [[nodiscard]] ZelDataResult_tags storeFrom(const i_ZelDataResult& object) const
+    [[nodiscard]] ZELINTERCHANGEDATA_INLINE ZelDataResult_tags
+    storeFrom(const i_ZelDataResult& object) const
     {
         return store(object.getLastError());
     }

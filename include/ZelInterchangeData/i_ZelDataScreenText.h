@@ -17,6 +17,7 @@ class i_ZelDataScreenTextItem;
 /// The collection stores copies of items and hands out copies; the caller owns what it is handed.
 class ZELINTERCHANGEDATA_API i_ZelDataScreenText : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataScreenText);
     ~i_ZelDataScreenText() override;
 
     /// Checks frame rate and order; the first finding is returned. Overlaps pass.

@@ -17,6 +17,7 @@ namespace ZelInterchangeData {
 /// wrapping in 64 bits.
 class ZELINTERCHANGEDATA_API i_ZelDataScreenTextItem : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataScreenTextItem);
     ~i_ZelDataScreenTextItem() override;
 
     /// Checks the text and nothing else. @p deep changes nothing.

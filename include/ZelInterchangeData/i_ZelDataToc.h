@@ -20,6 +20,7 @@ class ZELINTERCHANGEDATA_API i_ZelDataToc : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
 
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataToc);
     ~i_ZelDataToc() override;
 
     /// Checks frame rate, texts and order; the first finding is returned. The image fields are not

@@ -17,6 +17,7 @@ namespace ZelInterchangeData {
 /// written.
 class ZELINTERCHANGEDATA_API i_ZelDataTocItem : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataTocItem);
     ~i_ZelDataTocItem() override;
 
     /// Checks texts and languages; an entry without any text passes. @p deep changes nothing.

@@ -31,6 +31,7 @@ class i_ZelDataToc;
 /// - `readString`, `readFile`: always #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelInterchangeDataCore : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelInterchangeDataCore);
     ~i_ZelInterchangeDataCore() override;
 
     /// @name Data sets

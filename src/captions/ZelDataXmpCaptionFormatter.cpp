@@ -121,8 +121,7 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
 
 ZelDataResult_tags ZelDataXmpCaptionFormatter::setCaptions(const i_ZelDataCaptions& captions)
 {
-    return hold(captions, &ZelDataUtilities::createCaptionData,
-                &i_ZelDataCaptions::clearCaptionItems);
+    return hold(captions, &i_ZelDataCaptions::clearCaptionItems);
 }
 
 ZelDataResult_tags ZelDataXmpCaptionFormatter::getCaptions(i_ZelDataCaptions& /*captions*/) const

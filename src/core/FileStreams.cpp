@@ -4,6 +4,7 @@
 #include <array>
 #include <cwchar>
 #include <locale>
+#include <type_traits>
 
 namespace ZelInterchangeData {
 
@@ -48,7 +49,8 @@ protected:
             return ok;
         }
         for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
-            if (*fromNext < 0 || *fromNext > 255) return error;
+            // wchar_t is signed here and unsigned there: a negative one is above 255, too.
+            if (static_cast<std::make_unsigned_t<wchar_t>>(*fromNext) > 255) return error;
             if (toNext == toEnd) return partial;
             *toNext = static_cast<char>(static_cast<unsigned char>(*fromNext));
         }

@@ -79,6 +79,7 @@ Ending ZelDataCore::makeSet(std::unique_ptr<Data>& set,
     auto [made, created] = receive<Data>([&](Data** out) { return (this->*create)(out); });
     set = std::move(made);
     if (failed(created)) return getLastError();
+    if (set == nullptr) return ZelData_InternalError;
     return {};
 }
 

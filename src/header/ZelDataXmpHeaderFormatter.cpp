@@ -240,7 +240,7 @@ ZelDataResult_tags ZelDataUtilities::createHeaderFormatter(i_ZelDataHeaderFormat
 
 ZelDataResult_tags ZelDataXmpHeaderFormatter::setHeader(const i_ZelDataHeader& header)
 {
-    return hold(header, &ZelDataUtilities::createHeaderData, &i_ZelDataHeader::clearHeader);
+    return hold(header, &i_ZelDataHeader::clearHeader);
 }
 
 ZelDataResult_tags ZelDataXmpHeaderFormatter::getHeader(i_ZelDataHeader& /*header*/) const

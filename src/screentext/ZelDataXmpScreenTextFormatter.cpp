@@ -39,8 +39,7 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTe
 ZelDataResult_tags
 ZelDataXmpScreenTextFormatter::setScreenText(const i_ZelDataScreenText& screenText)
 {
-    return hold(screenText, &ZelDataUtilities::createScreenTextData,
-                &i_ZelDataScreenText::clearScreenTextItems);
+    return hold(screenText, &i_ZelDataScreenText::clearScreenTextItems);
 }
 
 ZelDataResult_tags

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
@@ -39,17 +40,12 @@ protected:
         return format == ZelDataFormat_Xmp ? ZelData_NotImplemented : ZelData_InternalError;
     }
 
-    /// Replaces the held copy, which @p create makes at the first call, with a copy of @p source.
-    ZelDataResult_tags hold(const Data& source, ZelDataResult_tags (*create)(Data**),
-                            ZelDataResult_tags (Data::*clear)())
+    /// Replaces the held copy, which the first call makes, with a copy of @p source.
+    ZelDataResult_tags hold(const Data& source, ZelDataResult_tags (Data::*clear)())
     {
         return this->store(guarded([&] {
-            if (held_ == nullptr) {
-                Data* made = nullptr;
-                const auto created = create(&made);
-                if (failed(created)) return created;
-                held_.reset(static_cast<Own*>(made)); // that is what our factory makes
-            }
+            if (held_ == nullptr) held_.reset(new (std::nothrow) Own);
+            if (held_ == nullptr) return ZelData_OutOfMemory;
             Data& copy = *held_;
             return replaceContents(copy, clear, source) ? ZelData_Ok : copy.getLastError();
         }));

@@ -65,7 +65,7 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
 
 ZelDataResult_tags ZelDataXmpTocFormatter::setToc(const i_ZelDataToc& toc)
 {
-    return hold(toc, &ZelDataUtilities::createTocData, &i_ZelDataToc::clearTocItems);
+    return hold(toc, &i_ZelDataToc::clearTocItems);
 }
 
 ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const

@@ -41,7 +41,7 @@ class Image:
         for line in output_of(NM, "--print-size", path).splitlines():
             fields = line.split()
             if len(fields) == 4:
-                address, size, name = int(fields[0], 16), int(fields[1], 16), fields[3]
+                address, size, name = int(fields[0], 16), int(fields[1], 16), fields[3].partition("@")[0]
                 self.names_at.setdefault(address, set()).add(name)
                 if name.startswith("_ZTV"):
                     self.tables[name] = (address, size)

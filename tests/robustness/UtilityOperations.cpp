@@ -145,6 +145,10 @@ void addUtilityOperations(OperationList& list)
     addCodes(list);
     addTexts(list);
     addFindings(list);
+    add(list, "libraryVersion", [](Outs& o) {
+        o.text = getValueString(libraryVersion());
+        return ZelData_Ok;
+    }).letsThrough();
     add(list, "getValueString", [](Outs& o) {
         o.text = getValueString(-9223372036854775807L);
         return ZelData_Ok;
