@@ -36,7 +36,7 @@ class CheckIncludes(unittest.TestCase):
         self.assertEqual(result.stderr, offence + "\n")
 
     def test_own_room_and_lower_rooms_are_accepted(self):
-        self.write("src/toc/A.cpp", '#include "toc/A.h"\n#include "core/B.h"\n#include "xml/C.h"\n'
+        self.write("src/toc/A.cpp", '#include "toc/A.h"\n#include "sets/B.h"\n#include "xml/C.h"\n'
                                     '#include "util/D.h"\n#include "ZelInterchangeData/Thing.h"\n'
                                     "#include <vector>\n")
         self.assert_accepted()

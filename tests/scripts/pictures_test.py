@@ -53,7 +53,7 @@ class Pictures(unittest.TestCase):
         self.assert_offence("docs/pictures/rooms.dot: not current")
 
     def test_an_arrow_that_was_there_already_changes_nothing(self):
-        (self.root / "src/header/A.cpp").write_text('#include "core/B.h"\n', encoding="utf-8")
+        (self.root / "src/header/A.cpp").write_text('#include "sets/B.h"\n', encoding="utf-8")
         self.assert_current()
 
     def test_a_room_that_is_gone_is_noticed(self):
