@@ -1,13 +1,17 @@
 """Gives every operation that takes a caller's object one that goes wrong at its first, second, third
 call and so on, in every way, and compares what happens with the model.
 
-foreign_sweep.py --driver PATH --slots FOLDER
+foreign_sweep.py --driver PATH --slots FOLDER [--share N/M]
+
+With a share only each M-th of these points is tried, from the N-th on: the shares 1/M to M/M have all
+of them.
 
 Compared are the code, both last errors, what each side holds afterwards, every call that is made on
 the caller's object and the number of such objects that are alive. Then the operation is called once
 more with the object in order."""
 
 import argparse
+import itertools
 import re
 import sys
 from collections import namedtuple
@@ -250,8 +254,9 @@ def scenes(operation):
 class Sweep:
     """All calls of one scene, each going wrong in each way."""
 
-    def __init__(self, scene):
+    def __init__(self, scene, in_share):
         self.scene = scene
+        self.in_share = in_share
         self.script = Script()
         self.script.make_full_ones()
         self.points = [(0, "in order")]
@@ -284,6 +289,8 @@ class Sweep:
             self.script.look_at(self.scene.operation.family, ARGUMENT)
 
     def point(self, at, way, keeps_own):
+        if not next(self.in_share):
+            return
         mode, code, kept = way
         self.points.append((len(self.script.operations), "call %d, %s" % (at, (way, keeps_own))))
         self.prepare((at, mode, code, kept, keeps_own))
@@ -328,18 +335,26 @@ def check_list(slot_folder):
     return listed == expected and len(expected) > 0
 
 
+def share_of(text):
+    """For each point in turn whether it is in the share."""
+    number, _, shares = text.partition("/")
+    return itertools.cycle(index + 1 == int(number) for index in range(int(shares)))
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--driver", required=True)
     parser.add_argument("--slots", required=True)
+    parser.add_argument("--share", default="1/1")
     options = parser.parse_args()
     if not check_list(options.slots):
         return 1
+    in_share = share_of(options.share)
     scene_count = calls = points = steps = 0
     for operation in operations():
         reached = 0
         for scene in scenes(operation):
-            sweep = Sweep(scene)
+            sweep = Sweep(scene, in_share)
             reached += sweep.run()
             scene_count += 1
             points += len(sweep.points) - 1
