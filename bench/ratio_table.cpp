@@ -138,9 +138,9 @@ int run(const Options& options)
     const Results results = measure(options);
     const auto rows = ratioRows(results);
     std::printf("%s\n", ratioTable(rows).c_str());
-    std::printf(
-        "All times as multiples of the straight appender's, medians of %d rounds or more:\n\n%s",
-        options.effort.rounds, caseTable(results.cases).c_str());
+    std::printf("All times are multiples of the straight appender's time, medians of %d rounds or "
+                "more:\n\n%s",
+                options.effort.rounds, caseTable(results.cases).c_str());
     return options.check && !passes(rows) ? 1 : 0;
 }
 

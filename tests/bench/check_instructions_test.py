@@ -81,7 +81,7 @@ class Limits(unittest.TestCase):
         self.assertEqual(check.offences({"a": 2.1}, {}), ["a: 2.1000 has no limit"])
 
     def test_a_limit_without_a_measure_is_an_offence(self):
-        self.assertEqual(check.offences({}, {"a": 1.0}), ["a: limited, but not measured"])
+        self.assertEqual(check.offences({}, {"a": 1.0}), ["a: has a limit, but was not measured"])
 
 
 if __name__ == "__main__":

@@ -62,7 +62,7 @@ class Names(unittest.TestCase):
         self.assertEqual({row[-1].strip("`") for row in rows}, tests)
 
     def test_every_oddity_names_a_test(self):
-        for heading in ("## The date", "## Oddities that players rely on"):
+        for heading in ("## The date", "## Deliberate oddities"):
             for oddity, *_, tests in rows_of(heading):
                 with self.subTest(oddity=oddity):
                     self.assertRegex(tests, r"^`[A-Z]\w+\.[A-Z]\w+`")
