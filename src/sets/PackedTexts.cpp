@@ -41,7 +41,7 @@ struct Layout {
     std::size_t* count;
 };
 
-/// New bytes for entries whose number and characters are known, filled from the first to the last.
+/// New bytes for entries whose number and characters are known, filled from first to last.
 class Filling {
 public:
     explicit Filling(Size size)
@@ -59,7 +59,8 @@ public:
         new (layout_.spans() + filled_++) Span{textBegin, used_};
     }
 
-    /// Appends the entries of @p other from @p first up to @p last, their characters in one piece.
+    /// Appends the entries of @p other from @p first up to, not including, @p last; copies their
+    /// characters in one piece.
     void append(const Layout& other, std::size_t first, std::size_t last)
     {
         if (first == last) return;
@@ -86,8 +87,8 @@ private:
     std::size_t used_ = 0;
 };
 
-/// A change of texts: those from @p first up to @p last go, and @p added, if there is one, comes
-/// there.
+/// A change of texts: removes those from @p first up to, not including, @p last, and puts @p added,
+/// if there is one, in their place.
 struct Edit {
     std::size_t first;
     std::size_t last;
@@ -108,7 +109,7 @@ Size sizeAfter(const PackedTexts& texts, const Edit& edit)
     return size;
 }
 
-/// What @p texts, stored in @p bytes, are after @p edit.
+/// Returns what @p texts, stored in @p bytes, are after @p edit.
 SharedBytes edited(const PackedTexts& texts, const SharedBytes& bytes, const Edit& edit)
 {
     const Size size = sizeAfter(texts, edit);
@@ -147,7 +148,7 @@ PackedTexts::Entry PackedTexts::operator[](std::size_t index) const noexcept
     return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
 }
 
-/// The place of the text for @p languageID, or the one that a new text gets.
+/// The index of the text for @p languageID, or the one that a new text would get.
 std::size_t PackedTexts::placeOf(std::string_view languageID) const noexcept
 {
     std::size_t first = 0;

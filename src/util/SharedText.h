@@ -12,7 +12,7 @@
 
 namespace ZelInterchangeData {
 
-/// A text that never changes and that copies share. An empty one takes no memory.
+/// A text that never changes and that copies share. An empty one uses no memory.
 class SharedText {
 public:
     SharedText() noexcept = default;
@@ -26,7 +26,7 @@ public:
     }
 
     SharedText(const SharedText&) noexcept = default;
-    /// @p other is empty then.
+    /// Afterwards, @p other is empty.
     SharedText(SharedText&& other) noexcept
         : bytes_(std::move(other.bytes_)), size_(std::exchange(other.size_, 0))
     {
@@ -39,10 +39,10 @@ public:
     }
     ~SharedText() = default;
 
-    /// The text, as long as this object is not assigned to.
+    /// The text, valid until this object is assigned to or destroyed.
     std::string_view view() const noexcept { return {characters(), size_}; }
 
-    /// Has the text at hand when it is read.
+    /// Prefetches the text.
     void prefetch() const noexcept { bytes_.prefetch(size_); }
 
 private:
