@@ -125,7 +125,8 @@ Ending ZelDataCoreXmp::replaceHeaderLanguages() const
     if (const Ending ending = copyCaptionLanguages()) return ending;
     unsigned long count = 0;
     if (failed(header()->getLanguageCount(count))) return header()->getLastError();
-    if (count == 0 && isError(mutableHeader().addLanguage("en-US"))) return header()->getLastError();
+    if (count == 0 && isError(mutableHeader().addLanguage("en-US")))
+        return header()->getLastError();
     return {};
 }
 

@@ -55,7 +55,7 @@ Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
 }
 
 /// Removes the text for @p languageID from each item. Deliberate: it stops at the first item without
-/// such a text, with the item's last error; otherwise the code would not tell that the language was
+/// such a text, with the item's last error; otherwise the code would not say that the language was
 /// incomplete.
 template <class Item, class Own>
 ZelDataResult_tags removeTexts(ItemList<Item, Own>& items, const std::string& languageID)
