@@ -36,8 +36,8 @@ constexpr std::array<std::string_view, 4> specialWords = {"<i>Bo</i>", "\"Yes\""
 /// Heavily tied: this many different starts whatever the size, so that the ties grow with it.
 constexpr unsigned distinctTiedStarts = 16;
 
-/// Random numbers that are the same with every standard library; their distributions and shuffles
-/// differ.
+/// Random numbers that are the same with every standard library, unlike the libraries' own
+/// distributions and shuffles.
 class Dice {
 public:
     explicit Dice(std::uint64_t seed) : engine_(seed) {}

@@ -1,5 +1,5 @@
 /// @file
-/// The short texts of the text benchmarks, and the library's functions under a common name.
+/// The short texts of the text benchmarks, and the library's functions, each under one name.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_TEXTSAMPLES_H
 #define ZELINTERCHANGEDATA_BENCH_TEXTSAMPLES_H

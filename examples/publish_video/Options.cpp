@@ -6,8 +6,8 @@
 #include "PublishError.h"
 #include "Text.h"
 
-// Uses the scanner of cxxopts itself: the one with regular expressions recurses once for each character
-// and allows no line feed in a value.
+// Uses the scanner of cxxopts itself: the one with regular expressions recurses once for each
+// character and allows no line feed in a value.
 #define CXXOPTS_NO_REGEX
 #include <cxxopts.hpp>
 

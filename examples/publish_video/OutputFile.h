@@ -13,9 +13,9 @@
 namespace publish {
 
 /// Returns the regular file that @p output names, or that a symbolic link there leads to; it need
-/// not exist. `std::nullopt` for anything that must be written in place: a device, a pipe, a file that is
-/// already open (`/dev/stdout`). Throws PublishError for a folder and for a file without write
-/// permission.
+/// not exist. `std::nullopt` for anything that must be written in place: a device, a pipe, a file
+/// that is already open (`/dev/stdout`). Throws PublishError for a folder and for a file without
+/// write permission.
 std::optional<std::filesystem::path> replaceableFile(const std::string& output);
 
 /// Appends @p bytes to the existing @p output; throws PublishError.

@@ -92,8 +92,8 @@ std::optional<unsigned long long> milliseconds(std::string_view digits)
     return numberOf(filled);
 }
 
-/// @p hours and @p below, which is less than an hour, in milliseconds; `std::nullopt` when it is too
-/// large for a time.
+/// @p hours and @p below, which is less than an hour, in milliseconds; `std::nullopt` when the sum
+/// is too large for a time.
 std::optional<long long> timeOf(unsigned long long hours, unsigned long long below)
 {
     if (hours > (latest - below) / hour) return std::nullopt;

@@ -32,8 +32,8 @@ struct Subtitles {
     std::size_t withoutLength = 0;
 };
 
-/// Reads the contents of a file; `std::nullopt` when they are not strict UTF-8. Accepts a byte order mark
-/// and line ends of all three kinds, and drops U+FFFE and U+FFFF.
+/// Reads the contents of a file; `std::nullopt` when they are not strict UTF-8. Accepts a byte
+/// order mark and line ends of all three kinds, and drops U+FFFE and U+FFFF.
 ///
 /// A line with an arrow (`-->`) opens a cue whatever precedes it, so numbers, names, notes and
 /// styles need not be understood. A blank line or the next arrow ends its text.

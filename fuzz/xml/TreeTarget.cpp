@@ -191,7 +191,7 @@ private:
             requireParent(returned, node, plain);
         else
             require(plainOf_.count(&returned) == 0,
-                    "a number leads to the parent without the verb");
+                    "a number leads into the tree without the verb");
     }
 
     void rename(ZelDataXmlNode& node, PlainNode& plain)
