@@ -57,10 +57,12 @@ public:
     }
 
     /// The bytes; null when there are none.
-    std::byte* data() const noexcept
+    const std::byte* data() const noexcept
     {
-        return head_ == nullptr ? nullptr : reinterpret_cast<std::byte*>(head_ + 1);
+        return head_ == nullptr ? nullptr : reinterpret_cast<const std::byte*>(head_ + 1);
     }
+    /// The bytes, which must exist, to be filled before they are shared.
+    std::byte* mutableData() noexcept { return reinterpret_cast<std::byte*>(head_ + 1); }
 
 private:
     struct Head {

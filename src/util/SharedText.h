@@ -22,7 +22,7 @@ public:
     {
         if (text.empty()) return;
         bytes_ = SharedBytes(text.size());
-        text.copy(characters(), size_);
+        text.copy(reinterpret_cast<char*>(bytes_.mutableData()), size_);
     }
 
     SharedText(const SharedText&) noexcept = default;
@@ -46,7 +46,7 @@ public:
     void prefetch() const noexcept { bytes_.prefetch(size_); }
 
 private:
-    char* characters() const noexcept { return reinterpret_cast<char*>(bytes_.data()); }
+    const char* characters() const noexcept { return reinterpret_cast<const char*>(bytes_.data()); }
 
     SharedBytes bytes_;
     std::size_t size_ = 0;
