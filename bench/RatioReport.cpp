@@ -1,5 +1,5 @@
 /// @file
-/// Draws the figures that count from the measurements: always the worst case.
+/// Computes the figures that count from the measurements: always the worst case.
 
 #include "bench/RatioReport.h"
 
@@ -19,7 +19,7 @@ std::string fixed(double value, int digits = 2)
     return text.data();
 }
 
-/// A limit as it stands in the table, without zeros that say nothing.
+/// A limit as the table shows it, without trailing zeros.
 std::string limitText(double value)
 {
     std::array<char, 64> text{};
@@ -59,7 +59,7 @@ std::string whereOf(const Case& aCase)
 
 double allSteps(const Times& times)
 {
-    // With the release, because the peers' times hold theirs.
+    // Includes the release, because the peers' times include theirs.
     return times.fill + times.set + times.write + times.release;
 }
 
@@ -90,7 +90,7 @@ double exponent(const Case& small, const Case& large)
            std::log(static_cast<double>(large.size) / static_cast<double>(small.size));
 }
 
-/// From 1,000 captions to 100,000; a run that leaves out one of them says nothing about growth.
+/// From 1,000 captions to 100,000; a run without one of them says nothing about growth.
 Row growthRow(const std::vector<Case>& cases, Order order)
 {
     const std::string measure =
@@ -123,7 +123,7 @@ struct TextLimits {
     /// GB/s.
     double must;
     double goal;
-    /// As a multiple of the plain loop's speed; `must` over the loop's GB/s where it was set.
+    /// As a multiple of the plain loop's speed; `must` divided by the loop's GB/s where it was set.
     double multiple;
 };
 

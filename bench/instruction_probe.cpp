@@ -16,7 +16,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// Counts the instructions of @p work alone, under @p name. The library's sections and the others'
+/// Counts the instructions of @p work alone, under @p name. The library's sections and the others
 /// are counted in the same way. Outside valgrind the requests do nothing.
 template <class Work>
 void section(const std::string& name, Work&& work)
@@ -55,7 +55,8 @@ void probeTexts()
     section("escape.plain", [&] { return escapeAllPlainly(sample, out); });
 }
 
-/// What @p publish gives in ten rounds. The state in which the first finds the heap counts little then.
+/// What @p publish returns in ten rounds. The state in which the first round finds the heap then
+/// counts little.
 template <class Publish>
 std::size_t tenRounds(Publish&& publish)
 {
@@ -76,8 +77,8 @@ void probeFace()
     section("face", [&] { return tenRounds(throughFace); });
 }
 
-/// What is wrong with captions in order, where the search for a later one that starts too early goes
-/// over all of them.
+/// Finds problems in captions in order, where the search for a later one that starts too early
+/// examines all of them.
 void probeFindings(std::size_t size)
 {
     const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
@@ -113,7 +114,7 @@ void probeLanguages(std::size_t size)
             [&] { return checked(*captions).addCaptionItem(*item).getLanguageCount(); });
 }
 
-/// All captions taken from the front, one after another.
+/// Removes all captions from the front, one after another.
 void probeFront(std::size_t size)
 {
     const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));

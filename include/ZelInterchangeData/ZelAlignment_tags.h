@@ -1,5 +1,5 @@
 /// @file
-/// Where a caption stands on the picture.
+/// Where a caption is placed on the picture.
 
 #ifndef ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
 #define ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
@@ -10,9 +10,9 @@
 
 namespace ZelInterchangeData {
 
-/// Bit flags: at most one vertical and one horizontal flag, joined with `|`.
+/// Bit flags: at most one vertical and one horizontal flag, combined with `|`.
 ///
-/// The two axes are read independently. Any value may travel in it; other bits are ignored.
+/// The two axes are read independently. Any value can be stored; other bits are ignored.
 enum ZelAlignment_tags : std::uint32_t {
     /// Neither flag of either axis: centred vertically and horizontally.
     ZelAlignCenter = 0x00,
@@ -26,7 +26,7 @@ enum ZelAlignment_tags : std::uint32_t {
     ZelAlignRight = 0x20
 };
 
-/// Joins the flags of @p a and @p b.
+/// Combines the flags of @p a and @p b.
 ZELINTERCHANGEDATA_INLINE constexpr ZelAlignment_tags operator|(ZelAlignment_tags a,
                                                                 ZelAlignment_tags b) noexcept
 {

@@ -1,5 +1,5 @@
 /// @file
-/// The two tests of result codes as calls that throw.
+/// Throwing forms of the two tests of result codes.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATACHECK_H
 #define ZELINTERCHANGEDATA_ZELDATACHECK_H

@@ -14,10 +14,10 @@
 
 namespace ZelInterchangeData {
 
-/// Says which operation answered with which code. The library itself never throws it: it comes from
-/// the functions of the headers that ZelDataFace.h includes, which are compiled into the caller.
+/// Says which operation returned which code. The library itself never throws it: it comes from the
+/// functions of the headers that ZelDataFace.h includes, which are compiled into the caller.
 ///
-/// Its type is described once in the shared library, so it may be thrown in one program or shared
+/// The shared library holds its only type description, so it may be thrown in one program or shared
 /// library and caught in another when both use the same one. The fields are part of the binary
 /// interface.
 class ZELINTERCHANGEDATA_API ZelDataError : public std::runtime_error {
@@ -37,7 +37,7 @@ public:
 
     /// The message; valid as long as this object or a copy of it lives.
     const char* what() const noexcept override;
-    /// The code that the operation gave.
+    /// The code that the operation returned.
     ZELINTERCHANGEDATA_INLINE ZelDataResult_tags code() const noexcept { return code_; }
     /// The name of the operation; valid as long as this object or a copy of it lives.
     ZELINTERCHANGEDATA_INLINE std::string_view operation() const noexcept

@@ -1,17 +1,17 @@
 /// @file
-/// The macros that say who sees a symbol outside the program or shared library that it is compiled
-/// into.
+/// The macros that decide whether a symbol is visible outside the program or shared library that it
+/// is compiled into.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAEXPORT_H
 #define ZELINTERCHANGEDATA_ZELDATAEXPORT_H
 
 /// @def ZELINTERCHANGEDATA_API
-/// Marks what the shared library exports. Empty where ZELINTERCHANGEDATA_STATIC is defined, which
-/// belongs to the static library: that one exports nothing from the program that links it.
+/// Marks what the shared library exports. Empty where ZELINTERCHANGEDATA_STATIC is defined, as it
+/// is for the static library, which exports nothing from the program that links it.
 
-// Deliberate: the static form is empty and not "hidden". The static library is compiled with hidden
-// visibility, which is what counts when a program is linked; with hidden interfaces g++ would warn
-// about every class of the program that has a pointer to one.
+// Deliberate: the static form is empty, not "hidden"; with hidden interfaces g++ would warn about
+// every class of the program that has a pointer to one. The static library itself is compiled with
+// hidden visibility, which is what counts when a program is linked.
 #if defined(ZELINTERCHANGEDATA_STATIC)
 #define ZELINTERCHANGEDATA_API
 #elif defined(__GNUC__)
@@ -22,7 +22,7 @@
 
 /// @def ZELINTERCHANGEDATA_INLINE
 /// Marks what a header defines. It is compiled into the program or shared library that includes the
-/// header, and no other one in the process sees it.
+/// header and is invisible to every other one in the process.
 #if defined(__GNUC__)
 #define ZELINTERCHANGEDATA_INLINE [[gnu::visibility("hidden")]]
 #else
@@ -30,7 +30,8 @@
 #endif
 
 /// @def ZELINTERCHANGEDATA_INLINE_COPIES
-/// The constructor and the copies that the compiler gives to @p Interface by itself, marked.
+/// The constructor and the copy operations that the compiler would generate for @p Interface,
+/// marked.
 #define ZELINTERCHANGEDATA_INLINE_COPIES(Interface)                                                \
     ZELINTERCHANGEDATA_INLINE Interface() = default;                                               \
     ZELINTERCHANGEDATA_INLINE Interface(const Interface&) = default;                               \

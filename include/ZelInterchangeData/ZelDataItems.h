@@ -1,5 +1,5 @@
 /// @file
-/// The items of a collection, for a loop.
+/// The items of a collection, for use in a loop.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAITEMS_H
 #define ZELINTERCHANGEDATA_ZELDATAITEMS_H
@@ -16,8 +16,8 @@ namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// @name Items
 /// Copies of all items in stored order, owned by the vector: a change to one does not reach the
-/// collection. For loops: `for (const auto& item : items(*captions))`. Throws ZelDataError, which
-/// names the getter, when the collection cannot hand them out.
+/// collection. For use in loops: `for (const auto& item : items(*captions))`. Throws ZelDataError,
+/// which names the getter, when the collection cannot hand them out.
 /// @{
 
 /// See i_ZelDataCaptions::getCaptionItems().

@@ -1,6 +1,6 @@
 /// @file
-/// Lets only such programs link as have the library's own std::string and std::vector. Both cross the
-/// interface in virtual calls, which no linker checks.
+/// Makes the linker reject a program whose std::string and std::vector are not the library's own.
+/// Both cross the interface in virtual calls, which no linker checks.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATASTANDARDLIBRARY_H
 #define ZELINTERCHANGEDATA_ZELDATASTANDARDLIBRARY_H
@@ -12,7 +12,7 @@
 
 namespace ZelInterchangeData {
 
-/// Never called. A program for which the linker does not find this function was compiled with another
+/// Never called. If the linker does not find this function, the program was compiled with another
 /// standard library than the library, or with settings that change its types: with libc++, with
 /// `-D_GLIBCXX_USE_CXX11_ABI=0`, with `-D_GLIBCXX_DEBUG`.
 ZELINTERCHANGEDATA_API void
@@ -30,7 +30,7 @@ library_was_built_with_another_std_string_or_vector(const std::string&,
 #define ZELINTERCHANGEDATA_KEPT used
 #endif
 
-// The reference that each translation unit makes: one relocation, and nothing that runs.
+// The reference that each translation unit makes: one relocation, and no code that runs.
 __attribute__((ZELINTERCHANGEDATA_KEPT)) static void (*const sameStringAndVector)(
     const std::string&, const std::vector<std::string>&) noexcept =
     &library_was_built_with_another_std_string_or_vector;

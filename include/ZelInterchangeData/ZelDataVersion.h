@@ -4,7 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATAVERSION_H
 #define ZELINTERCHANGEDATA_ZELDATAVERSION_H
 
-// The build reads the three numbers from here, so they stand nowhere else.
+// The build reads the three numbers from here; they are written nowhere else.
 
 /// Goes up when programs built against an earlier version no longer run; part of the library's SONAME.
 #define ZELINTERCHANGEDATA_VERSION_MAJOR 1
@@ -12,12 +12,12 @@
 /// Goes up when something is added.
 #define ZELINTERCHANGEDATA_VERSION_MINOR 1
 
-/// Goes up when something is put right.
+/// Goes up when something is fixed.
 #define ZELINTERCHANGEDATA_VERSION_PATCH 0
 
 /// The version as one number that can be compared: 10203 is version 1.2.3. The numbers that
-/// ZelDataUtilities::getVersionString() takes are packed in another way: to it, version 1.2.0 is 66048,
-/// and 10200 is "0.39.216".
+/// ZelDataUtilities::getVersionString() takes are packed differently: to it, version 1.2.0 is
+/// 66048, and 10200 is "0.39.216".
 #define ZELINTERCHANGEDATA_VERSION                                                                 \
     (ZELINTERCHANGEDATA_VERSION_MAJOR * 10000 + ZELINTERCHANGEDATA_VERSION_MINOR * 100 +           \
      ZELINTERCHANGEDATA_VERSION_PATCH)

@@ -50,7 +50,7 @@ struct CaptionStyle {
 
     /// Whether every value is one that its setter accepts.
     bool isInRange() const noexcept;
-    /// Puts values that are out of range back into it; a NaN stays.
+    /// Brings values that are out of range back into it; a NaN stays.
     void repair();
 };
 

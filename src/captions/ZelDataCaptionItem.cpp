@@ -25,7 +25,7 @@ ZelDataResult_tags CaptionState::check(bool strict) const
     if (time.duration < CaptionLimits::shortestDuration) return ZelData_InvalidItem;
     if (strict && time.duration < CaptionLimits::recommendedDuration)
         return ZelData_WarnItemGuidelines;
-    // Languages and texts were checked when they were set; what is left are the lines.
+    // Languages and texts were checked when they were set; only the lines remain.
     unsigned long most = 0;
     if (strict) {
         texts().forEach([&](std::string_view /*languageID*/, std::string_view text) {

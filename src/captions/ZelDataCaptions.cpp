@@ -19,13 +19,13 @@ bool ZelDataCaptions::canHandOutItems() const
     return true;
 }
 
-/// The finding of one item, which no later item of those that start at @p earliestLater or after may
-/// overlap.
+/// Returns the finding of one item, which must not overlap a later one; the earliest of those
+/// starts at @p earliestLater.
 Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
                                   const std::vector<std::string>& listed, long long earliestLater)
 {
-    // Without `strict` the items' own validity is meant not to matter: with it, captions that are
-    // written today would be called invalid.
+    // Deliberate: only `strict` checks the items' own validity; otherwise an item that is not valid
+    // would fail isValid(false), too.
     if (strict && failed(item.isValid(true))) return item.getLastError();
     if (const Ending ending = findMissingText(item, listed)) return ending;
     long long end = 0;
@@ -34,10 +34,10 @@ Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
     return {};
 }
 
-/// The first finding of the items, in stored order.
+/// Returns the first finding of the items, in stored order.
 ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
 {
-    const auto listed = languageIDs(); // an item of a caller's may change the list
+    const auto listed = languageIDs(); // a caller's item may change the list
     const Ending ending =
         items_.checkAll([&](const i_ZelDataCaptionItem& item, long long earliestLater) {
             return checkItem(item, strict, listed, earliestLater);
@@ -59,7 +59,7 @@ ZelDataResult_tags ZelDataCaptions::orderCaptions()
 ZelDataResult_tags ZelDataCaptions::makeCaptionsConsistent()
 {
     return store(guarded([&] {
-        const auto listed = languageIDs(); // an item of a caller's may change the list
+        const auto listed = languageIDs(); // a caller's item may change the list
         if (const Ending ending = orderAndFillMissingTexts(items_, listed)) return *ending;
         style_.repair();
         return ZelData_Ok;
@@ -138,7 +138,7 @@ ZelDataResult_tags ZelDataCaptions::getBackgroundColor(float& red, float& green,
 
 ZelDataResult_tags ZelDataCaptions::setBackgroundOpacity(float opacity)
 {
-    // A NaN is meant to pass: refusing it would refuse documents that callers write today.
+    // Deliberate: a NaN passes; otherwise the setter would refuse it with ZelData_InvalidArgument.
     if (!isFraction(opacity)) return store(ZelData_InvalidArgument);
     style_.backgroundOpacity = opacity;
     return store(ZelData_Ok);
@@ -156,7 +156,8 @@ ZelDataResult_tags ZelDataCaptions::clearCaptionItems()
 {
     return store(guarded([&] {
         items_.clear();
-        // The languages are meant to go, too: they are those of the items.
+        // Deliberate: clears the languages, too; otherwise languages without a text would stay
+        // listed.
         languages().clear();
         return ZelData_Ok;
     }));

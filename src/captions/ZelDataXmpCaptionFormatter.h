@@ -16,9 +16,9 @@ namespace ZelInterchangeData {
 
 class i_ZelDataCaptionItem;
 
-/// Appends the texts of @p item in the languages of @p languageIDs as markup to @p text; a language
-/// without text is skipped. Whether every language had one. Throws `std::bad_alloc` when memory
-/// runs out, also when the item says so.
+/// Appends the texts of @p item in the languages of @p languageIDs as markup to @p text and skips
+/// languages without text. Returns whether every language had one. Throws `std::bad_alloc` when
+/// memory runs out, also when the item reports that.
 bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCaptionItem& item,
                       std::string& text);
 

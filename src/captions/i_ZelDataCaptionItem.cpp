@@ -14,7 +14,7 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
 {
     using Item = i_ZelDataCaptionItem;
     if (&other == this) return store(ZelData_InternalError);
-    // Between two items of our own the steps below lead where sharing the texts does.
+    // Between two of our own items, sharing the texts has the same result as the steps below.
     auto* own = exactly<ZelDataCaptionItem>(*this);
     const auto* ownOther = exactly<ZelDataCaptionItem>(other);
     if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
@@ -23,7 +23,8 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
         FieldCopy fields(other, *this, [this](ZelDataResult_tags) { return getLastError(); });
         fields
             .field(&Item::getStart, &Item::setStart)
-            // The end, not the duration: an item without a length is meant to be refused here.
+            // Deliberate: the end, not the duration; otherwise an item whose end wraps to a
+            // negative one would be copied.
             .field(&Item::getEnd, &Item::setEnd)
             .field(&Item::getAlignment, &Item::setAlignment);
         return fields.ending().value_or(ZelData_Ok);
@@ -32,7 +33,7 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
 
 ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
 {
-    other.setLastError(ZelData_Ok); // as the getters leave it
+    other.setLastError(ZelData_Ok); // as the getters would leave it
     state_.changeTexts() = other.state_.texts();
     state_.time.start = other.state_.time.start;
     if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);

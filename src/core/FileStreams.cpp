@@ -11,7 +11,7 @@ namespace ZelInterchangeData {
 namespace {
 
 /// Widens a narrow character to the number of its byte. The standard facet asks the C library,
-/// whose answer for bytes above 0x7F depends on the locale.
+/// whose result for bytes above 0x7F depends on the locale.
 class ByteCharacters : public std::ctype<wchar_t> {
 public:
     ~ByteCharacters() override = default;
@@ -31,12 +31,12 @@ protected:
 
 using Conversion = std::codecvt<wchar_t, char, std::mbstate_t>;
 
-/// One byte of the file for each wide character up to 255.
+/// Converts each wide character up to 255 to one byte of the file.
 class ByteConversion : public Conversion {
 public:
     ~ByteConversion() override = default;
 
-    /// From now on there is no byte for any character.
+    /// From now on, converts no character to a byte.
     void drop() const { isDropping_ = true; }
 
 protected:
@@ -49,7 +49,7 @@ protected:
             return ok;
         }
         for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
-            // wchar_t is signed here and unsigned there: a negative one is above 255, too.
+            // wchar_t is signed on some systems: a negative one is above 255, too.
             if (static_cast<std::make_unsigned_t<wchar_t>>(*fromNext) > 255) return error;
             if (toNext == toEnd) return partial;
             *toNext = static_cast<char>(static_cast<unsigned char>(*fromNext));
@@ -94,7 +94,7 @@ private:
     mutable bool isDropping_ = false; // facets are const; each stream has its own
 };
 
-/// @p base with @p Facet in place of its own. A locale that cannot be made leaves the facet to us.
+/// @p base with @p Facet in place of its own. Deletes the facet when the locale cannot be made.
 template <class Facet>
 std::locale withFacet(const std::locale& base)
 {
@@ -109,13 +109,13 @@ std::locale byteLocale()
     return withFacet<ByteConversion>(withFacet<ByteCharacters>(std::locale::classic()));
 }
 
-/// A base, so that it outlives the stream that is built after it.
+/// A base class, so that it outlives the stream, which is built after it.
 struct StreamBuffer {
     std::array<wchar_t, 4096> buffer{};
 };
 
-/// A file stream with its buffer and locale in place before the file is opened: the stream's own
-/// buffer would be obtained after the opening, which empties the file.
+/// A file stream that has its buffer and locale before the file is opened: the stream would obtain
+/// its own buffer only after opening, and opening empties the file.
 template <class Stream>
 class ByteFileStream : private StreamBuffer, public Stream {
 public:
@@ -123,12 +123,12 @@ public:
     {
         this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
         this->imbue(byteLocale());
-        // A path ends at its first zero byte for the system, so it would name another file.
+        // For the system a path ends at its first zero byte, so it would name another file.
         if (path.find('\0') == std::string::npos) this->open(path);
     }
 
-    /// What a write that failed, or was cancelled, has left is dropped: a pipe that is full would block
-    /// the thread again.
+    /// Drops what a write that failed, or was cancelled, has left: a full pipe would block the
+    /// thread again.
     ~ByteFileStream() override
     {
         if (!this->bad()) return;

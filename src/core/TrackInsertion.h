@@ -11,7 +11,8 @@
 
 namespace ZelInterchangeData {
 
-/// Where the content of the last empty track list of @p packet belongs, `npos` when there is none.
+/// The position for the content of the last empty track list of @p packet; `npos` when there is
+/// none.
 std::size_t placeOfTracks(const std::string& packet);
 
 /// Puts tracks into the last empty track list of @p packet: @p append, a callable, appends them to the

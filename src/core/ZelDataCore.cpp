@@ -16,8 +16,8 @@ ZelDataCore::~ZelDataCore() = default;
 
 // Writing
 
-/// Ends with the last error of @p document when it does not take one of the sets.
-Ending ZelDataCore::handOverTo(ZelDataCore& document) const
+/// Ends with the last error of @p document when it does not accept one of the sets.
+Ending ZelDataCore::copySetsTo(ZelDataCore& document) const
 {
     if ((header_ && failed(document.setDataHeader(*header_))) ||
         (captions_ && failed(document.setDataCaptions(*captions_))) ||
@@ -33,9 +33,8 @@ ZelDataResult_tags ZelDataCore::writeCopy(ZelDataFormatType_tags format, Write&&
 {
     if (format != ZelDataFormat_Xmp) return store(ZelData_UnsupportedFormat);
     ZelDataCoreXmp document;
-    if (const Ending ending = handOverTo(document)) return store(*ending);
-    // Meant not to be stored: the last error would no longer tell of this document's own
-    // operations.
+    if (const Ending ending = copySetsTo(document)) return store(*ending);
+    // Deliberate: not stored; otherwise the last error would be that of the writing.
     return std::forward<Write>(write)(document);
 }
 
@@ -115,8 +114,8 @@ ZelDataResult_tags ZelDataCore::setDataHeader(const i_ZelDataHeader& source)
     return store(guarded([&]() -> ZelDataResult_tags {
         if (const Ending ending = makeSet(header_, &ZelDataCore::createDataHeader)) return *ending;
         if (replaceContents(*header_, &i_ZelDataHeader::clearHeader, source)) return ZelData_Ok;
-        // Meant to be the captions' last error, even when that is no error; with the header's own,
-        // callers would get other codes from a document that holds captions.
+        // Deliberate: the captions' last error, even ZelData_Ok; otherwise it would be the header's
+        // own.
         return captions_ ? captions_->getLastError() : header_->getLastError();
     }));
 }

@@ -78,7 +78,7 @@ private:
 };
 
 /// Writes each byte as one wide character, in blocks on the stack: the stream's own insertion of
-/// narrow text would ask for memory when the file is emptied already.
+/// narrow text would allocate memory after the file was emptied.
 void writeBytes(std::wostream& stream, std::string_view bytes)
 {
     std::array<wchar_t, 1024> block{};
@@ -94,7 +94,7 @@ void writeBytes(std::wostream& stream, std::string_view bytes)
 
 } // namespace
 
-// Each of these steps ends with the code that writing ends with.
+// Each of these steps ends with the code that the writing then ends with.
 
 Ending ZelDataCoreXmp::checkHeader() const
 {
@@ -109,22 +109,24 @@ Ending ZelDataCoreXmp::copyCaptionLanguages() const
     std::vector<std::string> ids;
     const auto listed = captions()->getOrderedLanguageIDs(ids);
     if (listed == ZelData_OutOfMemory) return captions()->getLastError();
-    // Meant to go on: captions that cannot name their languages are written under "en-US".
+    // Deliberate: continues; otherwise captions that cannot list their languages would fail the
+    // packet instead of being written under "en-US".
     if (failed(listed)) return {};
     for (const std::string& id : ids) {
         // cppcheck-suppress useStlAlgorithm ; each call changes the object, in this order
-        if (isError(header()->addLanguage(id))) return header()->getLastError();
+        if (isError(mutableHeader().addLanguage(id))) return header()->getLastError();
     }
     return {};
 }
 
 Ending ZelDataCoreXmp::replaceHeaderLanguages() const
 {
-    if (failed(header()->clearLanguages())) return header()->getLastError();
+    if (failed(mutableHeader().clearLanguages())) return header()->getLastError();
     if (const Ending ending = copyCaptionLanguages()) return ending;
     unsigned long count = 0;
     if (failed(header()->getLanguageCount(count))) return header()->getLastError();
-    if (count == 0 && isError(header()->addLanguage("en-US"))) return header()->getLastError();
+    if (count == 0 && isError(mutableHeader().addLanguage("en-US")))
+        return header()->getLastError();
     return {};
 }
 
@@ -182,9 +184,9 @@ ZelDataResult_tags ZelDataCoreXmp::writeFile(const std::string& path, ZelDataFor
         const auto stream = createWofstreamWithFile(path);
         if (!stream->is_open()) return ZelData_FileOpenFailed;
         writeBytes(*stream, xmlDeclaration);
-        // Meant to end at the first zero byte: no XML goes on behind it.
+        // Deliberate: ends at the first zero byte; otherwise the file would contain zero bytes.
         writeBytes(*stream, {text.data(), std::strlen(text.c_str())});
-        stream->close(); // what fails from the opening on is not reported
+        stream->close(); // failures after the opening are not reported
         return ZelData_Ok;
     }));
 }

@@ -18,8 +18,7 @@ ZelDataResult_tags ZelDataHeader::isValid() const
 
 ZelDataResult_tags ZelDataHeader::clearHeader()
 {
-    // Search-bar flag and content names are meant to stay: callers clear a header and fill it again
-    // without setting these two.
+    // Deliberate: search-bar flag and content names stay; otherwise clearing would reset them, too.
     iPodExplicit_ = false;
     for (std::string* text : {&appName_, &appVersion_, &title_, &creator_, &description_}) {
         text->clear();
@@ -171,8 +170,8 @@ ZelDataResult_tags ZelDataHeader::addContentName(const std::string& name)
     return store(guarded([&] {
         const auto form = ZelDataUtilities::verifyUtf8Format(name, false);
         if (failed(form)) return form;
-        // Meant to be another code than for a language that is listed already: callers tell the two
-        // apart, and with that code they would take the name for a language.
+        // Deliberate: not ZelData_WarnAlreadyExists; otherwise the code would be that of a language
+        // that is listed already.
         if (contentNames_.contains(name)) return ZelData_WarnNoChange;
         contentNames_.append(name);
         return ZelData_Ok;

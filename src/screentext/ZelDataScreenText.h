@@ -37,12 +37,12 @@ public:
     ZelDataResult_tags
     getScreenTextItems(std::vector<i_ZelDataScreenTextItem*>& items) const override;
 
-    /// As copyFrom(), with the same codes and last errors, but sharing the items: those of an own
-    /// collection were checked on their way in.
+    /// As copyFrom(), with the same codes and last errors, but shares the items: those of our own
+    /// collections were checked when they were added.
     ZelDataResult_tags copyOwn(const ZelDataScreenText& other);
     const Items& items() const noexcept { return items_; }
     FrameRate frameRate() const noexcept { return frameRate_; }
-    /// What is known of all items.
+    /// What is known about all items.
     const ScreenTextSummary& summary() const { return items_.summary(); }
 
     /// Orders the items by start, as makeScreenTextConsistent() does.

@@ -17,8 +17,8 @@ ZelDataScreenTextItem& ZelDataScreenTextItem::operator=(const ZelDataScreenTextI
     return *this;
 }
 
-/// An item is always valid: its text was checked when it was set. The flag is meant to change nothing:
-/// checking more would refuse items that are written today.
+/// An item is always valid: its text was checked when it was set. Deliberate: the flag changes
+/// nothing; otherwise a deep check could refuse an item.
 ZelDataResult_tags ZelDataScreenTextItem::isValid(bool /*deep*/) const
 {
     return store(ZelData_Ok);

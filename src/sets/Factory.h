@@ -13,15 +13,16 @@
 
 namespace ZelInterchangeData {
 
-/// Whether @p out can take an object: it points to a null pointer.
+/// Whether @p out can accept an object: it points to a null pointer.
 template <class Interface>
 bool isEmptyOutPointer(Interface* const* out) noexcept
 {
     return out != nullptr && *out == nullptr;
 }
 
-/// What @p create, a factory that the caller of the library may have written, stores in its out-pointer,
-/// and its code. The object is owned even when the factory stores it and then does not return.
+/// Returns what @p create, a factory that the caller of the library may have written, stores in its
+/// out-pointer, and its code. The object is owned even when the factory stores it and then does not
+/// return.
 template <class Interface, class Create>
 std::pair<std::unique_ptr<Interface>, ZelDataResult_tags> receive(Create&& create)
 {
@@ -34,7 +35,7 @@ std::pair<std::unique_ptr<Interface>, ZelDataResult_tags> receive(Create&& creat
 }
 
 /// Stores a new @p Object, which the caller owns, in `*out`. #ZelData_InvalidArgument when @p out
-/// cannot take one, #ZelData_OutOfMemory when none was obtained.
+/// cannot accept one, #ZelData_OutOfMemory when none was obtained.
 template <class Object, class Interface>
 ZelDataResult_tags createObject(Interface** out)
 {

@@ -12,12 +12,12 @@
 namespace ZelInterchangeData {
 
 /// Copies fields one after another between two implementations of @p Interface, through their
-/// virtual operations, until one fails. A getter's failure ends with the source's last error; what
-/// a setter's failure ends with, the caller says.
+/// virtual operations, until one fails. When a getter fails, ends with the source's last error;
+/// when a setter fails, with the code that the caller chooses.
 template <class Interface, class OnSetFailure>
 class FieldCopy {
 public:
-    /// @param onSetFailure gives the code to end with, from the code of a setter that failed.
+    /// @param onSetFailure returns the code to end with, given the code of the setter that failed.
     FieldCopy(const Interface& source, Interface& target, OnSetFailure onSetFailure)
         : source_(source), target_(target), onSetFailure_(std::move(onSetFailure))
     {

@@ -10,7 +10,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// @p number, or the largest one that the type holds.
+/// @p number, or the largest number that the type holds.
 long long saturated(unsigned long number) noexcept
 {
     constexpr auto largest = std::numeric_limits<long long>::max();
@@ -57,7 +57,7 @@ void FindingList::checkText(const std::string& text, const std::string& language
     if (!failed(LanguageTexts::check(text, language))) return;
     if (failed(ZelDataUtilities::verifyUtf8Format(text, false)))
         add(ZelDataFinding_BadText, language);
-    // An empty text is always valid, so this is about the language alone.
+    // An empty text is always valid, so this checks the language alone.
     if (failed(LanguageTexts::check(std::string(), language)))
         add(ZelDataFinding_BadLanguage, language);
 }

@@ -1,5 +1,5 @@
 /// @file
-/// The findings of one collection while they are looked for.
+/// The findings of one collection, as they are collected.
 
 #ifndef ZELINTERCHANGEDATA_SETS_FINDINGLIST_H
 #define ZELINTERCHANGEDATA_SETS_FINDINGLIST_H
@@ -13,19 +13,19 @@
 
 namespace ZelInterchangeData {
 
-/// Collects findings. Those added after at() are about that item, those before about the collection.
+/// Collects findings. Those added after setItem() are about that item, those before about the collection.
 class FindingList {
 public:
     explicit FindingList(ZelDataFindingSubject_tags subject) noexcept : subject_(subject) {}
 
     /// The findings that follow are about the item at @p item, which starts at @p start.
-    void at(std::size_t item, long long start) noexcept
+    void setItem(std::size_t item, long long start) noexcept
     {
         item_ = item;
         start_ = start;
     }
 
-    /// Adds a finding of @p kind and gives it for the fields that are particular to it.
+    /// Adds a finding of @p kind and returns it, to fill the fields that this kind uses.
     ZelDataFinding& add(ZelDataFinding_tags kind);
     /// Adds a finding of @p kind about the text in @p language.
     ZelDataFinding& add(ZelDataFinding_tags kind, const std::string& language);
@@ -34,12 +34,13 @@ public:
                        unsigned long maximum);
 
     void checkFrameRate(FrameRate rate);
-    /// Looks at @p text and at the language that it is stored under.
+    /// Checks @p text and the language that it is stored under.
     void checkText(const std::string& text, const std::string& language);
     /// Adds a finding for each of @p listed that is not among @p ids.
     void addMissingTexts(std::vector<std::string> ids, const std::vector<std::string>& listed);
-    /// The first item after the present one that starts before @p bound is the one at @p later, and
-    /// starts at @p laterStart: out of order when that is before the present item, else an overlap.
+    /// Adds that the item at @p later is the first one after the present one to start before
+    /// @p bound. It starts at @p laterStart: out of order when that is before the present item,
+    /// otherwise an overlap.
     void addLater(long long bound, std::size_t later, long long laterStart);
 
     /// Replaces @p findings with those collected.

@@ -21,7 +21,7 @@ struct FrameRate {
 
     constexpr bool isInRange() const noexcept { return isInRange(value); }
 
-    /// Keeps @p rate; false, and nothing changes, when it is out of range.
+    /// Stores @p rate; when it is out of range, returns false and changes nothing.
     constexpr bool set(unsigned long rate) noexcept
     {
         if (!isInRange(rate)) return false;
@@ -29,7 +29,7 @@ struct FrameRate {
         return true;
     }
 
-    /// Puts a rate that is out of range to the standard one.
+    /// Sets a rate that is out of range to the standard one.
     constexpr void repair() noexcept
     {
         if (!isInRange()) value = standard;

@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// A copy of an item, or, where there is none, the code that making it ended with.
+/// A copy of an item; when it is null, the code that making it ended with.
 template <class Item>
 struct ItemCopy {
     std::unique_ptr<Item> item;
@@ -31,8 +31,8 @@ ItemCopy<Item> copyItem(const Item& source, Create&& create)
     return {std::move(copy), ZelData_Ok};
 }
 
-/// The items that a collection hands out through its vector; deletes them in the end, also those
-/// that a collection handed out before it failed.
+/// The items that a collection hands out through its vector. Deletes them at the end, including
+/// those that a collection handed out before it failed.
 template <class Item>
 class ReceivedItems {
 public:

@@ -1,5 +1,5 @@
 /// @file
-/// The steps of looking for problems that the collections share.
+/// The steps of finding problems that the collections share.
 
 #ifndef ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
 #define ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
@@ -19,8 +19,8 @@ namespace ZelInterchangeData {
 
 class i_ZelDataLanguage;
 
-/// Replaces @p findings with what @p find, a callable for a FindingList, adds. When it ends instead,
-/// that is the code, and @p findings stays as it was.
+/// Replaces @p findings with what @p find, a callable for a FindingList, adds. When @p find ends
+/// early, returns the code it ends with, and @p findings stays as it was.
 template <class Find>
 ZelDataResult_tags collectFindings(ZelDataFindingSubject_tags subject,
                                    std::vector<ZelDataFinding>& findings, Find&& find)
@@ -33,18 +33,20 @@ ZelDataResult_tags collectFindings(ZelDataFindingSubject_tags subject,
     });
 }
 
-/// Ends with @p code when it is a failure. It is meant to be the code that was returned and no last
-/// error: an object that fails and keeps a last error of zero would pass for one without problems.
+/// Ends with @p code when it is a failure. Deliberate: the returned code, not the last error;
+/// otherwise an object that fails with a last error of ZelData_Ok would pass as one without
+/// problems.
 inline Ending endingOf(ZelDataResult_tags code) noexcept
 {
     return failed(code) ? Ending(code) : Ending();
 }
 
-/// Replaces @p ids with the languages that @p languages lists, each once: a list may hold one twice.
+/// Replaces @p ids with the languages that @p languages lists, each once: the list may hold
+/// duplicates.
 Ending readLanguages(const i_ZelDataLanguage& languages, std::vector<std::string>& ids);
 
-/// Fills @p items through @p getAll, the getter of all items of @p collection, and @p starts with the
-/// start of each.
+/// Fills @p items through @p getAll, the getter of all items of @p collection, and @p starts with
+/// the start of each.
 template <class Collection, class Item>
 Ending receiveItems(const Collection& collection,
                     ZelDataResult_tags (Collection::*getAll)(std::vector<Item*>&) const,
@@ -61,23 +63,23 @@ Ending receiveItems(const Collection& collection,
     return {};
 }
 
-/// Looks at each item with @p look, a callable that may end, and adds where a later one starts before
-/// the item's bound.
+/// Checks each item with @p look, a callable that may end the search, and adds a finding where a
+/// later one starts before the item's bound.
 template <class Item, class Look>
 Ending findItemProblems(const ReceivedItems<Item>& items, const std::vector<long long>& bounds,
                         const std::vector<long long>& starts, FindingList& found, Look&& look)
 {
     const auto later = firstLaterStartsBelow(bounds, starts);
     for (std::size_t i = 0; i < starts.size(); ++i) {
-        found.at(i, starts[i]);
+        found.setItem(i, starts[i]);
         if (const Ending ending = look(std::as_const(*items.items()[i]))) return ending;
         if (later[i] < starts.size()) found.addLater(bounds[i], later[i], starts[later[i]]);
     }
     return {};
 }
 
-/// Looks at the texts of @p item, and calls @p look, a callable for text and language, for each of
-/// them. Then adds what is missing of @p listed.
+/// Checks the texts of @p item, and calls @p look, a callable for text and language, for each of
+/// them. Then adds the texts that are missing in the languages of @p listed.
 template <class Item, class Look>
 Ending findTextProblems(const Item& item, const std::vector<std::string>& listed,
                         FindingList& found, Look&& look)

@@ -24,17 +24,18 @@ namespace ZelInterchangeData {
 
 /// The items of a collection in their stored order.
 ///
-/// An item of our own is kept as its bare state, and a copy of the list shares all states with it
-/// until one of the two changes. A collection that makes other items, as a derived one may, has
-/// them kept as they are, and copies of its list share them.
+/// An item of our own is stored as its bare state, and a copy of the list shares all states with it
+/// until one of the two changes. Where a collection makes other items, as a derived one may, they
+/// are stored as they are, and copies of its list share them.
 ///
-/// Such an item is a caller's, and may change its collection in any of its operations. So each
-/// operation here that calls one keeps the items that it works on: a change makes others.
+/// Such an item is a caller's, and any of its operations may change its collection. So each
+/// operation here that calls one keeps its own reference to the items that it works on: a change
+/// makes new ones.
 ///
 /// @tparam Item the interface of the items.
 /// @tparam Own our implementation of it. It has a `State` with a `start()`, is made from one, and
-///         gives it with `state()`. What is worth knowing of all states together is the state's
-///         `Summary`, to which each is added in stored order.
+///         returns it from `state()`. The state's `Summary` summarises all states; each is added to
+///         it in stored order.
 template <class Item, class Own>
 class ItemList {
 public:
@@ -44,7 +45,7 @@ public:
     ItemList() = default;
     ItemList(const ItemList&) = default;
     ~ItemList() = default;
-    /// The items and what is known of them come together: when memory runs out, neither does.
+    /// Items and summary are replaced together: when memory runs out, neither is.
     ItemList& operator=(ItemList other) noexcept
     {
         slots_ = std::move(other.slots_);
@@ -63,7 +64,7 @@ public:
     /// The state of the item at @p index, which is one of our own.
     const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
 
-    /// What is known of all items, which are our own.
+    /// The summary of all items, which are our own.
     const Summary& summary() const
     {
         if (!summary_) {
@@ -77,7 +78,7 @@ public:
 
     void append(std::unique_ptr<Item> item)
     {
-        auto known = std::exchange(summary_, std::nullopt); // comes back when the item is in
+        auto known = std::exchange(summary_, std::nullopt); // restored when the item is in
         Slot slot;
         if (const auto* own = exactly<Own>(std::as_const(*item))) {
             slot.state = own->state();
@@ -89,8 +90,9 @@ public:
         summary_ = std::move(known);
     }
 
-    /// Calls @p changeState with the state of each item that is one of our own, and @p changeItem with
-    /// each other item, until a call ends. #ZelData_InternalError when an item changed this list.
+    /// Calls @p changeState with the state of each item that is one of our own, and @p changeItem
+    /// with each other item, until a call ends. #ZelData_InternalError when an item changed this
+    /// list.
     template <class ChangeState, class ChangeItem>
     Ending changeAll(ChangeState&& changeState, ChangeItem&& changeItem)
     {
@@ -107,8 +109,8 @@ public:
         });
     }
 
-    /// Calls @p check, which may end, with each item and the earliest start of those after it, until
-    /// it ends.
+    /// Calls @p check, which may end the loop, with each item and the earliest start of those after
+    /// it.
     template <class Check>
     Ending checkAll(Check&& check) const
     {
@@ -123,7 +125,7 @@ public:
     }
 
     /// Calls @p visit with the state of each item, which is one of our own, in the order that
-    /// order() would give them.
+    /// order() would put them in.
     template <class Visit>
     void visitOrdered(Visit&& visit) const
     {
@@ -134,7 +136,7 @@ public:
                 visit(slot.state);
             return;
         }
-        // The items lie anywhere in memory: what a later visit needs is called for in time.
+        // The items are scattered in memory: prefetches what a later visit needs.
         constexpr std::size_t ahead = 8;
         const Slot* const first = &slots[0];
         for (std::size_t i = 0; i < places.size(); ++i) {
@@ -145,8 +147,8 @@ public:
         }
     }
 
-    /// Orders the items by start, as exchangeOrder() says. #ZelData_InternalError when an item changed
-    /// this list.
+    /// Orders the items by start, as exchangeOrder() does. #ZelData_InternalError when an item
+    /// changed this list.
     Ending order()
     {
         return rework([](Slots& slots) -> Ending {
@@ -165,7 +167,7 @@ public:
     }
 
     /// Hands out a copy of the item at @p index, made by @p create, a factory, and owned by the
-    /// caller. #ZelData_InvalidArgument when @p out cannot take one or there is no such item.
+    /// caller. #ZelData_InvalidArgument when @p out cannot accept one or there is no such item.
     template <class Create>
     ZelDataResult_tags copyOut(Item** out, unsigned long index, Create&& create) const
     {
@@ -204,7 +206,8 @@ private:
         {
             if (!foreign) return state.start();
             long long start = 0;
-            // Meant to be dropped: an item that cannot tell its start is ordered as one at 0.
+            // Deliberate: ignores a failure; otherwise an item that cannot return its start would
+            // stop the operation instead of counting as one that starts at 0.
             static_cast<void>(foreign->getStart(start));
             return start;
         }
@@ -214,8 +217,8 @@ private:
     };
     using Slots = FrontVector<Slot>;
 
-    /// Replaces the slots by what @p change, which may end, makes of a copy. Until then the items of
-    /// our own are as they were, so when memory runs out nothing has happened to them.
+    /// Replaces the slots with what @p change, which may end, makes of a copy. Until then our own
+    /// items are as they were, so when memory runs out nothing has happened to them.
     template <class Change>
     Ending rework(Change&& change)
     {
@@ -250,7 +253,7 @@ private:
         slots = std::move(ordered);
     }
 
-    /// What @p use, a callable for an item, gives for the one in @p slot.
+    /// Returns what @p use, a callable for an item, returns for the one in @p slot.
     template <class Use>
     static auto use(const Slot& slot, Use&& use)
     {
@@ -269,7 +272,7 @@ private:
     }
 
     CopyOnWrite<Slots> slots_;
-    mutable std::optional<Summary> summary_ = Summary(); // none while it is not known
+    mutable std::optional<Summary> summary_ = Summary(); // empty while unknown
 };
 
 } // namespace ZelInterchangeData

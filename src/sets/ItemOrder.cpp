@@ -16,8 +16,8 @@ using Places = std::vector<std::size_t>;
 /// Counts at places, with sums of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    /// Room for @p size places with nothing counted, and for more up to the next power of two, so that
-    /// take() stays inside.
+    /// Makes room for @p size places with nothing counted, and up to the next power of two, so that
+    /// take() stays within bounds.
     void clear(std::size_t size)
     {
         highestStep_ = 1;
@@ -26,7 +26,7 @@ public:
         sums_.assign(highestStep_ * 2, 0);
     }
 
-    /// The same with one at each place.
+    /// The same with a count of one at each place.
     void fill(std::size_t size)
     {
         clear(size);
@@ -51,13 +51,13 @@ public:
         return sum;
     }
 
-    /// Takes one off the place whose count makes the sum exceed @p count, and gives the place.
+    /// Takes one off the place whose count makes the sum exceed @p count, and returns the place.
     std::size_t take(std::size_t count)
     {
         std::size_t place = 0;
         for (std::size_t step = highestStep_; step > 0; step /= 2) {
             std::size_t& sum = sums_[place + step];
-            const bool isBelow = sum <= count; // no branch on it: it cannot be foreseen
+            const bool isBelow = sum <= count; // no branch on it: it would be unpredictable
             count -= isBelow ? sum : 0;
             sum -= isBelow ? 0 : 1;
             place += isBelow ? step : 0;
@@ -72,13 +72,14 @@ private:
     std::size_t highestStep_ = 1;
 };
 
-/// An item's start above the least one, and below it the item's place: half of the bits each.
+/// An item's start, counted from the smallest one, and below it the item's place: half of the bits
+/// each.
 using Packed = std::uint64_t;
 
 constexpr unsigned placeBits = 32;
 constexpr Packed greatestHalf = 0xFFFFFFFF;
 
-/// Orders @p items by the byte at @p shift alone, those of equal bytes as they stand.
+/// Orders @p items by the byte at @p shift alone; those with equal bytes keep their order.
 void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsigned shift)
 {
     std::array<std::size_t, 256> next{}; // where the next item with a byte goes
@@ -95,8 +96,8 @@ void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsig
     items.swap(scratch);
 }
 
-/// The order of a stable sort for starts that are at most @p range above @p least. It goes byte by byte
-/// (a radix sort): starts differ in a few bytes, and no comparison has to be foreseen.
+/// The order of a stable sort for starts that are at most @p range above @p least. It sorts byte by
+/// byte (a radix sort): starts differ in a few bytes, and no comparison has to be predicted.
 Places packedOrder(const std::vector<long long>& starts, long long least, Packed range)
 {
     std::vector<Packed> items(starts.size());
@@ -129,7 +130,7 @@ Places stableOrder(const std::vector<long long>& starts)
     return order;
 }
 
-/// For each item how many earlier ones have a smaller start. @p order is the stable one.
+/// For each item, how many earlier ones have a smaller start. @p order is the stable order.
 Places smallerBefore(const std::vector<long long>& starts, const Places& order)
 {
     Places rank(order.size()); // the number of the item's group of equal starts
@@ -150,23 +151,23 @@ Places smallerBefore(const std::vector<long long>& starts, const Places& order)
 
 /// Puts groups of equal starts in the order of the exchange sort, one after the other.
 ///
-/// Each smaller start that the sort meets after some members takes the place of the first of them, which
-/// goes behind the others: it rotates the group by one. A new member joins at the end. So the group is a
-/// ring with a head, rotation moves the head, and a member joins before it.
+/// Each smaller start that the sort meets after some members takes the place of the first of them,
+/// which moves to the end: it rotates the group by one. A new member joins at the end. So the group
+/// is a ring with a head, rotation moves the head, and a member joins before it.
 class GroupArranger {
 public:
-    /// @param counts for each item how many smaller starts come before it.
+    /// @param counts for each item, how many smaller starts come before it.
     explicit GroupArranger(const Places& counts) : counts_(counts) {}
 
-    /// Arranges one group, the members from @p first to @p last in stored order; @p total starts of all
-    /// are smaller.
+    /// Arranges one group, the members from @p first to @p last in stored order; @p total starts of
+    /// all items are smaller.
     void arrange(Places::iterator first, Places::iterator last, std::size_t total)
     {
         members_.assign(first, last);
         joinRing();
         const std::size_t size = members_.size();
         const std::size_t head = (head_ + total - counts_[members_.back()]) % size;
-        // The member that joined last stands where it joined, the others make room for it.
+        // The member that joined last is where it joined; the others make room for it.
         free_.fill(size);
         for (std::size_t i = size; i-- > 0;) {
             const std::size_t place = free_.take(joined_[i]);
@@ -209,8 +210,8 @@ std::vector<std::size_t> firstLaterStartsBelow(const std::vector<long long>& bou
                                                const std::vector<long long>& starts)
 {
     Places found(starts.size(), starts.size());
-    // The later items that start before all that stand between: the furthest first, so with ascending
-    // starts. Any other one has such an item before it that starts no later.
+    // The later items that start before all items between here and there, the furthest first, so
+    // with ascending starts. Any other later item has one of these before it that starts no later.
     Places candidates;
     for (std::size_t i = starts.size(); i-- > 0;) {
         const auto notBelow =

@@ -23,8 +23,8 @@ Ending findMissingText(const Item& item, const std::vector<std::string>& languag
     return {};
 }
 
-/// Gives @p item an empty text for each of @p languageIDs that it has none for. Ends with the
-/// item's last error when that fails, and when memory ran out, which does not mean that a text is
+/// Gives @p item an empty text for each of @p languageIDs in which it has none. Ends with the
+/// item's last error when that fails, and when memory runs out, which does not mean that a text is
 /// missing.
 template <class Item>
 Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
@@ -39,8 +39,9 @@ Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
     return {};
 }
 
-/// Orders @p items by start and gives each an empty text for each of @p languageIDs that it has none
-/// for. An item of our own takes them unchecked: a collection lists no language that it would refuse.
+/// Orders @p items by start and gives each an empty text for each of @p languageIDs in which it has
+/// none. For our own items the texts are not checked: a collection lists no language that they
+/// would refuse.
 template <class Item, class Own>
 Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
                                 const std::vector<std::string>& languageIDs)
@@ -54,7 +55,7 @@ Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
 }
 
 /// Removes the text for @p languageID from each item. Deliberate: it stops at the first item without
-/// such a text, with the item's last error; otherwise the code would not tell that the language was
+/// such a text, with the item's last error; otherwise the code would not say that the language was
 /// incomplete.
 template <class Item, class Own>
 ZelDataResult_tags removeTexts(ItemList<Item, Own>& items, const std::string& languageID)

@@ -19,9 +19,9 @@ namespace ZelInterchangeData {
 
 /// Implements the operations of i_ZelDataLanguage for @p Interface, which derives from it.
 ///
-/// @tparam AbsentCode what removing an absent language gives. It is meant to differ: a header
-///         warns, captions and a table of contents report an error. With one code for all, callers
-///         that look for errors alone would stop at a header or go on at captions.
+/// @tparam AbsentCode what removing an absent language returns. Deliberate: a header warns,
+///         captions and a table of contents report an error; otherwise isError() would be true for
+///         a header, or false for the other two.
 template <class Interface, ZelDataResult_tags AbsentCode>
 class LanguageListOwner : public Interface {
 public:
@@ -79,8 +79,8 @@ protected:
     const LanguageList& languages() const noexcept { return languages_; }
     LanguageList& languages() noexcept { return languages_; }
 
-    /// Lists the languages of @p item and then calls @p append, which appends it. When memory runs out,
-    /// no language was listed.
+    /// Lists the languages of @p item and then calls @p append, which appends it. When memory runs
+    /// out, no language is listed.
     template <class Item, class Append>
     ZelDataResult_tags addWithLanguages(const Item& item, Append&& append)
     {
@@ -95,8 +95,8 @@ protected:
     }
 
 private:
-    /// Lists the languages of @p item, ascending. An error ends it; that a language is listed
-    /// already is no error.
+    /// Lists the languages of @p item in ascending order. Ends with an error; a language that is
+    /// already listed is not an error.
     template <class Item>
     Ending addLanguagesOf(const Item& item)
     {

@@ -18,11 +18,11 @@
 
 namespace ZelInterchangeData {
 
-/// The texts of an item by language ID, in ascending byte order. Copies share them until one of them
-/// changes. Exhausted memory passes through as `std::bad_alloc` and changes nothing.
+/// The texts of an item by language ID, in ascending byte order. Copies share them until one of
+/// them changes. Exhausted memory passes through as `std::bad_alloc` and changes nothing.
 ///
-/// They are packed as long as a change then copies few bytes, as it does for nearly every item, and
-/// in a map beyond that, so that no number and no length of texts makes a change slow.
+/// They are packed while a change copies few bytes, as it does for nearly every item, and kept in a
+/// map beyond that, so that no number and no length of texts makes a change slow.
 class LanguageTexts {
 public:
     /// #ZelData_Ok when both are UTF-8 and the catalogue knows the language, else
@@ -35,7 +35,7 @@ public:
     {
         return many_ ? many_->read().find(languageID) : few_.find(languageID);
     }
-    /// The bytes of all language IDs and texts.
+    /// The number of bytes in all language IDs and texts.
     std::size_t characters() const noexcept;
     /// Calls @p visit with each language ID and its text.
     template <class Visit>
@@ -52,7 +52,7 @@ public:
         }
     }
 
-    /// Prefetches the texts, as far as they are packed and of usual length.
+    /// Prefetches the texts if they are packed and of usual length.
     void prefetch() const noexcept { few_.prefetch(); }
 
     void clear() noexcept;
@@ -72,7 +72,7 @@ public:
 private:
     struct Map {
         std::optional<std::string_view> find(std::string_view languageID) const;
-        /// Whether it replaced a text.
+        /// Returns whether it replaced a text.
         bool set(std::string_view text, std::string_view languageID);
 
         std::map<std::string, std::string, std::less<>> texts;
@@ -80,7 +80,7 @@ private:
     };
 
     Map unpacked() const;
-    /// Stores a copy of @p text. Whether it replaced one.
+    /// Stores a copy of @p text. Returns whether it replaced one.
     bool replace(std::string_view text, std::string_view languageID);
 
     PackedTexts few_;                      // empty while there are many

@@ -27,28 +27,32 @@ struct Span {
 /// The shared bytes: the number of entries, a Span for each, and the characters.
 struct Layout {
     explicit Layout(const SharedBytes& bytes) noexcept
-        : count(reinterpret_cast<std::size_t*>(bytes.data()))
+        : count(reinterpret_cast<const std::size_t*>(bytes.data()))
     {
     }
 
-    Span* spans() const noexcept { return reinterpret_cast<Span*>(count + 1); }
-    char* characters() const noexcept { return reinterpret_cast<char*>(spans() + *count); }
+    const Span* spans() const noexcept { return reinterpret_cast<const Span*>(count + 1); }
+    const char* characters() const noexcept
+    {
+        return reinterpret_cast<const char*>(spans() + *count);
+    }
     std::size_t beginOf(std::size_t index) const noexcept
     {
         return index == 0 ? 0 : spans()[index - 1].end;
     }
 
-    std::size_t* count;
+    const std::size_t* count;
 };
 
-/// New bytes for entries whose number and characters are known, filled from the first to the last.
+/// New bytes for entries whose number and characters are known, filled from first to last.
 class Filling {
 public:
     explicit Filling(Size size)
         : bytes_(sizeof(std::size_t) + size.entries * sizeof(Span) + size.characters),
-          layout_(bytes_)
+          spans_(reinterpret_cast<Span*>(bytes_.mutableData() + sizeof(std::size_t))),
+          characters_(reinterpret_cast<char*>(spans_ + size.entries))
     {
-        new (layout_.count) std::size_t(size.entries);
+        new (bytes_.mutableData()) std::size_t(size.entries);
     }
 
     void append(const PackedTexts::Entry& entry)
@@ -56,10 +60,11 @@ public:
         copy(entry.languageID);
         const std::size_t textBegin = used_;
         copy(entry.text);
-        new (layout_.spans() + filled_++) Span{textBegin, used_};
+        new (spans_ + filled_++) Span{textBegin, used_};
     }
 
-    /// Appends the entries of @p other from @p first up to @p last, their characters in one piece.
+    /// Appends the entries of @p other from @p first up to, not including, @p last; copies their
+    /// characters in one piece.
     void append(const Layout& other, std::size_t first, std::size_t last)
     {
         if (first == last) return;
@@ -68,26 +73,24 @@ public:
         copy({other.characters() + from, other.beginOf(last) - from});
         for (std::size_t i = first; i < last; ++i) {
             const auto [textBegin, end] = other.spans()[i];
-            new (layout_.spans() + filled_++) Span{textBegin - from + to, end - from + to};
+            new (spans_ + filled_++) Span{textBegin - from + to, end - from + to};
         }
     }
 
     SharedBytes take() { return std::move(bytes_); }
 
 private:
-    void copy(std::string_view text)
-    {
-        used_ += text.copy(layout_.characters() + used_, text.size());
-    }
+    void copy(std::string_view text) { used_ += text.copy(characters_ + used_, text.size()); }
 
     SharedBytes bytes_;
-    Layout layout_;
+    Span* spans_;
+    char* characters_;
     std::size_t filled_ = 0;
     std::size_t used_ = 0;
 };
 
-/// A change of texts: those from @p first up to @p last go, and @p added, if there is one, comes
-/// there.
+/// A change of texts: removes those from @p first up to, not including, @p last, and puts @p added,
+/// if there is one, in their place.
 struct Edit {
     std::size_t first;
     std::size_t last;
@@ -108,7 +111,7 @@ Size sizeAfter(const PackedTexts& texts, const Edit& edit)
     return size;
 }
 
-/// What @p texts, stored in @p bytes, are after @p edit.
+/// Returns what @p texts, stored in @p bytes, are after @p edit.
 SharedBytes edited(const PackedTexts& texts, const SharedBytes& bytes, const Edit& edit)
 {
     const Size size = sizeAfter(texts, edit);
@@ -147,7 +150,7 @@ PackedTexts::Entry PackedTexts::operator[](std::size_t index) const noexcept
     return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
 }
 
-/// The place of the text for @p languageID, or the one that a new text gets.
+/// The index of the text for @p languageID, or the one that a new text would get.
 std::size_t PackedTexts::placeOf(std::string_view languageID) const noexcept
 {
     std::size_t first = 0;

@@ -1,5 +1,5 @@
 /// @file
-/// A few texts in one piece of memory.
+/// A few texts in one block of memory.
 
 #ifndef ZELINTERCHANGEDATA_SETS_PACKEDTEXTS_H
 #define ZELINTERCHANGEDATA_SETS_PACKEDTEXTS_H
@@ -15,8 +15,8 @@ namespace ZelInterchangeData {
 /// Texts by language ID, in ascending byte order. Exhausted memory passes through as
 /// `std::bad_alloc` and changes nothing.
 ///
-/// All of them lie in one piece of memory that copies share; a change makes a new one. A copy costs
-/// a count and reading takes one step to the bytes, but each change copies all texts.
+/// All of them are in one block of memory that copies share; a change makes a new one. A copy only
+/// counts a reference, and reading reaches the bytes in one step, but each change copies all texts.
 class PackedTexts {
 public:
     /// A language ID and its text.
@@ -30,18 +30,19 @@ public:
     Entry operator[](std::size_t index) const noexcept;
     /// The text for @p languageID; none when there is no such text.
     std::optional<std::string_view> find(std::string_view languageID) const noexcept;
-    /// The bytes of all IDs and texts.
+    /// The number of bytes in all IDs and texts.
     std::size_t characters() const noexcept;
-    /// The bytes that a change copies when it adds a text of @p added bytes, its ID included.
+    /// The number of bytes that a change copies when it adds a text of @p added bytes, its ID
+    /// included.
     std::size_t bytesWith(std::size_t added) const noexcept;
 
-    /// Prefetches the texts, as far as they are of usual length.
+    /// Prefetches the texts if they are of usual length.
     void prefetch() const noexcept { bytes_.prefetch(224); }
 
     void clear() noexcept { bytes_ = SharedBytes(); }
-    /// Stores a copy of @p text. Whether it replaced a text.
+    /// Stores a copy of @p text. Returns whether it replaced a text.
     bool set(std::string_view text, std::string_view languageID);
-    /// False when there is none.
+    /// Returns false when there is none.
     bool remove(std::string_view languageID);
 
 private:

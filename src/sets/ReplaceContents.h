@@ -1,5 +1,5 @@
 /// @file
-/// Taking a data set over.
+/// Replacing the contents of a data set.
 
 #ifndef ZELINTERCHANGEDATA_SETS_REPLACECONTENTS_H
 #define ZELINTERCHANGEDATA_SETS_REPLACECONTENTS_H
@@ -8,8 +8,8 @@
 
 namespace ZelInterchangeData {
 
-/// Empties @p target through @p clear and copies @p source into it. False when either fails; the
-/// target's last error then tells why.
+/// Empties @p target through @p clear and copies @p source into it. Returns false when either
+/// fails; the target's last error then says why.
 template <class Data>
 [[nodiscard]] bool replaceContents(Data& target, ZelDataResult_tags (Data::*clear)(),
                                    const Data& source)

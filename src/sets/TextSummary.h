@@ -1,5 +1,5 @@
 /// @file
-/// What a collection knows of the texts of all its items.
+/// What a collection knows about the texts of all its items.
 
 #ifndef ZELINTERCHANGEDATA_SETS_TEXTSUMMARY_H
 #define ZELINTERCHANGEDATA_SETS_TEXTSUMMARY_H
@@ -12,15 +12,15 @@
 
 namespace ZelInterchangeData {
 
-/// Answers for all items what would otherwise be asked of each.
+/// Summarises all items, so that not every item need be asked.
 struct TextSummary {
     /// The languages of the texts in the order of their first occurrence, those of one item
     /// ascending.
     LanguageList languages;
-    /// About how many bytes all texts have in the packet, their language IDs included.
+    /// The approximate number of bytes that all texts, with their language IDs, take in the packet.
     std::size_t size = 0;
 
-    /// Takes in the next item, whose texts @p state has.
+    /// Adds the next item, whose texts @p state has.
     template <class State>
     void add(const State& state)
     {

@@ -18,7 +18,7 @@
 
 namespace ZelInterchangeData {
 
-/// Holds a copy of the @p Data to write, and refuses to read. @p Own is the class of the copy.
+/// Holds a copy of the @p Data to write, and does not read. @p Own is the class of the copy.
 template <class Interface, class Data, class Own>
 class XmpFormatter : public Interface {
 public:
@@ -34,13 +34,13 @@ public:
     }
 
 protected:
-    /// #ZelData_InternalError for a format that is unknown here, else #ZelData_NotImplemented.
+    /// #ZelData_InternalError for a format other than XMP, else #ZelData_NotImplemented.
     static ZelDataResult_tags notImplementedIn(ZelDataFormatType_tags format) noexcept
     {
         return format == ZelDataFormat_Xmp ? ZelData_NotImplemented : ZelData_InternalError;
     }
 
-    /// Replaces the held copy, which the first call makes, with a copy of @p source.
+    /// Replaces the held copy, which the first call creates, with a copy of @p source.
     ZelDataResult_tags hold(const Data& source, ZelDataResult_tags (Data::*clear)())
     {
         return this->store(guarded([&] {
@@ -59,16 +59,18 @@ private:
 };
 
 /// An XMP formatter that writes one track of the packet. @p Formatter is the class derived from it,
-/// which has two more operations, for a formatter that holds a set:
-/// - `std::optional<std::size_t> estimateTrack() const` gives about how many bytes the track has; none
-///   for a set without items, which has no track.
-/// - `void appendTrack(std::string& packet) const` appends the track, after checkTrack() and with items.
+/// which has two more operations, to be called only when a set is held:
+/// - `std::optional<std::size_t> estimateTrack() const` returns the approximate size of the track
+///   in bytes; none for a set without items, which has no track.
+/// - `void appendTrack(std::string& packet) const` appends the track. Call it after checkTrack(),
+///   and only for a set with items.
 ///
-/// The document calls these: got as a string and inserted, a large track would be copied once more.
+/// The document calls these directly: to get a large track as a string and insert it would take one
+/// more copy.
 template <class Interface, class Data, class Own, class Formatter>
 class XmpTrackFormatter : public XmpFormatter<Interface, Data, Own> {
 public:
-    /// Ends with the code that writing ends with when the held set cannot be written.
+    /// When the held set cannot be written, ends with the code that the writing ends with.
     Ending checkTrack() const { return {}; }
 
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
@@ -80,7 +82,7 @@ public:
             const auto& formatter = static_cast<const Formatter&>(*this);
             if (const Ending ending = formatter.checkTrack()) return *ending;
             const auto size = formatter.estimateTrack();
-            if (!size) return ZelData_Ok; // and the text stays as it was
+            if (!size) return ZelData_Ok; // the text stays as it was
             std::string track;
             track.reserve(*size);
             formatter.appendTrack(track);
@@ -89,8 +91,8 @@ public:
         }));
     }
 
-    /// Writes the string first and then refuses. That is meant: a caller who tests what a set lacks
-    /// with this call gets the code of the writing.
+    /// Deliberate: writes the string first and then refuses; otherwise the code of a failing
+    /// writeString() would not be returned.
     ZelDataResult_tags writeFile(const std::string& /*path*/, ZelDataFormatType_tags format,
                                  bool /*flag*/) const override
     {

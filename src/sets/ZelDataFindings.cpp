@@ -19,7 +19,7 @@ std::string number(long long value)
     return std::to_string(value);
 }
 
-/// Where @p needsEscape says so, a byte of @p text stands as "\x0A".
+/// Writes a byte of @p text as "\x0A" wherever @p needsEscape says so.
 template <class NeedsEscape>
 std::string escaped(const std::string& text, NeedsEscape&& needsEscape)
 {
@@ -36,7 +36,7 @@ std::string escaped(const std::string& text, NeedsEscape&& needsEscape)
     return result;
 }
 
-/// The language of @p finding in a form that stays on its line.
+/// The language of @p finding, escaped so that it stays on one line.
 std::string languageOf(const ZelDataFinding& finding)
 {
     const bool isUtf8 = !failed(ZelDataUtilities::verifyUtf8Format(finding.language, false));

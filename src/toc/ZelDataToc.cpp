@@ -11,7 +11,7 @@ ZelDataResult_tags ZelDataUtilities::createTocData(i_ZelDataToc** out)
 
 // Checking and repairing
 
-/// The finding of one entry; no later one starts before @p earliestLater.
+/// Returns the finding of one entry; no later one starts before @p earliestLater.
 Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep,
                              const std::vector<std::string>& listed, long long earliestLater)
 {
@@ -23,10 +23,10 @@ Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep,
     return {};
 }
 
-/// The first finding of the items, in stored order.
+/// Returns the first finding of the entries, in stored order.
 ZelDataResult_tags ZelDataToc::checkItems(bool deep) const
 {
-    const auto listed = languageIDs(); // an item of a caller's may change the list
+    const auto listed = languageIDs(); // a caller's item may change the list
     const Ending ending =
         items_.checkAll([&](const i_ZelDataTocItem& item, long long earliestLater) {
             return checkItem(item, deep, listed, earliestLater);
@@ -48,7 +48,7 @@ ZelDataResult_tags ZelDataToc::orderTocItems()
 ZelDataResult_tags ZelDataToc::makeTocConsistent()
 {
     return store(guarded([&] {
-        const auto listed = languageIDs(); // an item of a caller's may change the list
+        const auto listed = languageIDs(); // a caller's item may change the list
         if (const Ending ending = orderAndFillMissingTexts(items_, listed)) return *ending;
         frameRate_.repair();
         return ZelData_Ok;
@@ -108,7 +108,8 @@ ZelDataResult_tags ZelDataToc::removeTocItemAt(unsigned long index)
     return store(guarded([&] { return items_.removeAt(index); }));
 }
 
-/// Entries and the listed language are meant to stay: what goes is the text alone.
+/// Deliberate: removes only the texts; otherwise entries, or the listed language, would go with
+/// them.
 ZelDataResult_tags ZelDataToc::removeTocItemsForLanguage(const std::string& languageID)
 {
     return store(guarded([&] { return removeTexts(items_, languageID); }));

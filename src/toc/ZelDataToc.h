@@ -38,8 +38,8 @@ public:
     ZelDataResult_tags getTocItemsForLanguage(std::vector<i_ZelDataTocItem*>& items,
                                               const std::string& languageID) const override;
 
-    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
-    /// entries: those of an own table were checked on their way in.
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the
+    /// entries: those of our own tables were checked when they were added.
     ZelDataResult_tags copyOwn(const ZelDataToc& other);
     const Items& items() const noexcept { return items_; }
     const std::string& imageFile() const noexcept { return imageFile_; }

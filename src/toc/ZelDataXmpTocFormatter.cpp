@@ -14,7 +14,8 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// The title that the marker carries. One alone is meant: players read the name as a plain text.
+/// Deliberate: the title in the first language alone; otherwise the marker's name would be a list
+/// of titles.
 std::string_view titleOf(const TocEntryState& entry, const std::vector<std::string>& languageIDs)
 {
     if (languageIDs.empty()) return {};
@@ -52,7 +53,7 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
     for (const std::string& id : languages) {
         std::string title;
         const auto got = item.getTextForLanguage(title, id);
-        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // no sign of a missing text
+        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // it does not mean a missing text
         if (failed(got)) {
             complete = false;
             continue;
@@ -75,7 +76,7 @@ ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
 
 std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
 {
-    // The texts with a little room for entities, and the markup.
+    // The texts with some room for entities, and the markup.
     constexpr std::size_t trackMarkup = 300;
     constexpr std::size_t markerMarkup = 210;
     const ZelDataToc& toc = *held();
@@ -89,8 +90,8 @@ std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
     return size;
 }
 
-/// The table is written as makeTocConsistent() leaves it: in order, with a frame rate in its range. What
-/// else that repairs is not seen: a title that is missing counts as empty.
+/// Writes the table as makeTocConsistent() leaves it: in order, with a frame rate that is in range.
+/// The rest of what that repairs makes no difference: a missing title counts as empty.
 void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataToc& toc = *held();

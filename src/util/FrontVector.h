@@ -1,5 +1,5 @@
 /// @file
-/// A vector whose first element can be taken off.
+/// A vector whose first element can be removed quickly.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_FRONTVECTOR_H
 #define ZELINTERCHANGEDATA_UTIL_FRONTVECTOR_H
@@ -11,8 +11,8 @@
 namespace ZelInterchangeData {
 
 /// As `std::vector`, but erasing the first element takes constant time on average: the others stay
-/// where they are until half of the room is free. An element that goes is destroyed last, so its
-/// destructor finds the vector whole.
+/// where they are until half of the room is free. An element is destroyed only after it was
+/// removed, so its destructor finds the vector intact.
 template <class Value>
 class FrontVector {
 public:
@@ -66,7 +66,7 @@ private:
     }
 
     std::vector<Value> values_;
-    std::size_t front_ = 0; // the elements before it were taken off
+    std::size_t front_ = 0; // the elements before it were removed
 };
 
 } // namespace ZelInterchangeData

@@ -1,5 +1,5 @@
 /// @file
-/// The one place where exceptions become codes.
+/// The one place where exceptions are turned into codes.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_GUARD_H
 #define ZELINTERCHANGEDATA_UTIL_GUARD_H
@@ -9,17 +9,17 @@
 #include <new>
 #include <utility>
 
-// libstdc++ on glibc unwinds a thread that ends as if an exception were thrown.
+// With libstdc++ on glibc, a thread that ends is unwound as if an exception were thrown.
 #ifdef __GLIBCXX__
 #include <cxxabi.h>
 #endif
 
 namespace ZelInterchangeData {
 
-/// The code of @p operation, a callable without arguments. Exhausted memory passes through; any
-/// other exception can only come from a caller's implementation of an interface and gives
-/// #ZelData_InternalError. The end of the thread, cancelled or by `pthread_exit`, is no exception: it
-/// passes through every guard, so a function that may meet it is not `noexcept`.
+/// Returns the code of @p operation, a callable without arguments. Exhausted memory passes through;
+/// any other exception can only come from a caller's implementation of an interface and gives
+/// #ZelData_InternalError. A thread that ends, by cancellation or `pthread_exit`, unwinds through
+/// every guard, so a function in which that can happen is not `noexcept`.
 template <class Operation>
 [[nodiscard]] ZelDataResult_tags guardedButForMemory(Operation&& operation)
 {
@@ -29,7 +29,7 @@ template <class Operation>
         throw;
 #ifdef __GLIBCXX__
     } catch (const abi::__forced_unwind&) {
-        throw; // without it the C library ends the process
+        throw; // otherwise the C library ends the process
 #endif
     } catch (...) {
         return ZelData_InternalError;

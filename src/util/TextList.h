@@ -13,8 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// Texts in the order in which they were appended. contains() takes log n steps, however many there
-/// are. Exhausted memory passes through as `std::bad_alloc` and changes nothing.
+/// Texts in the order in which they were appended. contains() takes log n steps. Exhausted memory
+/// passes through as `std::bad_alloc` and changes nothing.
 class TextList {
 public:
     TextList() = default;
@@ -31,7 +31,7 @@ public:
     void append(std::string_view text);
     /// Removes the first identical text; false when there is none.
     bool remove(std::string_view text);
-    /// Removes all texts but the first @p count, if there are as many.
+    /// Removes all texts but the first @p count, if there are that many.
     void truncate(std::size_t count) noexcept;
 
 private:

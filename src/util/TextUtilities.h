@@ -1,5 +1,5 @@
 /// @file
-/// What the text functions of ZelDataUtilities do, without a copy and without a check in between.
+/// The text functions of ZelDataUtilities, without a copy and without a check in between.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_TEXTUTILITIES_H
 #define ZELINTERCHANGEDATA_UTIL_TEXTUTILITIES_H
@@ -13,16 +13,16 @@
 
 namespace ZelInterchangeData {
 
-/// About how many bytes @p text has with its entities: exact for a long text, which may consist of
+/// The approximate size of @p text with its entities: exact for a long text, which may consist of
 /// them, and its own length for any other.
 std::size_t sizeWithEntities(std::string_view text) noexcept;
 
-/// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() gives it.
+/// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() returns it.
 void appendEscaped(std::string& out, std::string_view text);
 void appendEscaped(TextBlock& out, std::string_view text);
 
 /// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() and then
-/// ZelDataUtilities::stripUnsupportedCharacters() give it.
+/// ZelDataUtilities::stripUnsupportedCharacters() return it.
 void appendEscapedStripped(std::string& out, std::string_view text);
 void appendEscapedStripped(TextBlock& out, std::string_view text);
 

@@ -16,8 +16,8 @@ class ZelDataXmlNode;
 /// A name and a value; both are written as they were given.
 class ZelDataXmlAttribute {
 public:
-    /// An attribute of @p owner with empty name and value. The owner does not know of it. The name
-    /// is kept in @p memory.
+    /// An attribute of @p owner with empty name and value. The owner does not list it. The name is
+    /// kept in @p memory.
     explicit ZelDataXmlAttribute(
         ZelDataXmlNode* owner, std::pmr::memory_resource* memory = std::pmr::new_delete_resource());
 
