@@ -98,9 +98,10 @@ void probeLanguages(std::size_t size)
 {
     const auto item = createCaptionItem();
     checked(*item).setDuration(1000);
+    const std::string text(1000, 'x'); // many of them are more than is packed
     section("texts." + std::to_string(size), [&] {
         for (std::size_t i = 0; i < size; ++i)
-            checked(*item).setTextForLanguage("text", languageID(i * 7919 % size));
+            checked(*item).setTextForLanguage(text, languageID(i * 7919 % size));
         return size;
     });
     const auto header = createHeader();

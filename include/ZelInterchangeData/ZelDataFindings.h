@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFinding.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 
 #include <string>
 #include <vector>

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_I_ZELDATACAPTIONITEM_H
 
 #include "ZelInterchangeData/ZelAlignment_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_I_ZELDATAFORMATTERBASE_H
 
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>

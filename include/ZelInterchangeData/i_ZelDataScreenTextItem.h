@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_I_ZELDATASCREENTEXTITEM_H
 #define ZELINTERCHANGEDATA_I_ZELDATASCREENTEXTITEM_H
 
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>

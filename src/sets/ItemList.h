@@ -64,6 +64,21 @@ public:
     /// The state of the item at @p index, which is one of our own.
     const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
 
+    /// The state of the item at @p index, which is one of our own, to be changed.
+    State& changeState(unsigned long index)
+    {
+        summary_.reset();
+        return slots_.write()[index].state;
+    }
+
+    /// Whether all items are our own.
+    bool areOwn() const
+    {
+        const Slots& slots = slots_.read();
+        return std::none_of(slots.begin(), slots.end(),
+                            [](const Slot& slot) { return slot.foreign != nullptr; });
+    }
+
     /// The summary of all items, which are our own.
     const Summary& summary() const
     {

@@ -8,6 +8,7 @@
 #include "util/Ending.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -54,12 +55,32 @@ Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
         [&](Item& item) { return fillMissingTexts(item, languageIDs); });
 }
 
+/// removeTexts() for items that are all our own. All memory is obtained before the first text goes.
+template <class Item, class Own>
+ZelDataResult_tags removeOwnTexts(ItemList<Item, Own>& items, const std::string& languageID)
+{
+    auto code = ZelData_Ok;
+    std::vector<PackedTexts> prepared;
+    for (unsigned long i = 0; i < items.count() && !failed(code); ++i) {
+        auto left = items.changeState(i).changeTexts().prepareRemoval(languageID);
+        if (left) {
+            prepared.push_back(std::move(*left));
+        } else {
+            code = ZelData_NotFound;
+        }
+    }
+    for (std::size_t i = 0; i < prepared.size(); ++i)
+        items.changeState(i).changeTexts().finishRemoval(languageID, std::move(prepared[i]));
+    return code;
+}
+
 /// Removes the text for @p languageID from each item. Deliberate: it stops at the first item without
 /// such a text, with the item's last error; otherwise the code would not say that the language was
 /// incomplete.
 template <class Item, class Own>
 ZelDataResult_tags removeTexts(ItemList<Item, Own>& items, const std::string& languageID)
 {
+    if (items.areOwn()) return removeOwnTexts(items, languageID);
     const Ending ending = items.changeAll(
         [&](typename Own::State& state) -> Ending {
             const auto code = state.changeTexts().remove(languageID);

@@ -98,15 +98,34 @@ ZelDataResult_tags LanguageTexts::get(std::string& text, const std::string& lang
     return ZelData_Ok;
 }
 
-ZelDataResult_tags LanguageTexts::remove(const std::string& languageID)
+std::optional<PackedTexts> LanguageTexts::prepareRemoval(std::string_view languageID)
 {
-    if (!many_) return few_.remove(languageID) ? ZelData_Ok : ZelData_NotFound;
-    if (!find(languageID)) return ZelData_NotFound;
+    if (!find(languageID)) return std::nullopt;
+    if (many_) {
+        many_->write(); // no longer shared
+        return PackedTexts();
+    }
+    PackedTexts left(few_);
+    left.remove(languageID);
+    return left;
+}
+
+void LanguageTexts::finishRemoval(std::string_view languageID, PackedTexts left) noexcept
+{
+    few_ = std::move(left);
+    if (!many_) return;
     Map& map = many_->write();
     const auto place = map.texts.find(languageID);
     map.characters -= place->first.size() + place->second.size();
     map.texts.erase(place);
-    if (map.texts.empty()) clear();
+    if (map.texts.empty()) many_.reset();
+}
+
+ZelDataResult_tags LanguageTexts::remove(const std::string& languageID)
+{
+    auto left = prepareRemoval(languageID);
+    if (!left) return ZelData_NotFound;
+    finishRemoval(languageID, std::move(*left));
     return ZelData_Ok;
 }
 

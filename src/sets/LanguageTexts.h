@@ -66,6 +66,11 @@ public:
     ZelDataResult_tags get(std::string& text, const std::string& languageID) const;
     /// #ZelData_NotFound when there is none.
     ZelDataResult_tags remove(const std::string& languageID);
+    /// Prepares to remove the text for @p languageID, as far as that needs memory, and returns what
+    /// finishRemoval() then needs; none when there is no such text. The texts stay as they are.
+    std::optional<PackedTexts> prepareRemoval(std::string_view languageID);
+    /// Removes the text for @p languageID, which was prepared with the result @p left.
+    void finishRemoval(std::string_view languageID, PackedTexts left) noexcept;
     /// Replaces @p ids with the languages that have a text.
     ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const;
 

@@ -187,12 +187,10 @@ bool PackedTexts::set(std::string_view text, std::string_view languageID)
     return replaces;
 }
 
-bool PackedTexts::remove(std::string_view languageID)
+void PackedTexts::remove(std::string_view languageID)
 {
     const std::size_t place = placeOf(languageID);
-    if (!holds(place, languageID)) return false;
     bytes_ = edited(*this, bytes_, {place, place + 1, nullptr});
-    return true;
 }
 
 } // namespace ZelInterchangeData

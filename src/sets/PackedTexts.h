@@ -42,8 +42,8 @@ public:
     void clear() noexcept { bytes_ = SharedBytes(); }
     /// Stores a copy of @p text. Returns whether it replaced a text.
     bool set(std::string_view text, std::string_view languageID);
-    /// Returns false when there is none.
-    bool remove(std::string_view languageID);
+    /// Removes the text for @p languageID, which exists.
+    void remove(std::string_view languageID);
 
 private:
     std::size_t placeOf(std::string_view languageID) const noexcept;

@@ -81,7 +81,8 @@ std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
     constexpr std::size_t markerMarkup = 210;
     const ZelDataToc& toc = *held();
     if (toc.items().count() == 0) return {};
-    std::size_t size = trackMarkup + toc.imageFile().size() + toc.items().count() * markerMarkup;
+    std::size_t size =
+        trackMarkup + sizeWithEntities(toc.imageFile()) + toc.items().count() * markerMarkup;
     for (unsigned long i = 0; i < toc.items().count(); ++i) {
         const TocEntryState& entry = toc.items().state(i);
         size += sizeWithEntities(titleOf(entry, toc.languageIDs())) +

@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_UTIL_FRONTVECTOR_H
 #define ZELINTERCHANGEDATA_UTIL_FRONTVECTOR_H
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -45,12 +46,15 @@ public:
     void erase(std::size_t index)
     {
         [[maybe_unused]] const Value erased = std::exchange((*this)[index], Value());
-        if (index == 0) {
-            ++front_;
-            if (2 * front_ >= values_.size()) eraseFront();
-        } else {
-            values_.erase(begin() + offset(index));
+        const auto gap = begin() + offset(index);
+        if (index > size() / 2) {
+            values_.erase(gap);
+            return;
         }
+        std::move_backward(begin(), gap, gap + 1);
+        *begin() = Value();
+        ++front_;
+        if (2 * front_ >= values_.size()) eraseFront();
     }
 
 private:

@@ -174,6 +174,12 @@ const char* skipHarmless(const char* text, const char* end, Mark mark,
     return std::find_if_not(text, end, isHarmless);
 }
 
+/// Whether @p text may need so many entities that their number matters.
+constexpr bool isLong(std::string_view text) noexcept
+{
+    return text.size() >= 4096;
+}
+
 std::string_view entityFor(char character) noexcept
 {
     return entities[entityPlaces[byteOf(character)]].markup;
@@ -266,9 +272,8 @@ ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, b
 
 std::size_t sizeWithEntities(std::string_view text) noexcept
 {
-    constexpr std::size_t longText = 4096;
     std::size_t size = text.size();
-    if (size < longText) return size;
+    if (!isLong(text)) return size;
     for (const char c : text)
         size += needsEntity(c) ? entityFor(c).size() - 1 : 0;
     return size;
@@ -276,7 +281,13 @@ std::size_t sizeWithEntities(std::string_view text) noexcept
 
 void appendEscaped(std::string& out, std::string_view text)
 {
-    appendEscapedTo(out, text);
+    if (isLong(text)) {
+        TextBlock block(out); // which takes many short pieces faster than a string
+        appendEscapedTo(block, text);
+        block.flush();
+    } else {
+        appendEscapedTo(out, text);
+    }
 }
 
 void appendEscaped(TextBlock& out, std::string_view text)

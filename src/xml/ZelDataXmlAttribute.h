@@ -24,6 +24,8 @@ public:
     /// Replaces the name; null is an empty name. Returns the value, which leads back to the owner.
     ZelDataXmlAttributeValue& operator<(const char* name);
 
+    /// The number of bytes that write() appends.
+    std::size_t length() const noexcept;
     /// Appends the name, `="`, the value, `"` and one blank to @p out.
     void write(std::string& out) const;
 

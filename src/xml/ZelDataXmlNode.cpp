@@ -199,6 +199,17 @@ ZelDataXmlNode& ZelDataXmlNode::walk(std::string_view path)
     }
 }
 
+std::size_t ZelDataXmlNode::length() const noexcept
+{
+    constexpr std::size_t markup = 6;
+    std::size_t length = 2 * name_.size() + markup + text_.getValue().size();
+    for (const auto* own : attributes_)
+        length += own->length();
+    for (const auto* child : children_)
+        length += child->length();
+    return length;
+}
+
 void ZelDataXmlNode::writeStartTag(std::string& out) const
 {
     out.append("<").append(std::string_view(name_));

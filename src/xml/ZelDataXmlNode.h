@@ -89,6 +89,8 @@ public:
     ZelDataXmlNode& operator=(const ZelDataXmlNode&) = delete;
 
 protected:
+    /// The most bytes that write() appends.
+    std::size_t length() const noexcept;
     /// Appends each child to @p out, in the order of creation.
     void writeChildren(std::string& out) const;
 

@@ -18,9 +18,8 @@ ZelDataXmlStream::~ZelDataXmlStream() = default;
 
 std::string ZelDataXmlStream::getXml(bool withDeclaration) const
 {
-    constexpr std::size_t usualSize = 4000;
     std::string xml;
-    xml.reserve(usualSize);
+    xml.reserve(declaration_.size() + length());
     if (withDeclaration) xml += declaration_;
     writeChildren(xml);
     return xml;

@@ -89,6 +89,8 @@ void addItems(OperationsOf<Captions>& of)
            [](Captions& c, Outs&) { return c.removeCaptionItemsForLanguage(firstID); });
     of.addOn(captionsInBothLanguages, "removeCaptionItemsForLanguage|that all have",
              [](Captions& c, Outs&) { return c.removeCaptionItemsForLanguage(firstID); });
+    of.addOn(captionsWithLongTexts, "removeCaptionItemsForLanguage|with long texts",
+             [](Captions& c, Outs&) { return c.removeCaptionItemsForLanguage(firstID); });
     of.add("getCaptionItemCount",
            [](Captions& c, Outs& o) { return c.getCaptionItemCount(o.number); });
     of.add("getCaptionItemAt",

@@ -84,6 +84,19 @@ std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages()
     return captions;
 }
 
+std::unique_ptr<i_ZelDataCaptions> captionsWithLongTexts()
+{
+    auto captions = make(&ZelDataUtilities::createCaptionData);
+    const std::string text(20000, 'x');
+    for (int i = 0; i < 2; ++i) {
+        auto item = filledCaption();
+        EXPECT_EQ(ZelData_WarnAlreadyExists, item->setTextForLanguage(text, firstID));
+        EXPECT_EQ(ZelData_WarnAlreadyExists, item->setTextForLanguage(text, secondID));
+        expectOk({captions->addCaptionItem(*item)});
+    }
+    return captions;
+}
+
 std::unique_ptr<i_ZelDataCaptions> filledCaptions()
 {
     auto captions = make(&ZelDataUtilities::createCaptionData);

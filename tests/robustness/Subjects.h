@@ -36,6 +36,8 @@ std::unique_ptr<i_ZelDataCaptionItem> captionWithOtherLanguages();
 std::unique_ptr<i_ZelDataCaptions> filledCaptions();
 /// Three captions in the same two languages.
 std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages();
+/// Two captions in the same two languages, with texts of many kilobytes.
+std::unique_ptr<i_ZelDataCaptions> captionsWithLongTexts();
 std::unique_ptr<i_ZelDataTocItem> filledEntry();
 /// An entry in two languages that filledToc() does not list.
 std::unique_ptr<i_ZelDataTocItem> entryWithOtherLanguages();
