@@ -7,7 +7,6 @@
 #include <cmath>
 #include <functional>
 #include <limits>
-#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -363,17 +362,6 @@ TEST(ZelDataCaptionsMakeConsistent, GivesTheLastErrorOfAnItemThatCannotBeFilled)
     add(captions, {{9, 1}, {0, 1}});
     EXPECT_CODE(captions, keptCode, captions.makeCaptionsConsistent());
     EXPECT_EQ(0, itemsOf(captions)[0].start) << "the items are sorted before";
-}
-
-TEST(ZelDataCaptionsMakeConsistent, DoesNotTakeExhaustedMemoryForAMissingText)
-{
-    FailingCaptions captions;
-    captions.prepareItems(
-        [](FailingCaptionItem& item) { item.throwAt("getTextForLanguage", std::bad_alloc()); });
-    add(captions, {{0, 1, {{"en", "kept"}}}});
-    captions.prepareItems({});
-    EXPECT_CODE(captions, ZelData_OutOfMemory, captions.makeCaptionsConsistent());
-    EXPECT_EQ((Texts{{"en", "kept"}}), itemsOf(captions)[0].texts);
 }
 
 TEST(ZelDataCaptionsMakeConsistent, AForeignExceptionIsAnInternalError)

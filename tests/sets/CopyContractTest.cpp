@@ -646,6 +646,12 @@ TYPED_TEST(CopiedLanguages, DoNotIncludeOneThatOnlyARemovedItemHad)
     EXPECT_EQ((IDs{"de", "en"}), this->languagesOfCopy());
 }
 
+TYPED_TEST(CopiedLanguages, AreNoneAfterTheItemsWereCleared)
+{
+    EXPECT_EQ(ZelData_Ok, ((*this->source_).*TypeParam::clear)());
+    EXPECT_EQ(IDs{}, this->languagesOfCopy());
+}
+
 TYPED_TEST(CopiedLanguages, IncludeOneThatMakingConsistentFilledIn)
 {
     const IDs before = this->languagesOfCopy();

@@ -347,5 +347,19 @@ TYPED_TEST(ListWithoutMemory, IsCopiedWithTheItemsThatAFailedCopyLeft)
                 });
 }
 
+TYPED_TEST(ListWithoutMemory, GainsNoLanguageOfAnItemThatIsNotAdded)
+{
+    const auto item = newItem<TypeParam>(TypeParam::other());
+    const std::vector<std::string> listed{"fr"};
+    sweepMemory(
+        [&] {
+            auto data = newCollection<TypeParam>();
+            EXPECT_EQ(ZelData_Ok, data->addLanguage("fr"));
+            return data;
+        },
+        ZelData_Ok, [&](typename TypeParam::Data& data) { return (data.*TypeParam::add)(*item); },
+        [&](const typename TypeParam::Data& data) { EXPECT_EQ(listed, languagesOf(data)); });
+}
+
 } // namespace
 } // namespace ZelInterchangeData

@@ -51,6 +51,7 @@ using Maker = std::function<ZelDataResult_tags(Item**)>;
 
 struct Captions : TextByLanguage<CaptionKind> {
     using Fake = FailingCaptions;
+    using FakeItem = FailingCaptionItem;
     static constexpr auto ofLanguage = &Data::getCaptionItemsForLanguage;
 
     static Values item(long long start, const Texts& texts) { return {start, 1000, texts}; }
@@ -88,6 +89,7 @@ struct Captions : TextByLanguage<CaptionKind> {
 
 struct Toc : TextByLanguage<TocKind> {
     using Fake = FailingToc;
+    using FakeItem = FailingTocItem;
     static constexpr auto ofLanguage = &Data::getTocItemsForLanguage;
 
     static Values item(long long start, const Texts& texts) { return {start, texts}; }
@@ -893,6 +895,32 @@ TYPED_TEST(ItemLanguages, ThatAreRefusedKeepTheItemOutAndTheEarlierOnesIn)
     EXPECT_EQ(keptCode, collection.storedError());
     EXPECT_TRUE(valuesOf<TypeParam>(collection).empty());
     EXPECT_EQ(IDs{"de"}, languagesOf(collection));
+}
+
+TYPED_TEST(ItemLanguages, AreNotFilledInWhereMemoryForAskingRunsOut)
+{
+    using FakeItem = typename TypeParam::FakeItem;
+    const auto returns = [](FakeItem& item) {
+        item.failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
+    };
+    const auto throws = [](FakeItem& item) {
+        item.throwAt("getTextForLanguage", std::bad_alloc());
+    };
+    const std::vector items{this->item(0, {{"en", "kept"}})};
+    for (const std::function<void(FakeItem&)>& prepare :
+         {std::function<void(FakeItem&)>(returns), std::function<void(FakeItem&)>(throws)}) {
+        typename TypeParam::Made collection;
+        collection.maker = [&](typename TypeParam::Item** out) {
+            auto item = std::make_unique<FakeItem>();
+            prepare(*item);
+            *out = item.release();
+            return ZelData_Ok;
+        };
+        addItems<TypeParam>(collection, items);
+        collection.maker = nullptr;
+        EXPECT_CODE(collection, ZelData_OutOfMemory, (collection.*TypeParam::makeConsistent)());
+        EXPECT_EQ(items, valuesOf<TypeParam>(collection));
+    }
 }
 
 TYPED_TEST(ItemLanguages, MayWarnWhenTheyAreListed)

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <new>
 #include <stdexcept>
 
 namespace ZelInterchangeData {
@@ -191,20 +190,6 @@ TEST(StoredEntry, ThatCannotTakeAnEmptyTextEndsTheRepair)
     EXPECT_EQ(ZelData_Ok, toc.addLanguage("en"));
     item.failAt("setTextForLanguage", ZelData_InvalidItem, ZelData_NoData);
     EXPECT_CODE(toc, ZelData_NoData, toc.makeTocConsistent());
-}
-
-TEST(StoredEntry, ThatRunsOutOfMemoryIsNotTakenForOneWithoutText)
-{
-    TocOfFailing returning;
-    returning.added({0, {{"en", "a"}}})
-        .failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
-    EXPECT_CODE(returning, ZelData_OutOfMemory, returning.makeTocConsistent());
-    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "a"}}}}), entriesOf(returning));
-
-    TocOfFailing throwing;
-    throwing.added({0, {{"en", "a"}}}).throwAt("getTextForLanguage", std::bad_alloc());
-    EXPECT_CODE(throwing, ZelData_OutOfMemory, throwing.makeTocConsistent());
-    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "a"}}}}), entriesOf(throwing));
 }
 
 // Languages of an added entry
