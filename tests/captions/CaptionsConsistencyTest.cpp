@@ -137,7 +137,7 @@ TEST(ZelDataCaptionsIsValid, DoesNotAskTheItemsUnlessStrict)
     EXPECT_CODE(captions, keptCode, captions.isValid(true));
 }
 
-TEST(ZelDataCaptionsIsValid, GivesTheLastErrorOfAnItemThatDoesNotTellItsEnd)
+TEST(ZelDataCaptionsIsValid, GivesTheLastErrorOfAnItemThatDoesNotGiveItsEnd)
 {
     FailingCaptions captions;
     captions.prepareItems(
@@ -146,7 +146,7 @@ TEST(ZelDataCaptionsIsValid, GivesTheLastErrorOfAnItemThatDoesNotTellItsEnd)
     EXPECT_CODE(captions, keptCode, captions.isValid(false));
 }
 
-TEST(ZelDataCaptionsIsValid, AnEndThatAnItemLeavesOpenCountsAsZero)
+TEST(ZelDataCaptionsIsValid, AnEndThatAnItemDoesNotSetCountsAsZero)
 {
     FailingCaptions captions;
     captions.prepareItems(

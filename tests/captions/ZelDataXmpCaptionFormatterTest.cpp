@@ -224,7 +224,7 @@ TEST(BuildCaptionList, AppendsTheTextsInListOrder)
               text);
 }
 
-TEST(BuildCaptionList, SkipsALanguageWithoutTextAndTellsSo)
+TEST(BuildCaptionList, SkipsALanguageWithoutTextAndReturnsFalse)
 {
     const auto item = itemOf({0, 1, {{"en", "e"}}});
     std::string text;

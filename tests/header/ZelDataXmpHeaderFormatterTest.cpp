@@ -77,7 +77,7 @@ protected:
         return written();
     }
 
-    /// The value of an attribute that stands once in the packet.
+    /// The value of an attribute that the packet has once.
     static std::string attribute(const std::string& packet, const std::string& name)
     {
         const std::string opening = " " + name + "=\"";

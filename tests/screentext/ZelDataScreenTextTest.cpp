@@ -113,14 +113,14 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
 
 // The order is looked at first, so an item is asked for its start a second time.
 
-TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotTellItsStartIsTakenOver)
+TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
 {
     ScreenTextOfFailing texts;
     texts.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
     EXPECT_CODE(texts, ZelData_NoData, texts.isValid(false));
 }
 
-TEST(StoredScreenText, AStartThatItLeavesOpenCountsAsZero)
+TEST(StoredScreenText, AStartThatItDoesNotSetCountsAsZero)
 {
     ScreenTextOfFailing texts;
     texts.added({5}).failAt("getStart", ZelData_Ok, ZelData_Ok, 2);

@@ -133,8 +133,8 @@ protected:
         EXPECT_EQ(Kind::items(), valuesOf<Kind>(data));
     };
 
-    /// Sweeps an operation of an item. Where the item must let exhausted memory through, that stands
-    /// for the code, and the code itself is refused.
+    /// Sweeps an operation of an item. Where the item must let exhausted memory through, that counts
+    /// as the code, and the code itself is refused.
     template <class Create, class Operation, class Check>
     static void sweepItem(const Create& create, Code finalCode, const Operation& operation,
                           const Check& check)

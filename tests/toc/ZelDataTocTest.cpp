@@ -150,14 +150,14 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
 
 // The order is looked at first, so an entry is asked for its start a second time.
 
-TEST(StoredEntry, TheLastErrorOfOneThatDoesNotTellItsStartIsTakenOver)
+TEST(StoredEntry, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
 {
     TocOfFailing toc;
     toc.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-TEST(StoredEntry, AStartThatItLeavesOpenCountsAsZero)
+TEST(StoredEntry, AStartThatItDoesNotSetCountsAsZero)
 {
     TocOfFailing toc;
     toc.added({5}).failAt("getStart", ZelData_Ok, ZelData_Ok, 2);

@@ -154,7 +154,7 @@ TEST(TocList, ListsTheTitlesInTheOrderOfTheLanguages)
               out);
 }
 
-TEST(TocList, SkipsLanguagesWithoutTitleAndTellsSo)
+TEST(TocList, SkipsLanguagesWithoutTitleAndReturnsFalse)
 {
     const auto item = itemOf({0, {{"de", "Eins"}, {"en", ""}}});
     std::string out;

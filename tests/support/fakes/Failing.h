@@ -60,7 +60,7 @@ public:
     /// What the library stored, whatever getLastError() was made to read.
     ZelDataResult_tags storedError() const { return Base::getLastError(); }
 
-    /// Makes a list of items be handed out before the failure of the operation.
+    /// Hands a list of items out before the operation fails.
     void handOutBeforeFailing() { handsOut_ = true; }
 
     /// The operations that were called so far, in order.
