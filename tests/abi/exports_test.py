@@ -32,7 +32,7 @@ def exported():
 
 
 def listed():
-    """The same from the list: each version, followed by a colon, stands above its names."""
+    """The same from the list: each version, followed by a colon, comes before its names."""
     version = None
     for line in EXPORTS.read_text(encoding="ascii").splitlines():
         if line.startswith("ZELINTERCHANGEDATA_"):

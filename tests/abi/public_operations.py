@@ -19,7 +19,7 @@ def argument_types(arguments):
 
 
 def of_interfaces(slot_folder):
-    """The operations of each class behind an interface, destructors aside."""
+    """The operations of each class that implements an interface, destructors aside."""
     for slot_list in read_slot_lists(slot_folder):
         operations = [split(operation) for operation in slot_list.operations if operation != "~"]
         signatures = [(name, argument_types(rest.removesuffix(" const")))

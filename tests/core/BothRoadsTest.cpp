@@ -385,7 +385,7 @@ TEST(BothRoadsOfCaptions, ACaptionWithoutLengthStopsBoth)
     const auto go = [&](auto&& source) {
         CaptionKind::Pretender pretender;
         EXPECT_EQ(ZelData_Ok, pretender.setTextForLanguage("text", "de"));
-        EXPECT_EQ(ZelData_Ok, source.addCaptionItem(pretender)); // half copied, and no code tells
+        EXPECT_EQ(ZelData_Ok, source.addCaptionItem(pretender)); // half copied, and no code says so
         unsigned long count = 0;
         EXPECT_EQ(ZelData_Ok, source.getCaptionItemCount(count));
         EXPECT_EQ(1U, count);

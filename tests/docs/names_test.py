@@ -18,7 +18,7 @@ PROJECT_PATH = re.compile(r"(?:bench|cmake|docs|examples|include|scripts|src|tes
 
 
 def code_words(path):
-    """What stands between backquotes, in the text and not in a fenced block."""
+    """What is between backquotes, in the text and not in a fenced block."""
     text = re.sub(r"^```.*?^```$", "", path.read_text(encoding="utf-8"), flags=re.S | re.M)
     return CODE.findall(text)
 

@@ -62,7 +62,7 @@ TEST(ZelDataError, MovedOrAssignedIsACopy)
 {
     ZelDataError original(ZelData_NoData, "getDataToc");
     const ZelDataError moved(std::move(original));
-    // NOLINTNEXTLINE(bugprone-use-after-move): what was moved from is meant to stay whole.
+    // NOLINTNEXTLINE(bugprone-use-after-move): deliberate: what was moved from stays whole.
     EXPECT_EQ("getDataToc", original.operation());
     EXPECT_EQ("getDataToc", moved.operation());
     ZelDataError assigned(ZelData_Ok, "");

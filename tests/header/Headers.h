@@ -1,5 +1,5 @@
 /// @file
-/// Filled headers, and what stands in a header as one value.
+/// Filled headers, and what a header holds as one value.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HEADER_HEADERS_H
 #define ZELINTERCHANGEDATA_TESTS_HEADER_HEADERS_H

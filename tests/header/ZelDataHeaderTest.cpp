@@ -129,7 +129,7 @@ TEST_F(ZelDataHeaderTest, AHeaderIsValidWhenLengthAndSizeAreSet)
     }
 }
 
-/// The search-bar flag and the content names are meant to survive.
+/// Deliberate: the search-bar flag and the content names survive.
 TEST_F(ZelDataHeaderTest, ClearingLeavesTheSearchBarAndTheContentNames)
 {
     fill(*header_, sampleValues());

@@ -46,7 +46,7 @@ Items sorted(Items items)
     return items;
 }
 
-/// Items with the same start may stand in any order here.
+/// Items with the same start may have any order here.
 void expectTrack(const TrackReading& expected, const TrackReading& found)
 {
     EXPECT_EQ(expected.head, found.head);

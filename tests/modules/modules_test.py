@@ -257,7 +257,7 @@ class HeaderTraces(Modules):
                 self.assertEqual(self.answers(program, "local", plug), self.written())
 
     def headers_with_codes(self, *names):
-        """The headers with these codes behind the last one."""
+        """The headers with these codes after the last one."""
         include = self.folder / "".join(["include", *names])
         shutil.copytree(INCLUDE, include)
         for name, place, addition in (

@@ -132,7 +132,7 @@ TEST(MemorySweep, MemoryThatStaysExhaustedLeavesEveryObjectWhole)
     sweepAll(Shortage::Lasting);
 }
 
-/// The operation of @p entry without its class, its arguments and what tells entries apart.
+/// The operation of @p entry without its class, its arguments and without what distinguishes entries.
 std::string bareName(const std::string& entry)
 {
     const std::string name = entry.substr(entry.find("::") + 2);

@@ -7,7 +7,7 @@ namespace {
 
 using U = ZelDataUtilities;
 
-/// Adds a function; what it returns stands in the arguments.
+/// Adds a function; it returns its results in the arguments.
 Operation& add(OperationList& list, const std::string& name, ZelDataResult_tags (*act)(Outs&))
 {
     list.push_back({name, [act] { return Subject{nullptr, act, [] { return std::string(); }}; }});

@@ -40,7 +40,7 @@ INTERFACES = {
 SETS = {"H": "Header", "C": "Captions", "T": "Toc", "S": "ScreenText"}
 ITEMS = {"C": ("CI", "Caption"), "T": ("TI", "Toc"), "S": ("SI", "ScreenText")}
 FORMATTERS = {"HF": "H", "CF": "C", "TF": "T", "SF": "S"}
-# Our classes behind each interface; the language operations belong to three of them.
+# Our classes for each interface; the language operations belong to three of them.
 OWN = {"L": ["H", "C", "T"], "D": ["D", "X"]}
 
 # What goes wrong: the model's letter for it, the code returned and the code kept. A known error and
@@ -186,7 +186,7 @@ class Script:
             self.make(FULL + index, family, family, old=True)
 
     def make_called(self, kind):
-        """An object to call the operation on. What is old stands in it; "empty D" holds nothing."""
+        """An object to call the operation on. It holds what is old; "empty D" holds nothing."""
         is_empty, kind = kind.startswith("empty "), kind.split()[-1]
         if kind in ("D", "X"):
             self.emit("object.new", CALLED, kind)

@@ -1,7 +1,9 @@
 /// @file
 /// What formatters refuse: one contract for the header's and the three tracks'.
 
-#include "support/Checks.h"
+#include "captions/Captions.h"
+#include "screentext/Items.h"
+#include "toc/Entries.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -66,7 +68,7 @@ struct Header {
     }
     static constexpr auto set = &i_ZelDataHeaderFormatter::setHeader;
     static constexpr auto get = &i_ZelDataHeaderFormatter::getHeader;
-    /// Something that tells a changed object from an unchanged one.
+    /// A value that differs between a changed object and an unchanged one.
     static unsigned long mark(const Data& header)
     {
         unsigned long length = 0;
@@ -75,74 +77,34 @@ struct Header {
     }
 };
 
-struct Captions {
-    static constexpr const char* name = "Captions";
-    using Data = i_ZelDataCaptions;
+/// What the sets that are written as tracks have in common.
+template <class Kind>
+struct Track : Kind {
     static constexpr auto emptyWriteFile = ZelData_InvalidData;
+    static constexpr auto set = Kind::setData;
 
-    static auto formatter() { return make(ZelDataUtilities::createCaptionFormatter); }
-    static auto data()
-    {
-        auto item = make(ZelDataUtilities::createCaptionItemData);
-        EXPECT_EQ(ZelData_Ok, item->setDuration(1));
-        auto captions = make(ZelDataUtilities::createCaptionData);
-        EXPECT_EQ(ZelData_Ok, captions->addCaptionItem(*item));
-        return captions;
-    }
-    static constexpr auto set = &i_ZelDataCaptionFormatter::setCaptions;
-    static constexpr auto get = &i_ZelDataCaptionFormatter::getCaptions;
-    static unsigned long mark(Data& captions)
+    static auto formatter() { return make(Kind::makeFormatter); }
+    static unsigned long mark(typename Kind::Data& data)
     {
         unsigned long count = 0;
-        EXPECT_EQ(ZelData_Ok, captions.getCaptionItemCount(count));
+        EXPECT_EQ(ZelData_Ok, (data.*Kind::count)(count));
         return count;
     }
 };
 
-struct Toc {
-    static constexpr const char* name = "Toc";
-    using Data = i_ZelDataToc;
-    static constexpr auto emptyWriteFile = ZelData_InvalidData;
-
-    static auto formatter() { return make(ZelDataUtilities::createTocFormatter); }
-    static auto data()
-    {
-        auto toc = make(ZelDataUtilities::createTocData);
-        EXPECT_EQ(ZelData_Ok, toc->addTocItem(*make(ZelDataUtilities::createTocItemData)));
-        return toc;
-    }
-    static constexpr auto set = &i_ZelDataTocFormatter::setToc;
-    static constexpr auto get = &i_ZelDataTocFormatter::getToc;
-    static unsigned long mark(Data& toc)
-    {
-        unsigned long count = 0;
-        EXPECT_EQ(ZelData_Ok, toc.getTocItemCount(count));
-        return count;
-    }
+struct Captions : Track<CaptionKind> {
+    static auto data() { return captionsOf({{0, 1}}); }
+    static constexpr auto get = &Formatter::getCaptions;
 };
 
-struct ScreenText {
-    static constexpr const char* name = "ScreenText";
-    using Data = i_ZelDataScreenText;
-    static constexpr auto emptyWriteFile = ZelData_InvalidData;
+struct Toc : Track<TocKind> {
+    static auto data() { return tocOf({{0}}); }
+    static constexpr auto get = &Formatter::getToc;
+};
 
-    static auto formatter() { return make(ZelDataUtilities::createScreenTextFormatter); }
-    static auto data()
-    {
-        auto item = make(ZelDataUtilities::createScreenTextItemData);
-        EXPECT_EQ(ZelData_Ok, item->setDuration(1));
-        auto screenText = make(ZelDataUtilities::createScreenTextData);
-        EXPECT_EQ(ZelData_Ok, screenText->addScreenTextItem(*item));
-        return screenText;
-    }
-    static constexpr auto set = &i_ZelDataScreenTextFormatter::setScreenText;
-    static constexpr auto get = &i_ZelDataScreenTextFormatter::getScreenText;
-    static unsigned long mark(Data& screenText)
-    {
-        unsigned long count = 0;
-        EXPECT_EQ(ZelData_Ok, screenText.getScreenTextItemCount(count));
-        return count;
-    }
+struct ScreenText : Track<ScreenTextKind> {
+    static auto data() { return screenTextOf({{0, 1}}); }
+    static constexpr auto get = &Formatter::getScreenText;
 };
 
 /// An empty formatter and one that holds data.
@@ -158,16 +120,7 @@ protected:
 
 using Sets = testing::Types<Header, Captions, Toc, ScreenText>;
 
-/// Names the tests after the set.
-struct SetName {
-    template <class Set>
-    static std::string GetName(int /*index*/)
-    {
-        return Set::name;
-    }
-};
-
-TYPED_TEST_SUITE(FormatterStubContract, Sets, SetName);
+TYPED_TEST_SUITE(FormatterStubContract, Sets, KindName);
 
 TYPED_TEST(FormatterStubContract, ANewFormatterReportsSuccess)
 {
@@ -213,12 +166,14 @@ TYPED_TEST(FormatterStubContract, AnyOtherFormatIsAnInternalErrorEverywhere)
     std::string out = "as it was";
     for (auto* formatter : {this->empty_.get(), this->filled_.get()})
         for (const auto format : otherFormats) {
-            EXPECT_CODE(*formatter, ZelData_InternalError,
-                        formatter->writeString(out, format, true));
-            EXPECT_CODE(*formatter, ZelData_InternalError,
-                        formatter->readString("", format, false));
-            EXPECT_CODE(*formatter, ZelData_InternalError,
-                        formatter->writeFile(path.name(), format, true));
+            for (const bool flag : {false, true}) {
+                EXPECT_CODE(*formatter, ZelData_InternalError,
+                            formatter->writeString(out, format, flag));
+                EXPECT_CODE(*formatter, ZelData_InternalError,
+                            formatter->readString("<a></a>", format, flag));
+                EXPECT_CODE(*formatter, ZelData_InternalError,
+                            formatter->writeFile(path.name(), format, flag));
+            }
             EXPECT_CODE(*formatter, ZelData_InternalError,
                         formatter->readFile(path.name(), format));
         }

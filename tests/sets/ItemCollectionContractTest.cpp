@@ -2,18 +2,15 @@
 /// What captions, tables of contents and screen text have in common as collections of items. Each
 /// test runs over all three.
 
-#include "captions/ZelDataCaptionItem.h"
-#include "captions/ZelDataCaptions.h"
-#include "screentext/ZelDataScreenText.h"
-#include "screentext/ZelDataScreenTextItem.h"
-#include "support/Checks.h"
-#include "toc/ZelDataToc.h"
-#include "toc/ZelDataTocItem.h"
-
-#include <gtest/gtest.h>
+#include "captions/Captions.h"
+#include "screentext/Items.h"
+#include "support/fakes/FailingCaptions.h"
+#include "support/fakes/FailingToc.h"
+#include "toc/Entries.h"
 
 #include <functional>
 #include <limits>
+#include <map>
 #include <new>
 #include <random>
 #include <stdexcept>
@@ -24,135 +21,120 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// Captions under the names of this suite.
-struct CaptionKind {
-    using Collection = ZelDataCaptions;
-    using Item = i_ZelDataCaptionItem;
-    using OwnItem = ZelDataCaptionItem;
+using IDs = std::vector<std::string>;
+using Texts = std::map<std::string, std::string>;
 
-    /// A collection that makes its items with the given function, where one is given.
-    struct Made : Collection {
-        std::function<ZelDataResult_tags(Item**)> maker;
+constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
+constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
+
+/// What a kind has besides: collections that make other items and that hand out a null pointer, and a
+/// text that marks an item.
+template <class Kind>
+struct TextByLanguage : Kind {
+    using typename Kind::Item;
+
+    static void setTag(Item& item, const std::string& tag)
+    {
+        EXPECT_FALSE(isError(item.setTextForLanguage(tag, "en")));
+    }
+    static std::string tag(const Item& item)
+    {
+        std::string text;
+        EXPECT_EQ(ZelData_Ok, item.getTextForLanguage(text, "en"));
+        return text;
+    }
+};
+
+/// A function that makes an item, which a collection may be given.
+template <class Item>
+using Maker = std::function<ZelDataResult_tags(Item**)>;
+
+struct Captions : TextByLanguage<CaptionKind> {
+    using Fake = FailingCaptions;
+    using FakeItem = FailingCaptionItem;
+    static constexpr auto ofLanguage = &Data::getCaptionItemsForLanguage;
+
+    static Values item(long long start, const Texts& texts) { return {start, 1000, texts}; }
+    /// Something that clearing the items leaves.
+    static void mark(Data& captions) { EXPECT_EQ(ZelData_Ok, captions.setFontSize(30)); }
+    static bool isMarked(const Data& captions) { return styleOf(captions).fontSize == 30; }
+
+    /// A collection that makes its items with the given function, if there is one.
+    struct Made : Own {
+        Maker<Item> maker;
         ZelDataResult_tags createCaptionItem(Item** out) const override
         {
-            return maker ? maker(out) : Collection::createCaptionItem(out);
+            return maker ? maker(out) : Own::createCaptionItem(out);
         }
+        /// Sets a rate that no setter would take.
+        void forceRate(unsigned long rate) { style_.frameRate.value = rate; }
     };
 
-    /// A collection that hands out a null pointer behind its items.
-    struct HandingOutNull : Collection {
+    /// A collection that hands out a null pointer after its items.
+    struct HandingOutNull : Own {
         ZelDataResult_tags getCaptionItems(std::vector<Item*>& items) const override
         {
-            const auto code = Collection::getCaptionItems(items);
+            const auto code = Own::getCaptionItems(items);
             items.push_back(nullptr);
             return code;
         }
     };
 
-    static constexpr auto create = &Collection::createCaptionItem;
-    static constexpr auto add = &Collection::addCaptionItem;
-    static constexpr auto count = &Collection::getCaptionItemCount;
-    static constexpr auto at = &Collection::getCaptionItemAt;
-    static constexpr auto all = &Collection::getCaptionItems;
-    static constexpr auto removeAt = &Collection::removeCaptionItemAt;
-    static constexpr auto clear = &Collection::clearCaptionItems;
-    static constexpr auto order = &Collection::orderCaptions;
-    static constexpr auto makeConsistent = &Collection::makeCaptionsConsistent;
-
     static void setTag(Item& item, const std::string& tag)
     {
-        EXPECT_FALSE(isError(item.setTextForLanguage(tag, "en")));
+        TextByLanguage::setTag(item, tag);
         EXPECT_EQ(ZelData_Ok, item.setDuration(1)); // without length it cannot be added
     }
-    static std::string tag(const Item& item)
-    {
-        std::string text;
-        EXPECT_EQ(ZelData_Ok, item.getTextForLanguage(text, "en"));
-        return text;
-    }
 };
 
-/// A table of contents under the names of this suite.
-struct TocKind {
-    using Collection = ZelDataToc;
-    using Item = i_ZelDataTocItem;
-    using OwnItem = ZelDataTocItem;
+struct Toc : TextByLanguage<TocKind> {
+    using Fake = FailingToc;
+    using FakeItem = FailingTocItem;
+    static constexpr auto ofLanguage = &Data::getTocItemsForLanguage;
 
-    /// A collection that makes its items with the given function, where one is given.
-    struct Made : Collection {
-        std::function<ZelDataResult_tags(Item**)> maker;
+    static Values item(long long start, const Texts& texts) { return {start, texts}; }
+    static void mark(Data& toc) { EXPECT_EQ(ZelData_Ok, toc.setImageFile("t.png")); }
+    static bool isMarked(const Data& toc) { return imageOf(toc) == "t.png"; }
+
+    struct Made : Own {
+        Maker<Item> maker;
         ZelDataResult_tags createTocItem(Item** out) const override
         {
-            return maker ? maker(out) : Collection::createTocItem(out);
+            return maker ? maker(out) : Own::createTocItem(out);
         }
+        /// Sets a rate that no setter would take.
+        void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
-    /// A collection that hands out a null pointer behind its items.
-    struct HandingOutNull : Collection {
+    struct HandingOutNull : Own {
         ZelDataResult_tags getTocItems(std::vector<Item*>& items) const override
         {
-            const auto code = Collection::getTocItems(items);
+            const auto code = Own::getTocItems(items);
             items.push_back(nullptr);
             return code;
         }
     };
-
-    static constexpr auto create = &Collection::createTocItem;
-    static constexpr auto add = &Collection::addTocItem;
-    static constexpr auto count = &Collection::getTocItemCount;
-    static constexpr auto at = &Collection::getTocItemAt;
-    static constexpr auto all = &Collection::getTocItems;
-    static constexpr auto removeAt = &Collection::removeTocItemAt;
-    static constexpr auto clear = &Collection::clearTocItems;
-    static constexpr auto order = &Collection::orderTocItems;
-    static constexpr auto makeConsistent = &Collection::makeTocConsistent;
-
-    static void setTag(Item& item, const std::string& tag)
-    {
-        EXPECT_FALSE(isError(item.setTextForLanguage(tag, "en")));
-    }
-    static std::string tag(const Item& item)
-    {
-        std::string text;
-        EXPECT_EQ(ZelData_Ok, item.getTextForLanguage(text, "en"));
-        return text;
-    }
 };
 
-/// Screen text under the names of this suite.
-struct ScreenTextKind {
-    using Collection = ZelDataScreenText;
-    using Item = i_ZelDataScreenTextItem;
-    using OwnItem = ZelDataScreenTextItem;
-
-    /// A collection that makes its items with the given function, where one is given.
-    struct Made : Collection {
-        std::function<ZelDataResult_tags(Item**)> maker;
+struct ScreenText : ScreenTextKind {
+    struct Made : Own {
+        Maker<Item> maker;
         ZelDataResult_tags createScreenTextItem(Item** out) const override
         {
-            return maker ? maker(out) : Collection::createScreenTextItem(out);
+            return maker ? maker(out) : Own::createScreenTextItem(out);
         }
+        /// Sets a rate that no setter would take.
+        void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
-    /// A collection that hands out a null pointer behind its items.
-    struct HandingOutNull : Collection {
+    struct HandingOutNull : Own {
         ZelDataResult_tags getScreenTextItems(std::vector<Item*>& items) const override
         {
-            const auto code = Collection::getScreenTextItems(items);
+            const auto code = Own::getScreenTextItems(items);
             items.push_back(nullptr);
             return code;
         }
     };
-
-    static constexpr auto create = &Collection::createScreenTextItem;
-    static constexpr auto add = &Collection::addScreenTextItem;
-    static constexpr auto count = &Collection::getScreenTextItemCount;
-    static constexpr auto at = &Collection::getScreenTextItemAt;
-    static constexpr auto all = &Collection::getScreenTextItems;
-    static constexpr auto removeAt = &Collection::removeScreenTextItemAt;
-    static constexpr auto clear = &Collection::clearScreenTextItems;
-    static constexpr auto order = &Collection::orderScreenTextItems;
-    static constexpr auto makeConsistent = &Collection::makeScreenTextConsistent;
 
     static void setTag(Item& item, const std::string& tag)
     {
@@ -273,16 +255,7 @@ protected:
     const std::vector<Timed> three_{{300, "c"}, {100, "a"}, {200, "b"}};
 };
 
-struct KindName {
-    template <class Kind>
-    static std::string GetName(int)
-    {
-        if (std::is_same_v<Kind, CaptionKind>) return "Captions";
-        return std::is_same_v<Kind, TocKind> ? "Toc" : "ScreenText";
-    }
-};
-
-using Kinds = testing::Types<CaptionKind, TocKind, ScreenTextKind>;
+using Kinds = testing::Types<Captions, Toc, ScreenText>;
 TYPED_TEST_SUITE(ItemCollection, Kinds, KindName);
 
 TYPED_TEST(ItemCollection, StartsEmpty)
@@ -623,7 +596,7 @@ TYPED_TEST(ItemCollection, AnItemThatChangesItsCollectionStopsTheOrdering)
 TYPED_TEST(ItemCollection, ACopyOfTheCollectionHoldsCopiesOfTheItemsAlone)
 {
     this->add({{9, "old"}});
-    typename TypeParam::Collection source;
+    typename TypeParam::Own source;
     for (const Timed& timed : this->three_) {
         typename TypeParam::OwnItem item;
         this->fill(item, timed);
@@ -634,7 +607,7 @@ TYPED_TEST(ItemCollection, ACopyOfTheCollectionHoldsCopiesOfTheItemsAlone)
     EXPECT_EQ(this->three_, this->contents());
 }
 
-TYPED_TEST(ItemCollection, ASourceThatHandsOutANullPointerEndsTheCopyBehindTheItemsBefore)
+TYPED_TEST(ItemCollection, ASourceThatHandsOutANullPointerEndsTheCopyAfterTheItemsBeforeIt)
 {
     typename TypeParam::HandingOutNull source;
     typename TypeParam::OwnItem item;
@@ -664,8 +637,8 @@ TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)
 
 // Order
 
-/// The order that is meant, stated once more: each place in turn takes every smaller start that
-/// comes after it.
+/// The expected order, computed step by step: each place in turn takes every smaller start that comes
+/// after it.
 void exchangeSort(std::vector<Timed>& items)
 {
     for (std::size_t i = 0; i + 1 < items.size(); ++i)
@@ -720,6 +693,245 @@ TYPED_TEST(ItemCollection, ThousandsOfRandomOrdersAreThoseOfTheExchangeSort)
         exchangeSort(items);
         ASSERT_EQ(items, this->contents());
     }
+}
+
+// Frame rates
+
+TYPED_TEST(ItemCollection, AcceptsFrameRatesFrom1To10000)
+{
+    EXPECT_EQ(1000UL, frameRateOf(this->collection_));
+    for (const unsigned long rate : {1UL, 25UL, 10000UL}) {
+        EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.setFrameRate(rate));
+        unsigned long stored = 0;
+        EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.getFrameRate(stored));
+        EXPECT_EQ(rate, stored);
+        for (const bool deep : {false, true})
+            EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.isValid(deep));
+    }
+}
+
+TYPED_TEST(ItemCollection, RefusesOtherFrameRatesAndKeepsTheEarlierOne)
+{
+    EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.setFrameRate(25));
+    for (const unsigned long rate : {0UL, 10001UL, 0x100000001UL})
+        EXPECT_CODE(this->collection_, ZelData_InvalidArgument,
+                    this->collection_.setFrameRate(rate));
+    EXPECT_EQ(25UL, frameRateOf(this->collection_));
+}
+
+TYPED_TEST(ItemCollection, ClearingTheItemsLeavesTheFrameRate)
+{
+    this->add(this->three_);
+    EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.setFrameRate(25));
+    EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::clear)());
+    EXPECT_EQ(25UL, frameRateOf(this->collection_));
+}
+
+TYPED_TEST(ItemCollection, AFrameRateOutOfRangeIsFoundBeforeDisorder)
+{
+    for (const unsigned long rate : {0UL, 10001UL}) {
+        EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::clear)());
+        this->collection_.forceRate(rate);
+        for (const bool deep : {false, true})
+            EXPECT_CODE(this->collection_, ZelData_InvalidArgument,
+                        this->collection_.isValid(deep));
+        this->add(this->three_);
+        for (const bool deep : {false, true})
+            EXPECT_CODE(this->collection_, ZelData_InvalidArgument,
+                        this->collection_.isValid(deep));
+    }
+}
+
+TYPED_TEST(ItemCollection, AFrameRateOutOfRangeIsRepairedToTheStandardRateAndAnyOtherKept)
+{
+    for (const auto& [rate, repaired] : {std::pair(0UL, 1000UL), std::pair(10001UL, 1000UL),
+                                         std::pair(1UL, 1UL), std::pair(10000UL, 10000UL)}) {
+        this->collection_.forceRate(rate);
+        EXPECT_CODE(this->collection_, ZelData_Ok,
+                    (this->collection_.*TypeParam::makeConsistent)());
+        EXPECT_EQ(repaired, frameRateOf(this->collection_));
+    }
+}
+
+/// A copy of a table of contents does not ask for the rate.
+TYPED_TEST(ItemCollection, AFrameRateOutOfRangeEndsACopyThatTakesIt)
+{
+    this->add(this->three_);
+    this->collection_.forceRate(0);
+    typename TypeParam::Own target;
+    const bool takesIt = !std::is_same_v<TypeParam, Toc>;
+    EXPECT_CODE(target, takesIt ? ZelData_InvalidArgument : ZelData_Ok,
+                target.copyFrom(static_cast<const typename TypeParam::Data&>(this->collection_)));
+    EXPECT_EQ(1000UL, frameRateOf(target));
+    EXPECT_EQ(takesIt, valuesOf<TypeParam>(target).empty());
+}
+
+// The languages of collections
+
+template <class Kind>
+class ItemLanguages : public testing::Test {
+protected:
+    using Values = typename Kind::Values;
+    using Items = std::vector<Values>;
+
+    /// An item that starts at @p start and has @p texts.
+    static Values item(long long start, const Texts& texts) { return Kind::item(start, texts); }
+
+    void add(const Items& items) { addItems<Kind>(*collection_, items); }
+    Items items() const { return valuesOf<Kind>(*collection_); }
+
+    std::unique_ptr<typename Kind::Data> collection_ = newCollection<Kind>();
+};
+
+using KindsWithLanguages = testing::Types<Captions, Toc>;
+TYPED_TEST_SUITE(ItemLanguages, KindsWithLanguages, KindName);
+
+TYPED_TEST(ItemLanguages, AreListedInByteOrderAfterTheListedOnes)
+{
+    EXPECT_EQ(ZelData_Ok, this->collection_->addLanguage("fr"));
+    this->add({this->item(0, {{"en", ""}, {"EN", ""}, {"de", ""}, {"fr", ""}})});
+    this->add({this->item(1000, {{"cs", ""}, {"en", ""}})});
+    EXPECT_EQ((IDs{"fr", "EN", "de", "en", "cs"}), languagesOf(*this->collection_));
+}
+
+TYPED_TEST(ItemLanguages, ThatAreListedAlreadyDoNotWarn)
+{
+    EXPECT_EQ(ZelData_Ok, this->collection_->addLanguage("en"));
+    const auto item = newItem<TypeParam>(this->item(0, {{"en", ""}}));
+    EXPECT_CODE(*this->collection_, ZelData_Ok, ((*this->collection_).*TypeParam::add)(*item));
+    EXPECT_EQ(1U, this->items().size());
+}
+
+TYPED_TEST(ItemLanguages, StayInTheItemsWhenTheyAreRemovedFromTheList)
+{
+    const auto item = this->item(0, {{"de", "d"}, {"en", "e"}});
+    this->add({item});
+    EXPECT_CODE(*this->collection_, ZelData_Ok, this->collection_->removeLanguage("de"));
+    EXPECT_EQ(IDs{"en"}, languagesOf(*this->collection_));
+    EXPECT_EQ(std::vector{item}, this->items());
+    EXPECT_CODE(*this->collection_, ZelData_Ok, this->collection_->clearLanguages());
+    EXPECT_EQ(std::vector{item}, this->items());
+}
+
+TYPED_TEST(ItemLanguages, ThatAreNotListedAreNeitherMissedNorFilledIn)
+{
+    const std::vector items{this->item(0, {{"de", "d"}, {"en", "e"}}),
+                            this->item(1000, {{"en", "f"}})};
+    this->add(items);
+    EXPECT_CODE(*this->collection_, ZelData_Ok, this->collection_->removeLanguage("de"));
+    EXPECT_CODE(*this->collection_, ZelData_Ok, this->collection_->isValid(true));
+    EXPECT_CODE(*this->collection_, ZelData_Ok,
+                ((*this->collection_).*TypeParam::makeConsistent)());
+    EXPECT_EQ(items, this->items());
+}
+
+TYPED_TEST(ItemLanguages, AreNoLongerListedWhenTheItemsAreCleared)
+{
+    this->add({this->item(0, {{"de", ""}})});
+    EXPECT_EQ(ZelData_Ok, this->collection_->addLanguage("fr"));
+    TypeParam::mark(*this->collection_);
+    EXPECT_CODE(*this->collection_, ZelData_Ok, ((*this->collection_).*TypeParam::clear)());
+    unsigned long count = 99;
+    EXPECT_CODE(*this->collection_, ZelData_Ok, this->collection_->getLanguageCount(count));
+    EXPECT_EQ(0U, count);
+    EXPECT_TRUE(TypeParam::isMarked(*this->collection_));
+}
+
+TYPED_TEST(ItemLanguages, StayListedWhenAnItemIsRemoved)
+{
+    this->add({this->item(0, {{"de", ""}}), this->item(1000, {{"en", ""}}), this->item(2000, {})});
+    EXPECT_CODE(*this->collection_, ZelData_Ok, ((*this->collection_).*TypeParam::removeAt)(1));
+    EXPECT_EQ((std::vector{this->item(0, {{"de", ""}}), this->item(2000, {})}), this->items());
+    EXPECT_EQ((IDs{"de", "en"}), languagesOf(*this->collection_));
+}
+
+TYPED_TEST(ItemLanguages, StayListedWhenTheirTextsAreRemoved)
+{
+    this->add({this->item(0, {{"en", "a"}, {"fr", "b"}}), this->item(1000, {{"fr", "c"}})});
+    EXPECT_CODE(*this->collection_, ZelData_Ok,
+                ((*this->collection_).*TypeParam::removeLanguage)("fr"));
+    EXPECT_EQ((std::vector{this->item(0, {{"en", "a"}}), this->item(1000, {})}), this->items());
+    EXPECT_EQ((IDs{"en", "fr"}), languagesOf(*this->collection_));
+}
+
+TYPED_TEST(ItemLanguages, LoseNoTextAfterTheFirstItemWithoutOne)
+{
+    this->add({this->item(0, {{"fr", "a"}}), this->item(1000, {{"en", "b"}}),
+               this->item(2000, {{"fr", "c"}})});
+    EXPECT_CODE(*this->collection_, ZelData_NotFound,
+                ((*this->collection_).*TypeParam::removeLanguage)("fr"));
+    EXPECT_EQ((std::vector{this->item(0, {}), this->item(1000, {{"en", "b"}}),
+                           this->item(2000, {{"fr", "c"}})}),
+              this->items());
+}
+
+TYPED_TEST(ItemLanguages, AreNotMissedInACollectionWithoutItems)
+{
+    for (const char* id : {"fr", "xx"})
+        EXPECT_CODE(*this->collection_, ZelData_Ok,
+                    ((*this->collection_).*TypeParam::removeLanguage)(id));
+}
+
+TYPED_TEST(ItemLanguages, HandOutNoItems)
+{
+    typename TypeParam::OwnItem kept;
+    std::vector<typename TypeParam::Item*> items{&kept};
+    const auto& collection = *this->collection_;
+    EXPECT_CODE(collection, ZelData_NotImplemented,
+                (collection.*TypeParam::ofLanguage)(items, "en"));
+    this->add({this->item(0, {{"en", "a"}})});
+    for (const char* id : {"en", "zz", ""})
+        EXPECT_CODE(collection, ZelData_NotImplemented,
+                    (collection.*TypeParam::ofLanguage)(items, id));
+    EXPECT_EQ(std::vector<typename TypeParam::Item*>{&kept}, items);
+}
+
+TYPED_TEST(ItemLanguages, ThatAreRefusedKeepTheItemOutAndTheEarlierOnesIn)
+{
+    typename TypeParam::Fake collection;
+    collection.failAt("addLanguage", returnedCode, keptCode, 2);
+    const auto item = newItem<TypeParam>(this->item(0, {{"de", ""}, {"en", ""}, {"fr", ""}}));
+    EXPECT_CODE(collection, keptCode, (collection.*TypeParam::add)(*item));
+    EXPECT_EQ(keptCode, collection.storedError());
+    EXPECT_TRUE(valuesOf<TypeParam>(collection).empty());
+    EXPECT_EQ(IDs{"de"}, languagesOf(collection));
+}
+
+TYPED_TEST(ItemLanguages, AreNotFilledInWhereMemoryForAskingRunsOut)
+{
+    using FakeItem = typename TypeParam::FakeItem;
+    const auto returns = [](FakeItem& item) {
+        item.failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
+    };
+    const auto throws = [](FakeItem& item) {
+        item.throwAt("getTextForLanguage", std::bad_alloc());
+    };
+    const std::vector items{this->item(0, {{"en", "kept"}})};
+    for (const std::function<void(FakeItem&)>& prepare :
+         {std::function<void(FakeItem&)>(returns), std::function<void(FakeItem&)>(throws)}) {
+        typename TypeParam::Made collection;
+        collection.maker = [&](typename TypeParam::Item** out) {
+            auto item = std::make_unique<FakeItem>();
+            prepare(*item);
+            *out = item.release();
+            return ZelData_Ok;
+        };
+        addItems<TypeParam>(collection, items);
+        collection.maker = nullptr;
+        EXPECT_CODE(collection, ZelData_OutOfMemory, (collection.*TypeParam::makeConsistent)());
+        EXPECT_EQ(items, valuesOf<TypeParam>(collection));
+    }
+}
+
+TYPED_TEST(ItemLanguages, MayWarnWhenTheyAreListed)
+{
+    typename TypeParam::Fake collection;
+    collection.failAt("addLanguage", ZelData_WarnTiming, ZelData_Ok);
+    const auto values = this->item(0, {{"de", "1"}, {"en", "2"}});
+    const auto item = newItem<TypeParam>(values);
+    EXPECT_CODE(collection, ZelData_Ok, (collection.*TypeParam::add)(*item));
+    EXPECT_EQ(IDs{"en"}, languagesOf(collection));
+    EXPECT_EQ(std::vector{values}, valuesOf<TypeParam>(collection));
 }
 
 } // namespace

@@ -107,7 +107,7 @@ private:
     mutable char lastErrorThrows_ = 0;
 };
 
-/// A fake of @p Interface. Its last error stands in the interface's field or in one of its own.
+/// A fake of @p Interface. It keeps its last error in the interface's field or in one of its own.
 template <class Interface>
 class Fake : public Interface, public FakeControl {
 public:
