@@ -61,11 +61,6 @@ protected:
                  const char*& fromNext, wchar_t* to, wchar_t* toEnd,
                  wchar_t*& toNext) const override
     {
-        if (isDropping_) {
-            fromNext = fromEnd;
-            toNext = to;
-            return ok;
-        }
         for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
             if (toNext == toEnd) return partial;
             *toNext = static_cast<wchar_t>(static_cast<unsigned char>(*fromNext));

@@ -17,7 +17,12 @@ TextList::TextList(std::vector<std::string> texts) : texts_(std::move(texts))
     if (texts_.size() > fewTexts) index_.insert(texts_.begin(), texts_.end());
 }
 
-TextList& TextList::operator=(TextList other) noexcept
+TextList& TextList::operator=(const TextList& other)
+{
+    return *this = TextList(other);
+}
+
+TextList& TextList::operator=(TextList&& other) noexcept
 {
     texts_.swap(other.texts_);
     index_.swap(other.index_);

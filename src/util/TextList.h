@@ -21,7 +21,8 @@ public:
     explicit TextList(std::vector<std::string> texts);
     TextList(const TextList&) = default;
     TextList(TextList&&) noexcept = default;
-    TextList& operator=(TextList other) noexcept;
+    TextList& operator=(const TextList& other);
+    TextList& operator=(TextList&& other) noexcept;
     ~TextList() = default;
 
     const std::vector<std::string>& texts() const noexcept { return texts_; }

@@ -84,7 +84,7 @@ private:
 
 /// Whether each sequence of @p text has the continuation bytes that its lead byte requires, and
 /// there are no others.
-bool isWellFormed(std::string_view text) noexcept
+inline bool isWellFormed(std::string_view text) noexcept
 {
     SequenceBlocks sequences;
     const char* position = text.data();

@@ -199,14 +199,19 @@ ZelDataXmlNode& ZelDataXmlNode::walk(std::string_view path)
     }
 }
 
-std::size_t ZelDataXmlNode::length() const noexcept
+std::size_t ZelDataXmlNode::length() const
 {
     constexpr std::size_t markup = 6;
-    std::size_t length = 2 * name_.size() + markup + text_.getValue().size();
-    for (const auto* own : attributes_)
-        length += own->length();
-    for (const auto* child : children_)
-        length += child->length();
+    std::size_t length = 0;
+    std::vector<const ZelDataXmlNode*> open{this}; // a tree may be too deep for recursion
+    while (!open.empty()) {
+        const ZelDataXmlNode* const node = open.back();
+        open.pop_back();
+        length += 2 * node->name_.size() + markup + node->text_.getValue().size();
+        for (const auto* own : node->attributes_)
+            length += own->length();
+        open.insert(open.end(), node->children_.begin(), node->children_.end());
+    }
     return length;
 }
 

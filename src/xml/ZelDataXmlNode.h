@@ -90,7 +90,7 @@ public:
 
 protected:
     /// The most bytes that write() appends.
-    std::size_t length() const noexcept;
+    std::size_t length() const;
     /// Appends each child to @p out, in the order of creation.
     void writeChildren(std::string& out) const;
 

@@ -865,6 +865,28 @@ TYPED_TEST(ItemLanguages, LoseNoTextAfterTheFirstItemWithoutOne)
               this->items());
 }
 
+TYPED_TEST(ItemLanguages, LoseTheirTextsInItemsOfEveryClass)
+{
+    const auto french = [this](long long start) { return this->item(start, {{"fr", "a"}}); };
+    const auto without = [this](long long start) { return this->item(start, {}); };
+    for (const bool foreignLacksIt : {true, false}) {
+        typename TypeParam::Made collection;
+        addItems<TypeParam>(collection, {french(0)});
+        collection.maker = [](typename TypeParam::Item** out) {
+            *out = new OddItem<TypeParam>;
+            return ZelData_Ok;
+        };
+        addItems<TypeParam>(collection, {foreignLacksIt ? without(1000) : french(1000)});
+        collection.maker = nullptr;
+        addItems<TypeParam>(collection, {foreignLacksIt ? french(2000) : without(2000)});
+        addItems<TypeParam>(collection, {french(3000)});
+        EXPECT_CODE(collection, ZelData_NotFound, (collection.*TypeParam::removeLanguage)("fr"));
+        EXPECT_EQ((std::vector{without(0), without(1000),
+                               foreignLacksIt ? french(2000) : without(2000), french(3000)}),
+                  valuesOf<TypeParam>(collection));
+    }
+}
+
 TYPED_TEST(ItemLanguages, AreNotMissedInACollectionWithoutItems)
 {
     for (const char* id : {"fr", "xx"})

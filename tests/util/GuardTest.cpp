@@ -4,6 +4,7 @@
 #include "support/FailingAllocation.h"
 #include "util/GuardedCopy.h"
 
+#include <pthread.h>
 #include <stdexcept>
 #include <string>
 
@@ -68,6 +69,28 @@ TEST(Guard, AGuardedCopyWithoutMemoryLeavesItsTargetAlone)
     EXPECT_EQ(ZelData_OutOfMemory, code);
     EXPECT_EQ("before", target);
 }
+
+#ifdef __GLIBCXX__
+TEST(Guard, AThreadMayEndInsideAnOperation)
+{
+    bool unwound = false;
+    pthread_t thread{};
+    const auto end = [](void* flag) -> void* {
+        struct Flag {
+            ~Flag() { *flag = true; }
+            bool* flag;
+        };
+        const Flag set{static_cast<bool*>(flag)};
+        EXPECT_EQ(ZelData_Ok, guarded([]() -> ZelDataResult_tags { pthread_exit(nullptr); }));
+        return flag;
+    };
+    ASSERT_EQ(0, pthread_create(&thread, nullptr, end, &unwound));
+    void* result = &unwound;
+    ASSERT_EQ(0, pthread_join(thread, &result));
+    EXPECT_EQ(nullptr, result);
+    EXPECT_TRUE(unwound);
+}
+#endif
 
 } // namespace
 } // namespace ZelInterchangeData
