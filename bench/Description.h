@@ -1,5 +1,5 @@
 /// @file
-/// The elements and attributes of a packet, told to any XML writer.
+/// The elements and attributes of a packet, described to any XML writer.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_DESCRIPTION_H
 #define ZELINTERCHANGEDATA_BENCH_DESCRIPTION_H
@@ -11,7 +11,7 @@
 
 namespace ZelInterchangeData::bench {
 
-/// Turns numbers into text without memory, for writers that take texts alone.
+/// Converts numbers to text without allocating, for writers that take texts alone.
 class Digits {
 public:
     template <class Number>
@@ -26,14 +26,14 @@ private:
     std::array<char, 24> text_{};
 };
 
-/// Tells a document to a @p Writer, which has open(name), attribute(name, text or number),
-/// text(text) and close(). Each peer escapes for itself, so the texts go in as they are.
+/// Describes a document to a @p Writer, which has open(name), attribute(name, text or number),
+/// text(text) and close(). Each peer does its own escaping, so the texts are passed as they are.
 template <class Writer>
 class Description {
 public:
     Description(const Document& document, Writer& writer) : document_(document), writer_(writer) {}
 
-    void tell()
+    void describe()
     {
         openFrame();
         describeVideo();

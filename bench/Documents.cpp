@@ -36,7 +36,8 @@ constexpr std::array<std::string_view, 4> specialWords = {"<i>Bo</i>", "\"Yes\""
 /// Heavily tied: this many different starts whatever the size, so that the ties grow with it.
 constexpr unsigned distinctTiedStarts = 16;
 
-/// Numbers that are the same with every standard library, whose distributions and shuffles differ.
+/// Random numbers that are the same with every standard library, unlike the libraries' own
+/// distributions and shuffles.
 class Dice {
 public:
     explicit Dice(std::uint64_t seed) : engine_(seed) {}
@@ -126,7 +127,7 @@ void addCaptions(Document& document, Dice& dice, std::size_t count, Order order,
 {
     for (const long long start : makeStarts(dice, count, order)) {
         const auto duration = 1500 + static_cast<long long>(dice.below(1000));
-        // Braces evaluate from left to right, so the dice fall the same with every compiler.
+        // Braces evaluate from left to right, so every compiler rolls the dice in the same order.
         document.captions.push_back(
             {start, duration, {captionText(dice, lists[0]), captionText(dice, lists[1])}});
     }

@@ -12,7 +12,7 @@
 
 namespace ZelInterchangeData::bench {
 
-/// In which order of starts the items are handed over.
+/// The order of starts in which the items are passed.
 enum class Order { ascending, reversed, shuffled, tied };
 inline constexpr std::array<Order, 4> allOrders = {Order::ascending, Order::reversed,
                                                    Order::shuffled, Order::tied};
@@ -86,7 +86,8 @@ Document inWrittenOrder(const Document& document);
 /// @p count short texts: 0 English, 1 German with umlauts, 2 Japanese.
 std::vector<std::string> makeTexts(std::size_t count, int alphabet, bool withSpecialCharacters);
 
-/// Room enough for the packet of @p document, as all writers that can reserve do.
+/// Enough room for the packet of @p document; all writers that can reserve memory reserve this
+/// much.
 std::size_t roomFor(const Document& document);
 
 } // namespace ZelInterchangeData::bench

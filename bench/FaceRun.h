@@ -1,5 +1,5 @@
 /// @file
-/// What LibraryRun.h does, done through the face.
+/// Does what LibraryRun.h does, through the face.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_FACERUN_H
 #define ZELINTERCHANGEDATA_BENCH_FACERUN_H
@@ -10,9 +10,9 @@
 
 namespace ZelInterchangeData::bench {
 
-/// The packet of @p document: data objects are made, filled, handed to a document object and written,
-/// with the operations that fill(), set() and write() call, in the same order, through the checked
-/// views.
+/// The packet of @p document: makes data objects, fills them, passes them to a document object and
+/// writes that, with the operations that fill(), set() and write() call, in the same order, through
+/// the checked views.
 std::string publishThroughFace(const Document& document);
 
 } // namespace ZelInterchangeData::bench

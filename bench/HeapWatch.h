@@ -1,5 +1,5 @@
 /// @file
-/// Counts what goes through operator new in this program.
+/// Counts the calls of operator new in this program.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_HEAPWATCH_H
 #define ZELINTERCHANGEDATA_BENCH_HEAPWATCH_H
@@ -11,14 +11,13 @@ namespace ZelInterchangeData::bench {
 struct HeapUse {
     /// Calls of operator new, of any form.
     std::size_t allocations = 0;
-    /// The most bytes that were held at one time beyond those held at the start, counted in the
-    /// sizes that the allocator really gave.
+    /// The most bytes held at one time beyond those held at the start, counted in the sizes that
+    /// the allocator really provided.
     std::size_t peak = 0;
 };
 
 /// Watches from construction on; one at a time, and while no other thread allocates. Linking this
-/// replaces operator new for the whole program; the time that costs while nobody watches is one
-/// test of a flag.
+/// replaces operator new for the whole program; without a watch, that costs one test of a flag.
 class HeapWatch {
 public:
     HeapWatch();

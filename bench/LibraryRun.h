@@ -22,13 +22,13 @@ struct Sets {
 
 // Each of these throws std::runtime_error when an operation does not succeed.
 
-/// Makes data objects that hold @p document, the way an application does.
+/// Makes data objects that hold @p document, as an application does.
 Sets fill(const Document& document);
 
-/// Hands @p sets to a new document object.
+/// Passes @p sets to a new document object.
 std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
 
-/// The packet of @p core, in a string of its own.
+/// The packet of @p core, in a new string.
 std::string write(const i_ZelInterchangeDataCore& core);
 
 /// A set of screen texts that start at @p starts, in this order.

@@ -26,7 +26,7 @@ public:
           writer_(xmlNewTextWriterMemory(buffer_.get(), 0), &xmlFreeTextWriter)
     {
         if (!buffer_ || !writer_) throw std::bad_alloc();
-        // Where the room is not enough, doubling beats the growth by small steps.
+        // When the room is not enough, doubling is faster than growing in small steps.
         xmlBufferSetAllocationScheme(buffer_.get(), XML_BUFFER_ALLOC_DOUBLEIT);
     }
 
@@ -61,7 +61,7 @@ private:
 std::size_t writeWithLibxml2(const Document& document, std::string* copy)
 {
     TextWriter writer(roomFor(document));
-    Description(document, writer).tell();
+    Description(document, writer).describe();
     const xmlBuffer& buffer = writer.finish();
     const auto size = static_cast<std::size_t>(xmlBufferLength(&buffer));
     if (copy != nullptr)

@@ -24,20 +24,20 @@ std::size_t repeatsOf(std::size_t size, const Effort& effort)
     return std::max<std::size_t>(1, effort.captionsInTurn / size);
 }
 
-/// Short turns and more of them, where the document allows it: the less a disturbance spoils.
+/// Short turns and more of them, where the document allows it: a disturbance then spoils fewer.
 int roundsOf(std::size_t size, const Effort& effort)
 {
     return effort.rounds * static_cast<int>(std::clamp<std::size_t>(20000 / size, 1, 5));
 }
 
-/// Seconds that pass for everybody: what counts where threads work side by side.
+/// Elapsed time in seconds: what counts when threads work side by side.
 double wallSeconds()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return std::chrono::duration<double>(now).count();
 }
 
-/// Seconds that a processor worked for this thread: what other programs take meanwhile is left out.
+/// The processor time of this thread in seconds: excludes what other programs take meanwhile.
 double workSeconds()
 {
     timespec time{};
@@ -49,7 +49,7 @@ double workSeconds()
 
 class Stopwatch {
 public:
-    /// The seconds of work since the construction or the last lap.
+    /// The seconds of work since construction or the last lap.
     double lap()
     {
         const double now = workSeconds();
@@ -83,7 +83,7 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// The samples of all rounds; what they are is known by their place.
+/// The samples of all rounds; their position says what they are.
 template <std::size_t Count>
 struct Samples {
     void add(const std::array<double, Count>& round)
@@ -198,7 +198,7 @@ TextSpeed measureText(const TextSample& sample, const Effort& effort, Library&& 
                              theirs += plain();
                      })});
     }
-    if (ours != theirs) throw std::runtime_error("the plain loop comes to another result");
+    if (ours != theirs) throw std::runtime_error("the plain loop has another result");
     const auto [own, loop] = samples.medians();
     return {sample.name, static_cast<double>(sample.bytes) * passes / own, loop / own};
 }
@@ -211,7 +211,7 @@ Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
     const Document written = inWrittenOrder(document);
     const std::size_t repeats = repeatsOf(size, effort);
     Case result{size, order, pair, 0, {}, {}};
-    measureHeap(result, document, written); // and warms everything up
+    measureHeap(result, document, written); // also warms everything up
     Samples<8> samples;
     for (int round = 0; round < roundsOf(size, effort); ++round)
         samples.add(measureRound(document, written, repeats));
@@ -224,7 +224,7 @@ Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
 ThreadGains measureThreads(const Effort& effort)
 {
     constexpr std::size_t size = 1000;
-    // More than for one thread, whose starting must not show.
+    // More than for one thread, so that starting the threads does not show.
     const std::size_t writes = 10 * repeatsOf(size, effort);
     const std::array<Document, 2> documents = {makeDocument(size, Order::shuffled, Pair::enDe),
                                                makeDocument(size, Order::shuffled, Pair::enJa)};
@@ -240,7 +240,7 @@ ThreadGains measureThreads(const Effort& effort)
     };
     Samples<6> samples;
     for (int round = 0; round < effort.rounds; ++round) {
-        // Alone each document has its turn in a thread too, so that only the company differs.
+        // On its own, each document has its turn in a thread too, so that only the company differs.
         samples.add({wallSecondsOf([&] { inThreads(1, library); }),
                      wallSecondsOf([&] { inThreads(1, [&](std::size_t) { library(1); }); }),
                      wallSecondsOf([&] { inThreads(2, library); }),
@@ -260,11 +260,12 @@ std::vector<TextSpeed> measureTexts(const Effort& effort)
             sample, effort, [&] { return countValid(sample); },
             [&] { return countValidPlainly(sample); }));
     }
-    const TextSample sample = captionSample();
-    std::string out;
-    speeds.push_back(measureText(
-        sample, effort, [&] { return escapeAll(sample, out); },
-        [&] { return escapeAllPlainly(sample, out); }));
+    for (const TextSample& sample : {captionSample(), entitySample()}) {
+        std::string out;
+        speeds.push_back(measureText(
+            sample, effort, [&] { return escapeAll(sample, out); },
+            [&] { return escapeAllPlainly(sample, out); }));
+    }
     return speeds;
 }
 

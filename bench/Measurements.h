@@ -12,17 +12,17 @@
 
 namespace ZelInterchangeData::bench {
 
-/// How much is done for one figure.
+/// How much work one figure takes.
 struct Effort {
-    /// Their medians count. Small documents have up to five times as many.
+    /// The medians of the rounds count. Small documents have up to five times as many.
     int rounds = 9;
     /// Small documents are written several times in a turn, until they make this many captions, so
-    /// that the clock's steps do not show.
+    /// that the resolution of the clock does not show.
     std::size_t captionsInTurn = 4000;
 };
 
-/// Medians over the rounds, in seconds for one document. Each includes the release of what was
-/// made in it; the caller's sets and the document object are released in `release`.
+/// Medians over the rounds, in seconds for one document. Each includes releasing what was made in
+/// it; `release` is for the caller's sets and the document object.
 struct Times {
     double fill = 0;
     double set = 0;
@@ -44,11 +44,12 @@ struct Case {
     HeapUse heap;
 };
 
-/// Library and peers take turns within each round. Throws std::runtime_error when library
-/// and appender differ in size.
+/// Library and peers take turns within each round. Throws std::runtime_error when library and
+/// appender differ in size.
 Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort);
 
-/// How many times the work of one thread two threads do in the same time, each on its own document.
+/// How many times the work of one thread two threads do in the same time, each with its own
+/// document.
 struct ThreadGains {
     double library = 0;
     double appender = 0;
@@ -60,7 +61,7 @@ ThreadGains measureThreads(const Effort& effort);
 struct TextSpeed {
     std::string name;
     double bytesPerSecond = 0;
-    /// As a multiple of the byte-by-byte loop's.
+    /// As a multiple of the byte-by-byte loop's speed.
     double timesPlain = 0;
 };
 

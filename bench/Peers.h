@@ -11,9 +11,9 @@
 
 namespace ZelInterchangeData::bench {
 
-// Each writes @p document, whose items stand in the order to be written, to memory of its own and
-// returns the number of bytes. Where @p copy is not null, it is given the text too; when measuring
-// it is null, so that nobody pays for a copy that the peer's own user would not make.
+// Each writes @p document, whose items are in the order to be written, to memory of its own and
+// returns the number of bytes. When @p copy is not null, it receives the text too; it is null while
+// measuring, so that no peer pays for a copy that its own users would not make.
 
 /// Builds the tree and saves it to a string.
 std::size_t writeWithPugixml(const Document& document, std::string* copy);

@@ -1,5 +1,5 @@
 /// @file
-/// The loops that the micro-benchmarks take as their unit.
+/// The loops that are the unit of the micro-benchmarks.
 
 #include "bench/PlainLoops.h"
 
@@ -7,7 +7,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// How many continuation bytes follow @p lead; -1 where it is no lead byte.
+/// The number of continuation bytes that follow @p lead; -1 when it is not a lead byte.
 int followers(unsigned char lead)
 {
     if (lead < 0x80) return 0;

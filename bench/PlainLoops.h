@@ -10,11 +10,11 @@
 namespace ZelInterchangeData::bench {
 
 /// Whether the sequences of @p text have the form of UTF-8, as ZelDataUtilities::verifyUtf8Format()
-/// without its limit to 16 bits sees it.
+/// checks it without its limit to 16 bits.
 bool hasUtf8Form(std::string_view text);
 
-/// Appends @p text to @p out with the five entities and without control characters, line feeds
-/// excepted.
+/// Appends @p text to @p out with the five entities and without control characters except line
+/// feeds.
 void appendEscapedByteByByte(std::string& out, std::string_view text);
 
 } // namespace ZelInterchangeData::bench

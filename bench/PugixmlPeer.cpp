@@ -45,9 +45,9 @@ std::size_t writeWithPugixml(const Document& document, std::string* copy)
 {
     pugi::xml_document tree;
     TreeBuilder builder(tree);
-    Description(document, builder).tell();
+    Description(document, builder).describe();
     StringWriter writer(roomFor(document));
-    // Without the conversion that another encoding would cost.
+    // Avoids the conversion that another encoding would cost.
     tree.save(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
     if (copy != nullptr) *copy = writer.text;
     return writer.text.size();

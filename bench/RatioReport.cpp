@@ -1,5 +1,5 @@
 /// @file
-/// Draws the figures that count from the measurements: always the worst case.
+/// Computes the figures that count from the measurements: always the worst case.
 
 #include "bench/RatioReport.h"
 
@@ -19,7 +19,7 @@ std::string fixed(double value, int digits = 2)
     return text.data();
 }
 
-/// A limit as it stands in the table, without zeros that say nothing.
+/// A limit as the table shows it, without trailing zeros.
 std::string limitText(double value)
 {
     std::array<char, 64> text{};
@@ -59,7 +59,7 @@ std::string whereOf(const Case& aCase)
 
 double allSteps(const Times& times)
 {
-    // With the release, because the peers' times hold theirs.
+    // Includes the release, because the peers' times include theirs.
     return times.fill + times.set + times.write + times.release;
 }
 
@@ -90,7 +90,7 @@ double exponent(const Case& small, const Case& large)
            std::log(static_cast<double>(large.size) / static_cast<double>(small.size));
 }
 
-/// From 1,000 captions to 100,000; a run that leaves out one of them says nothing about growth.
+/// From 1,000 captions to 100,000; a run without one of them says nothing about growth.
 Row growthRow(const std::vector<Case>& cases, Order order)
 {
     const std::string measure =
@@ -123,16 +123,17 @@ struct TextLimits {
     /// GB/s.
     double must;
     double goal;
-    /// As a multiple of the plain loop's speed; `must` over the loop's GB/s where it was set.
+    /// As a multiple of the plain loop's speed; `must` divided by the loop's GB/s where it was set.
     double multiple;
 };
 
 /// In the order of measureTexts().
-constexpr std::array<TextLimits, 4> textLimits = {{
+constexpr std::array<TextLimits, 5> textLimits = {{
     {"UTF-8 check, short ASCII texts", 2, 4, 2.4},
     {"UTF-8 check, short Latin texts", 1, 2, 1.5},
     {"UTF-8 check, short CJK texts", 0.75, 2, 1.5},
     {"escape and strip, caption-length texts", 1.2, 2, 3.4},
+    {"escape, a text of nothing but \"&\", output", 0.4, 1, 1},
 }};
 
 void addTextRows(std::vector<Row>& rows, const std::vector<TextSpeed>& texts)

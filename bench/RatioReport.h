@@ -1,5 +1,5 @@
 /// @file
-/// The table of ratios, and what must hold in it.
+/// The table of ratios, and its limits.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_RATIOREPORT_H
 #define ZELINTERCHANGEDATA_BENCH_RATIOREPORT_H
@@ -15,7 +15,7 @@ namespace ZelInterchangeData::bench {
 /// Everything that one run measured.
 struct Results {
     std::vector<Case> cases;
-    /// Empty where the machine has one processor only.
+    /// Empty on a machine with one processor only.
     std::optional<ThreadGains> threads;
     std::vector<TextSpeed> texts;
 };
@@ -23,7 +23,7 @@ struct Results {
 enum class Verdict {
     met,
     missed,
-    /// The run did not measure it, which a check does not let pass.
+    /// The run did not measure it, which a check does not accept.
     notMeasured,
     /// Given for information: an absolute figure depends on the machine.
     shown

@@ -1,5 +1,5 @@
 /// @file
-/// What a program would do that had only this one packet to write.
+/// What a program would do that had to write only this one packet.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_STRAIGHTAPPENDER_H
 #define ZELINTERCHANGEDATA_BENCH_STRAIGHTAPPENDER_H
@@ -11,7 +11,7 @@
 namespace ZelInterchangeData::bench {
 
 /// The packet of @p document, byte for byte the library's, apart from the date, which is the time
-/// of the call. The items are written in the order in which they stand. Nothing is checked.
+/// of the call. Writes the items in their stored order and checks nothing.
 std::string appendPacket(const Document& document);
 
 } // namespace ZelInterchangeData::bench

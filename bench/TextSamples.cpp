@@ -7,7 +7,7 @@
 #include "bench/Documents.h"
 #include "bench/PlainLoops.h"
 
-#include "util/MarkupText.h"
+#include "util/TextUtilities.h"
 
 #include <utility>
 
@@ -47,6 +47,13 @@ TextSample captionSample()
             texts.push_back(std::move(text));
     }
     return sampleOf("captions", std::move(texts));
+}
+
+TextSample entitySample()
+{
+    constexpr std::size_t length = std::size_t{1} << 20;
+    constexpr std::size_t entityLength = 5; // of "&amp;"
+    return {"entities", {std::string(length, '&')}, length * entityLength};
 }
 
 std::size_t countValid(const TextSample& sample)

@@ -1,5 +1,5 @@
 /// @file
-/// The short texts of the text benchmarks, and the library's functions under one name each.
+/// The short texts of the text benchmarks, and the library's functions, each under one name.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_TEXTSAMPLES_H
 #define ZELINTERCHANGEDATA_BENCH_TEXTSAMPLES_H
@@ -21,8 +21,11 @@ struct TextSample {
 std::array<TextSample, 3> utf8Samples();
 /// Texts of caption length in all three, every sixth with special characters.
 TextSample captionSample();
+/// One long text that consists of characters that become entities; its bytes are those of the
+/// entities.
+TextSample entitySample();
 
-/// A pass over all texts; the result is there to be used, so that no call can be left out.
+/// A pass over all texts; use the result, so that the compiler cannot leave out a call.
 std::size_t countValid(const TextSample& sample);
 std::size_t countValidPlainly(const TextSample& sample);
 

@@ -9,7 +9,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// How many of the ranks added so far lie below a given one.
+/// The number of ranks added so far that are below a given one.
 class Counts {
 public:
     explicit Counts(std::size_t ranks) : sums_(ranks + 1) {}
@@ -34,7 +34,7 @@ private:
     std::vector<std::size_t> sums_;
 };
 
-/// The items of one start. Each later item with a smaller start turns them by one place.
+/// The items of one start. Each later item with a smaller start rotates them by one place.
 struct Group {
     std::vector<std::size_t> members;
     std::size_t turns = 0;

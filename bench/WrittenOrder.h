@@ -1,5 +1,5 @@
 /// @file
-/// The order in which items are written, worked out apart from the library.
+/// The order in which items are written, determined independently of the library.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_WRITTENORDER_H
 #define ZELINTERCHANGEDATA_BENCH_WRITTENORDER_H
@@ -10,7 +10,7 @@
 namespace ZelInterchangeData::bench {
 
 /// The indices of @p starts in the order that an exchange sort leaves, ties included, without its
-/// quadratic time; made for preparing benchmarks, not for being quick itself.
+/// quadratic time; for preparing benchmarks, not fast itself.
 std::vector<std::size_t> writtenOrder(const std::vector<long long>& starts);
 
 } // namespace ZelInterchangeData::bench

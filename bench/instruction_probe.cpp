@@ -1,6 +1,7 @@
 /// @file
 /// A fixed amount of work for callgrind, one dump for each named section.
 
+#include "ZelInterchangeData/ZelDataFace.h"
 #include "bench/FaceRun.h"
 #include "bench/LibraryRun.h"
 #include "bench/StraightAppender.h"
@@ -15,7 +16,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// Counts the instructions of @p work alone, under @p name. The library's sections and the others'
+/// Counts the instructions of @p work alone, under @p name. The library's sections and the others
 /// are counted in the same way. Outside valgrind the requests do nothing.
 template <class Work>
 void section(const std::string& name, Work&& work)
@@ -54,7 +55,8 @@ void probeTexts()
     section("escape.plain", [&] { return escapeAllPlainly(sample, out); });
 }
 
-/// What @p publish gives in ten rounds. The state in which the first finds the heap counts little then.
+/// What @p publish returns in ten rounds. The state in which the first round finds the heap then
+/// counts little.
 template <class Publish>
 std::size_t tenRounds(Publish&& publish)
 {
@@ -75,14 +77,59 @@ void probeFace()
     section("face", [&] { return tenRounds(throughFace); });
 }
 
-/// What is wrong with captions in order, where the search for a later one that starts too early goes
-/// over all of them.
+/// Finds problems in captions in order, where the search for a later one that starts too early
+/// examines all of them.
 void probeFindings(std::size_t size)
 {
     const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
     section("findings." + std::to_string(size), [&] {
         std::vector<ZelDataFinding> findings;
         return failed(findProblems(*sets.captions, findings)) ? 0 : findings.size() + 1;
+    });
+}
+
+std::string languageID(std::size_t number)
+{
+    return "en-" + std::to_string(number);
+}
+
+/// Texts in many languages, on one item and in one list.
+void probeLanguages(std::size_t size)
+{
+    const auto item = createCaptionItem();
+    checked(*item).setDuration(1000);
+    const std::string text(1000, 'x'); // many of them are more than is packed
+    section("texts." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            checked(*item).setTextForLanguage(text, languageID(i * 7919 % size));
+        return size;
+    });
+    const auto header = createHeader();
+    section("languages." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            checked(*header).addLanguage(languageID(i));
+        return size;
+    });
+    const auto captions = createCaptions();
+    section("item." + std::to_string(size),
+            [&] { return checked(*captions).addCaptionItem(*item).getLanguageCount(); });
+}
+
+/// Removes all captions from the front, one after another.
+void probeFront(std::size_t size)
+{
+    const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
+    const auto captions = checked(*sets.captions);
+    section("front." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            captions.removeCaptionItemAt(0);
+        return captions.getCaptionItemCount() + 1;
+    });
+    std::vector<const void*> pointers(size);
+    section("front.pointers." + std::to_string(size), [&] {
+        for (std::size_t i = 0; i < size; ++i)
+            pointers.erase(pointers.begin());
+        return pointers.size() + 1;
     });
 }
 
@@ -99,7 +146,10 @@ int main()
     }
     probeTexts();
     probeFace();
-    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}})
+    for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}}) {
         probeFindings(size);
+        probeLanguages(size);
+        probeFront(size);
+    }
     return 0;
 }

@@ -13,7 +13,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// A run that does one thing with one document, again and again.
+/// A run that does one thing with one document, repeatedly.
 using Run = std::function<void(benchmark::State&, const Document&)>;
 
 void count(benchmark::State& state, const Document& document, std::size_t bytes)
@@ -56,7 +56,7 @@ void runAll(benchmark::State& state, const Document& document)
     count(state, document, bytes);
 }
 
-/// A peer, which gets the items in the order that is written.
+/// A peer, which gets the items in the order in which they are written.
 template <class Write>
 Run peer(Write writeOnce)
 {

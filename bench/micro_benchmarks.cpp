@@ -1,5 +1,5 @@
 /// @file
-/// The text functions beside plain loops, and the ordering beside a stable sort.
+/// The text functions compared with plain loops, and the ordering compared with a stable sort.
 
 #include "bench/LibraryRun.h"
 #include "bench/TextSamples.h"
@@ -54,7 +54,8 @@ std::vector<long long> startsOf(std::size_t count, Order order)
     return starts;
 }
 
-/// The set is made anew, apart from the time, because ordering it again would find it in order.
+/// The set is made anew outside the measured time, because ordering it again would find it in
+/// order.
 void orderByLibrary(benchmark::State& state, const std::vector<long long>& starts)
 {
     using Clock = std::chrono::steady_clock;

@@ -24,11 +24,11 @@ constexpr const char* usage =
     "its worst case, and all cases, with times as multiples of the straight appender's.\n"
     "  --sizes   captions in a document (default 100,1000,10000,100000)\n"
     "  --orders  ascending, reversed, shuffled, tied (default all)\n"
-    "  --rounds  rounds, whose medians count (default 9; small sizes have up to five times as "
-    "many)\n"
-    "  --quick   the same as --sizes 100,1000 --rounds 1, with less in a round: no figures to "
-    "quote\n"
-    "  --check   exit status 1 when a ratio is missed or was not measured\n";
+    "  --rounds  number of rounds; their medians count (default 9; small sizes have up to five "
+    "times as many)\n"
+    "  --quick   the same as --sizes 100,1000 --rounds 1, with less in a round: figures not to "
+    "be quoted\n"
+    "  --check   exit status 1 when a ratio breaks its limit or was not measured\n";
 
 struct Options {
     std::vector<std::size_t> sizes = {100, 1000, 10000, 100000};
@@ -54,11 +54,12 @@ Order orderFrom(std::string_view text)
 {
     const auto* const found = std::find_if(allOrders.begin(), allOrders.end(),
                                            [&](Order order) { return nameOf(order) == text; });
-    if (found == allOrders.end()) throw std::invalid_argument("no order: " + std::string(text));
+    if (found == allOrders.end())
+        throw std::invalid_argument("unknown order: " + std::string(text));
     return *found;
 }
 
-/// The parts of @p text between its commas, each through @p convert.
+/// The parts of @p text between its commas, each converted by @p convert.
 template <class Convert>
 auto listFrom(std::string_view text, Convert convert)
 {
@@ -72,12 +73,13 @@ auto listFrom(std::string_view text, Convert convert)
     return values;
 }
 
-/// Takes the option at @p at, and its value where it has one.
+/// Reads the option at @p at, and its value if it takes one.
 void readOption(Options& options, const std::vector<std::string_view>& arguments, std::size_t& at)
 {
     const std::string_view name = arguments[at];
     const auto value = [&] {
-        if (++at == arguments.size()) throw std::invalid_argument(std::string(name) + " lacks one");
+        if (++at == arguments.size())
+            throw std::invalid_argument(std::string(name) + " needs a value");
         return arguments[at];
     };
     if (name == "--sizes") {
@@ -94,7 +96,7 @@ void readOption(Options& options, const std::vector<std::string_view>& arguments
     } else if (name == "--help" || name == "-h") {
         options.help = true;
     } else {
-        throw std::invalid_argument("no option: " + std::string(name));
+        throw std::invalid_argument("unknown option: " + std::string(name));
     }
 }
 
@@ -120,7 +122,7 @@ Results measure(const Options& options)
     return results;
 }
 
-/// Names what is missed on standard error; true when nothing is.
+/// Prints what is missed to standard error; returns true when nothing is.
 bool passes(const std::vector<Row>& rows)
 {
     bool pass = true;
@@ -138,9 +140,9 @@ int run(const Options& options)
     const Results results = measure(options);
     const auto rows = ratioRows(results);
     std::printf("%s\n", ratioTable(rows).c_str());
-    std::printf(
-        "All times as multiples of the straight appender's, medians of %d rounds or more:\n\n%s",
-        options.effort.rounds, caseTable(results.cases).c_str());
+    std::printf("All times are multiples of the straight appender's time, medians of %d rounds or "
+                "more:\n\n%s",
+                options.effort.rounds, caseTable(results.cases).c_str());
     return options.check && !passes(rows) ? 1 : 0;
 }
 

@@ -1,5 +1,5 @@
-# The install rules: libraries, headers, the CMake package and the .pc file. A Debug and a Release
-# build go into one prefix side by side, and the prefix may be moved.
+# The install rules: libraries, headers, the CMake package and the .pc file. You can install Debug and
+# Release builds in the same prefix, and move the prefix afterwards.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -29,8 +29,8 @@ install(FILES
 install(EXPORT ZelInterchangeDataTargets NAMESPACE ZelInterchangeData::
     DESTINATION ${zel_package_folder} COMPONENT ${zel_development})
 
-# pkg-config. The prefix is found from the place of the .pc file; where the library folder is an
-# absolute path, the file cannot move with the prefix and names the prefix that was configured.
+# pkg-config. The .pc file finds the prefix relative to its own folder. If the library folder is an
+# absolute path, the file cannot move with the prefix, so it states the configured prefix.
 set(zel_pc_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 if(IS_ABSOLUTE ${zel_pc_folder})
     set(zel_pc_prefix ${CMAKE_INSTALL_PREFIX})
@@ -43,8 +43,8 @@ foreach(folder IN ITEMS LIBDIR INCLUDEDIR)
     cmake_path(APPEND zel_pc_${folder} ${CMAKE_INSTALL_${folder}})
 endforeach()
 
-# The file has the name of the library file, so ZelInterchangeData.pc serves the optimised library and
-# ZelInterchangeDatad.pc the one with the postfix of a Debug build; neither overwrites the other.
+# The file is named after the library file: ZelInterchangeData.pc for the optimised library and
+# ZelInterchangeDatad.pc for the Debug build, so neither overwrites the other.
 set(zel_pc_name $<TARGET_FILE_BASE_NAME:ZelInterchangeData>)
 configure_file(cmake/ZelInterchangeData.pc.in ${PROJECT_BINARY_DIR}/ZelInterchangeData.pc.in @ONLY)
 file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/${zel_pc_name}.pc

@@ -1,5 +1,6 @@
-# The warnings of the project's own targets. They are private to each target, so that a project that
-# uses the library never sees them; as a part of that project the library is built without them.
+# Enables warnings for the project's own targets. The options are private to each target, so they do
+# not apply to a project that uses the library. As part of another project, the library is built
+# without them.
 
 function(zel_warnings target)
     if(ZELINTERCHANGEDATA_WARNINGS)

@@ -40,7 +40,7 @@ def random_bytes(rng, size):
 
 
 def argument_bytes(rng):
-    """A few bytes as arguments like them: words, numbers, short and long texts."""
+    """A few bytes in the form of arguments: words, numbers, short and long texts."""
     kind = rng.randrange(4)
     if kind == 0:
         return bytes([rng.randrange(17)])
@@ -53,7 +53,7 @@ def argument_bytes(rng):
 
 
 def calls(rng, number):
-    """Calls with a plan each; in half of the files nothing fails before the second half."""
+    """Calls, each with a plan; in half of the files nothing fails before the second half."""
     sequence = b""
     for call in range(10 + 4 * number):
         fails = number % 2 == 0 or call > 2 * number
@@ -109,7 +109,7 @@ def offences():
     seeds = dict(all_seeds())
     found = {path.relative_to(SEEDS) for path in SEEDS.rglob("*") if path.is_file()}
     yield from (f"{path}: is missing" for path in sorted(seeds.keys() - found))
-    yield from (f"{path}: is none of the seeds" for path in sorted(found - seeds.keys()))
+    yield from (f"{path}: is not one of the seeds" for path in sorted(found - seeds.keys()))
     yield from (f"{path}: differs" for path in sorted(found & seeds.keys())
                 if (SEEDS / path).read_bytes() != seeds[path])
 
@@ -124,7 +124,7 @@ def write():
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--check", action="store_true",
-                        help="write nothing; exit status 1 when a seed is another one")
+                        help="write nothing; exit status 1 when a seed differs")
     if not parser.parse_args().check:
         write()
         return 0

@@ -11,11 +11,11 @@ namespace publish {
 
 namespace {
 
-/// The captions with one start and end.
+/// The captions that share one start and end.
 struct Simultaneous {
     std::vector<std::size_t> captions;
     /// For each language, how many captions have a text in it. These are always the first ones,
-    /// because a language fills the first caption that lacks it.
+    /// because a language fills the first caption without a text in it.
     std::map<std::string, std::size_t> filled;
 };
 

@@ -1,5 +1,5 @@
 /// @file
-/// Brings the languages of a caption together.
+/// Merges the texts of several languages into captions.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_CAPTIONMERGER_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_CAPTIONMERGER_H
@@ -16,7 +16,7 @@ struct LanguageText {
     std::string text;
 };
 
-/// A caption in the making.
+/// A caption, as it is put together.
 struct MergedCaption {
     long long start = 0;
     long long end = 0;

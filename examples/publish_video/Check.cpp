@@ -13,7 +13,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// The codes that this program can meet, in words.
+/// Describes the codes that this program can meet.
 std::string wordsFor(ZelDataResult_tags code)
 {
     switch (code) {
@@ -32,7 +32,7 @@ std::string wordsFor(ZelDataResult_tags code)
     case ZelData_InvalidData:
         return "the data are not valid";
     default:
-        return std::string("the library answers ") + toString(code);
+        return std::string("the library returned ") + toString(code);
     }
 }
 

@@ -15,11 +15,11 @@ namespace publish {
 /// Throws PublishError, which names @p what, when @p code is an error or a warning.
 void check(ZelInterchangeData::ZelDataResult_tags code, const std::string& what);
 
-/// Throws PublishError, which names @p what, when @p code is an error. For calls whose warning is
-/// welcome.
+/// Throws PublishError, which names @p what, when @p code is an error. For calls that may end with
+/// a warning.
 void checkError(ZelInterchangeData::ZelDataResult_tags code, const std::string& what);
 
-/// The object that a `create...` operation of @p maker hands out, in an owner's hands at once.
+/// Returns the object that a `create...` operation of @p maker hands out, owned at once.
 template <class Maker, class Made>
 std::unique_ptr<Made> make(const Maker& maker,
                            ZelInterchangeData::ZelDataResult_tags (Maker::*create)(Made**) const)

@@ -26,7 +26,7 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-/// Reads through the C library, because a stream does not tell a failure, such as that of reading a
+/// Reads through the C library, because a stream does not distinguish a failure, such as reading a
 /// folder, from the end of the file.
 std::string contentsOf(const std::string& path, const std::string& name)
 {

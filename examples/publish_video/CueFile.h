@@ -14,7 +14,7 @@
 
 namespace publish {
 
-/// The cues of one file that become items, and what became of the others.
+/// The cues of one file that become items, and what happened to the others.
 struct CueFile {
     /// As on the command line, for messages.
     std::string name;
@@ -23,9 +23,9 @@ struct CueFile {
     std::vector<Cue> cues;
     std::size_t malformed = 0;
     std::size_t withoutLength = 0;
-    /// Cues of nothing but blanks; they are among the cues unless empty ones are skipped.
+    /// Cues that contain nothing but blanks; they are among the cues unless empty ones are skipped.
     std::size_t empty = 0;
-    /// The largest end of a cue, skipped ones included; nothing without any.
+    /// The largest end of a cue, skipped ones included; `std::nullopt` without any.
     std::optional<long long> lastEnd;
 };
 
@@ -39,11 +39,11 @@ struct CueFiles {
 /// Makes a file's cues from its contents; throws PublishError when they are not UTF-8.
 CueFile makeCueFile(const std::string& name, const std::string& bytes, const Options& options);
 
-/// Reads every file that @p options name, with markup removed and empty cues skipped where they ask
-/// for it; throws PublishError.
+/// Reads every file that @p options name, removes markup and skips empty cues where they ask for
+/// it; throws PublishError.
 CueFiles readCueFiles(const Options& options);
 
-/// The largest end of a cue of all files; nothing without any.
+/// The largest end of a cue in all files; `std::nullopt` without any.
 std::optional<long long> lastEnd(const CueFiles& files);
 
 } // namespace publish

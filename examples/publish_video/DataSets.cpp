@@ -26,7 +26,7 @@ unsigned long videoLength(const Options& options, const CueFiles& files)
 
 void setFont(i_ZelDataCaptions& captions, const Options& options)
 {
-    // The library writes the font family into the packet as it stands, so it is escaped here.
+    // The library writes the font family into the packet without escaping, so it is escaped here.
     if (options.font)
         check(captions.setFontFamily(ZelDataUtilities::htmlTagsToText(*options.font)), "--font");
     if (options.fontSize) check(captions.setFontSize(*options.fontSize), "--font-size");
@@ -35,7 +35,7 @@ void setFont(i_ZelDataCaptions& captions, const Options& options)
 void addCaption(i_ZelDataCaptions& captions, const MergedCaption& caption)
 {
     const auto item = make(captions, &i_ZelDataCaptions::createCaptionItem);
-    // The start comes first: an end is only accepted after it.
+    // The start comes first: an end is only accepted when it is after the start.
     check(item->setStart(caption.start), "a caption's start");
     check(item->setEnd(caption.end), "a caption's end");
     for (const LanguageText& text : caption.texts)
@@ -74,7 +74,7 @@ std::vector<long long> entryStarts(const std::optional<CueFile>& toc)
     return starts;
 }
 
-/// The number of the last entry that starts at or before @p start, and 0 where there is none.
+/// The number of the last entry that starts at or before @p start; 0 when there is none.
 unsigned long entryAt(const std::vector<long long>& starts, long long start)
 {
     const auto next = std::upper_bound(starts.begin(), starts.end(), start);
@@ -88,7 +88,7 @@ std::unique_ptr<i_ZelDataHeader> makeHeader(const i_ZelInterchangeDataCore& docu
 {
     auto header = make(document, &i_ZelInterchangeDataCore::createDataHeader);
     check(header->setTitle(options.title), "--title");
-    // The library writes the creator into the packet as it stands, so it is escaped here.
+    // The library writes the creator into the packet without escaping, so it is escaped here.
     check(header->setCreator(ZelDataUtilities::htmlTagsToText(options.creator)), "--creator");
     check(header->setDescription(options.description), "--description");
     check(header->setAppName(options.appName), "--app-name");
@@ -97,7 +97,7 @@ std::unique_ptr<i_ZelDataHeader> makeHeader(const i_ZelInterchangeDataCore& docu
     check(header->setVideoLength(videoLength(options, files)), "--length");
     check(header->setVideoWidth(options.width), "--size");
     check(header->setVideoHeight(options.height), "--size");
-    // A name that is given twice is added once, with a warning.
+    // A name that is given twice is added once; the second time gives a warning.
     for (const std::string& name : options.contentNames)
         checkError(header->addContentName(name), "--content");
     return header;

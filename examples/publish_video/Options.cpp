@@ -6,8 +6,8 @@
 #include "PublishError.h"
 #include "Text.h"
 
-// Its own scanner, because the one with regular expressions recurses once for each character and
-// takes no line feed in a value.
+// Uses the scanner of cxxopts itself: the one with regular expressions recurses once for each
+// character and allows no line feed in a value.
 #define CXXOPTS_NO_REGEX
 #include <cxxopts.hpp>
 
@@ -41,7 +41,7 @@ bool isRepeatable(const std::string& key)
     return key == "keyword" || key == "content";
 }
 
-/// Every option takes one plain text. A list would be split at commas, and a flag would take
+/// Every option takes one plain text: a list would be split at commas, and a flag would accept
 /// "false".
 cxxopts::Options declaredOptions()
 {
@@ -85,7 +85,7 @@ bool isLanguageForm(std::string_view text)
            std::all_of(text.begin() + 2, text.end(), isLanguageCharacter);
 }
 
-/// Splits @p argument, which holds a `=`, at the first one.
+/// Splits @p argument, which contains a `=`, at the first one.
 LanguageFile languageFile(const std::string& argument, const std::string& name)
 {
     const std::size_t equals = argument.find('=');

@@ -40,11 +40,11 @@ struct Options {
     std::vector<LanguageFile> captions;
 };
 
-/// Reads the command line; throws PublishError. With `--help` nothing else is looked at.
-/// The form of a language is checked, not whether the library knows it.
+/// Reads the command line; throws PublishError. With `--help`, checks nothing else. Checks the form
+/// of a language, not whether the library knows it.
 Options parseOptions(int argc, const char* const* argv);
 
-/// How to call the program.
+/// Returns the help text.
 const char* usage();
 
 } // namespace publish

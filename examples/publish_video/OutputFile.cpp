@@ -36,13 +36,13 @@ fs::path folderOf(const fs::path& file, const std::string& output)
     return folder;
 }
 
-/// Whether the links of @p folder name open files, not paths.
+/// Whether the links in @p folder refer to open files, not to paths.
 bool holdsOpenFiles(const fs::path& folder)
 {
     return folder.native().compare(0, 6, "/proc/") == 0;
 }
 
-/// Follows symbolic links, so that the file behind them is replaced and not the link.
+/// Follows symbolic links, so that the file they lead to is replaced and not the link.
 std::optional<fs::path> fileBehindLinks(const std::string& output)
 {
     constexpr int mostLinks = 40;
@@ -95,7 +95,7 @@ std::optional<fs::path> replaceableFile(const std::string& output)
     }
     if (S_ISDIR(status.st_mode)) failToWrite(output, EISDIR);
     if (!S_ISREG(status.st_mode)) return std::nullopt;
-    // Replacing a file asks for no permission on the file itself, so it is asked for here.
+    // Replacing a file needs no permission on the file itself, so that is checked here.
     if (::access(output.c_str(), W_OK) != 0) failToWrite(output, errno);
     return fileBehindLinks(output);
 }

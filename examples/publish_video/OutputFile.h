@@ -1,5 +1,5 @@
 /// @file
-/// Writes a file so that it is there as a whole or not at all.
+/// Writes a file completely or not at all.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_OUTPUTFILE_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_OUTPUTFILE_H
@@ -12,17 +12,17 @@
 
 namespace publish {
 
-/// The regular file that @p output names, or that a symbolic link there leads to; it need not
-/// exist. Nothing where something is written as it stands: a device, a pipe, a file that is already
-/// open
-/// (`/dev/stdout`). Throws PublishError for a folder and a file without write permission.
+/// Returns the regular file that @p output names, or that a symbolic link there leads to; it need
+/// not exist. `std::nullopt` for anything that must be written in place: a device, a pipe, a file
+/// that is already open (`/dev/stdout`). Throws PublishError for a folder and for a file without
+/// write permission.
 std::optional<std::filesystem::path> replaceableFile(const std::string& output);
 
-/// Writes @p bytes into the existing @p output, behind what it holds; throws PublishError.
+/// Appends @p bytes to the existing @p output; throws PublishError.
 void writeDirectly(const std::string& output, std::string_view bytes);
 
-/// A new empty file in the folder of another one, which it may replace. Removed unless it did.
-/// All operations throw PublishError.
+/// A new empty file in the folder of another one, which it can replace. Removed unless it did. All
+/// operations throw PublishError.
 class ReplacementFile {
 public:
     /// @p output names the file in messages.
@@ -33,8 +33,8 @@ public:
 
     const std::string& path() const { return path_; }
     std::size_t size() const;
-    /// Takes the place of the other file, with its permissions, or those of a new file where there
-    /// is none.
+    /// Takes the place of the other file, with that file's permissions, or those of a new file when
+    /// there is none.
     void replace();
 
 private:

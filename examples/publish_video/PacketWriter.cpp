@@ -14,7 +14,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// What the library's files hold: the declaration, and the packet up to its first zero byte.
+/// What the library writes into a file: the declaration, and the packet up to its first zero byte.
 std::string fileContents(const i_ZelInterchangeDataCore& document)
 {
     std::string packet;
@@ -22,13 +22,13 @@ std::string fileContents(const i_ZelInterchangeDataCore& document)
     return R"(<?xml version="1.0" encoding="utf-8" ?>)" + packet.substr(0, packet.find('\0'));
 }
 
-/// The library does not report a failure after the opening of the file, such as that of a full
-/// device, so the size tells whether everything arrived.
+/// The library does not report a failure after opening the file, such as a full device, so the size
+/// shows whether everything was written.
 void checkSize(std::size_t size, std::size_t expected, const i_ZelInterchangeDataCore& document,
                const std::string& output)
 {
-    // The date's offset may gain or lose a digit when the hour changes between the two writings, so
-    // a second look is taken.
+    // The date's offset may gain or lose a digit when the hour changes between the two writes, so
+    // compare once more.
     if (size != expected && size != fileContents(document).size())
         throw PublishError(printable(output) + ": cannot be written: the file is not complete");
 }

@@ -1,5 +1,5 @@
 /// @file
-/// Brings a document's packet into its file.
+/// Writes a document's packet to its file.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_PACKETWRITER_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_PACKETWRITER_H
@@ -11,9 +11,9 @@
 
 namespace publish {
 
-/// Writes the packet of @p document to @p output and answers its size in bytes. A regular file that
-/// was there is replaced once the packet is complete, and stays as it was on failure; anything else
-/// is written as it stands. Throws PublishError.
+/// Writes the packet of @p document to @p output and returns its size in bytes. An existing regular
+/// file is replaced once the packet is complete, and stays as it was on failure; anything else is
+/// written in place. Throws PublishError.
 std::size_t writePacket(const ZelInterchangeData::i_ZelInterchangeDataCore& document,
                         const std::string& output);
 

@@ -36,7 +36,7 @@ const Entity* entityAt(std::string_view text)
     return found != end ? found : nullptr;
 }
 
-/// Finds where markup ends. The last closing characters are looked up once, so that a text of many
+/// Finds where markup ends. Looks up the last closing characters once, so that a text with many
 /// openings and no closing is not searched to its end for each of them.
 class MarkupFinder {
 public:
@@ -45,7 +45,7 @@ public:
     {
     }
 
-    /// The number of characters of the markup at @p at, or 0 where none stands.
+    /// The number of characters of the markup at @p at; 0 when there is none.
     std::size_t lengthAt(std::size_t at) const
     {
         if (text_[at] == '<') return lengthUpTo('>', lastAngle_, at);

@@ -22,8 +22,8 @@ std::string_view withoutBlanksAtEnd(std::string_view line);
 /// Whether @p text is nothing but blanks, tabs and line feeds.
 bool isNothingButBlanks(std::string_view text);
 
-/// Calls @p take with each line of @p text, without its line feed. What stands after the last line
-/// feed is a line even when it is empty.
+/// Calls @p take with each line of @p text, without its line feed. What follows the last line feed
+/// is a line even when it is empty.
 template <class Take>
 void forEachLine(std::string_view text, Take take)
 {
@@ -34,10 +34,11 @@ void forEachLine(std::string_view text, Take take)
     take(text);
 }
 
-/// @p text without markup: tags (`<...>`) and override blocks (`{\...}`) go, line feeds inside them
-/// included; a `<` or `{\` that is never closed stays. In WebVTT the entities `&amp; &lt; &gt;
-/// &nbsp; &lrm; &rlm;` outside of them become their characters, which are not looked at again. Then
-/// the blanks and tabs at the line ends go. One pass, linear in the length of the text.
+/// Returns @p text without markup: removes tags (`<...>`) and override blocks (`{\...}`), with the
+/// line feeds inside them; a `<` or `{\` that is never closed stays. In WebVTT, replaces the
+/// entities `&amp; &lt; &gt; &nbsp; &lrm; &rlm;` outside of them with their characters, which are
+/// not examined again. Then removes the blanks and tabs at the line ends. One pass, linear in the
+/// length of the text.
 std::string plainText(std::string_view text, bool isWebVtt);
 
 } // namespace publish

@@ -1,5 +1,5 @@
 /// @file
-/// The one way in which the program fails.
+/// The only error of the program.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_PUBLISHERROR_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_PUBLISHERROR_H

@@ -40,8 +40,8 @@ std::string joined(const std::vector<std::string>& parts, const std::string& sep
     return text;
 }
 
-/// Why the caption is no good one, in the report's words, which name the caption themselves. Captions
-/// that were put in order have no other kinds of findings.
+/// Says why the caption breaks a recommendation, without naming the caption: describeCaption()
+/// does. Captions that are in order have no other kinds of findings.
 std::string reasonOf(const ZelDataFinding& finding)
 {
     const std::string value = std::to_string(finding.value);
@@ -57,7 +57,7 @@ std::string reasonOf(const ZelDataFinding& finding)
     }
 }
 
-/// The line on the caption that all of @p findings are about.
+/// The line about the caption that all of @p findings concern.
 std::string describeCaption(const std::vector<ZelDataFinding>& findings)
 {
     std::vector<std::string> reasons;
@@ -79,7 +79,7 @@ std::vector<std::string> describeCaptions(const i_ZelDataCaptions& captions)
 {
     std::vector<std::string> lines;
     std::vector<ZelDataFinding> findings = findingsOf(captions);
-    // They come caption by caption.
+    // The findings are grouped by caption.
     for (auto first = findings.begin(); first != findings.end();) {
         const auto next = std::find_if(first, findings.end(), [&](const ZelDataFinding& finding) {
             return finding.item != first->item;
@@ -94,7 +94,7 @@ std::string describeLanguages(const i_ZelDataCaptions& captions)
 {
     std::vector<std::string> languages;
     check(captions.getOrderedLanguageIDs(languages), "reading the languages");
-    // The library lists this one where the captions have none.
+    // The library lists this one when the captions have none.
     if (languages.empty()) languages.emplace_back("en-US");
     return "languages: " + joined(languages, ", ");
 }

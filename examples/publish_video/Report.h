@@ -1,5 +1,5 @@
 /// @file
-/// What the program says about its work.
+/// What the program reports.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_REPORT_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_REPORT_H
@@ -13,7 +13,7 @@
 
 namespace publish {
 
-/// One line on the cues of @p file.
+/// One line about the cues of @p file.
 std::string describeFile(const CueFile& file, bool skipEmpty);
 
 /// One line for each caption that breaks a recommended limit, in the packet's order: its start, and

@@ -65,7 +65,7 @@ private:
     std::string_view rest_;
 };
 
-/// The value of any number of digits; nothing without a digit and beyond 64 bits.
+/// The value of any number of digits; `std::nullopt` without a digit and beyond 64 bits.
 std::optional<unsigned long long> numberOf(std::string_view digits)
 {
     unsigned long long value = 0;
@@ -92,15 +92,15 @@ std::optional<unsigned long long> milliseconds(std::string_view digits)
     return numberOf(filled);
 }
 
-/// @p hours and @p below, which is less than an hour, in milliseconds; nothing when the sum is too
-/// large to be a time.
+/// @p hours and @p below, which is less than an hour, in milliseconds; `std::nullopt` when the sum
+/// is too large for a time.
 std::optional<long long> timeOf(unsigned long long hours, unsigned long long below)
 {
     if (hours > (latest - below) / hour) return std::nullopt;
     return static_cast<long long>(hours * hour + below);
 }
 
-/// `[hours:]minutes:seconds.fraction`, with a comma as good as a point.
+/// `[hours:]minutes:seconds.fraction`; a comma may replace the point.
 std::optional<long long> takeTime(LineScanner& scanner)
 {
     std::string_view hours = "0";
@@ -180,7 +180,7 @@ std::string_view withoutByteOrderMark(std::string_view bytes)
     return bytes.substr(0, mark.size()) == mark ? bytes.substr(mark.size()) : bytes;
 }
 
-/// A line feed for each CR LF and each CR.
+/// Replaces each CR LF and each CR with a line feed.
 std::string withLineFeeds(std::string_view text)
 {
     std::string unified;

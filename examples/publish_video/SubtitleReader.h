@@ -1,5 +1,5 @@
 /// @file
-/// Reads SubRip (SRT) and WebVTT files, the way they are found rather than the way they should be.
+/// Reads SubRip (SRT) and WebVTT files as they occur in practice rather than as they should be.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_SUBTITLEREADER_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_SUBTITLEREADER_H
@@ -12,7 +12,7 @@
 
 namespace publish {
 
-/// One cue; its end lies after its start. Times are in milliseconds.
+/// One cue; its end is after its start. Times are in milliseconds.
 struct Cue {
     long long start = 0;
     long long end = 0;
@@ -26,16 +26,16 @@ struct Subtitles {
     bool isWebVtt = false;
     /// In file order.
     std::vector<Cue> cues;
-    /// The lines with an arrow that are no timing line. They and their text are left out.
+    /// The lines with an arrow that are not timing lines. They and their text are left out.
     std::size_t malformed = 0;
     /// The cues whose end is not after their start. They are left out.
     std::size_t withoutLength = 0;
 };
 
-/// Reads the contents of a file; nothing when they are not strict UTF-8. A byte order mark, line
-/// ends of all three kinds, and U+FFFE and U+FFFF, which are dropped, are taken care of.
+/// Reads the contents of a file; `std::nullopt` when they are not strict UTF-8. Accepts a byte
+/// order mark and line ends of all three kinds, and drops U+FFFE and U+FFFF.
 ///
-/// A line with an arrow (`-->`) opens a cue whatever stands before it, so numbers, names, notes and
+/// A line with an arrow (`-->`) opens a cue whatever precedes it, so numbers, names, notes and
 /// styles need not be understood. A blank line or the next arrow ends its text.
 std::optional<Subtitles> readSubtitles(std::string_view bytes);
 

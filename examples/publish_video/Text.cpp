@@ -21,7 +21,7 @@ struct Lead {
     unsigned char secondLast;
 };
 
-/// The narrow second ranges keep out overlong forms (E0, F0), surrogates (ED) and values above
+/// The narrow second ranges exclude overlong forms (E0, F0), surrogates (ED) and values above
 /// U+10FFFF (F4).
 constexpr Lead leads[] = {
     {0x00, 0x7F, 1, 0x00, 0x00}, {0xC2, 0xDF, 2, 0x80, 0xBF}, {0xE0, 0xE0, 3, 0xA0, 0xBF},
@@ -47,7 +47,7 @@ const Lead* leadOf(unsigned char byte)
     return found != end ? found : nullptr;
 }
 
-/// The length of the sequence at @p at, or 0 where none stands.
+/// The length of the sequence at @p at; 0 when there is none.
 std::size_t sequenceLength(std::string_view text, std::size_t at)
 {
     const Lead* lead = leadOf(byteAt(text, at));
@@ -73,7 +73,7 @@ bool isControl(std::string_view character)
     return first == 0xC2 && byteAt(character, 1) < 0xA0;
 }
 
-/// The character at @p at: one whole sequence, or one byte where none stands.
+/// The character at @p at: one whole sequence, or one byte when there is none.
 std::string_view characterAt(std::string_view text, std::size_t at)
 {
     const std::size_t length = sequenceLength(text, at);

@@ -1,5 +1,5 @@
 /// @file
-/// Strict UTF-8, and the characters that no packet can hold.
+/// Strict UTF-8, and the characters that no packet may contain.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_TEXT_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_TEXT_H
@@ -16,8 +16,8 @@ bool isStrictUtf8(std::string_view text);
 /// @p text, which is strict UTF-8, without U+FFFE and U+FFFF.
 std::string withoutNoncharacters(std::string_view text);
 
-/// What an argument, which is strict UTF-8, brings into the packet: a blank for each tab and line
-/// feed, and neither other control characters (C0, DEL, C1) nor U+FFFE and U+FFFF.
+/// Converts an argument, which is strict UTF-8, for the packet: replaces each tab and line feed
+/// with a blank, and drops other control characters (C0, DEL, C1), U+FFFE and U+FFFF.
 std::string argumentText(std::string_view argument);
 
 /// @p text for a message: on one line, with `\x..` for control characters and bytes that are not

@@ -104,7 +104,8 @@ int run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    // A closed pipe and a file beyond the allowed size are then failures of writing, not the end.
+    // A closed pipe and a file beyond the allowed size then fail the writing instead of ending the
+    // program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     return publish::run(argc, argv);

@@ -1,5 +1,5 @@
 /// @file
-/// The arguments of an operation, by their types: read from an input, handed over, and shown
+/// The arguments of an operation, by their types: read from an input, passed on, and shown
 /// afterwards.
 ///
 /// An argument is copied before each use, so that the same operation can be called again.
@@ -31,7 +31,7 @@ Value readValue(Input& input)
     } else if constexpr (std::is_same_v<Value, float>) {
         return input.fraction();
     } else if constexpr (std::is_same_v<Value, ZelInterchangeData::ZelDataFormatType_tags>) {
-        // The one format nearly always, because with another one nothing happens.
+        // Nearly always the one format: with any other nothing happens.
         return static_cast<Value>(input.byte() == 255 ? 2 : 1);
     } else if constexpr (std::is_enum_v<Value>) {
         return static_cast<Value>(input.byte());
@@ -45,7 +45,7 @@ inline constexpr bool isItemList = false;
 template <class Interface>
 inline constexpr bool isItemList<std::vector<Interface*>> = true;
 
-/// A value that goes in.
+/// An argument that is only read.
 template <class Value, class = void>
 class Argument {
 public:
@@ -66,7 +66,7 @@ public:
     using Argument<Value>::Argument;
 };
 
-/// A value that comes out.
+/// An argument that receives a value.
 template <class Value>
 class Argument<Value&, std::enable_if_t<!std::is_const_v<Value> && !std::is_abstract_v<Value> &&
                                         !isItemList<Value>>> {
@@ -102,10 +102,10 @@ public:
     }
     void show(std::string& text)
     {
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): it is one of the world's, none const.
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): no object of the world is const.
         describe(text, *const_cast<std::remove_const_t<Interface>*>(object_));
     }
-    /// What operations do to it is seen when it is compared with its twin.
+    /// Changes to it show when it is compared with its twin.
     bool isUntouched() const { return true; }
 
 private:
@@ -113,7 +113,7 @@ private:
     Interface* object_ = nullptr;
 };
 
-/// A pointer that takes a new object: an empty one, a full one, or none at all.
+/// A pointer that receives a new object: an empty one, a full one, or null.
 template <class Interface>
 class Argument<Interface**> {
 public:
@@ -145,7 +145,7 @@ private:
     Interface* taken_ = nullptr;
 };
 
-/// A list that takes copies of all items. What it held before is not touched.
+/// A list that receives copies of all items. What it held before is not touched.
 template <class Interface>
 class Argument<std::vector<Interface*>&> {
 public:
@@ -166,7 +166,7 @@ public:
             if (item != nullptr) describe(text, *item);
         }
     }
-    /// Operations that fail leave it empty, or as it was where they are not supported.
+    /// Operations that fail leave it empty, or unchanged where they are not supported.
     bool isUntouched() const
     {
         for (const Interface* item : items_)

@@ -1,6 +1,5 @@
 /// @file
-/// Operations on the objects of two worlds: with memory that runs out in the one, plainly in the
-/// other.
+/// Operations on the objects of two worlds: in one memory runs out, in the other it does not.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_CORE_CALLS_H
 #define ZELINTERCHANGEDATA_FUZZ_CORE_CALLS_H
@@ -23,9 +22,9 @@ namespace fuzz {
 using Code = ZelInterchangeData::ZelDataResult_tags;
 using ZelInterchangeData::FailingAllocation;
 
-/// Which allocations of an operation fail; none of them as it stands.
+/// Which allocations of an operation fail; by default, none.
 struct FailurePlan {
-    /// How many succeed before.
+    /// How many succeed first.
     std::size_t granted = FailingAllocation::unlimited;
     ZelInterchangeData::Shortage shortage = ZelInterchangeData::Shortage::Lasting;
 };
@@ -39,21 +38,21 @@ struct Outcome {
     bool ranShort = false;
 };
 
-/// What may be seen after an operation whose memory ran out.
+/// What is allowed after an operation whose memory ran out.
 struct Traits {
-    /// It is told by an exception, not by a code.
+    /// It is reported by an exception, not by a code.
     bool throwsIt = false;
     /// The object may be changed: the operation has several steps and stops between them.
     bool mayBePartial = false;
-    /// What comes out may be changed.
+    /// Output arguments may be changed.
     bool mayFillArguments = false;
     /// The last error may be the one from before.
     bool mayKeepLastError = false;
-    /// The code is that of another object, whatever that is.
+    /// The code is that of another object, whatever it is.
     bool mayHideIt = false;
 };
 
-/// Two worlds that are equal between any two operations.
+/// Two worlds that are equal between operations.
 class Session {
 public:
     explicit Session(Input& input) : input_(input) {}
@@ -73,7 +72,7 @@ public:
         return {granted, (choice & 1U) != 0 ? Shortage::Lasting : Shortage::Once};
     }
 
-    /// Both worlds hold the same.
+    /// Requires that both worlds hold the same.
     void requireTwins();
 
 private:
@@ -107,20 +106,20 @@ Outcome perform(const FailurePlan& plan, Call&& call)
     return outcome;
 }
 
-/// An operation fails as it must, and its arguments are as they were.
+/// Requires that an operation fails as it must, and its arguments are as they were.
 template <class Arguments>
 void requireExhausted(const Outcome& outcome, const Traits& traits, Arguments& arguments)
 {
     const bool isTold = outcome.code == ZelInterchangeData::ZelData_OutOfMemory;
-    require(isTold || traits.mayHideIt, "a failed allocation is swallowed");
+    require(isTold || traits.mayHideIt, "a failed allocation is ignored");
     require(!isTold || outcome.wasThrown == traits.throwsIt || traits.mayHideIt,
-            "exhausted memory is told the wrong way");
+            "exhausted memory is reported the wrong way");
     const bool isUntouched =
         std::apply([](auto&... argument) { return (argument.isUntouched() && ...); }, arguments);
     require(isUntouched || traits.mayFillArguments, "an argument is changed by a failure");
 }
 
-/// The code, the last error if there is one, and what came out.
+/// The code, the last error if there is one, and the output.
 template <class Arguments>
 std::string shown(const Outcome& outcome, Code lastError, Arguments& arguments)
 {
@@ -152,7 +151,7 @@ public:
                           arguments);
     }
 
-    /// The plain run of the operation, as a text.
+    /// Runs the operation without failures and returns the outcome as a text.
     std::string runPlainly(World& world)
     {
         auto arguments = arguments_;
@@ -160,7 +159,7 @@ public:
         return shown(outcome, object(world).getLastError(), arguments);
     }
 
-    /// Runs out of memory where @p plan says so. Whether it did.
+    /// Runs out of memory as @p plan says. Returns whether it did.
     bool runShort(Session& session, const FailurePlan& plan, const Traits& traits,
                   std::string& result)
     {
@@ -181,7 +180,7 @@ public:
     }
 
 private:
-    /// The operation left @p tested as its twin still is.
+    /// Requires that the operation left @p tested as its twin still is.
     static void requireAsBefore(Interface& tested, Interface& twin, Code lastError)
     {
         tested.setLastError(lastError);
@@ -203,7 +202,7 @@ Operation memberOperation(Method method, Traits traits)
         std::string result;
         if (call.runShort(session, plan, traits, result))
             result = call.runPlainly(session.tested()); // as if nothing had happened
-        requireEqual(call.runPlainly(session.twin()), result, "the twin gives something else");
+        requireEqual(call.runPlainly(session.twin()), result, "the twin returns something else");
     };
 }
 
@@ -220,8 +219,8 @@ Operation member(Code (Interface::*method)(Args...) const, Traits traits = {})
     return memberOperation<Interface, Args...>(method, traits);
 }
 
-/// The operation that calls a function: it gives a code, or a text that @p body puts into its first
-/// argument.
+/// The operation that calls a function: one that returns a code, or one whose text @p body puts
+/// into its first argument.
 template <class... Args>
 Operation function(std::function<Code(Args...)> body, Traits traits = {})
 {
@@ -246,7 +245,7 @@ Operation function(std::function<Code(Args...)> body, Traits traits = {})
         if (!outcome.ranShort)
             requireEqual(shown(again, ZelInterchangeData::ZelData_Ok, second),
                          shown(outcome, ZelInterchangeData::ZelData_Ok, first),
-                         "a function gives two results");
+                         "a function returns two results");
         else
             require(again.code != ZelInterchangeData::ZelData_OutOfMemory,
                     "memory stays exhausted");

@@ -13,7 +13,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// Asks one object for its values, one after the other, and puts its last error back at the end.
+/// Reads the values of one object, one after another, and restores its last error at the end.
 template <class Interface>
 class Interview {
 public:

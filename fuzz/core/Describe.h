@@ -1,7 +1,7 @@
 /// @file
-/// Everything that can be seen of a value or an object, as a text.
+/// Everything that is visible of a value or an object, as a text.
 ///
-/// An object is seen through its getters and keeps its last error.
+/// An object is read through its getters and keeps its last error.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_CORE_DESCRIBE_H
 #define ZELINTERCHANGEDATA_FUZZ_CORE_DESCRIBE_H
@@ -14,7 +14,7 @@
 
 namespace fuzz {
 
-/// Appends what is seen of the argument to @p text.
+/// Appends what is visible of the argument to @p text.
 /// @{
 void describe(std::string& text, const std::string& value);
 void describe(std::string& text, const std::vector<std::string>& values);
@@ -37,7 +37,7 @@ void describe(std::string& text, ZelInterchangeData::i_ZelDataLanguage& language
 void describe(std::string& text, ZelInterchangeData::i_ZelDataFormatterBase& formatter);
 /// @}
 
-/// What is seen of @p object.
+/// Returns what is visible of @p object.
 template <class Object>
 std::string described(Object& object)
 {
@@ -46,7 +46,7 @@ std::string described(Object& object)
     return text;
 }
 
-/// @p text with a mask for the moment of writing in each packet.
+/// @p text with a mask for the time of writing in each packet.
 std::string withoutDates(std::string text);
 
 } // namespace fuzz

@@ -1,10 +1,10 @@
 /// @file
-/// A filled document: its packet is well-formed, and a reader that nobody here wrote gives back
-/// every text, time and number in it.
+/// A filled document: its packet is well-formed, and an independent reader finds every text, time
+/// and number in it.
 ///
-/// The target keeps to what callers must keep to: strings are strict UTF-8 without U+FFFE and
-/// U+FFFF, what is written as given holds none of the five special characters, and what is not
-/// stripped no control characters but tab, line feed and carriage return.
+/// The target keeps the rules that callers must keep: strings are strict UTF-8 without U+FFFE and
+/// U+FFFF, those written as given contain none of the five special characters, and those not
+/// stripped contain no control characters but tab, line feed and carriage return.
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "core/Packet.h"
@@ -30,7 +30,7 @@ namespace {
 
 void check(ZelDataResult_tags code)
 {
-    require(code == ZelData_Ok, "the library refuses what it promises to take");
+    require(code == ZelData_Ok, "the library refuses what it promises to accept");
 }
 
 template <class Interface>
@@ -41,7 +41,7 @@ std::unique_ptr<Interface> make(ZelDataResult_tags (*factory)(Interface**))
     return std::unique_ptr<Interface>(made);
 }
 
-// Texts of the input, and what a reader makes of them
+// Texts of the input, and how a reader sees them
 
 bool isXmlCharacter(std::uint32_t value)
 {
@@ -84,7 +84,7 @@ std::string shown(const std::string& text)
     return fuzz::filtered(text, [](auto value) { return value >= 0x20 || value == '\n'; });
 }
 
-/// What a reader of XML makes of white space in an attribute.
+/// What an XML reader makes of white space in an attribute.
 std::string inAttribute(const std::string& text)
 {
     std::string normal;
@@ -96,7 +96,7 @@ std::string inAttribute(const std::string& text)
     return normal;
 }
 
-// What the document holds, as it must come back
+// What the document holds, as it must be read back
 
 using Attributes = std::map<std::string, std::string>;
 using Texts = std::map<std::string, std::string>;
@@ -154,7 +154,7 @@ public:
     }
 
 private:
-    /// A start that other markers may have, too.
+    /// A start, which other markers may have, too.
     long long start()
     {
         const auto start = input_.number<long long>();
@@ -217,7 +217,7 @@ private:
         expected_.header["length"] = std::to_string(length);
     }
 
-    /// Gives @p item texts; the result is what a reader must find of them.
+    /// Gives @p item texts; returns what a reader must find of them.
     template <class Item>
     Texts fillTexts(Item& item)
     {
@@ -339,14 +339,14 @@ private:
 
 // The packet
 
-/// Of the attributes of @p element those that @p expected names, and no other value.
+/// Checks that @p element has the attributes of @p expected, with these values.
 void checkAttributes(const Element& element, const Attributes& expected)
 {
     for (const auto& [name, value] : expected)
         requireEqual(value, element.attribute(name), name.c_str());
 }
 
-/// Captions without a text leave one language to the packet, none of their own.
+/// When the captions have no language, the packet has one all the same.
 void checkLanguageList(const Element& description, std::vector<std::string> languages)
 {
     if (languages.empty()) languages.emplace_back("en-US");

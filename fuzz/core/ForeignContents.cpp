@@ -14,11 +14,11 @@ void fillTexts(Item& item, Input& input)
 {
     for (std::size_t more = input.below(4); more > 0; --more) {
         const std::string text = input.text();
-        item.setTextForLanguage(text, input.text());
+        mayRefuse(item.setTextForLanguage(text, input.text()));
     }
 }
 
-/// Mostly a time that every implementation takes.
+/// Usually a time that every implementation accepts.
 long long timeOf(Input& input)
 {
     return input.flag() ? input.byte() : input.number<long long>();
@@ -29,69 +29,69 @@ long long timeOf(Input& input)
 void fill(i_ZelDataLanguage& languages, Input& input)
 {
     for (const std::string& id : input.texts())
-        languages.addLanguage(id);
+        mayRefuse(languages.addLanguage(id));
 }
 
 void fill(i_ZelDataHeader& header, Input& input)
 {
     fill(static_cast<i_ZelDataLanguage&>(header), input);
-    header.setTitle(input.text());
-    header.setCreator(input.text());
-    header.setKeywords(input.texts());
+    mayRefuse(header.setTitle(input.text()));
+    mayRefuse(header.setCreator(input.text()));
+    mayRefuse(header.setKeywords(input.texts()));
     const std::uint8_t sizes = input.byte();
-    header.setVideoLength(1);
-    header.setVideoWidth(sizes == 255 ? 0 : 2);
-    header.setVideoHeight(3);
+    mayRefuse(header.setVideoLength(1));
+    mayRefuse(header.setVideoWidth(sizes == 255 ? 0 : 2));
+    mayRefuse(header.setVideoHeight(3));
     for (const std::string& name : input.texts())
-        header.addContentName(name);
-    header.setShowSearchBar(input.flag());
+        mayRefuse(header.addContentName(name));
+    mayRefuse(header.setShowSearchBar(input.flag()));
 }
 
 void fill(i_ZelDataCaptionItem& item, Input& input)
 {
     fillTexts(item, input);
-    item.setStart(timeOf(input));
-    item.setDuration(1 + input.byte());
-    item.setEnd(256 + timeOf(input) / 2);
-    item.setAlignment(static_cast<ZelAlignment_tags>(input.byte()));
+    mayRefuse(item.setStart(timeOf(input)));
+    mayRefuse(item.setDuration(1 + input.byte()));
+    mayRefuse(item.setEnd(256 + timeOf(input) / 2));
+    mayRefuse(item.setAlignment(static_cast<ZelAlignment_tags>(input.byte())));
 }
 
 void fill(i_ZelDataTocItem& item, Input& input)
 {
     fillTexts(item, input);
-    item.setStart(timeOf(input));
-    item.setImageFile(input.text());
-    item.setImageIndex(input.byte());
-    item.setImageOffset(input.byte());
+    mayRefuse(item.setStart(timeOf(input)));
+    mayRefuse(item.setImageFile(input.text()));
+    mayRefuse(item.setImageIndex(input.byte()));
+    mayRefuse(item.setImageOffset(input.byte()));
 }
 
 void fill(i_ZelDataScreenTextItem& item, Input& input)
 {
-    item.setText(input.text());
-    item.setStart(timeOf(input));
-    item.setDuration(timeOf(input));
-    item.setImageFile(input.text());
-    item.setGroupId(input.byte());
+    mayRefuse(item.setText(input.text()));
+    mayRefuse(item.setStart(timeOf(input)));
+    mayRefuse(item.setDuration(timeOf(input)));
+    mayRefuse(item.setImageFile(input.text()));
+    mayRefuse(item.setGroupId(input.byte()));
 }
 
 void fill(i_ZelDataCaptions& captions, Input& input)
 {
     fill(static_cast<i_ZelDataLanguage&>(captions), input);
-    captions.setFontFamily("f" + input.text());
-    captions.setFrameRate(input.byte() == 255 ? 0 : 25);
-    captions.setFontSize(1 + input.byte());
-    captions.setForegroundColor(0, input.fraction(), 1);
+    mayRefuse(captions.setFontFamily("f" + input.text()));
+    mayRefuse(captions.setFrameRate(input.byte() == 255 ? 0 : 25));
+    mayRefuse(captions.setFontSize(1 + input.byte()));
+    mayRefuse(captions.setForegroundColor(0, input.fraction(), 1));
 }
 
 void fill(i_ZelDataToc& toc, Input& input)
 {
     fill(static_cast<i_ZelDataLanguage&>(toc), input);
-    toc.setImageFile(input.text());
+    mayRefuse(toc.setImageFile(input.text()));
 }
 
 void fill(i_ZelDataScreenText& screenText, Input& input)
 {
-    screenText.setFrameRate(input.byte());
+    mayRefuse(screenText.setFrameRate(input.byte()));
 }
 
 } // namespace fuzz

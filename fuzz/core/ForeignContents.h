@@ -18,7 +18,10 @@ namespace fuzz {
 
 using Code = ZelInterchangeData::ZelDataResult_tags;
 
-/// Gives the argument contents from @p input. An implementation that refuses some of them goes
+/// Ignores the code of a call that an object may refuse: the object then lacks the value.
+inline void mayRefuse(Code /*code*/) {}
+
+/// Gives the argument contents from @p input. An implementation that refuses some of them does
 /// without.
 /// @{
 void fill(ZelInterchangeData::i_ZelDataLanguage& languages, Input& input);
@@ -32,7 +35,7 @@ void fill(ZelInterchangeData::i_ZelDataToc& toc, Input& input);
 void fill(ZelInterchangeData::i_ZelDataScreenText& screenText, Input& input);
 /// @}
 
-// One kind of object each: the interface, a caller's implementation of it, and our factory
+// Each kind of object: the interface, a caller's implementation of it, and our factory
 
 struct HeaderKind {
     using Interface = ZelInterchangeData::i_ZelDataHeader;
@@ -111,7 +114,8 @@ inline constexpr bool hasItems = false;
 template <class Kind>
 inline constexpr bool hasItems<Kind, std::void_t<typename Kind::Items>> = true;
 
-/// A caller's object with contents. With @p itemScript each item that it hands out follows that.
+/// A caller's object with contents. With @p itemScript, each item that it hands out follows that
+/// script.
 template <class Kind>
 std::unique_ptr<typename Kind::Foreign> makeForeign(Input& input,
                                                     const model::FakeScript& itemScript)
@@ -140,7 +144,7 @@ std::unique_ptr<typename Kind::Interface> makeOwn(Input& input)
         for (std::size_t more = input.below(4); more > 0; --more) {
             const auto item = makeObject(Kind::Items::create);
             fill(*item, input);
-            ((*object).*Kind::add)(*item);
+            mayRefuse(((*object).*Kind::add)(*item));
         }
     }
     return object;

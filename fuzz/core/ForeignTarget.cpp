@@ -1,9 +1,9 @@
 /// @file
-/// Objects that a caller wrote, handed to ours and filled by ours. One call of theirs goes wrong as
-/// the input says: it gives any code, or throws.
+/// Objects that a caller wrote, passed to ours and filled by ours. One of their calls fails as the
+/// input says: it returns any code, or throws.
 ///
-/// The operation must end as the failure asks for, leave everything usable, and, when nothing goes
-/// wrong any more, give what it gives where nothing ever went wrong.
+/// The operation must end as the failure requires, leave everything usable, and, once nothing fails
+/// any more, return what it returns where nothing ever failed.
 
 #include "core/Describe.h"
 #include "core/ForeignContents.h"
@@ -27,7 +27,7 @@ using model::FakeScript;
 
 namespace {
 
-/// What goes wrong, and where.
+/// What fails, and where.
 struct Trouble {
     FakeScript script;
     bool isInItems = false;
@@ -58,7 +58,7 @@ struct Outcome {
     Code code = ZelData_Ok;
     /// Whether a std::bad_alloc came through.
     bool wasThrown = false;
-    /// Whether a caller's object went wrong on the way.
+    /// Whether a caller's object failed on the way.
     bool wentWrong = false;
     /// The last error of the object whose operation it was.
     Code lastError = ZelData_Ok;
@@ -79,11 +79,11 @@ Outcome perform(const Object& judge, Call&& call)
     return outcome;
 }
 
-// The roads that a caller's object can take. Each has a target, and an operation that can be called
-// again and again with trouble and without.
+// The ways in which the library uses a caller's object. Each has a target, and an operation that
+// can be called again and again, with trouble and without.
 
-/// The copy of anything that has languages copies those by another operation, which may end with a
-/// code that lets the copy go on.
+/// Copying anything that has languages copies those by another operation, which may end with a code
+/// that lets the copy continue.
 template <class Kind>
 inline constexpr bool isCopiedInOne =
     !std::is_base_of_v<i_ZelDataLanguage, typename Kind::Interface>;
@@ -92,7 +92,7 @@ inline constexpr bool isCopiedInOne =
 template <class Kind>
 class OwnCopies {
 public:
-    /// Whether the operation itself meets the trouble, and not one of others below it.
+    /// Whether the operation itself meets the trouble, not one that it calls.
     static constexpr bool isDirect = isCopiedInOne<Kind>;
     static constexpr bool throwsBadAlloc = std::is_same_v<Kind, fuzz::CaptionItemKind>;
     static constexpr bool isTargetForeign = false;
@@ -113,7 +113,7 @@ private:
     std::unique_ptr<typename Kind::Interface> target_;
 };
 
-/// Theirs is copied from ours by the body that it inherits.
+/// Theirs is copied from ours by the function that it inherits.
 template <class Kind>
 class ForeignCopies {
     using Interface = typename Kind::Interface;
@@ -140,7 +140,7 @@ private:
     std::unique_ptr<typename Kind::Foreign> target_;
 };
 
-/// Theirs is copied from another one of theirs, which makes trouble.
+/// Theirs is copied from another one of theirs, which causes trouble.
 template <class Kind>
 class ForeignCopiesForeign {
     using Interface = typename Kind::Interface;
@@ -225,7 +225,8 @@ public:
     explicit DocumentTakes(Input& /*input*/) : target_(ZELDataCreator::createInterchangeData())
     {
         Input nothing(nullptr, 0);
-        target_->setDataHeader(*fuzz::makeOwn<fuzz::HeaderKind>(nothing));
+        require(target_->setDataHeader(*fuzz::makeOwn<fuzz::HeaderKind>(nothing)) == ZelData_Ok,
+                "a header is refused");
     }
 
     Outcome run(Input contents, const Trouble& trouble)
@@ -258,7 +259,7 @@ public:
 
     Outcome run(Input contents, const Trouble& trouble)
     {
-        ((*document_).*Kind::set)(*fuzz::makeOwn<Kind>(contents));
+        fuzz::mayRefuse(((*document_).*Kind::set)(*fuzz::makeOwn<Kind>(contents)));
         target_->setScript(trouble.script);
         const Outcome outcome = perform<i_ZelInterchangeDataCore>(
             *document_, [&] { return ((*document_).*Kind::get)(*target_); });
@@ -272,7 +273,7 @@ private:
     std::unique_ptr<i_ZelInterchangeDataCore> document_;
 };
 
-// What must come of it
+// What must follow
 
 /// A code that makes the library stop, or an exception.
 bool isFatal(const FakeScript& script)
@@ -307,12 +308,12 @@ bool isRight(const Outcome& outcome, const Trouble& trouble)
                           trouble.script.mode != 'd' && trouble.script.mode != 'h';
     if (isMemory && Road::throwsBadAlloc) return outcome.wasThrown;
     if (outcome.wasThrown) return false;
-    // A target with a last error of its own need not know of what its inherited bodies ended with.
+    // A target with a last error of its own need not know how its inherited functions ended.
     if (Road::isTargetForeign && trouble.script.keepsOwn) return true;
-    // A last error that is no failure is taken as it is, and whoever stands above goes on.
+    // A last error that is not a failure is taken as it is, and the caller continues.
     const bool mayGoOn = (!Road::isDirect || trouble.isInItems) && !failed(expected);
     if (mayGoOn || outcome.code == expected) return true;
-    // Of a header that takes a copy the setter's own code counts.
+    // For a header that is copied to, the setter's own code counts.
     return Road::isTargetForeign && outcome.code == trouble.script.code;
 }
 
@@ -344,12 +345,12 @@ void tryRoad(Input& input)
     const Outcome plain = twin.run(input, {});
     const Outcome outcome = tested.run(input, trouble);
     checkOutcome<Road>(outcome, trouble);
-    if (!isRepeatable<Road> && !failed(outcome.code)) return; // a second item would be added
+    if (!isRepeatable<Road> && !failed(outcome.code)) return; // it would add a second item
     const Outcome again = tested.run(input, {});
-    require(again.code == plain.code, "after the failure the operation gives another code");
-    if (failed(plain.code)) return; // what is left half-way depends on what was there before
+    require(again.code == plain.code, "after the failure the operation returns another code");
+    if (failed(plain.code)) return; // a partial state depends on what was there before
     requireEqual(twin.state(), tested.state(),
-                 "after the failure the operation gives another state");
+                 "after the failure the operation leaves another state");
 }
 
 template <class Kind>
@@ -412,7 +413,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Input input(data, size);
         tryAny(input);
     }
-    require(FakeControl::alive() == 0, "a caller's object is left behind");
-    require(ZelInterchangeData::liveAllocations() == blocks, "memory is left behind");
+    require(FakeControl::alive() == 0, "a caller's object is leaked");
+    require(ZelInterchangeData::liveAllocations() == blocks, "memory is leaked");
     return 0;
 }

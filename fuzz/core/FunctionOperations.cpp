@@ -32,7 +32,7 @@ Operation textFunction(std::string (*body)(Value))
                     throwing());
 }
 
-/// The line count gives no code; its result goes out.
+/// The line count returns no code; its result is an output.
 Code countLines(unsigned long& count, const std::string& text)
 {
     count = Utilities::countLinesInUTF8(text);

@@ -16,7 +16,7 @@ std::string bytesOf(const xmlChar* text)
     return text == nullptr ? std::string() : reinterpret_cast<const char*>(text);
 }
 
-/// The name with its prefix, as it stands in the packet.
+/// The name with its prefix, as the packet has it.
 std::string nameOf(const xmlNs* space, const xmlChar* name)
 {
     const bool hasPrefix = space != nullptr && space->prefix != nullptr;
@@ -62,7 +62,7 @@ Element Element::child(const std::string& name) const
     const std::vector<Element> all = children();
     for (const Element& child : all) {
         if (child.name() != name) continue;
-        require(found == nullptr, "an element is there twice");
+        require(found == nullptr, "an element occurs twice");
         found = &child;
     }
     if (found == nullptr) report("no element " + name);

@@ -12,7 +12,7 @@
 
 namespace fuzz {
 
-/// One element of a packet, which outlives it. What is asked for and not there is a finding.
+/// One element of a packet; the packet must outlive it. Asking for what is not there is a finding.
 class Element {
 public:
     explicit Element(xmlNode* node) : node_(node) {}
@@ -35,7 +35,7 @@ private:
     xmlNode* node_;
 };
 
-/// A parsed packet. One that is not well-formed, with namespaces, is a finding.
+/// A parsed packet. One that is not well-formed, namespaces included, is a finding.
 class Packet {
 public:
     explicit Packet(const std::string& text);

@@ -52,7 +52,7 @@ class World {
     using Pair = std::array<std::unique_ptr<Interface>, 2>;
 
 public:
-    /// The object that @p number stands for. A base stands for all kinds that derive from it.
+    /// The object for @p number. A base class is any of the kinds that derive from it.
     template <class Interface>
     Interface& object(std::size_t number)
     {

@@ -1,5 +1,5 @@
 /// @file
-/// The subtitle reader of the example, and what removes markup.
+/// The subtitle reader of the example, and the function that removes markup.
 
 #include "PlainText.h"
 #include "SubtitleReader.h"
@@ -68,7 +68,7 @@ void checkText(const std::string& text, const std::string& contents)
 {
     if (text.empty()) return;
     require(fuzz::filtered(text, [](auto value) { return !fuzz::isNoncharacter(value); }) == text,
-            "the text of a cue is no text");
+            "the text of a cue is not a text");
     require(text.find(arrow) == std::string::npos, "an arrow in the text of a cue");
     require(text.find('\r') == std::string::npos, "a carriage return in the text of a cue");
     for (const std::string& line : linesOf(text)) {
@@ -79,7 +79,7 @@ void checkText(const std::string& text, const std::string& contents)
             "the library refuses the text of a cue");
 }
 
-/// Each line with an arrow is a cue, a malformed one or one without length; nothing else is.
+/// Each line with an arrow is a cue, a malformed one or one without length; no other line is.
 void checkCounts(const Subtitles& subtitles, const std::vector<std::string>& lines)
 {
     std::size_t arrows = 0;
@@ -138,7 +138,7 @@ void checkReading(const std::string& bytes)
 
 // Markup
 
-/// The character that stands for the entity at the front of @p text; nothing for none.
+/// The character for the entity at the front of @p text; empty for none.
 std::string entityCharacter(std::string_view text, std::size_t& length)
 {
     static constexpr std::array<std::array<std::string_view, 2>, 6> entities{

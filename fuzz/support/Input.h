@@ -15,8 +15,8 @@
 
 namespace fuzz {
 
-/// Takes values from the front of an input, one after the other. An input that has ended goes on
-/// with zeros, so a target asks for isEmpty() where it decides whether to go on.
+/// Takes values from the front of an input, one after another. An input that has ended continues
+/// with zeros, so a target calls isEmpty() where it decides whether to continue.
 class Input {
 public:
     Input(const std::uint8_t* data, std::size_t size)
@@ -37,7 +37,7 @@ public:
     /// 0 to @p limit - 1; the limit is at most 256.
     std::size_t below(std::size_t limit) { return byte() % limit; }
 
-    /// The bytes that are left.
+    /// The bytes that remain.
     std::string rest() { return std::string(take(bytes_.size())); }
 
     /// A small number, an extreme one or any one.

@@ -1,9 +1,9 @@
 /// @file
-/// Runs a target over inputs that are kept in files, with any compiler.
+/// Runs a target over inputs from files, with any compiler.
 ///
 ///     replay FOLDER [FOLDER…]
 ///
-/// Every file of the folders is one input. A folder that does not exist holds none; no input at all
+/// Every file in the folders is one input. A folder that does not exist holds none; no input at all
 /// is a failure, because it would look like a success.
 
 #include "support/Target.h"
@@ -28,7 +28,7 @@ std::vector<std::filesystem::path> filesIn(const std::filesystem::path& folder)
     return files;
 }
 
-/// Names the input first, so that the last line before a finding tells which one it was.
+/// Names the input first, so that the last line before a finding says which one it was.
 void replay(const std::filesystem::path& file)
 {
     std::printf("%s\n", file.filename().c_str());

@@ -1,5 +1,5 @@
 /// @file
-/// How a target tells of a finding.
+/// How a target reports a finding.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_SUPPORT_REQUIRE_H
 #define ZELINTERCHANGEDATA_FUZZ_SUPPORT_REQUIRE_H
@@ -10,8 +10,8 @@
 
 namespace fuzz {
 
-/// Ends the process with @p finding on standard error. The input that led here is kept by whoever
-/// runs the target.
+/// Prints @p finding to standard error and ends the process. The program that runs the target keeps
+/// the input.
 [[noreturn]] inline void report(const std::string& finding)
 {
     std::fprintf(stderr, "finding: %s\n", finding.c_str());

@@ -11,13 +11,14 @@
 
 namespace fuzz {
 
-/// A character of a text: its value and how many bytes it has; no bytes where none stands.
+/// A character of a text: its value and its number of bytes; 0 bytes when there is none.
 struct Character {
     std::uint32_t value = 0;
     std::size_t size = 0;
 };
 
-/// How many bytes the lead of a sequence of up to four bytes announces; 0 for no lead.
+/// The number of bytes that the lead of a sequence of up to four bytes announces; 0 when it is not
+/// a lead.
 inline std::size_t announced(unsigned char lead)
 {
     if (lead < 0x80) return 1;
@@ -26,8 +27,8 @@ inline std::size_t announced(unsigned char lead)
     return lead >> 3U == 0x1E ? 4 : 0;
 }
 
-/// The first character of @p text, decoded by arithmetic: its value tells whether the form is the
-/// shortest one, no surrogate and not beyond the last code point.
+/// The first character of @p text, decoded by arithmetic: its value shows whether the form is the
+/// shortest one, not a surrogate and not beyond the last code point.
 inline Character firstCharacter(std::string_view text)
 {
     static constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
@@ -57,7 +58,8 @@ inline bool isStrict(std::string_view text)
     return true;
 }
 
-/// The characters of @p text for which @p keeps(value) says so. Bytes that are no strict UTF-8 go.
+/// The characters of @p text for which @p keeps(value) returns true. Drops bytes that are not
+/// strict UTF-8.
 template <class Keeps>
 std::string filtered(std::string_view text, Keeps&& keeps)
 {
@@ -70,7 +72,7 @@ std::string filtered(std::string_view text, Keeps&& keeps)
     return kept;
 }
 
-/// Whether @p value is one of the two characters that no packet can hold.
+/// Whether @p value is one of the two characters that no packet may contain.
 inline bool isNoncharacter(std::uint32_t value)
 {
     return value == 0xFFFE || value == 0xFFFF;

@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Runs one input of @p size bytes; ends the process with a finding. Always 0.
+/// Runs one input of @p size bytes; ends the process with a finding. Always returns 0.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 #endif

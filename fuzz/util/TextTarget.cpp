@@ -1,11 +1,11 @@
 /// @file
-/// The text utilities against plain statements of what they do.
+/// The text utilities against plain descriptions of what they do.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "support/Input.h"
 #include "support/Require.h"
 #include "support/Target.h"
-#include "util/MarkupText.h"
+#include "util/TextUtilities.h"
 #include "xml/ZelDataXmlStream.h"
 
 #include <algorithm>
@@ -28,7 +28,7 @@ namespace {
 
 // UTF-8
 
-/// How many continuation bytes follow a lead; -1 for a byte that is no lead.
+/// The number of continuation bytes that follow a lead; -1 for a byte that is not a lead.
 int continuations(unsigned char lead)
 {
     if (lead < 0x80) return 0;
@@ -87,7 +87,7 @@ std::string plainStripped(const std::string& text)
     return kept;
 }
 
-/// How many bytes of @p text from @p at, where a `&` stands, lie before the one that is dropped.
+/// The number of bytes of @p text from @p at, the place of a `&`, up to the one that is dropped.
 std::size_t keptOfBrokenEntity(const std::string& text, std::size_t at)
 {
     return text.compare(at + 1, 1, "a") == 0 ? 2 : 1;

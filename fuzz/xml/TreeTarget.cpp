@@ -1,5 +1,5 @@
 /// @file
-/// The element tree against the plain statement of its rules.
+/// The element tree against a plain description of its rules.
 
 #include "support/Input.h"
 #include "support/Require.h"
@@ -36,7 +36,7 @@ std::string streamed(Number number)
     return stream.str();
 }
 
-/// Does the same to a tree and to its plain statement, and compares what the verbs return.
+/// Does the same to a tree and to its plain description, and compares what the verbs return.
 class TwinTrees {
 public:
     explicit TwinTrees(Input& input) : input_(input) { known_.emplace_back(&tree_, &plain_); }
@@ -107,7 +107,7 @@ private:
         require(&returned == &node, "a new group returns another node");
     }
 
-    /// What the value is, by verb. Each gives the text that it sets.
+    /// Sets the value through one of the verbs and returns the text that it must have then.
     std::string setValue(ZelDataXmlAttributeValue& value, const ZelDataXmlNode& owner)
     {
         const auto returnsOwner = [&](const ZelDataXmlNode& returned, std::string text) {
@@ -190,7 +190,8 @@ private:
         if (reached_.count(&plain) != 0)
             requireParent(returned, node, plain);
         else
-            require(plainOf_.count(&returned) == 0, "a number leads back without the verb");
+            require(plainOf_.count(&returned) == 0,
+                    "a number leads into the tree without the verb");
     }
 
     void rename(ZelDataXmlNode& node, PlainNode& plain)
@@ -206,7 +207,7 @@ private:
         requirePair(returned, plainPath(plain, path));
     }
 
-    /// Neither of the two may ever have been the counterpart of another one.
+    /// Neither of the two may ever have been the counterpart of another node.
     void requirePair(ZelDataXmlNode& node, PlainNode& plain)
     {
         const auto toPlain = plainOf_.emplace(&node, &plain);

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATACREATOR_H
 
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 
 namespace ZelInterchangeData {
 

@@ -1,16 +1,18 @@
 /// @file
-/// Where a caption stands on the picture.
+/// Where a caption is placed on the picture.
 
 #ifndef ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
 #define ZELINTERCHANGEDATA_ZELALIGNMENT_TAGS_H
+
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <cstdint>
 
 namespace ZelInterchangeData {
 
-/// Bit flags: at most one vertical and one horizontal flag, joined with `|`.
+/// Bit flags: at most one vertical and one horizontal flag, combined with `|`.
 ///
-/// The two axes are read independently. Any value may travel in it; other bits are ignored.
+/// The two axes are read independently. Any value can be stored; other bits are ignored.
 enum ZelAlignment_tags : std::uint32_t {
     /// Neither flag of either axis: centred vertically and horizontally.
     ZelAlignCenter = 0x00,
@@ -24,8 +26,9 @@ enum ZelAlignment_tags : std::uint32_t {
     ZelAlignRight = 0x20
 };
 
-/// Joins the flags of @p a and @p b.
-constexpr ZelAlignment_tags operator|(ZelAlignment_tags a, ZelAlignment_tags b) noexcept
+/// Combines the flags of @p a and @p b.
+ZELINTERCHANGEDATA_INLINE constexpr ZelAlignment_tags operator|(ZelAlignment_tags a,
+                                                                ZelAlignment_tags b) noexcept
 {
     return static_cast<ZelAlignment_tags>(static_cast<std::uint32_t>(a) |
                                           static_cast<std::uint32_t>(b));

@@ -1,14 +1,15 @@
 /// @file
-/// The two tests of result codes as calls that throw.
+/// Throwing forms of the two tests of result codes.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATACHECK_H
 #define ZELINTERCHANGEDATA_ZELDATACHECK_H
 
 #include "ZelInterchangeData/ZelDataError.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <string_view>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// Throws ZelDataError, which names @p operation, when @p code is an error or a warning: the
 /// throwing form of failed().

@@ -5,9 +5,10 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONFORMATTER_H
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of the formatter of captions that throws where an operation fails.
 ///

@@ -5,12 +5,13 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONITEM_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
 #include <string>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of a caption that throws where an operation fails.
 ///

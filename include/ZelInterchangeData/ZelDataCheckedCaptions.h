@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONS_H
 
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 
@@ -13,7 +14,7 @@
 #include <string>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of captions that throws where an operation fails.
 ///

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDDOCUMENT_H
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
@@ -13,7 +14,7 @@
 
 #include <memory>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of a document that throws where an operation fails.
 ///

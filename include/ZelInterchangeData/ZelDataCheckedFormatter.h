@@ -5,14 +5,15 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDFORMATTER_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataFormatterBase.h"
 
 #include <string>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// The part that the views of the document and of the formatters share. What an operation does
-/// stands at i_ZelDataFormatterBase and at the interfaces that derive from it.
+/// The part that the views of the document and of the formatters share. For what an operation does,
+/// see i_ZelDataFormatterBase and the interfaces that derive from it.
 template <class Self, class Object>
 class ZelDataCheckedFormatter : public ZelDataCheckedObject<Self, Object> {
     using Interface = i_ZelDataFormatterBase;
@@ -28,7 +29,7 @@ public:
     {
         return this->run("writeString", &Interface::writeString, out, format, flag);
     }
-    /// What is written, in a string of its own.
+    /// Returns what is written, in a new string.
     std::string writeString(ZelDataFormatType_tags format = ZelDataFormat_Xmp) const
     {
         std::string out;

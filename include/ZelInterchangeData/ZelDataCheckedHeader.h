@@ -5,12 +5,13 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDHEADER_H
 
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 
 #include <string>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of a header that throws where an operation fails.
 ///

@@ -5,9 +5,10 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDHEADERFORMATTER_H
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataHeaderFormatter.h"
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of the formatter of a header that throws where an operation fails.
 ///

@@ -5,15 +5,16 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDLANGUAGE_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataLanguage.h"
 
 #include <string>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// The part that the views of a header, of captions and of a table of contents share. What an
-/// operation does stands at i_ZelDataLanguage.
+/// The part that the views of a header, of captions and of a table of contents share. For what an
+/// operation does, see i_ZelDataLanguage.
 template <class Self, class Object>
 class ZelDataCheckedLanguage : public ZelDataCheckedObject<Self, Object> {
     using Interface = i_ZelDataLanguage;

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDOBJECT_H
 
 #include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,32 +13,34 @@
 #include <utility>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of an object through which a failing operation throws ZelDataError instead of returning
-/// its code.
+/// A view of an object: its operations throw ZelDataError where those of the object return the code
+/// of a failure.
 ///
-/// A view is made with checked(). It has the operations of the object under their names:
-/// - An operation without a value gives the view back, so calls can be joined:
+/// To make a view, call checked(). A view offers the same operations as its object:
+/// - An operation without a value returns the view, so calls can be chained:
 ///   `checked(*header).setTitle("Intro").setVideoLength(90500)`.
 /// - A getter returns its value; what is handed out comes in a `std::unique_ptr`.
 /// - ZelDataError names the operation. The object is in the state in which the operation left it,
-///   and its last error is set as ever.
+///   and its last error is set as always.
 ///
 /// Warnings throw as well, because a copy that meets one has stopped half-way, and because the
-/// library itself stops at them. allowWarnings() lets them pass where they are welcome, as when a
-/// text is meant to be replaced.
+/// library itself stops at them. allowWarnings() lets them pass where they are welcome, for example
+/// where a text is to be replaced.
 ///
-/// A view is as small as a pointer and a flag. It owns nothing and must not outlive its object.
+/// A view is as small as a pointer and a flag. It owns nothing and must not outlive its object. In
+/// a class of your own keep the object, not a view of it: g++ warns about a view (-Wattributes),
+/// because views are hidden from other modules.
 /// @tparam Self the view that derives from this class.
 /// @tparam Object the interface, `const` for a view with the const operations only.
 template <class Self, class Object>
 class ZelDataCheckedObject {
 public:
-    /// A view of @p object at which warnings throw.
+    /// A view of @p object that throws on warnings.
     explicit ZelDataCheckedObject(Object& object) noexcept : object_(&object) {}
 
-    /// The same view, at which warnings pass and errors alone throw.
+    /// The same view, but one that lets warnings pass and throws on errors alone.
     Self allowWarnings() const noexcept
     {
         Self view(self());
@@ -49,21 +52,22 @@ public:
     Object& object() const noexcept { return *object_; }
 
 protected:
-    /// The view, when @p code is no failure of @p operation.
+    /// Returns the view when @p code is not a failure of @p operation.
     Self done(const char* operation, ZelDataResult_tags code) const
     {
         require(operation, code);
         return self();
     }
 
-    /// The view, when the member function @p call of the object with @p arguments does not fail.
+    /// Returns the view when the member function @p call of the object with @p arguments does not
+    /// fail.
     template <class Call, class... Arguments>
     Self run(const char* operation, Call call, Arguments&&... arguments) const
     {
         return done(operation, (object_->*call)(std::forward<Arguments>(arguments)...));
     }
 
-    /// What the getter @p getter of the object delivers.
+    /// Returns what the getter @p getter of the object delivers.
     template <class Owner, class Value>
     Value get(const char* operation, ZelDataResult_tags (Owner::*getter)(Value&) const) const
     {
@@ -81,7 +85,7 @@ protected:
         return value;
     }
 
-    /// What the member function @p maker of the object hands out for @p arguments.
+    /// Returns what the member function @p maker of the object hands out for @p arguments.
     template <class Owner, class Made, class... Parameters, class... Arguments>
     std::unique_ptr<Made> make(const char* operation,
                                ZelDataResult_tags (Owner::*maker)(Made**, Parameters...) const,
@@ -94,7 +98,8 @@ protected:
         return owner;
     }
 
-    /// The items that the member function @p getAll of the object hands out for @p arguments.
+    /// Returns the items that the member function @p getAll of the object hands out for
+    /// @p arguments.
     template <class Owner, class Made, class... Parameters, class... Arguments>
     std::vector<std::unique_ptr<Made>>
     makeAll(const char* operation,

@@ -5,13 +5,14 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDSCREENTEXT_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
 #include <memory>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of a collection of screen texts that throws where an operation fails.
 ///

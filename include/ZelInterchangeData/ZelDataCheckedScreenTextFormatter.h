@@ -5,9 +5,10 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDSCREENTEXTFORMATTER_H
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of the formatter of screen text that throws where an operation fails.
 ///

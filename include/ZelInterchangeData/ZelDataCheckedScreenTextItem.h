@@ -5,11 +5,12 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDSCREENTEXTITEM_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
 #include <string>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of a screen text that throws where an operation fails.
 ///

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDTOC_H
 
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
@@ -12,7 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of a table of contents that throws where an operation fails.
 ///

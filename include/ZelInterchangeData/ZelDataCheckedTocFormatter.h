@@ -5,9 +5,10 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDTOCFORMATTER_H
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataTocFormatter.h"
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of the formatter of a table of contents that throws where an operation fails.
 ///

@@ -5,12 +5,13 @@
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDTOCITEM_H
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
 #include <string>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of an entry that throws where an operation fails.
 ///

@@ -14,25 +14,40 @@
 
 namespace ZelInterchangeData {
 
-/// Says which operation answered with which code. The library itself never throws it: it comes from
-/// the functions of the headers that ZelDataFace.h includes, which are compiled into the caller.
+/// Says which operation returned which code. The library itself never throws it: it comes from the
+/// functions of the headers that ZelDataFace.h includes, which are compiled into the caller.
+///
+/// The shared library holds its only type description, so it may be thrown in one program or shared
+/// library and caught in another when both use the same one. The fields are part of the binary
+/// interface.
 class ZELINTERCHANGEDATA_API ZelDataError : public std::runtime_error {
 public:
     /// @p operation is copied. The message names the operation, the code and its meaning:
     /// "setVideoLength: ZelData_InvalidArgument (0x80000003): A value is ...".
-    ZelDataError(ZelDataResult_tags code, std::string_view operation)
+    ZELINTERCHANGEDATA_INLINE ZelDataError(ZelDataResult_tags code, std::string_view operation)
         : std::runtime_error(messageFor(code, operation)), code_(code),
           operationLength_(operation.size())
     {
     }
+    /// Copies share the message.
+    ZELINTERCHANGEDATA_INLINE ZelDataError(const ZelDataError&) = default;
+    /// Copies share the message.
+    ZELINTERCHANGEDATA_INLINE ZelDataError& operator=(const ZelDataError&) = default;
+    ~ZelDataError() override;
 
-    /// The code that the operation gave.
-    ZelDataResult_tags code() const noexcept { return code_; }
+    /// The message; valid as long as this object or a copy of it lives.
+    const char* what() const noexcept override;
+    /// The code that the operation returned.
+    ZELINTERCHANGEDATA_INLINE ZelDataResult_tags code() const noexcept { return code_; }
     /// The name of the operation; valid as long as this object or a copy of it lives.
-    std::string_view operation() const noexcept { return {what(), operationLength_}; }
+    ZELINTERCHANGEDATA_INLINE std::string_view operation() const noexcept
+    {
+        return {what(), operationLength_};
+    }
 
 private:
-    static std::string messageFor(ZelDataResult_tags code, std::string_view operation)
+    ZELINTERCHANGEDATA_INLINE static std::string messageFor(ZelDataResult_tags code,
+                                                            std::string_view operation)
     {
         std::string message(operation);
         message.append(": ").append(toString(code)).append(" (0x");

@@ -12,11 +12,15 @@
 namespace ZelInterchangeData {
 
 /// Thrown by ZELDataCreator::createInterchangeData() alone, when no document could be made. Every
-/// other failure travels as a result code.
+/// other failure is reported as a result code.
 class ZELINTERCHANGEDATA_API ZelDataException : public std::exception {
 public:
     /// Keeps a copy of @p message.
     explicit ZelDataException(const std::string& message);
+    /// Copies the message, too.
+    ZELINTERCHANGEDATA_INLINE ZelDataException(const ZelDataException&) = default;
+    /// Copies the message, too.
+    ZELINTERCHANGEDATA_INLINE ZelDataException& operator=(const ZelDataException&) = default;
     ~ZelDataException() override;
 
     /// The message; valid as long as this object lives.

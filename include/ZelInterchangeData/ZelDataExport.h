@@ -1,15 +1,40 @@
 /// @file
-/// The macro that marks what the shared library exports.
+/// The macros that decide whether a symbol is visible outside the program or shared library that it
+/// is compiled into.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAEXPORT_H
 #define ZELINTERCHANGEDATA_ZELDATAEXPORT_H
 
-#if defined(__GNUC__) || defined(__clang__)
-/// Marks a class or function as part of the exported interface; everything else stays hidden.
+/// @def ZELINTERCHANGEDATA_API
+/// Marks what the shared library exports. Empty where ZELINTERCHANGEDATA_STATIC is defined, as it
+/// is for the static library, which exports nothing from the program that links it.
+
+// Deliberate: the static form is empty, not "hidden"; with hidden interfaces g++ would warn about
+// every class of the program that has a pointer to one. The static library itself is compiled with
+// hidden visibility, which is what counts when a program is linked.
+#if defined(ZELINTERCHANGEDATA_STATIC)
+#define ZELINTERCHANGEDATA_API
+#elif defined(__GNUC__)
 #define ZELINTERCHANGEDATA_API __attribute__((visibility("default")))
 #else
-/// Marks a class or function as part of the exported interface; everything else stays hidden.
 #define ZELINTERCHANGEDATA_API
 #endif
+
+/// @def ZELINTERCHANGEDATA_INLINE
+/// Marks what a header defines. It is compiled into the program or shared library that includes the
+/// header and is invisible to every other one in the process.
+#if defined(__GNUC__)
+#define ZELINTERCHANGEDATA_INLINE [[gnu::visibility("hidden")]]
+#else
+#define ZELINTERCHANGEDATA_INLINE
+#endif
+
+/// @def ZELINTERCHANGEDATA_INLINE_COPIES
+/// The constructor and the copy operations that the compiler would generate for @p Interface,
+/// marked.
+#define ZELINTERCHANGEDATA_INLINE_COPIES(Interface)                                                \
+    ZELINTERCHANGEDATA_INLINE Interface() = default;                                               \
+    ZELINTERCHANGEDATA_INLINE Interface(const Interface&) = default;                               \
+    ZELINTERCHANGEDATA_INLINE Interface& operator=(const Interface&) = default
 
 #endif

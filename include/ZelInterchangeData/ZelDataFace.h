@@ -3,7 +3,7 @@
 /// make, operations that throw instead of returning a code, loops over items.
 ///
 /// Nothing here is part of the binary interface: all of it is compiled into the caller. It is a
-/// header of its own so that programs that handle the codes themselves keep short names such as
+/// separate header so that programs that handle the codes themselves can use short names such as
 /// check and items for their own functions.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAFACE_H

@@ -9,6 +9,7 @@
 #include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
 #include "ZelInterchangeData/ZelDataCheckedScreenTextItem.h"
 #include "ZelInterchangeData/ZelDataCheckedTocItem.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
@@ -25,10 +26,10 @@
 #include <string>
 #include <utility>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// What the factory @p create hands out for @p arguments. Never null: throws ZelDataError, which
-/// names @p operation, when the factory fails.
+/// Returns what the factory @p create hands out for @p arguments. Never null: throws ZelDataError,
+/// which names @p operation, when the factory fails.
 template <class Interface, class... Parameters>
 std::unique_ptr<Interface> makeObject(const char* operation,
                                       ZelDataResult_tags (*create)(Interface**, Parameters...),
@@ -93,11 +94,11 @@ inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem()
     return makeObject("createScreenTextItem", ZelDataUtilities::createScreenTextItemData);
 }
 
-/// The texts of an item as they are typed: `{{"en", "Hello"}, {"de", "Hallo"}}`.
+/// The texts of an item, written in braces: `{{"en", "Hello"}, {"de", "Hallo"}}`.
 using ZelDataTexts = std::initializer_list<std::pair<std::string, std::string>>;
 
 /// A caption from @p start to @p end, in milliseconds. @p texts holds pairs of a language ID and
-/// its text: typed in braces, or any container of such pairs, such as a `std::map`.
+/// its text: written in braces, or in any container of such pairs, such as a `std::map`.
 template <class Texts = ZelDataTexts>
 std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem(long long start, long long end,
                                                         const Texts& texts)

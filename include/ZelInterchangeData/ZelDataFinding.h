@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATAFINDING_H
 #define ZELINTERCHANGEDATA_ZELDATAFINDING_H
 
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFindingSubject_tags.h"
 #include "ZelInterchangeData/ZelDataFinding_tags.h"
 
@@ -12,15 +13,26 @@
 
 namespace ZelInterchangeData {
 
-/// What findProblems() found, as data. Fields that do not belong to the kind keep their defaults. The
+/// A problem that findProblems() found. Fields that the kind does not use keep their defaults. The
 /// fields, their types and their order are part of the binary interface.
 struct ZelDataFinding {
-    /// Stands for no item.
-    static constexpr unsigned long noItem = std::numeric_limits<unsigned long>::max();
+    /// Means no item.
+    ZELINTERCHANGEDATA_INLINE static constexpr unsigned long noItem =
+        std::numeric_limits<unsigned long>::max();
 
-    /// What is wrong. 0, which is no kind, in a new finding.
+    /// @cond
+    // What the compiler would generate, marked.
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding() = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding(const ZelDataFinding&) = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding(ZelDataFinding&&) = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding& operator=(const ZelDataFinding&) = default;
+    ZELINTERCHANGEDATA_INLINE ZelDataFinding& operator=(ZelDataFinding&&) = default;
+    ZELINTERCHANGEDATA_INLINE ~ZelDataFinding() = default;
+    /// @endcond
+
+    /// What is wrong. 0, which is not a kind, in a new finding.
     ZelDataFinding_tags kind = static_cast<ZelDataFinding_tags>(0);
-    /// The collection that was looked at. 0, which is none, in a new finding.
+    /// The kind of collection that was checked. 0, which is not a kind, in a new finding.
     ZelDataFindingSubject_tags subject = static_cast<ZelDataFindingSubject_tags>(0);
 
     /// Index of the item, from 0 in stored order; #noItem when the finding is about the collection.
@@ -36,9 +48,9 @@ struct ZelDataFinding {
     /// The value of #property.
     float component = 0.0F;
     /// Any other value: a duration, a start or an end in the unit of #start, a number of lines, a
-    /// frame rate or a font size. One that is too large for the type stands as the largest number.
+    /// frame rate or a font size. A value too large for the type is given as the largest number.
     long long value = 0;
-    /// The limit that #value or #component breaks; it is itself allowed.
+    /// The limit that #value or #component breaks; the limit itself is allowed.
     long long limit = 0;
 
     /// Index of the first later item concerned; #noItem when there is none.

@@ -8,7 +8,7 @@
 
 namespace ZelInterchangeData {
 
-/// The collection that was looked at.
+/// The kind of collection that was checked.
 enum ZelDataFindingSubject_tags : std::uint32_t {
     /// Captions. Their times are in milliseconds.
     ZelDataFindingSubject_Caption = 1,

@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFinding.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 
 #include <string>
 #include <vector>
@@ -18,43 +19,44 @@ class i_ZelDataScreenText;
 class i_ZelDataToc;
 
 /// @name Finding problems
-/// Each replaces @p findings with everything that is wrong with the collection, where the
-/// collection's own isValid() gives the first thing alone. Of the library's own collections there
-/// are no findings exactly when `isValid(true)` gives ZelData_Ok, and the first finding is the one
-/// whose code it gives.
+/// Each replaces @p findings with everything that is wrong with the collection; the collection's
+/// own isValid() reports only the first problem. For the library's own collections the list is
+/// empty if and only if `isValid(true)` returns ZelData_Ok; otherwise the first finding is the one
+/// whose code `isValid(true)` returns.
 ///
-/// First come the findings on the collection itself, then those on the items in stored order. Those
-/// on one item come in the order duration, its texts by language, missing texts in the order of the
-/// collection's languages, order and overlap. Of these last two an item has at most one finding; it
-/// names the first later item concerned.
+/// The findings about the collection itself come first, then those about the items in stored order.
+/// Those about one item come in this order: duration, its texts by language, missing texts in the
+/// order of the collection's languages, order and overlap. An item has at most one finding of these
+/// last two kinds; it names the first later item concerned.
 ///
-/// The time needed grows with n log n in the number of items. The collection is only read, through
-/// its interface, so any implementation will do; as with every getter, its last error is set. The
-/// functions store no last error of their own.
-/// - The code of a getter of the collection or of an item that fails, as that getter returns it.
+/// Takes n log n steps for n items. The collection is only read, and only through its interface, so
+/// any implementation will do; as with every getter, its last error is set. The functions
+/// themselves store no last error.
+/// - The code that a failing getter of the collection or of an item returns.
 /// - ZelData_InternalError: the collection hands out a null pointer for an item, or an
-///   implementation of the caller's throws an exception other than `std::bad_alloc`.
+///   implementation that the caller wrote throws an exception other than `std::bad_alloc`.
 /// - ZelData_OutOfMemory.
 ///
 /// On failure @p findings stays as it was.
 /// @{
 
-/// Looks at styling, durations, texts, languages, order and overlap of captions.
+/// Checks styling, durations, texts, languages, order and overlap of captions.
 ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataCaptions& captions,
                                                        std::vector<ZelDataFinding>& findings);
-/// Looks at frame rate, texts, languages and order of the entries of a table of contents.
+/// Checks frame rate, texts, languages and order of the entries of a table of contents.
 ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataToc& toc,
                                                        std::vector<ZelDataFinding>& findings);
-/// Looks at frame rate, texts and order of screen texts. A screen text may have no duration and may
+/// Checks frame rate, texts and order of screen texts. A screen text may have no duration and may
 /// overlap others.
 ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataScreenText& screenText,
                                                        std::vector<ZelDataFinding>& findings);
 /// @}
 
-/// @p finding in one line of English without a line feed, such as
+/// Describes @p finding in one line of English without a line feed, such as
 /// "caption 2 at 2000 ms: too short (900 ms, at least 1000 ms)". Items are counted from 0, as
-/// everywhere. Control characters of a language ID, and all bytes beyond ASCII of one that is not
-/// UTF-8, stand as "\x0A". "unknown finding" for a kind that is none. Lets `std::bad_alloc` through.
+/// everywhere. Control characters in a language ID are written as in "\x0A", and so are all bytes
+/// beyond ASCII when the ID is not UTF-8. Returns "unknown finding" for a kind that does not exist.
+/// Lets `std::bad_alloc` through.
 ZELINTERCHANGEDATA_API std::string describe(const ZelDataFinding& finding);
 
 } // namespace ZelInterchangeData

@@ -1,5 +1,5 @@
 /// @file
-/// The items of a collection, for a loop.
+/// The items of a collection, for use in a loop.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAITEMS_H
 #define ZELINTERCHANGEDATA_ZELDATAITEMS_H
@@ -7,16 +7,17 @@
 #include "ZelInterchangeData/ZelDataCheckedCaptions.h"
 #include "ZelInterchangeData/ZelDataCheckedScreenText.h"
 #include "ZelInterchangeData/ZelDataCheckedToc.h"
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <memory>
 #include <vector>
 
-namespace ZelInterchangeData {
+namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// @name Items
 /// Copies of all items in stored order, owned by the vector: a change to one does not reach the
-/// collection. For loops: `for (const auto& item : items(*captions))`. Throws ZelDataError, which
-/// names the getter, when the collection cannot hand them out.
+/// collection. For use in loops: `for (const auto& item : items(*captions))`. Throws ZelDataError,
+/// which names the getter, when the collection cannot hand them out.
 /// @{
 
 /// See i_ZelDataCaptions::getCaptionItems().

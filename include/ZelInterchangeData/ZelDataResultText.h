@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATARESULTTEXT_H
 #define ZELINTERCHANGEDATA_ZELDATARESULTTEXT_H
 
+#include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 
 namespace ZelInterchangeData {
@@ -19,12 +20,12 @@ struct ZelDataResultText {
 };
 
 /// All codes in ascending order.
-inline constexpr ZelDataResultText zelDataResultTexts[] = {
+ZELINTERCHANGEDATA_INLINE inline constexpr ZelDataResultText zelDataResultTexts[] = {
     {ZelData_Ok, "ZelData_Ok", "The operation succeeded."},
     {ZelData_WarnAlreadyExists, "ZelData_WarnAlreadyExists",
-     "The entry existed already: a listed language was not added again, or a text was replaced."},
+     "The entry already existed: a listed language was not added again, or a text was replaced."},
     {ZelData_WarnItemGuidelines, "ZelData_WarnItemGuidelines",
-     "The caption is valid, but shorter or of more lines than a good caption."},
+     "The caption is valid but shorter, or has more lines, than recommended."},
     {ZelData_WarnTiming, "ZelData_WarnTiming", "The items overlap or are out of order."},
     {ZelData_WarnNoChange, "ZelData_WarnNoChange",
      "There was nothing to do: the entry to add exists, or the one to remove does not."},
@@ -35,7 +36,7 @@ inline constexpr ZelDataResultText zelDataResultTexts[] = {
     {ZelData_OutOfMemory, "ZelData_OutOfMemory", "Memory ran out."},
     {ZelData_InvalidUtf8, "ZelData_InvalidUtf8", "The text is not well-formed UTF-8."},
     {ZelData_UnsupportedCharacter, "ZelData_UnsupportedCharacter",
-     "A character beyond U+FFFF stands where none is allowed."},
+     "A character beyond U+FFFF occurs where none is allowed."},
     {ZelData_UnknownLanguage, "ZelData_UnknownLanguage", "The language is not in the catalogue."},
     {ZelData_InvalidItem, "ZelData_InvalidItem",
      "The item has no duration, or a text or language that is not valid."},
@@ -48,12 +49,13 @@ inline constexpr ZelDataResultText zelDataResultTexts[] = {
     {ZelData_UnsupportedFormat, "ZelData_UnsupportedFormat", "The format is not supported."},
 };
 
-/// What stands for every value that is no code of the library.
-inline constexpr ZelDataResultText zelDataUnknownResultText = {
+/// The words for every value that is not a code of the library.
+ZELINTERCHANGEDATA_INLINE inline constexpr ZelDataResultText zelDataUnknownResultText = {
     ZelData_Ok, "ZelData_Unknown", "The value is not a result code of this library."};
 
-/// The words for @p code, those of #zelDataUnknownResultText where it is none.
-constexpr const ZelDataResultText& zelDataResultTextOf(ZelDataResult_tags code) noexcept
+/// The words for @p code, or #zelDataUnknownResultText for a value that is not a code.
+ZELINTERCHANGEDATA_INLINE constexpr const ZelDataResultText&
+zelDataResultTextOf(ZelDataResult_tags code) noexcept
 {
     for (const ZelDataResultText& text : zelDataResultTexts) {
         // cppcheck-suppress useStlAlgorithm ; std::find_if is not constexpr in C++17
@@ -62,16 +64,16 @@ constexpr const ZelDataResultText& zelDataResultTextOf(ZelDataResult_tags code) 
     return zelDataUnknownResultText;
 }
 
-/// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is no code.
-/// Never null; valid for ever.
-constexpr const char* toString(ZelDataResult_tags code) noexcept
+/// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is not a code.
+/// Never null; valid forever.
+ZELINTERCHANGEDATA_INLINE constexpr const char* toString(ZelDataResult_tags code) noexcept
 {
     return zelDataResultTextOf(code).name;
 }
 
-/// What @p code means, in one sentence; a sentence that says so for a value that is no code. Never
-/// null; valid for ever. What a code means to an operation stands at the operation.
-constexpr const char* describe(ZelDataResult_tags code) noexcept
+/// Says in one sentence what @p code means, or that the value is not a code. Never null; valid
+/// forever. Each header documents what a code means for each operation.
+ZELINTERCHANGEDATA_INLINE constexpr const char* describe(ZelDataResult_tags code) noexcept
 {
     return zelDataResultTextOf(code).meaning;
 }

@@ -1,22 +1,26 @@
 /// @file
-/// The result codes of every operation, and the two tests that callers apply to them.
+/// The result codes of every operation, and the two tests for them.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATARESULT_TAGS_H
 #define ZELINTERCHANGEDATA_ZELDATARESULT_TAGS_H
+
+#include "ZelInterchangeData/ZelDataExport.h"
 
 #include <cstdint>
 
 namespace ZelInterchangeData {
 
-/// What an operation answers. Bit 31 marks an error, bit 30 a warning; 0 is plain success.
+/// What an operation returns. Bit 31 marks an error, bit 30 a warning; 0 is plain success.
 ///
-/// The underlying type is fixed, so a value that is not listed may travel in it unharmed.
-enum ZelDataResult_tags : std::uint32_t {
+/// The underlying type is fixed, so a value that is not listed passes through unchanged.
+///
+/// The compiler warns when you drop a code. To drop one on purpose, cast it to `void`.
+enum [[nodiscard]] ZelDataResult_tags : std::uint32_t{
     /// Success.
     ZelData_Ok = 0x00000000,
-    /// The entry existed already: a language is not added twice, an item's text is replaced.
+    /// The entry already existed: a language is not added twice, an item's text is replaced.
     ZelData_WarnAlreadyExists = 0x40000001,
-    /// Valid, but outside the recommended limits of a good caption.
+    /// Valid, but outside the recommended limits for a caption.
     ZelData_WarnItemGuidelines = 0x40000002,
     /// Valid, but the items overlap or are out of order.
     ZelData_WarnTiming = 0x40000003,
@@ -33,7 +37,7 @@ enum ZelDataResult_tags : std::uint32_t {
     ZelData_OutOfMemory = 0x80000005,
     /// The bytes are not well-formed UTF-8.
     ZelData_InvalidUtf8 = 0x80000006,
-    /// A character outside the 16-bit range stands where only such characters are allowed.
+    /// A character outside the 16-bit range occurs where only characters within it are allowed.
     ZelData_UnsupportedCharacter = 0x80000007,
     /// The language is not in the catalogue.
     ZelData_UnknownLanguage = 0x80000008,
@@ -48,17 +52,16 @@ enum ZelDataResult_tags : std::uint32_t {
     /// The requested data set was never given to the document.
     ZelData_NoData = 0x8000000D,
     /// The format is not one that the library writes.
-    ZelData_UnsupportedFormat = 0x8000000E
-};
+    ZelData_UnsupportedFormat = 0x8000000E};
 
 /// Whether @p code is a warning or an error. Most operations stop at the first such code.
-constexpr bool failed(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr bool failed(ZelDataResult_tags code) noexcept
 {
     return (code & 0xC0000000U) != 0;
 }
 
 /// Whether @p code is an error; warnings pass. For calls where a warning is expected and harmless.
-constexpr bool isError(ZelDataResult_tags code) noexcept
+ZELINTERCHANGEDATA_INLINE constexpr bool isError(ZelDataResult_tags code) noexcept
 {
     return (code & 0x80000000U) != 0;
 }

@@ -8,6 +8,7 @@
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 
 #include <string>
 
@@ -97,7 +98,7 @@ public:
     /// @{
 
     /// Checks the form of the UTF-8 sequences of @p text. An empty text passes.
-    /// - #ZelData_InvalidUtf8: a stray or missing continuation byte, or one of the leads 0xC0,
+    /// - #ZelData_InvalidUtf8: a stray or missing continuation byte, or one of the lead bytes 0xC0,
     ///   0xC1, 0xFE and 0xFF.
     /// - #ZelData_UnsupportedCharacter: @p bmpOnly is true and a byte from 0xF0 up, 0xFE and 0xFF
     ///   included, came first.
@@ -105,18 +106,19 @@ public:
     /// Five- and six-byte forms, overlong forms of three and more bytes, encoded surrogates and
     /// values above U+10FFFF pass.
     static ZelDataResult_tags verifyUtf8Format(const std::string& text, bool bmpOnly);
-    /// The number of line feeds, plus one when there is one and the last byte is none. 0 for a text
-    /// without any line feed, however long, and for one that is not UTF-8.
+    /// The number of line feeds, plus one when there is any and the last byte is not one. 0 for a
+    /// text without any line feed, however long, and for one that is not UTF-8.
     static unsigned long countLinesInUTF8(const std::string& text);
-    /// @p text without the bytes 0x00 to 0x1F, the line feed excepted. Tab and carriage return go.
+    /// @p text without the bytes 0x00 to 0x1F, except the line feed. Removes tab and carriage
+    /// return, too.
     static std::string stripUnsupportedCharacters(const std::string& text);
-    /// @p text with `"`, `&`, `'`, `<` and `>` as the entities of XML.
+    /// @p text with `"`, `&`, `'`, `<` and `>` as XML entities.
     static std::string htmlTagsToText(const std::string& text);
-    /// @p text with the five entities of XML as characters, decoded once.
+    /// @p text with the five XML entities decoded, once.
     ///
-    /// An entity that ends at the last byte is not decoded. Where a `&` begins no entity, the byte
-    /// that decided so is dropped: the third one after `&a`, else the second ("&nbsp;" gives
-    /// "&bsp;").
+    /// An entity that ends at the last byte is not decoded. Where a `&` does not begin an entity,
+    /// the byte that shows this is dropped: the one after `&a`, else the one after `&` ("&nbsp;"
+    /// gives "&bsp;").
     static std::string htmlTagsFromText(const std::string& text);
     /// "bottom", "top" or "center"; bottom wins over top.
     static std::string getVerticalAlignment(ZelAlignment_tags alignment);
@@ -137,15 +139,17 @@ public:
     static std::string getValueString(unsigned long value);
     /// The letter f and the plain decimal rate ("f1000").
     static std::string getRateString(unsigned long rate);
-    /// Major (all bits from 16 up), minor (bits 8 to 15) and patch (bits 0 to 7), joined by dots.
+    /// Major (all bits from 16 up), minor (bits 8 to 15) and patch (bits 0 to 7), joined by dots:
+    /// 66048 gives "1.2.0". #ZELINTERCHANGEDATA_VERSION and libraryVersion() are packed
+    /// differently: there, 10200 is version 1.2.0.
     static std::string getVersionString(unsigned long version);
     /// The date and time of @p seconds since the Unix epoch, or of now when null, in UTC, followed
     /// by an offset in hours ("2009-03-05T14:07:09+2:00"). Empty when the instant has no calendar
     /// date.
     ///
     /// The offset is the local hour minus the UTC hour and nothing else: no minutes, no day
-    /// boundary, no zero before a digit, and "-0:00" where the hours agree. The time zone is the
-    /// one that the process has set; `tzset` is not called.
+    /// boundary, no leading zero, and "-0:00" where the hours agree. The time zone is the one that
+    /// the process has set; `tzset` is not called.
     static std::string getDateString(long* seconds);
     /// @}
 };

@@ -15,6 +15,7 @@
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
 #include "ZelInterchangeData/ZelDataResultText.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/ZelDataVersion.h"
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"

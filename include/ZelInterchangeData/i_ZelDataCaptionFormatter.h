@@ -21,6 +21,7 @@ class i_ZelDataCaptions;
 ///   #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelDataCaptionFormatter : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataCaptionFormatter);
     ~i_ZelDataCaptionFormatter() override;
 
     /// Replaces the held copy with a copy of @p captions.

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_I_ZELDATACAPTIONITEM_H
 
 #include "ZelInterchangeData/ZelAlignment_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>
@@ -19,6 +20,7 @@ namespace ZelInterchangeData {
 /// library's own items let `std::bad_alloc` through and then leave the item as it was.
 class ZELINTERCHANGEDATA_API i_ZelDataCaptionItem : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataCaptionItem);
     ~i_ZelDataCaptionItem() override;
 
     /// Checks the item; the start is not checked, and an item without any text passes.
@@ -36,7 +38,7 @@ public:
     virtual ZelDataResult_tags setTextForLanguage(const std::string& text,
                                                   const std::string& languageID) = 0;
     /// Moves the item to start at @p start milliseconds, at least 0. Default 0. The duration stays,
-    /// so the end moves along.
+    /// so the end moves with it.
     /// - #ZelData_InvalidArgument: @p start is negative.
     virtual ZelDataResult_tags setStart(long long start) = 0;
     /// Sets the duration so that the item ends at @p end milliseconds. Set the start first.
@@ -62,7 +64,7 @@ public:
     virtual ZelDataResult_tags getEnd(long long& end) const = 0;
     /// In milliseconds.
     virtual ZelDataResult_tags getDuration(long long& duration) const = 0;
-    /// As it was set, with bits that mean nothing.
+    /// As it was set, including bits without a meaning.
     virtual ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const = 0;
     /// Replaces everything with a copy of @p other: the texts, then start, end and alignment.
     /// - #ZelData_InternalError: @p other is this object; nothing changes.

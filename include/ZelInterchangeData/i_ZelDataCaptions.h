@@ -13,13 +13,15 @@ namespace ZelInterchangeData {
 
 class i_ZelDataCaptionItem;
 
-/// Caption items in the order of their addition, one styling for all, and the list of languages.
+/// Caption items in the order in which they were added, one styling for all, and the list of
+/// languages.
 ///
 /// The collection stores copies of items and hands out copies; the caller owns what it is handed.
 class ZELINTERCHANGEDATA_API i_ZelDataCaptions : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
 
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataCaptions);
     ~i_ZelDataCaptions() override;
 
     /// Checks styling, texts and timing; the first finding is returned. Without items only the
@@ -33,11 +35,9 @@ public:
     /// - An item's code, with @p strict.
     virtual ZelDataResult_tags isValid(bool strict) const = 0;
     /// Orders the items by start, gives each an empty text for every listed language that it lacks,
-    /// and puts styling values that are out of range back into it. Overlaps stay.
+    /// and brings styling values that are out of range back into it. Overlaps stay.
     ///
     /// The order is that of an exchange sort: items with equal starts may change places.
-    /// - #ZelData_OutOfMemory: the items may be in order and have some of the missing texts
-    ///   already.
     virtual ZelDataResult_tags makeCaptionsConsistent() = 0;
 
     /// @name Styling
@@ -48,7 +48,7 @@ public:
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
     /// In time units per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
-    /// Any bytes but none. Default "Helvetica". Written without escaping.
+    /// Any bytes, at least one. Default "Helvetica". Written without escaping.
     /// - #ZelData_InvalidArgument: @p family is empty.
     virtual ZelDataResult_tags setFontFamily(const std::string& family) = 0;
     /// One name, as it was set.
@@ -61,12 +61,12 @@ public:
     /// Each component 0.0 to 1.0; a NaN is stored. Default white: 1.0, 1.0, 1.0.
     /// - #ZelData_InvalidArgument: a component is out of range; none is stored.
     virtual ZelDataResult_tags setForegroundColor(float red, float green, float blue) = 0;
-    /// The components of the text, from 0.0 to 1.0.
+    /// The components of the text's colour, from 0.0 to 1.0.
     virtual ZelDataResult_tags getForegroundColor(float& red, float& green, float& blue) const = 0;
     /// Each component 0.0 to 1.0; a NaN is stored. Default black: 0.0, 0.0, 0.0.
     /// - #ZelData_InvalidArgument: a component is out of range; none is stored.
     virtual ZelDataResult_tags setBackgroundColor(float red, float green, float blue) = 0;
-    /// The components of the ground behind the text, from 0.0 to 1.0.
+    /// The components of the background's colour, from 0.0 to 1.0.
     virtual ZelDataResult_tags getBackgroundColor(float& red, float& green, float& blue) const = 0;
     /// 0.0 (clear) to 1.0 (opaque); a NaN is stored. Default 0.6.
     /// - #ZelData_InvalidArgument: out of range.
@@ -85,7 +85,8 @@ public:
     /// order. Neither order nor overlap is checked.
     /// - The code of copying the item (see i_ZelDataCaptionItem::copyFrom()): nothing is added. An
     ///   item whose end is not after its start cannot be copied: #ZelData_InvalidArgument.
-    /// - The error of listing a language: the item is not added; languages listed before it stay.
+    /// - The error from listing a language: the item is not added; languages that this call
+    ///   listed before the error stay listed, except when memory runs out.
     virtual ZelDataResult_tags addCaptionItem(const i_ZelDataCaptionItem& item) = 0;
     /// Hands out a new item with its defaults, which does not belong to the collection.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
@@ -115,7 +116,7 @@ public:
     /// Replaces everything with a copy of @p other: the styling, then the items.
     ///
     /// The language list is rebuilt from the items: each contributes its languages in ascending
-    /// byte order. A language that no item has disappears, and so does an order that was set.
+    /// byte order. A language that no item has disappears, and so does an order that you set.
     /// - #ZelData_InternalError: @p other is this object; nothing changes.
     /// - A failing step's code, warnings included: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataCaptions& other);

@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_I_ZELDATAFORMATTERBASE_H
 
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>
@@ -17,6 +18,7 @@ namespace ZelInterchangeData {
 /// they give.
 class ZELINTERCHANGEDATA_API i_ZelDataFormatterBase : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataFormatterBase);
     ~i_ZelDataFormatterBase() override;
 
     /// Writes the data into @p out, which stays as it was on failure.

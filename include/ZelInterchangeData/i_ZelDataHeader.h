@@ -18,6 +18,7 @@ class ZELINTERCHANGEDATA_API i_ZelDataHeader : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
 
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataHeader);
     ~i_ZelDataHeader() override;
 
     /// Whether video length, width and height are all set; nothing else is checked.
@@ -28,8 +29,8 @@ public:
     virtual ZelDataResult_tags clearHeader() = 0;
 
     /// @name Setters
-    /// All texts are empty by default, the keywords none. Keywords keep their order; duplicates are
-    /// allowed.
+    /// All texts are empty by default, and there are no keywords. Keywords keep their order;
+    /// duplicates are allowed.
     /// @{
 
     /// The producing application. The packet joins name and version.
@@ -38,7 +39,7 @@ public:
     virtual ZelDataResult_tags setAppVersion(const std::string& version) = 0;
     /// The title of the whole video.
     virtual ZelDataResult_tags setTitle(const std::string& title) = 0;
-    /// Written without escaping: a creator with one of `"&'<>` makes a packet that is no XML.
+    /// Written without escaping: with one of `"&'<>` in it, the packet may not be well-formed XML.
     virtual ZelDataResult_tags setCreator(const std::string& creator) = 0;
     /// What the video is about.
     virtual ZelDataResult_tags setDescription(const std::string& description) = 0;
@@ -83,7 +84,8 @@ public:
     /// @}
 
     /// @name Content names
-    /// The files that make up the content, in the order of their addition, without duplicates.
+    /// The files that make up the content, in the order in which they were added, without
+    /// duplicates.
     /// @{
 
     /// Empties the list.
@@ -111,8 +113,8 @@ public:
     /// Replaces everything with a copy of @p other: the languages, then the fields in the order of
     /// the setters, then the content names and the search-bar flag.
     /// - #ZelData_InternalError: @p other is this object; nothing changes.
-    /// - #ZelData_InvalidArgument: a length, width or height of @p other is 0. What stands before
-    ///   it in the order was copied; the content names and the flag were not.
+    /// - #ZelData_InvalidArgument: a length, width or height of @p other is 0. What precedes it in
+    ///   the order was copied; the content names and the flag were not.
     /// - A failing step's code, warnings included: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataHeader& other);
 };

@@ -13,12 +13,13 @@ class i_ZelDataHeader;
 /// Holds a copy of a header and writes it as a complete packet with an empty track list.
 ///
 /// - `writeString` (the flag is not used): #ZelData_InternalError for a format other than
-///   #ZelDataFormat_Xmp; #ZelData_InvalidData when no header was ever set. Whether the header is
-///   valid is not examined.
+///   #ZelDataFormat_Xmp; #ZelData_InvalidData when no header was ever set. It does not check
+///   whether the header is valid.
 /// - `readString`, `writeFile`, `readFile`: #ZelData_InternalError for another format, else
 ///   #ZelData_NotImplemented. Nothing is read or written.
 class ZELINTERCHANGEDATA_API i_ZelDataHeaderFormatter : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataHeaderFormatter);
     ~i_ZelDataHeaderFormatter() override;
 
     /// Replaces the held copy with a copy of @p header.

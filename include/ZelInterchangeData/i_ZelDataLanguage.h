@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_I_ZELDATALANGUAGE_H
 #define ZELINTERCHANGEDATA_I_ZELDATALANGUAGE_H
 
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>
@@ -18,6 +19,7 @@ namespace ZelInterchangeData {
 /// compared byte for byte, so "en", "EN" and "en-GB" are three different entries.
 class ZELINTERCHANGEDATA_API i_ZelDataLanguage : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataLanguage);
     ~i_ZelDataLanguage() override;
 
     /// Empties the list.
@@ -32,11 +34,11 @@ public:
     ///   contents: there is none.
     virtual ZelDataResult_tags removeLanguage(const std::string& id) = 0;
     /// Puts the list in the order of @p ids.
-    /// - #ZelData_InvalidArgument: @p ids has another number of entries than the list, or one that
-    ///   is not listed.
+    /// - #ZelData_InvalidArgument: @p ids and the list differ in the number of entries, or @p ids
+    ///   has one that is not listed.
     ///
-    /// Only count and membership are checked: an ID that stands twice in @p ids is accepted, and
-    /// another one then disappears. The next copy of such a list stops at the second entry.
+    /// Only count and membership are checked: an ID that occurs twice in @p ids is accepted, and
+    /// another one then disappears. The next copy of such a list stops at the second occurrence.
     virtual ZelDataResult_tags setOrderedLanguageIDs(const std::vector<std::string>& ids) = 0;
     /// Replaces @p ids with the list.
     virtual ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const = 0;

@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_I_ZELDATASCREENTEXT_H
 #define ZELINTERCHANGEDATA_I_ZELDATASCREENTEXT_H
 
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <vector>
@@ -12,11 +13,12 @@ namespace ZelInterchangeData {
 
 class i_ZelDataScreenTextItem;
 
-/// Screen-text items in the order of their addition.
+/// Screen-text items in the order in which they were added.
 ///
 /// The collection stores copies of items and hands out copies; the caller owns what it is handed.
 class ZELINTERCHANGEDATA_API i_ZelDataScreenText : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataScreenText);
     ~i_ZelDataScreenText() override;
 
     /// Checks frame rate and order; the first finding is returned. Overlaps pass.
@@ -25,7 +27,7 @@ public:
     /// - #ZelData_WarnTiming: an item starts after a later one. Equal starts pass.
     /// - An item's code, with @p deep.
     virtual ZelDataResult_tags isValid(bool deep) const = 0;
-    /// Orders the items by start and puts a frame rate that is out of range to 1000.
+    /// Orders the items by start and sets a frame rate that is out of range to 1000.
     ///
     /// The order is that of an exchange sort: items with equal starts may change places.
     virtual ZelDataResult_tags makeScreenTextConsistent() = 0;

@@ -21,6 +21,7 @@ class i_ZelDataScreenText;
 ///   #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelDataScreenTextFormatter : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataScreenTextFormatter);
     ~i_ZelDataScreenTextFormatter() override;
 
     /// Replaces the held copy with a copy of @p screenText.

@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_I_ZELDATASCREENTEXTITEM_H
 #define ZELINTERCHANGEDATA_I_ZELDATASCREENTEXTITEM_H
 
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>
@@ -17,6 +18,7 @@ namespace ZelInterchangeData {
 /// wrapping in 64 bits.
 class ZELINTERCHANGEDATA_API i_ZelDataScreenTextItem : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataScreenTextItem);
     ~i_ZelDataScreenTextItem() override;
 
     /// Checks the text and nothing else. @p deep changes nothing.
@@ -27,7 +29,7 @@ public:
     /// Default empty.
     /// - #ZelData_InvalidItem: @p text is not UTF-8.
     virtual ZelDataResult_tags setText(const std::string& text) = 0;
-    /// In ticks, at least 0. Default 0. The duration stays, so the end moves along.
+    /// In ticks, at least 0. Default 0. The duration stays, so the end moves with it.
     /// - #ZelData_InvalidArgument: @p start is negative.
     virtual ZelDataResult_tags setStart(long long start) = 0;
     /// Sets the duration so that the item ends at @p end ticks. Set the start first.
@@ -44,7 +46,7 @@ public:
     virtual ZelDataResult_tags setImageOffset(unsigned long long offset) = 0;
     /// Number of the table-of-contents entry that the text belongs to. Any value; default 0.
     virtual ZelDataResult_tags setGroupId(unsigned long id) = 0;
-    /// As it was set; control characters go only when it is written.
+    /// As it was set; control characters are removed only when it is written.
     virtual ZelDataResult_tags getText(std::string& text) const = 0;
     /// In ticks.
     virtual ZelDataResult_tags getStart(long long& start) const = 0;

@@ -13,13 +13,15 @@ namespace ZelInterchangeData {
 
 class i_ZelDataTocItem;
 
-/// Entries in the order of their addition, the file of their thumbnails, and the list of languages.
+/// Entries in the order in which they were added, the file of their thumbnails, and the list of
+/// languages.
 ///
 /// The table stores copies of entries and hands out copies; the caller owns what it is handed.
 class ZELINTERCHANGEDATA_API i_ZelDataToc : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
 
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataToc);
     ~i_ZelDataToc() override;
 
     /// Checks frame rate, texts and order; the first finding is returned. The image fields are not
@@ -31,11 +33,9 @@ public:
     /// - An entry's code, with @p deep.
     virtual ZelDataResult_tags isValid(bool deep) const = 0;
     /// Orders the entries by start, gives each an empty text for every listed language that it
-    /// lacks, and puts a frame rate that is out of range to 1000.
+    /// lacks, and sets a frame rate that is out of range to 1000.
     ///
     /// The order is that of an exchange sort: entries with equal starts may change places.
-    /// - #ZelData_OutOfMemory: the entries may be in order and have some of the missing texts
-    ///   already.
     virtual ZelDataResult_tags makeTocConsistent() = 0;
 
     /// Ticks per second of the entries' starts, 1 to 10000. Default 1000. It is never copied, so
@@ -58,7 +58,8 @@ public:
     /// Appends a copy of @p item and lists its languages that are not listed, in ascending byte
     /// order. The order of starts is not checked.
     /// - The code of copying the entry (see i_ZelDataTocItem::copyFrom()): nothing is added.
-    /// - The error of listing a language: the entry is not added; languages listed before it stay.
+    /// - The error from listing a language: the entry is not added; languages that this call
+    ///   listed before the error stay listed, except when memory runs out.
     virtual ZelDataResult_tags addTocItem(const i_ZelDataTocItem& item) = 0;
     /// Hands out a new entry with its defaults, which does not belong to the table.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
@@ -87,7 +88,7 @@ public:
     /// Replaces image file and entries with copies of those of @p source; the frame rate stays.
     ///
     /// The language list is rebuilt from the entries: each contributes its languages in ascending
-    /// byte order. A language that no entry has disappears, and so does an order that was set.
+    /// byte order. A language that no entry has disappears, and so does an order that you set.
     /// - #ZelData_InternalError: @p source is this object; nothing changes.
     /// - A failing step's code, warnings included: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataToc& source);

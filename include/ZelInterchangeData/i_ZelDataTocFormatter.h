@@ -21,6 +21,7 @@ class i_ZelDataToc;
 ///   #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelDataTocFormatter : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataTocFormatter);
     ~i_ZelDataTocFormatter() override;
 
     /// Replaces the held copy with a copy of @p toc.

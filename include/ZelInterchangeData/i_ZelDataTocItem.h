@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_I_ZELDATATOCITEM_H
 #define ZELINTERCHANGEDATA_I_ZELDATATOCITEM_H
 
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
 #include "ZelInterchangeData/i_ZelDataResult.h"
 
 #include <string>
@@ -17,6 +18,7 @@ namespace ZelInterchangeData {
 /// written.
 class ZELINTERCHANGEDATA_API i_ZelDataTocItem : public i_ZelDataResult {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataTocItem);
     ~i_ZelDataTocItem() override;
 
     /// Checks texts and languages; an entry without any text passes. @p deep changes nothing.

@@ -15,7 +15,7 @@ class i_ZelDataToc;
 
 /// Holds a copy of each data set that it was given and writes them as one XMP packet.
 ///
-/// - `writeString`: the packet without an XML declaration. @p flag asks to append to the text
+/// - `writeString`: the packet without an XML declaration. With @p flag it appends to the text
 ///   instead of replacing it. The text stays as it was on failure.
 /// - `writeFile`: the XML declaration and the packet, with nothing between them; @p flag is not
 ///   used. The packet ends at its first zero byte. #ZelData_Ok says that the file was opened: what
@@ -23,14 +23,15 @@ class i_ZelDataToc;
 /// - Both: #ZelData_UnsupportedFormat for a format other than #ZelDataFormat_Xmp;
 ///   #ZelData_InvalidArgument without a header or with one whose length, width or height is 0; the
 ///   code of copying a set or of its formatter; #ZelData_FileOpenFailed when the file cannot be
-///   opened, as when the path is empty or holds a zero byte.
+///   opened, for example because the path is empty or holds a zero byte.
 /// - Both keep this document as it is, and neither stores its final code as the last error: only an
 ///   unsupported format and a failure to copy a set are stored.
 /// - The packet's languages are those of the captions, in order, or "en-US" alone without any.
-///   Those of the header do not count.
+///   Those of the header are not used.
 /// - `readString`, `readFile`: always #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelInterchangeDataCore : public i_ZelDataFormatterBase {
 public:
+    ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelInterchangeDataCore);
     ~i_ZelInterchangeDataCore() override;
 
     /// @name Data sets
@@ -40,7 +41,7 @@ public:
     ///
     /// A setter replaces the document's set with a copy of @p source.
     /// - The code of the copying: the document's set is partly filled. From setDataHeader() it is
-    ///   the last error of the captions that the document holds, whatever that is, and the header's
+    ///   the last error of the captions that the document holds, whatever that is, or the header's
     ///   own where it holds none.
     /// @{
 

@@ -4,7 +4,7 @@
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/CaptionLimits.h"
 #include "captions/CaptionStyle.h"
-#include "core/ItemFindings.h"
+#include "sets/ItemFindings.h"
 
 #include <algorithm>
 
@@ -63,7 +63,7 @@ void addDuration(ZelDataFinding_tags kind, long long duration, long long limit, 
     finding.limit = limit;
 }
 
-/// A caption without a duration is not called too short as well.
+/// Does not call a caption without a duration too short as well.
 void checkDuration(long long duration, FindingList& found)
 {
     if (duration < CaptionLimits::shortestDuration) {
@@ -82,7 +82,7 @@ void checkLines(const std::string& text, const std::string& language, FindingLis
     finding.limit = static_cast<long long>(CaptionLimits::recommendedLines);
 }
 
-/// What is wrong with @p item by itself and in the languages @p listed.
+/// Checks @p item by itself and for texts in the languages @p listed.
 Ending checkItem(const i_ZelDataCaptionItem& item, const std::vector<std::string>& listed,
                  FindingList& found)
 {
@@ -95,8 +95,8 @@ Ending checkItem(const i_ZelDataCaptionItem& item, const std::vector<std::string
                             });
 }
 
-/// For each item the time that no later one may start before: its end, and its start where an
-/// implementation of the caller's lets it end earlier.
+/// For each item, the time before which no later one may start: its end, or its start where an
+/// implementation that the caller wrote lets it end earlier.
 Ending readBounds(const Items& items, const std::vector<long long>& starts,
                   std::vector<long long>& bounds)
 {

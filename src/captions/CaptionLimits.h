@@ -1,14 +1,14 @@
 /// @file
-/// What a good caption keeps to.
+/// The recommended limits of captions.
 
 #ifndef ZELINTERCHANGEDATA_CAPTIONS_CAPTIONLIMITS_H
 #define ZELINTERCHANGEDATA_CAPTIONS_CAPTIONLIMITS_H
 
 namespace ZelInterchangeData {
 
-/// The limits that check and findings share.
+/// The limits that the check and the findings share.
 struct CaptionLimits {
-    /// In milliseconds; without it a caption is not valid.
+    /// In milliseconds; a shorter caption is not valid.
     static constexpr long long shortestDuration = 1;
     /// In milliseconds.
     static constexpr long long recommendedDuration = 1000;

@@ -21,14 +21,14 @@ void CaptionStyle::repair()
 {
     frameRate.repair();
     if (fontFamily.empty()) fontFamily = standardFontFamily;
-    // Meant to be smaller than the standard size, which would change the captions of old documents.
+    // Deliberate: smaller than the standard size; otherwise a repaired size would be 20.
     if (!isFontSize(fontSize)) fontSize = repairedFontSize;
     repairComponent(foreground.red, 1.0F);
     repairComponent(foreground.green, 1.0F);
     repairComponent(foreground.blue, 1.0F);
     repairComponent(background.red, 0.0F);
     repairComponent(background.blue, 0.0F);
-    // Meant to clear the red and to keep the green: another repair would write other colours.
+    // Deliberate: clears red and keeps green; otherwise green would be cleared and red stay.
     if (!isFraction(background.green)) background.red = 0.0F;
     repairComponent(backgroundOpacity, 0.0F);
 }

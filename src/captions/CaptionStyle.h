@@ -4,7 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_CAPTIONS_CAPTIONSTYLE_H
 #define ZELINTERCHANGEDATA_CAPTIONS_CAPTIONSTYLE_H
 
-#include "core/FrameRate.h"
+#include "sets/FrameRate.h"
 
 #include <string>
 
@@ -50,7 +50,7 @@ struct CaptionStyle {
 
     /// Whether every value is one that its setter accepts.
     bool isInRange() const noexcept;
-    /// Puts values that are out of range back into it; a NaN stays.
+    /// Brings values that are out of range back into it; a NaN stays.
     void repair();
 };
 

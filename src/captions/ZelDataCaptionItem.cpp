@@ -2,8 +2,10 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "captions/CaptionLimits.h"
-#include "core/Factory.h"
-#include "util/TextLines.h"
+#include "sets/Factory.h"
+#include "util/TextUtilities.h"
+
+#include <algorithm>
 
 namespace ZelInterchangeData {
 
@@ -18,28 +20,19 @@ ZelDataCaptionItem& ZelDataCaptionItem::operator=(const ZelDataCaptionItem& othe
     return *this;
 }
 
-ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    state_.changeTexts() = other.state_.texts();
-    state_.time.start = other.state_.time.start;
-    if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
-    state_.time.duration = other.state_.time.duration;
-    state_.alignment = other.state_.alignment;
-    return store(ZelData_Ok);
-}
-
 ZelDataResult_tags CaptionState::check(bool strict) const
 {
     if (time.duration < CaptionLimits::shortestDuration) return ZelData_InvalidItem;
     if (strict && time.duration < CaptionLimits::recommendedDuration)
         return ZelData_WarnItemGuidelines;
-    // Languages and texts were checked when they were set; what is left are the lines.
-    for (std::size_t i = 0; strict && i < texts().count(); ++i) {
-        if (countLines(texts()[i].text) > CaptionLimits::recommendedLines)
-            return ZelData_WarnItemGuidelines;
+    // Languages and texts were checked when they were set; only the lines remain.
+    unsigned long most = 0;
+    if (strict) {
+        texts().forEach([&](std::string_view /*languageID*/, std::string_view text) {
+            most = std::max(most, countLines(text));
+        });
     }
-    return ZelData_Ok;
+    return most > CaptionLimits::recommendedLines ? ZelData_WarnItemGuidelines : ZelData_Ok;
 }
 
 ZelDataResult_tags ZelDataCaptionItem::isValid(bool strict) const

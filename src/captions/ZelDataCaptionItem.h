@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_CAPTIONS_ZELDATACAPTIONITEM_H
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
-#include "core/LanguageTexts.h"
-#include "core/TextSummary.h"
+#include "sets/LanguageTexts.h"
+#include "sets/TextSummary.h"
 #include "util/TimeSpan.h"
 
 #include <utility>
@@ -24,9 +24,9 @@ public:
     long long start() const noexcept { return time.start; }
     const LanguageTexts& texts() const noexcept { return texts_; }
     LanguageTexts& changeTexts() noexcept { return texts_; }
-    /// Has the texts at hand when they are needed.
+    /// Prefetches the texts.
     void prefetch() const noexcept { texts_.prefetch(); }
-    /// What i_ZelDataCaptionItem::isValid() gives.
+    /// Returns what i_ZelDataCaptionItem::isValid() returns.
     ZelDataResult_tags check(bool strict) const;
 
 private:
@@ -62,8 +62,8 @@ public:
     ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const override;
 
     const CaptionState& state() const noexcept { return state_; }
-    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
-    /// texts: those of an own item were checked when they were set.
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the texts:
+    /// those of our own items were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataCaptionItem& other);
 
 private:

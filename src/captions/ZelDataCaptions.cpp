@@ -1,6 +1,6 @@
 #include "captions/ZelDataCaptions.h"
 
-#include "core/ItemTexts.h"
+#include "sets/ItemTexts.h"
 
 namespace ZelInterchangeData {
 
@@ -19,32 +19,30 @@ bool ZelDataCaptions::canHandOutItems() const
     return true;
 }
 
-/// The finding of one item, which no later item of those that start at @p earliestLater or after may
-/// overlap.
+/// Returns the finding of one item, which must not overlap a later one; the earliest of those
+/// starts at @p earliestLater.
 Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
-                                  long long earliestLater) const
+                                  const std::vector<std::string>& listed, long long earliestLater)
 {
-    // Without `strict` the items' own validity is meant not to matter: with it, captions that are
-    // written today would be called invalid.
+    // Deliberate: only `strict` checks the items' own validity; otherwise an item that is not valid
+    // would fail isValid(false), too.
     if (strict && failed(item.isValid(true))) return item.getLastError();
-    if (const Ending ending = findMissingText(item, languageIDs())) return ending;
+    if (const Ending ending = findMissingText(item, listed)) return ending;
     long long end = 0;
     if (failed(item.getEnd(end))) return item.getLastError();
     if (end > earliestLater) return ZelData_WarnTiming;
     return {};
 }
 
-/// The first finding of the items, in stored order.
+/// Returns the first finding of the items, in stored order.
 ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
 {
-    const auto earliestLater = earliestLaterStarts(items_.starts());
-    for (unsigned long i = 0; i < items_.count(); ++i) {
-        const Ending ending = items_.use(i, [&](const i_ZelDataCaptionItem& item) {
-            return checkItem(item, strict, earliestLater[i]);
+    const auto listed = languageIDs(); // a caller's item may change the list
+    const Ending ending =
+        items_.checkAll([&](const i_ZelDataCaptionItem& item, long long earliestLater) {
+            return checkItem(item, strict, listed, earliestLater);
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataCaptions::isValid(bool strict) const
@@ -55,17 +53,14 @@ ZelDataResult_tags ZelDataCaptions::isValid(bool strict) const
 
 ZelDataResult_tags ZelDataCaptions::orderCaptions()
 {
-    return store(guarded([&] {
-        items_.order();
-        return ZelData_Ok;
-    }));
+    return store(guarded([&] { return items_.order().value_or(ZelData_Ok); }));
 }
 
 ZelDataResult_tags ZelDataCaptions::makeCaptionsConsistent()
 {
     return store(guarded([&] {
-        items_.order();
-        if (const Ending ending = fillMissingTexts(items_, languageIDs())) return *ending;
+        const auto listed = languageIDs(); // a caller's item may change the list
+        if (const Ending ending = orderAndFillMissingTexts(items_, listed)) return *ending;
         style_.repair();
         return ZelData_Ok;
     }));
@@ -143,7 +138,7 @@ ZelDataResult_tags ZelDataCaptions::getBackgroundColor(float& red, float& green,
 
 ZelDataResult_tags ZelDataCaptions::setBackgroundOpacity(float opacity)
 {
-    // A NaN is meant to pass: refusing it would refuse documents that callers write today.
+    // Deliberate: a NaN passes; otherwise the setter would refuse it with ZelData_InvalidArgument.
     if (!isFraction(opacity)) return store(ZelData_InvalidArgument);
     style_.backgroundOpacity = opacity;
     return store(ZelData_Ok);
@@ -161,7 +156,8 @@ ZelDataResult_tags ZelDataCaptions::clearCaptionItems()
 {
     return store(guarded([&] {
         items_.clear();
-        // The languages are meant to go, too: they are those of the items.
+        // Deliberate: clears the languages, too; otherwise languages without a text would stay
+        // listed.
         languages().clear();
         return ZelData_Ok;
     }));
@@ -172,27 +168,7 @@ ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& i
     return store(guarded([&] {
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
-        if (const Ending ending = addLanguagesOf(*copy.item)) return *ending;
-        items_.append(std::move(copy.item));
-        return ZelData_Ok;
-    }));
-}
-
-ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    return store(guarded([&] {
-        items_.clear();
-        const auto listed = languages().copyFrom(other.languages());
-        if (failed(listed)) return listed;
-        style_ = other.style_;
-        if (!other.canHandOutItems()) {
-            other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
-            return ZelData_InvalidArgument;
-        }
-        items_ = other.items_;
-        languages() = items_.summary().languages; // rebuilt from the items
-        return ZelData_Ok;
+        return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });
     }));
 }
 

@@ -8,8 +8,8 @@
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/CaptionStyle.h"
 #include "captions/ZelDataCaptionItem.h"
-#include "core/ItemList.h"
-#include "core/LanguageListOwner.h"
+#include "sets/ItemList.h"
+#include "sets/LanguageListOwner.h"
 #include "util/Ending.h"
 
 namespace ZelInterchangeData {
@@ -47,16 +47,16 @@ public:
     ZelDataResult_tags getCaptionItemsForLanguage(std::vector<i_ZelDataCaptionItem*>& items,
                                                   const std::string& languageID) const override;
 
-    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
-    /// items: those of an own collection, and its styling, were checked on their way in.
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the items:
+    /// the items and styling of our own collections were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataCaptions& other);
-    /// Whether each item can be copied. One that cannot is a foreign item whose copying stopped
-    /// half-way while its last error said that all was well.
+    /// Whether each item can be copied. One that cannot is a caller's item whose copying stopped
+    /// half-way although its last error was ZelData_Ok.
     bool canHandOutItems() const;
     const CaptionStyle& style() const noexcept { return style_; }
     const Items& items() const noexcept { return items_; }
-    /// What is known of all items.
-    const TextSummary& summary() { return items_.summary(); }
+    /// What is known about all items.
+    const TextSummary& summary() const { return items_.summary(); }
     using LanguageListOwner::languageIDs;
 
     /// Orders the items by start, as makeCaptionsConsistent() does.
@@ -67,7 +67,8 @@ protected:
 
 private:
     ZelDataResult_tags storeColor(CaptionColor& field, CaptionColor color) const;
-    Ending checkItem(const i_ZelDataCaptionItem& item, bool strict, long long earliestLater) const;
+    static Ending checkItem(const i_ZelDataCaptionItem& item, bool strict,
+                            const std::vector<std::string>& listed, long long earliestLater);
     ZelDataResult_tags checkItems(bool strict) const;
     /// createCaptionItem() as a callable.
     auto newItem() const

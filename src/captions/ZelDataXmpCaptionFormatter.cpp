@@ -2,7 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// What stands for an empty text: players take it for a caption that shows nothing.
+/// Deliberate: written in place of an empty text; otherwise its list item would be empty.
 constexpr std::string_view emptyCaption = "{\\rtf1 }";
 
 void describeTrack(Track& track, const CaptionStyle& style)
@@ -25,12 +25,12 @@ void describeTrack(Track& track, const CaptionStyle& style)
         .attribute("xmpDM:trackType", "Caption")
         .attribute("xmpDM:frameRate", Utilities::getRateString(style.frameRate.value))
         .attribute("xmpDM:trackName", "Captioning")
-        .attribute("stFnt:fontFamily", style.fontFamily) // goes in as stored
+        .attribute("stFnt:fontFamily", style.fontFamily) // written as stored
         .attribute("zelDM:fontSize", Utilities::getValueString(style.fontSize))
         .attribute("zelDM:bgOpacity", Utilities::getValueString(style.backgroundOpacity));
 }
 
-/// 0 to 255, cut and not rounded; a NaN gives 0.
+/// 0 to 255, truncated, not rounded; a NaN gives 0.
 long long colorByte(float component)
 {
     return std::isnan(component) ? 0
@@ -66,8 +66,8 @@ void appendCaption(Markup& markup, std::string_view languageID, std::string_view
     closeLanguageItem(markup);
 }
 
-/// As buildCaptionList(), for an item of our own. A text that is missing counts as empty, as
-/// makeCaptionsConsistent() has it.
+/// As buildCaptionList(), for one of our own items. A missing text counts as empty, as after
+/// makeCaptionsConsistent().
 void appendCaptions(TextBlock& markup, const LanguageTexts& texts,
                     const std::vector<std::string>& languageIDs)
 {
@@ -91,6 +91,8 @@ void writeMarker(MarkerWriter& markers, const CaptionState& item,
 
 } // namespace
 
+i_ZelDataCaptionFormatter::~i_ZelDataCaptionFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createCaptionFormatter(i_ZelDataCaptionFormatter** out,
                                                             ZelDataFormatType_tags format)
 {
@@ -106,7 +108,7 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
     for (const std::string& id : languageIDs) {
         std::string caption;
         const auto got = item.getTextForLanguage(caption, id);
-        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // no sign of a missing text
+        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // it does not mean a missing text
         if (failed(got)) {
             complete = false;
             continue;
@@ -119,8 +121,7 @@ bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCapti
 
 ZelDataResult_tags ZelDataXmpCaptionFormatter::setCaptions(const i_ZelDataCaptions& captions)
 {
-    return hold(captions, &ZelDataUtilities::createCaptionData,
-                &i_ZelDataCaptions::clearCaptionItems);
+    return hold(captions, &i_ZelDataCaptions::clearCaptionItems);
 }
 
 ZelDataResult_tags ZelDataXmpCaptionFormatter::getCaptions(i_ZelDataCaptions& /*captions*/) const
@@ -128,23 +129,27 @@ ZelDataResult_tags ZelDataXmpCaptionFormatter::getCaptions(i_ZelDataCaptions& /*
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpCaptionFormatter::measureTrack(std::size_t& size) const
+Ending ZelDataXmpCaptionFormatter::checkTrack() const
 {
-    // The texts with a little room for entities, and the markup.
+    if (!held()->canHandOutItems()) return ZelData_InvalidArgument;
+    return {};
+}
+
+std::optional<std::size_t> ZelDataXmpCaptionFormatter::estimateTrack() const
+{
+    // The texts with some room for entities, and the markup.
     constexpr std::size_t trackMarkup = 700;
     constexpr std::size_t markerMarkup = 210;
     constexpr std::size_t languageMarkup = 40;
-    ZelDataCaptions& captions = *held();
+    const ZelDataCaptions& captions = *held();
     const std::size_t count = captions.items().count();
-    if (count == 0) return ZelData_Ok;
-    if (!captions.canHandOutItems()) return ZelData_InvalidArgument;
-    size = trackMarkup + count * (markerMarkup + captions.languageIDs().size() * languageMarkup) +
+    if (count == 0) return {};
+    return trackMarkup + count * (markerMarkup + captions.languageIDs().size() * languageMarkup) +
            captions.summary().size;
-    return ZelData_Ok;
 }
 
-/// The captions are written as makeCaptionsConsistent() leaves them: in order, with a text in each
-/// language, with a styling in its range.
+/// Writes the captions as makeCaptionsConsistent() leaves them: in order, with a text in each
+/// language, with a styling that is in range.
 void ZelDataXmpCaptionFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataCaptions& captions = *held();

@@ -7,7 +7,7 @@
 #include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "captions/ZelDataCaptions.h"
-#include "core/XmpFormatter.h"
+#include "sets/XmpFormatter.h"
 
 #include <string>
 #include <vector>
@@ -16,9 +16,9 @@ namespace ZelInterchangeData {
 
 class i_ZelDataCaptionItem;
 
-/// Appends the texts of @p item in the languages of @p languageIDs as markup to @p text; a language
-/// without text is skipped. Whether every language had one. Throws `std::bad_alloc` when memory
-/// runs out, also when the item says so.
+/// Appends the texts of @p item in the languages of @p languageIDs as markup to @p text and skips
+/// languages without text. Returns whether every language had one. Throws `std::bad_alloc` when
+/// memory runs out, also when the item reports that.
 bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCaptionItem& item,
                       std::string& text);
 
@@ -30,7 +30,9 @@ public:
     ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) override;
     ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const override;
 
-    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    /// Ends when an item cannot be copied.
+    Ending checkTrack() const;
+    std::optional<std::size_t> estimateTrack() const;
     void appendTrack(std::string& packet) const;
 };
 

@@ -1,8 +1,8 @@
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
 #include "captions/ZelDataCaptionItem.h"
-#include "core/FieldCopy.h"
-#include "core/TextCopy.h"
+#include "sets/FieldCopy.h"
+#include "sets/TextCopy.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -14,7 +14,7 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
 {
     using Item = i_ZelDataCaptionItem;
     if (&other == this) return store(ZelData_InternalError);
-    // Between two items of our own the steps below lead where sharing the texts does.
+    // Between two of our own items, sharing the texts has the same result as the steps below.
     auto* own = exactly<ZelDataCaptionItem>(*this);
     const auto* ownOther = exactly<ZelDataCaptionItem>(other);
     if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
@@ -23,11 +23,23 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
         FieldCopy fields(other, *this, [this](ZelDataResult_tags) { return getLastError(); });
         fields
             .field(&Item::getStart, &Item::setStart)
-            // The end, not the duration: an item without a length is meant to be refused here.
+            // Deliberate: the end, not the duration; otherwise an item whose end wraps to a
+            // negative one would be copied.
             .field(&Item::getEnd, &Item::setEnd)
             .field(&Item::getAlignment, &Item::setAlignment);
         return fields.ending().value_or(ZelData_Ok);
     }));
+}
+
+ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters would leave it
+    state_.changeTexts() = other.state_.texts();
+    state_.time.start = other.state_.time.start;
+    if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
+    state_.time.duration = other.state_.time.duration;
+    state_.alignment = other.state_.alignment;
+    return store(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

@@ -2,8 +2,8 @@
 
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "captions/ZelDataCaptions.h"
-#include "core/FieldCopy.h"
-#include "core/ItemCopies.h"
+#include "sets/FieldCopy.h"
+#include "sets/ItemCopies.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 using Captions = i_ZelDataCaptions;
 
-/// FieldCopy for a colour, which is got and set as three numbers.
+/// FieldCopy for a colour, whose getter and setter take three numbers.
 // cppcheck-suppress constParameter ; the setter changes the target
 Ending copyColor(const Captions& source, Captions& target,
                  ZelDataResult_tags (Captions::*get)(float&, float&, float&) const,
@@ -53,7 +53,7 @@ i_ZelDataCaptions::~i_ZelDataCaptions() = default;
 ZelDataResult_tags i_ZelDataCaptions::copyFrom(const i_ZelDataCaptions& other)
 {
     if (&other == this) return store(ZelData_InternalError);
-    // Between two collections of our own the steps below lead where sharing the items does.
+    // Between two of our own collections, sharing the items has the same result as the steps below.
     auto* own = exactly<ZelDataCaptions>(*this);
     const auto* ownOther = exactly<ZelDataCaptions>(other);
     if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
@@ -63,9 +63,28 @@ ZelDataResult_tags i_ZelDataCaptions::copyFrom(const i_ZelDataCaptions& other)
         if (const Ending ending = copyStyle(other, *this)) return *ending;
         ReceivedItems<i_ZelDataCaptionItem> items;
         if (failed(other.getCaptionItems(items.vector()))) return other.getLastError();
-        // The list just copied is meant to go: it is rebuilt from the items, as players expect it.
+        // Deliberate: drops the list just copied and rebuilds it from the items; otherwise
+        // languages without a text, and the order of the source, would be kept.
         if (failed(clearLanguages())) return getLastError();
         return items.addTo(*this, &i_ZelDataCaptions::addCaptionItem).value_or(ZelData_Ok);
+    }));
+}
+
+ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters would leave it
+    return store(guarded([&] {
+        items_.clear();
+        const auto listed = languages().copyFrom(other.languages());
+        if (failed(listed)) return listed;
+        style_ = other.style_;
+        if (!other.canHandOutItems()) {
+            other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
+            return ZelData_InvalidArgument;
+        }
+        items_ = other.items_;
+        languages() = items_.summary().languages; // rebuilt from the items
+        return ZelData_Ok;
     }));
 }
 

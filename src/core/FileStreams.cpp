@@ -4,13 +4,14 @@
 #include <array>
 #include <cwchar>
 #include <locale>
+#include <type_traits>
 
 namespace ZelInterchangeData {
 
 namespace {
 
 /// Widens a narrow character to the number of its byte. The standard facet asks the C library,
-/// whose answer for bytes above 0x7F depends on the locale.
+/// whose result for bytes above 0x7F depends on the locale.
 class ByteCharacters : public std::ctype<wchar_t> {
 public:
     ~ByteCharacters() override = default;
@@ -28,17 +29,28 @@ protected:
     }
 };
 
-/// One byte of the file for each wide character up to 255.
-class ByteConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
+using Conversion = std::codecvt<wchar_t, char, std::mbstate_t>;
+
+/// Converts each wide character up to 255 to one byte of the file.
+class ByteConversion : public Conversion {
 public:
     ~ByteConversion() override = default;
+
+    /// From now on, converts no character to a byte.
+    void drop() const { isDropping_ = true; }
 
 protected:
     result do_out(std::mbstate_t& /*state*/, const wchar_t* from, const wchar_t* fromEnd,
                   const wchar_t*& fromNext, char* to, char* toEnd, char*& toNext) const override
     {
+        if (isDropping_) {
+            fromNext = fromEnd;
+            toNext = to;
+            return ok;
+        }
         for (fromNext = from, toNext = to; fromNext != fromEnd; ++fromNext, ++toNext) {
-            if (*fromNext < 0 || *fromNext > 255) return error;
+            // wchar_t is signed on some systems: a negative one is above 255, too.
+            if (static_cast<std::make_unsigned_t<wchar_t>>(*fromNext) > 255) return error;
             if (toNext == toEnd) return partial;
             *toNext = static_cast<char>(static_cast<unsigned char>(*fromNext));
         }
@@ -72,9 +84,12 @@ protected:
     int do_encoding() const noexcept override { return 1; }
     int do_max_length() const noexcept override { return 1; }
     bool do_always_noconv() const noexcept override { return false; }
+
+private:
+    mutable bool isDropping_ = false; // facets are const; each stream has its own
 };
 
-/// @p base with @p Facet in place of its own. A locale that cannot be made leaves the facet to us.
+/// @p base with @p Facet in place of its own. Deletes the facet when the locale cannot be made.
 template <class Facet>
 std::locale withFacet(const std::locale& base)
 {
@@ -89,13 +104,13 @@ std::locale byteLocale()
     return withFacet<ByteConversion>(withFacet<ByteCharacters>(std::locale::classic()));
 }
 
-/// A base, so that it outlives the stream that is built after it.
+/// A base class, so that it outlives the stream, which is built after it.
 struct StreamBuffer {
     std::array<wchar_t, 4096> buffer{};
 };
 
-/// A file stream with its buffer and locale in place before the file is opened: the stream's own
-/// buffer would be obtained after the opening, which empties the file.
+/// A file stream that has its buffer and locale before the file is opened: the stream would obtain
+/// its own buffer only after opening, and opening empties the file.
 template <class Stream>
 class ByteFileStream : private StreamBuffer, public Stream {
 public:
@@ -103,9 +118,21 @@ public:
     {
         this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
         this->imbue(byteLocale());
-        // A path ends at its first zero byte for the system, so it would name another file.
+        // For the system a path ends at its first zero byte, so it would name another file.
         if (path.find('\0') == std::string::npos) this->open(path);
     }
+
+    /// Drops what a write that failed, or was cancelled, has left: a full pipe would block the
+    /// thread again.
+    ~ByteFileStream() override
+    {
+        if (!this->bad()) return;
+        const std::locale locale = this->rdbuf()->getloc();
+        const auto& conversion = std::use_facet<Conversion>(locale);
+        if (const auto* own = dynamic_cast<const ByteConversion*>(&conversion)) own->drop();
+    }
+    ByteFileStream(const ByteFileStream&) = delete;
+    ByteFileStream& operator=(const ByteFileStream&) = delete;
 };
 
 } // namespace

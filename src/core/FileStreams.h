@@ -12,9 +12,11 @@ namespace ZelInterchangeData {
 
 /// A stream that writes to the file at @p path, which it creates or empties.
 ///
-/// The stream stands for bytes whatever the locale: it widens a narrow character to the number of
-/// its byte and writes a wide character up to 255 as that byte. It is not open when the file cannot
-/// be opened, or when @p path is empty or holds a zero byte; then no file was touched.
+/// The stream handles bytes, whatever the locale: it widens a narrow character to the number of its
+/// byte and writes a wide character up to 255 as that byte. It is not open when the file cannot be
+/// opened, or when @p path is empty or holds a zero byte; then no file was touched.
+///
+/// Destroying it writes what is left, unless an earlier write failed.
 ///
 /// All memory is obtained before the file is opened: `std::bad_alloc` means that no file was
 /// touched.

@@ -16,7 +16,8 @@ static_assert(emptyTracks.size() == 48 && tracksOpening.size() == 23);
 
 std::size_t placeOfTracks(const std::string& packet)
 {
-    // The last list is the header's own: a creator, written as given, may hold another before it.
+    // The last empty list is the header's own: a creator, written as given, may contain one before
+    // it.
     const std::size_t list = lastPlaceOf(emptyTracks, packet);
     return list == std::string::npos ? list : list + tracksOpening.size();
 }

@@ -5,14 +5,14 @@
 #define ZELINTERCHANGEDATA_CORE_TRACKINSERTION_H
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
-#include "util/LargePages.h"
 
 #include <cstddef>
 #include <string>
 
 namespace ZelInterchangeData {
 
-/// Where the content of the last empty track list of @p packet belongs, `npos` when there is none.
+/// The position for the content of the last empty track list of @p packet; `npos` when there is
+/// none.
 std::size_t placeOfTracks(const std::string& packet);
 
 /// Puts tracks into the last empty track list of @p packet: @p append, a callable, appends them to the
@@ -25,7 +25,6 @@ ZelDataResult_tags insertTracks(std::string& packet, std::size_t size, Append&& 
     if (place == std::string::npos) return ZelData_InternalError;
     const std::string rest = packet.substr(place);
     packet.reserve(packet.size() + size);
-    preferLargePages(packet.data(), packet.capacity());
     packet.resize(place);
     append(packet);
     packet += rest;

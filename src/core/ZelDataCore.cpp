@@ -1,20 +1,23 @@
 #include "core/ZelDataCore.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/ReplaceContents.h"
 #include "core/ZelDataCoreXmp.h"
+#include "sets/Factory.h"
+#include "sets/ReplaceContents.h"
 #include "util/Guard.h"
 
 #include <utility>
 
 namespace ZelInterchangeData {
 
+i_ZelInterchangeDataCore::~i_ZelInterchangeDataCore() = default;
+
 ZelDataCore::~ZelDataCore() = default;
 
 // Writing
 
-/// Ends with the last error of @p document when it does not take one of the sets.
-Ending ZelDataCore::handOverTo(ZelDataCore& document) const
+/// Ends with the last error of @p document when it does not accept one of the sets.
+Ending ZelDataCore::copySetsTo(ZelDataCore& document) const
 {
     if ((header_ && failed(document.setDataHeader(*header_))) ||
         (captions_ && failed(document.setDataCaptions(*captions_))) ||
@@ -30,9 +33,8 @@ ZelDataResult_tags ZelDataCore::writeCopy(ZelDataFormatType_tags format, Write&&
 {
     if (format != ZelDataFormat_Xmp) return store(ZelData_UnsupportedFormat);
     ZelDataCoreXmp document;
-    if (const Ending ending = handOverTo(document)) return store(*ending);
-    // Meant not to be stored: the last error would no longer tell of this document's own
-    // operations.
+    if (const Ending ending = copySetsTo(document)) return store(*ending);
+    // Deliberate: not stored; otherwise the last error would be that of the writing.
     return std::forward<Write>(write)(document);
 }
 
@@ -73,10 +75,10 @@ Ending ZelDataCore::makeSet(std::unique_ptr<Data>& set,
                             ZelDataResult_tags (ZelDataCore::*create)(Data**) const) const
 {
     if (set) return {};
-    Data* made = nullptr;
-    const auto created = (this->*create)(&made);
-    set.reset(made);
+    auto [made, created] = receive<Data>([&](Data** out) { return (this->*create)(out); });
+    set = std::move(made);
     if (failed(created)) return getLastError();
+    if (set == nullptr) return ZelData_InternalError;
     return {};
 }
 
@@ -112,8 +114,8 @@ ZelDataResult_tags ZelDataCore::setDataHeader(const i_ZelDataHeader& source)
     return store(guarded([&]() -> ZelDataResult_tags {
         if (const Ending ending = makeSet(header_, &ZelDataCore::createDataHeader)) return *ending;
         if (replaceContents(*header_, &i_ZelDataHeader::clearHeader, source)) return ZelData_Ok;
-        // Meant to be the captions' last error, even when that is no error; with the header's own,
-        // callers would get other codes from a document that holds captions.
+        // Deliberate: the captions' last error, even ZelData_Ok; otherwise it would be the header's
+        // own.
         return captions_ ? captions_->getLastError() : header_->getLastError();
     }));
 }

@@ -15,8 +15,8 @@
 
 namespace ZelInterchangeData {
 
-/// Holds the data sets. It writes through a ZelDataCoreXmp that gets copies of them, so what
-/// writing changes never reaches this document.
+/// Holds the data sets. It writes through a ZelDataCoreXmp that gets copies of them, so changes
+/// made for writing never reach this document.
 class ZelDataCore : public i_ZelInterchangeDataCore {
 public:
     ZelDataCore() = default;
@@ -47,10 +47,13 @@ public:
     ZelDataResult_tags createDataScreenText(i_ZelDataScreenText** out) const override;
 
 protected:
-    i_ZelDataHeader* header() const noexcept { return header_.get(); }
-    i_ZelDataCaptions* captions() const noexcept { return captions_.get(); }
-    i_ZelDataToc* toc() const noexcept { return toc_.get(); }
-    i_ZelDataScreenText* screenText() const noexcept { return screenText_.get(); }
+    /// Null as long as there is none, like the other three.
+    const i_ZelDataHeader* header() const noexcept { return header_.get(); }
+    const i_ZelDataCaptions* captions() const noexcept { return captions_.get(); }
+    const i_ZelDataToc* toc() const noexcept { return toc_.get(); }
+    const i_ZelDataScreenText* screenText() const noexcept { return screenText_.get(); }
+    /// The header, which must exist, for the const operations of writing that replace its languages.
+    i_ZelDataHeader& mutableHeader() const noexcept { return *header_; }
 
 private:
     template <class Data>
@@ -63,7 +66,7 @@ private:
     template <class Data>
     ZelDataResult_tags getData(const std::unique_ptr<Data>& set, Data& target,
                                ZelDataResult_tags (Data::*clear)()) const;
-    Ending handOverTo(ZelDataCore& document) const;
+    Ending copySetsTo(ZelDataCore& document) const;
     template <class Write>
     ZelDataResult_tags writeCopy(ZelDataFormatType_tags format, Write&& write) const;
 

@@ -1,18 +1,16 @@
 #include "core/ZelDataCoreXmp.h"
 
-#include "ZelInterchangeData/ZelDataUtilities.h"
-#include "ZelInterchangeData/i_ZelDataCaptionFormatter.h"
-#include "ZelInterchangeData/i_ZelDataHeaderFormatter.h"
-#include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
-#include "ZelInterchangeData/i_ZelDataTocFormatter.h"
+#include "captions/ZelDataXmpCaptionFormatter.h"
 #include "core/FileStreams.h"
 #include "core/TrackInsertion.h"
-#include "core/TrackWriter.h"
+#include "header/ZelDataXmpHeaderFormatter.h"
+#include "screentext/ZelDataXmpScreenTextFormatter.h"
+#include "toc/ZelDataXmpTocFormatter.h"
 #include "util/Guard.h"
 
 #include <array>
 #include <cstring>
-#include <memory>
+#include <optional>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -24,58 +22,63 @@ namespace {
 
 constexpr std::string_view xmlDeclaration = R"(<?xml version="1.0" encoding="utf-8" ?>)";
 
-/// A track with the formatter that writes it.
-struct FormattedTrack {
-    std::unique_ptr<i_ZelDataFormatterBase> formatter;
-    const TrackWriter* writer;
-};
-
-/// The tracks of a packet, those that there are.
+/// The tracks of a packet, each with the formatter that writes it.
 class Tracks {
 public:
-    explicit Tracks(ZelDataFormatType_tags type) : type_(type) {}
-
-    /// Adds the track of @p data, if there are any, with a formatter that @p create makes.
-    template <class Formatter, class Data>
-    Ending add(const Data* data, ZelDataResult_tags (*create)(Formatter**, ZelDataFormatType_tags),
-               ZelDataResult_tags (Formatter::*set)(const Data&))
+    Ending add(const i_ZelDataCaptions* captions)
     {
-        if (data == nullptr) return {};
-        Formatter* made = nullptr;
-        const auto created = create(&made, type_);
-        std::unique_ptr<Formatter> formatter(made);
-        if (failed(created)) return created;
-        if (failed((made->*set)(*data))) return made->getLastError();
-        return keep(std::move(formatter));
+        return add(captions_, captions, &ZelDataXmpCaptionFormatter::setCaptions);
+    }
+    Ending add(const i_ZelDataToc* toc) { return add(toc_, toc, &ZelDataXmpTocFormatter::setToc); }
+    Ending add(const i_ZelDataScreenText* screenText)
+    {
+        return add(screenText_, screenText, &ZelDataXmpScreenTextFormatter::setScreenText);
     }
 
-    /// About how many bytes all tracks have; 0 when there are none.
-    std::size_t size() const noexcept { return size_; }
-
-    void appendTo(std::string& packet) const
+    /// Puts the tracks into the empty track list of @p packet.
+    ZelDataResult_tags insertInto(std::string& packet) const
     {
-        for (const FormattedTrack& track : tracks_)
-            track.writer->append(packet);
+        if (!captions_.size && !toc_.size && !screenText_.size) return ZelData_Ok;
+        const std::size_t size =
+            captions_.size.value_or(0) + toc_.size.value_or(0) + screenText_.size.value_or(0);
+        return insertTracks(packet, size, [&](std::string& place) {
+            append(captions_, place);
+            append(toc_, place);
+            append(screenText_, place);
+        });
     }
 
 private:
-    Ending keep(std::unique_ptr<i_ZelDataFormatterBase> formatter)
+    template <class Formatter>
+    struct Track {
+        Formatter formatter;
+        std::optional<std::size_t> size; // an estimate; none without a track
+    };
+
+    template <class Formatter, class Data>
+    static Ending add(Track<Formatter>& track, const Data* data,
+                      ZelDataResult_tags (Formatter::*set)(const Data&))
     {
-        const auto& writer = dynamic_cast<const TrackWriter&>(*formatter); // our factories made it
-        std::size_t length = 0;
-        if (const auto measured = writer.measure(length); failed(measured)) return measured;
-        size_ += length;
-        if (length != 0) tracks_.push_back({std::move(formatter), &writer});
+        if (data == nullptr) return {};
+        if (failed((track.formatter.*set)(*data))) return track.formatter.getLastError();
+        if (const Ending ending = track.formatter.checkTrack()) return ending;
+        track.size = track.formatter.estimateTrack();
         return {};
     }
 
-    ZelDataFormatType_tags type_;
-    std::size_t size_ = 0;
-    std::vector<FormattedTrack> tracks_;
+    template <class Formatter>
+    static void append(const Track<Formatter>& track, std::string& packet)
+    {
+        if (track.size) track.formatter.appendTrack(packet);
+    }
+
+    Track<ZelDataXmpCaptionFormatter> captions_;
+    Track<ZelDataXmpTocFormatter> toc_;
+    Track<ZelDataXmpScreenTextFormatter> screenText_;
 };
 
 /// Writes each byte as one wide character, in blocks on the stack: the stream's own insertion of
-/// narrow text would ask for memory when the file is emptied already.
+/// narrow text would allocate memory after the file was emptied.
 void writeBytes(std::wostream& stream, std::string_view bytes)
 {
     std::array<wchar_t, 1024> block{};
@@ -91,7 +94,7 @@ void writeBytes(std::wostream& stream, std::string_view bytes)
 
 } // namespace
 
-// Each of these steps ends with the code that writing ends with.
+// Each of these steps ends with the code that the writing then ends with.
 
 Ending ZelDataCoreXmp::checkHeader() const
 {
@@ -106,55 +109,45 @@ Ending ZelDataCoreXmp::copyCaptionLanguages() const
     std::vector<std::string> ids;
     const auto listed = captions()->getOrderedLanguageIDs(ids);
     if (listed == ZelData_OutOfMemory) return captions()->getLastError();
-    // Meant to go on: captions that cannot name their languages are written under "en-US".
+    // Deliberate: continues; otherwise captions that cannot list their languages would fail the
+    // packet instead of being written under "en-US".
     if (failed(listed)) return {};
     for (const std::string& id : ids) {
         // cppcheck-suppress useStlAlgorithm ; each call changes the object, in this order
-        if (isError(header()->addLanguage(id))) return header()->getLastError();
+        if (isError(mutableHeader().addLanguage(id))) return header()->getLastError();
     }
     return {};
 }
 
 Ending ZelDataCoreXmp::replaceHeaderLanguages() const
 {
-    if (failed(header()->clearLanguages())) return header()->getLastError();
+    if (failed(mutableHeader().clearLanguages())) return header()->getLastError();
     if (const Ending ending = copyCaptionLanguages()) return ending;
     unsigned long count = 0;
     if (failed(header()->getLanguageCount(count))) return header()->getLastError();
-    if (count == 0 && isError(header()->addLanguage("en-US"))) return header()->getLastError();
+    if (count == 0 && isError(mutableHeader().addLanguage("en-US")))
+        return header()->getLastError();
     return {};
 }
 
 Ending ZelDataCoreXmp::writeHeader(std::string& packet, ZelDataFormatType_tags format) const
 {
-    i_ZelDataHeaderFormatter* made = nullptr;
-    const auto created = ZelDataUtilities::createHeaderFormatter(&made, format);
-    const std::unique_ptr<i_ZelDataHeaderFormatter> formatter(made);
-    if (failed(created)) return created;
-    if (failed(made->setHeader(*header())) || failed(made->writeString(packet, format, false))) {
-        return made->getLastError();
+    if (format != ZelDataFormat_Xmp) return ZelData_UnsupportedFormat;
+    ZelDataXmpHeaderFormatter formatter;
+    if (failed(formatter.setHeader(*header())) ||
+        failed(formatter.writeString(packet, format, false))) {
+        return formatter.getLastError();
     }
     return {};
 }
 
-ZelDataResult_tags ZelDataCoreXmp::writeTracks(std::string& packet,
-                                               ZelDataFormatType_tags format) const
+ZelDataResult_tags ZelDataCoreXmp::writeTracks(std::string& packet) const
 {
-    Tracks tracks(format);
-    if (const Ending ending = tracks.add(captions(), &ZelDataUtilities::createCaptionFormatter,
-                                         &i_ZelDataCaptionFormatter::setCaptions)) {
-        return *ending;
-    }
-    if (const Ending ending = tracks.add(toc(), &ZelDataUtilities::createTocFormatter,
-                                         &i_ZelDataTocFormatter::setToc)) {
-        return *ending;
-    }
-    if (const Ending ending = tracks.add(screenText(), &ZelDataUtilities::createScreenTextFormatter,
-                                         &i_ZelDataScreenTextFormatter::setScreenText)) {
-        return *ending;
-    }
-    if (tracks.size() == 0) return ZelData_Ok;
-    return insertTracks(packet, tracks.size(), [&](std::string& place) { tracks.appendTo(place); });
+    Tracks tracks;
+    if (const Ending ending = tracks.add(captions())) return *ending;
+    if (const Ending ending = tracks.add(toc())) return *ending;
+    if (const Ending ending = tracks.add(screenText())) return *ending;
+    return tracks.insertInto(packet);
 }
 
 ZelDataResult_tags ZelDataCoreXmp::assemble(std::string& packet,
@@ -163,7 +156,7 @@ ZelDataResult_tags ZelDataCoreXmp::assemble(std::string& packet,
     if (const Ending ending = checkHeader()) return *ending;
     if (const Ending ending = replaceHeaderLanguages()) return *ending;
     if (const Ending ending = writeHeader(packet, format)) return *ending;
-    return writeTracks(packet, format);
+    return writeTracks(packet);
 }
 
 ZelDataResult_tags ZelDataCoreXmp::writeString(std::string& out, ZelDataFormatType_tags format,
@@ -191,9 +184,9 @@ ZelDataResult_tags ZelDataCoreXmp::writeFile(const std::string& path, ZelDataFor
         const auto stream = createWofstreamWithFile(path);
         if (!stream->is_open()) return ZelData_FileOpenFailed;
         writeBytes(*stream, xmlDeclaration);
-        // Meant to end at the first zero byte: no XML goes on behind it.
+        // Deliberate: ends at the first zero byte; otherwise the file would contain zero bytes.
         writeBytes(*stream, {text.data(), std::strlen(text.c_str())});
-        stream->close(); // what fails from the opening on is not reported
+        stream->close(); // failures after the opening are not reported
         return ZelData_Ok;
     }));
 }

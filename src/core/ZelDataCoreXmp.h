@@ -8,8 +8,8 @@
 
 namespace ZelInterchangeData {
 
-/// Assembles the packet from the formatters' texts. Unlike ZelDataCore it stores the code of its
-/// writing, and writing replaces the languages of its own header.
+/// Assembles the packet from the formatters' texts. Unlike ZelDataCore it stores the code of the
+/// writing, and the writing replaces the languages of its own header.
 class ZelDataCoreXmp : public ZelDataCore {
 public:
     /// - #ZelData_InvalidArgument: no header is held.
@@ -32,7 +32,7 @@ private:
     Ending copyCaptionLanguages() const;
     Ending replaceHeaderLanguages() const;
     Ending writeHeader(std::string& packet, ZelDataFormatType_tags format) const;
-    ZelDataResult_tags writeTracks(std::string& packet, ZelDataFormatType_tags format) const;
+    ZelDataResult_tags writeTracks(std::string& packet) const;
     ZelDataResult_tags assemble(std::string& packet, ZelDataFormatType_tags format) const;
 };
 

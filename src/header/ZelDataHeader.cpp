@@ -1,9 +1,7 @@
 #include "header/ZelDataHeader.h"
 
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/GuardedCopy.h"
-
-#include <algorithm>
 
 namespace ZelInterchangeData {
 
@@ -20,8 +18,7 @@ ZelDataResult_tags ZelDataHeader::isValid() const
 
 ZelDataResult_tags ZelDataHeader::clearHeader()
 {
-    // Search-bar flag and content names are meant to stay: callers clear a header and fill it again
-    // without setting these two.
+    // Deliberate: search-bar flag and content names stay; otherwise clearing would reset them, too.
     iPodExplicit_ = false;
     for (std::string* text : {&appName_, &appVersion_, &title_, &creator_, &description_}) {
         text->clear();
@@ -173,37 +170,33 @@ ZelDataResult_tags ZelDataHeader::addContentName(const std::string& name)
     return store(guarded([&] {
         const auto form = ZelDataUtilities::verifyUtf8Format(name, false);
         if (failed(form)) return form;
-        const auto found = std::find(contentNames_.begin(), contentNames_.end(), name);
-        // Meant to be another code than for a language that is listed already: callers tell the two
-        // apart, and with that code they would take the name for a language.
-        if (found != contentNames_.end()) return ZelData_WarnNoChange;
-        contentNames_.push_back(name);
+        // Deliberate: not ZelData_WarnAlreadyExists; otherwise the code would be that of a language
+        // that is listed already.
+        if (contentNames_.contains(name)) return ZelData_WarnNoChange;
+        contentNames_.append(name);
         return ZelData_Ok;
     }));
 }
 
 ZelDataResult_tags ZelDataHeader::removeContentName(const std::string& name)
 {
-    const auto found = std::find(contentNames_.begin(), contentNames_.end(), name);
-    if (found == contentNames_.end()) return store(ZelData_WarnNoChange);
-    contentNames_.erase(found);
-    return store(ZelData_Ok);
+    return store(contentNames_.remove(name) ? ZelData_Ok : ZelData_WarnNoChange);
 }
 
 ZelDataResult_tags ZelDataHeader::getContentNameCount(unsigned long& count) const
 {
-    count = contentNames_.size();
+    count = contentNames_.texts().size();
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataHeader::getContentNames(std::vector<std::string>& names) const
 {
-    return store(guardedCopy(names, contentNames_));
+    return store(guardedCopy(names, contentNames_.texts()));
 }
 
 ZelDataResult_tags ZelDataHeader::doesContentNameExist(std::string& name, bool& exists) const
 {
-    exists = std::find(contentNames_.begin(), contentNames_.end(), name) != contentNames_.end();
+    exists = contentNames_.contains(name);
     return store(ZelData_Ok);
 }
 

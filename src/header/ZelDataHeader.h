@@ -5,7 +5,8 @@
 #define ZELINTERCHANGEDATA_HEADER_ZELDATAHEADER_H
 
 #include "ZelInterchangeData/i_ZelDataHeader.h"
-#include "core/LanguageListOwner.h"
+#include "sets/LanguageListOwner.h"
+#include "util/TextList.h"
 
 #include <string>
 #include <vector>
@@ -64,7 +65,7 @@ private:
     unsigned long videoWidth_ = 0;
     unsigned long videoHeight_ = 0;
     std::vector<std::string> keywords_;
-    std::vector<std::string> contentNames_;
+    TextList contentNames_;
 };
 
 } // namespace ZelInterchangeData

@@ -1,7 +1,7 @@
 #include "header/ZelDataXmpHeaderFormatter.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/Ending.h"
 #include "util/ValueStrings.h"
 #include "xml/LanguageAlternative.h"
@@ -17,7 +17,7 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// The version of the format, 1.1.0; it is not the library's.
+/// The version of the format, 1.1.0; not that of the library.
 constexpr unsigned long formatVersion = 0x10100;
 
 constexpr std::array<std::pair<const char*, const char*>, 10> namespaces = {{
@@ -48,7 +48,7 @@ std::string joined(const std::vector<std::string>& words)
     return text;
 }
 
-/// The items of the language list, or #ZelData_InternalError when @p ids is empty.
+/// Builds the items of the language list; ZelData_InternalError when @p ids is empty.
 ZelDataResult_tags buildLanguageMarkup(const std::vector<std::string>& ids, std::string& markup)
 {
     if (ids.empty()) return ZelData_InternalError;
@@ -56,14 +56,15 @@ ZelDataResult_tags buildLanguageMarkup(const std::vector<std::string>& ids, std:
         std::string name;
         const auto found = Utilities::englishNameForLanguage(id, name);
         if (found == ZelData_OutOfMemory) return found;
-        // Meant to succeed and to drop the rest: an unknown language must not stop the packet.
+        // Deliberate: succeeds without the rest; otherwise an unknown language would fail the
+        // packet.
         if (failed(found)) break;
         appendLanguageItem(markup, id, Utilities::htmlTagsToText(name));
     }
     return ZelData_Ok;
 }
 
-/// The items of the content list, or #ZelData_InternalError when @p names is empty.
+/// Builds the items of the content list; ZelData_InternalError when @p names is empty.
 ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std::string& markup)
 {
     if (names.empty()) return ZelData_InternalError;
@@ -77,8 +78,8 @@ ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std
     return ZelData_Ok;
 }
 
-/// Writes one header, step by step, in the order of the packet. A step that cannot get a value from
-/// the header ends with the header's last error.
+/// Writes one header, step by step, in the order of the packet. A step that cannot get a value ends
+/// with the header's last error.
 class PacketFrame {
 public:
     explicit PacketFrame(const i_ZelDataHeader& header) : header_(header), description_(frame()) {}
@@ -124,10 +125,11 @@ private:
         std::string creator;
         std::string text;
         if (failed(header_.getCreator(creator))) return header_.getLastError();
-        // The creator alone is meant to go in as given: callers escape it themselves.
+        // Deliberate: the creator alone is not escaped; otherwise one that is escaped already would
+        // be escaped twice.
         description_.attribute("dc:creator", creator);
         if (failed(header_.getDescription(text))) return header_.getLastError();
-        // The capital is meant: players look for this name.
+        // Deliberate: the capital D; otherwise the name would be "dc:description".
         description_.attribute("dc:Description", Utilities::htmlTagsToText(text));
         return {};
     }
@@ -139,7 +141,7 @@ private:
         if (failed(header_.getAppName(name)) || failed(header_.getAppVersion(version))) {
             return header_.getLastError();
         }
-        // The separator stands also between empty parts.
+        // The separator is written even when name and version are empty.
         description_.attribute("dc:source", Utilities::htmlTagsToText(name + " - " + version));
         return {};
     }
@@ -153,7 +155,7 @@ private:
         }
         description_.attribute("zelDM:iPodExplicit", truthValue(isExplicit))
             .attribute("zelDM:keywords", Utilities::htmlTagsToText(joined(keywords)))
-            .attribute("zelDM:thumbnail", "") // these two are reserved for the player
+            .attribute("zelDM:thumbnail", "") // always empty, like the next one
             .attribute("zelDM:firstFrame", "");
         return {};
     }
@@ -173,7 +175,7 @@ private:
         unsigned long height = 0;
         unsigned long width = 0;
         if (failed(header_.getVideoHeight(height)) || failed(header_.getVideoWidth(width))) {
-            return header_.getLastError(); // uncovered line: our own copy always gives them
+            return header_.getLastError(); // uncovered line: our own copy always has them
         }
         description_.element("xmpDM:videoFrameSize")
             .attribute("stDim:unit", "pixel")
@@ -193,7 +195,7 @@ private:
         return {};
     }
 
-    /// The document looks for this empty pair of tags, and puts the tracks into it.
+    /// The document finds this empty pair of tags and inserts the tracks there.
     Ending addTrackList()
     {
         description_.element("xmpDM:Tracks/rdf:Bag");
@@ -230,6 +232,8 @@ private:
 
 } // namespace
 
+i_ZelDataHeaderFormatter::~i_ZelDataHeaderFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createHeaderFormatter(i_ZelDataHeaderFormatter** out,
                                                            ZelDataFormatType_tags format)
 {
@@ -238,7 +242,7 @@ ZelDataResult_tags ZelDataUtilities::createHeaderFormatter(i_ZelDataHeaderFormat
 
 ZelDataResult_tags ZelDataXmpHeaderFormatter::setHeader(const i_ZelDataHeader& header)
 {
-    return hold(header, &ZelDataUtilities::createHeaderData, &i_ZelDataHeader::clearHeader);
+    return hold(header, &i_ZelDataHeader::clearHeader);
 }
 
 ZelDataResult_tags ZelDataXmpHeaderFormatter::getHeader(i_ZelDataHeader& /*header*/) const
@@ -257,7 +261,7 @@ ZelDataResult_tags ZelDataXmpHeaderFormatter::writeString(std::string& out,
     }));
 }
 
-/// Unlike the formatters of the tracks it does not try the writing first.
+/// Unlike the formatters of the tracks, does not write a string first.
 ZelDataResult_tags ZelDataXmpHeaderFormatter::writeFile(const std::string& /*path*/,
                                                         ZelDataFormatType_tags format,
                                                         bool /*flag*/) const

@@ -6,8 +6,8 @@
 
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 #include "ZelInterchangeData/i_ZelDataHeaderFormatter.h"
-#include "core/XmpFormatter.h"
 #include "header/ZelDataHeader.h"
+#include "sets/XmpFormatter.h"
 
 namespace ZelInterchangeData {
 

@@ -1,13 +1,13 @@
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 
-#include "core/FieldCopy.h"
+#include "sets/FieldCopy.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
 
 namespace {
 
-/// Ends with the last error of the header that failed to hand out or to take a name.
+/// Ends with the last error of the header that failed to return or to accept a name.
 Ending copyContentNames(const i_ZelDataHeader& source, i_ZelDataHeader& target)
 {
     if (const auto cleared = target.clearContentNames(); failed(cleared)) return cleared;
@@ -30,7 +30,8 @@ ZelDataResult_tags i_ZelDataHeader::copyFrom(const i_ZelDataHeader& other)
     return store(guarded([&] {
         if (const auto cleared = clearHeader(); failed(cleared)) return cleared;
         if (const auto copied = i_ZelDataLanguage::copyFrom(other); failed(copied)) return copied;
-        // A header ends with the setter's code; the other sets ask for their own last error.
+        // Copying a header ends with the code that the setter returned; the other sets ask for
+        // their own last error.
         const auto setterCode = [](ZelDataResult_tags code) { return code; };
         FieldCopy fields(other, *this, setterCode);
         fields.field(&Header::getAppName, &Header::setAppName)

@@ -2,7 +2,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/ItemFindings.h"
+#include "sets/ItemFindings.h"
 
 namespace ZelInterchangeData {
 

@@ -12,7 +12,7 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextData(i_ZelDataScreenText** 
 
 // Checking and repairing
 
-/// The finding of one item; no later one starts before @p earliestLater.
+/// Returns the finding of one item; no later one starts before @p earliestLater.
 Ending ZelDataScreenText::checkItem(const i_ZelDataScreenTextItem& item, bool deep,
                                     long long earliestLater)
 {
@@ -23,17 +23,14 @@ Ending ZelDataScreenText::checkItem(const i_ZelDataScreenTextItem& item, bool de
     return {};
 }
 
-/// The first finding of the items, in stored order.
+/// Returns the first finding of the items, in stored order.
 ZelDataResult_tags ZelDataScreenText::checkItems(bool deep) const
 {
-    const auto earliestLater = earliestLaterStarts(items_.starts());
-    for (unsigned long i = 0; i < items_.count(); ++i) {
-        const Ending ending = items_.use(i, [&](const i_ZelDataScreenTextItem& item) {
-            return checkItem(item, deep, earliestLater[i]);
+    const Ending ending =
+        items_.checkAll([&](const i_ZelDataScreenTextItem& item, long long earliestLater) {
+            return checkItem(item, deep, earliestLater);
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataScreenText::isValid(bool deep) const
@@ -44,10 +41,7 @@ ZelDataResult_tags ZelDataScreenText::isValid(bool deep) const
 
 ZelDataResult_tags ZelDataScreenText::orderScreenTextItems()
 {
-    return store(guarded([&] {
-        items_.order();
-        return ZelData_Ok;
-    }));
+    return store(guarded([&] { return items_.order().value_or(ZelData_Ok); }));
 }
 
 ZelDataResult_tags ZelDataScreenText::makeScreenTextConsistent()
@@ -87,17 +81,6 @@ ZelDataResult_tags ZelDataScreenText::addScreenTextItem(const i_ZelDataScreenTex
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
         items_.append(std::move(copy.item));
-        return ZelData_Ok;
-    }));
-}
-
-ZelDataResult_tags ZelDataScreenText::copyOwn(const ZelDataScreenText& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    return store(guarded([&] {
-        reserved_.clear();
-        frameRate_ = other.frameRate_;
-        items_ = other.items_;
         return ZelData_Ok;
     }));
 }

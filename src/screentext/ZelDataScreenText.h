@@ -6,9 +6,9 @@
 
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/FrameRate.h"
-#include "core/ItemList.h"
 #include "screentext/ZelDataScreenTextItem.h"
+#include "sets/FrameRate.h"
+#include "sets/ItemList.h"
 #include "util/Ending.h"
 
 #include <string>
@@ -37,13 +37,13 @@ public:
     ZelDataResult_tags
     getScreenTextItems(std::vector<i_ZelDataScreenTextItem*>& items) const override;
 
-    /// As copyFrom(), with the same codes and last errors, but sharing the items: those of an own
-    /// collection were checked on their way in.
+    /// As copyFrom(), with the same codes and last errors, but shares the items: those of our own
+    /// collections were checked when they were added.
     ZelDataResult_tags copyOwn(const ZelDataScreenText& other);
     const Items& items() const noexcept { return items_; }
     FrameRate frameRate() const noexcept { return frameRate_; }
-    /// What is known of all items.
-    const ScreenTextSummary& summary() { return items_.summary(); }
+    /// What is known about all items.
+    const ScreenTextSummary& summary() const { return items_.summary(); }
 
     /// Orders the items by start, as makeScreenTextConsistent() does.
     ZelDataResult_tags orderScreenTextItems();

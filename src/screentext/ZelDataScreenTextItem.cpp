@@ -1,7 +1,7 @@
 #include "screentext/ZelDataScreenTextItem.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/GuardedCopy.h"
 
 namespace ZelInterchangeData {
@@ -17,15 +17,8 @@ ZelDataScreenTextItem& ZelDataScreenTextItem::operator=(const ZelDataScreenTextI
     return *this;
 }
 
-ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    state_ = other.state_;
-    return store(ZelData_Ok);
-}
-
-/// An item is always valid: its text was checked when it was set. The flag is meant to change nothing:
-/// checking more would refuse items that are written today.
+/// An item is always valid: its text was checked when it was set. Deliberate: the flag changes
+/// nothing; otherwise a deep check could refuse an item.
 ZelDataResult_tags ZelDataScreenTextItem::isValid(bool /*deep*/) const
 {
     return store(ZelData_Ok);

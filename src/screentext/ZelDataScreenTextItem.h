@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 #include "util/SharedText.h"
+#include "util/TextUtilities.h"
 #include "util/TimeSpan.h"
 
 #include <utility>
@@ -14,12 +15,12 @@ namespace ZelInterchangeData {
 
 class ScreenTextState;
 
-/// What is worth knowing of all items of a collection together.
+/// A summary of all items of a collection.
 struct ScreenTextSummary {
-    /// The bytes of all texts and file names.
+    /// The approximate number of bytes that all texts and file names take in the packet.
     std::size_t size = 0;
 
-    /// Takes in the next item.
+    /// Adds the next item.
     void add(const ScreenTextState& state) noexcept;
 };
 
@@ -39,7 +40,7 @@ public:
     std::string_view imageFile() const noexcept { return imageFile_.view(); }
     void setImageFile(std::string_view name) { imageFile_ = SharedText(name); }
 
-    /// Has the texts at hand when they are needed.
+    /// Prefetches the texts.
     void prefetch() const noexcept
     {
         text_.prefetch();
@@ -53,7 +54,7 @@ private:
 
 inline void ScreenTextSummary::add(const ScreenTextState& state) noexcept
 {
-    size += state.text().size() + state.imageFile().size();
+    size += sizeWithEntities(state.text()) + state.imageFile().size();
 }
 
 /// The screen-text item that the library makes.
@@ -87,8 +88,8 @@ public:
     ZelDataResult_tags getGroupId(unsigned long& id) const override;
 
     const ScreenTextState& state() const noexcept { return state_; }
-    /// As copyFrom(), with the same codes and last errors, but sharing the strings: those of an own
-    /// item were checked when they were set.
+    /// As copyFrom(), with the same codes and last errors, but shares the strings: those of our own
+    /// items were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataScreenTextItem& other);
 
 private:

@@ -2,7 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "xml/Track.h"
 
 namespace ZelInterchangeData {
@@ -17,8 +17,8 @@ void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
         .escapedStripped("xmpDM:name", item.text())
         .attribute("xmpDM:startTime", item.time.start)
         .attribute("xmpDM:duration", item.time.duration)
-        // The prefix is meant to be another one than in the table of contents, and the name to go in
-        // as stored: players look for this one, and callers escape the name themselves.
+        // Deliberate: this prefix, and not escaped; otherwise it would be an escaped "zelDM:image",
+        // as in the table of contents.
         .attribute("xmpDM:image", item.imageFile())
         .attribute("zelDM:imageindex", static_cast<unsigned long long>(item.imageIndex))
         .attribute("zelDM:imageoffset", item.imageOffset)
@@ -27,6 +27,8 @@ void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
 }
 
 } // namespace
+
+i_ZelDataScreenTextFormatter::~i_ZelDataScreenTextFormatter() = default;
 
 ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTextFormatter** out,
                                                                ZelDataFormatType_tags format)
@@ -37,8 +39,7 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTe
 ZelDataResult_tags
 ZelDataXmpScreenTextFormatter::setScreenText(const i_ZelDataScreenText& screenText)
 {
-    return hold(screenText, &ZelDataUtilities::createScreenTextData,
-                &i_ZelDataScreenText::clearScreenTextItems);
+    return hold(screenText, &i_ZelDataScreenText::clearScreenTextItems);
 }
 
 ZelDataResult_tags
@@ -47,27 +48,26 @@ ZelDataXmpScreenTextFormatter::getScreenText(i_ZelDataScreenText& /*screenText*/
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpScreenTextFormatter::measureTrack(std::size_t& size) const
+std::optional<std::size_t> ZelDataXmpScreenTextFormatter::estimateTrack() const
 {
-    // The texts with a little room for entities, and the markup.
+    // The texts with some room for entities, and the markup.
     constexpr std::size_t trackMarkup = 250;
     constexpr std::size_t markerMarkup = 260;
-    ZelDataScreenText& screenText = *held();
-    if (screenText.items().count() == 0) return ZelData_Ok;
-    size = trackMarkup + screenText.items().count() * markerMarkup + screenText.summary().size;
-    return ZelData_Ok;
+    const ZelDataScreenText& screenText = *held();
+    if (screenText.items().count() == 0) return {};
+    return trackMarkup + screenText.items().count() * markerMarkup + screenText.summary().size;
 }
 
-/// The items are written as makeScreenTextConsistent() leaves them: in order, with a frame rate in its
-/// range.
+/// Writes the items as makeScreenTextConsistent() leaves them: in order, with a frame rate that is
+/// in range.
 void ZelDataXmpScreenTextFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataScreenText& screenText = *held();
     FrameRate rate = screenText.frameRate();
     rate.repair();
     Track track;
-    // Another order than that of the table of contents, and no image: both are meant, players compare
-    // these bytes.
+    // Deliberate: the rate before the name, and no image; otherwise the attributes would be those
+    // of the table of contents.
     track.description()
         .attribute("xmpDM:trackType", "ScreenText")
         .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))

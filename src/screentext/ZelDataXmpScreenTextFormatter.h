@@ -6,8 +6,8 @@
 
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextFormatter.h"
-#include "core/XmpFormatter.h"
 #include "screentext/ZelDataScreenText.h"
+#include "sets/XmpFormatter.h"
 
 namespace ZelInterchangeData {
 
@@ -19,7 +19,7 @@ public:
     ZelDataResult_tags setScreenText(const i_ZelDataScreenText& screenText) override;
     ZelDataResult_tags getScreenText(i_ZelDataScreenText& screenText) const override;
 
-    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    std::optional<std::size_t> estimateTrack() const;
     void appendTrack(std::string& packet) const;
 };
 

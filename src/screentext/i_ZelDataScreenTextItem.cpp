@@ -1,7 +1,7 @@
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
-#include "core/FieldCopy.h"
 #include "screentext/ZelDataScreenTextItem.h"
+#include "sets/FieldCopy.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
 
@@ -13,7 +13,7 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
 {
     using Item = i_ZelDataScreenTextItem;
     if (&source == this) return store(ZelData_InternalError);
-    // Between two items of our own the steps below lead where sharing the strings does.
+    // Between two of our own items, sharing the strings has the same result as the steps below.
     auto* own = exactly<ZelDataScreenTextItem>(*this);
     const auto* ownSource = exactly<ZelDataScreenTextItem>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
@@ -22,7 +22,7 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
         FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
         fields.field(&Item::getText, &Item::setText)
             .field(&Item::getStart, &Item::setStart)
-            // The duration, not the end: an item without a length can be copied.
+            // The duration, not the end, so that an item without a length can be copied.
             .field(&Item::getDuration, &Item::setDuration)
             .field(&Item::getImageFile, &Item::setImageFile)
             .field(&Item::getImageIndex, &Item::setImageIndex)
@@ -30,6 +30,13 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
             .field(&Item::getGroupId, &Item::setGroupId);
         return fields.ending().value_or(ZelData_Ok);
     }));
+}
+
+ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters would leave it
+    state_ = other.state_;
+    return store(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

@@ -1,7 +1,7 @@
 #include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/ItemFindings.h"
+#include "sets/ItemFindings.h"
 
 namespace ZelInterchangeData {
 

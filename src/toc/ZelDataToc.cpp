@@ -1,6 +1,6 @@
 #include "toc/ZelDataToc.h"
 
-#include "core/ItemTexts.h"
+#include "sets/ItemTexts.h"
 
 namespace ZelInterchangeData {
 
@@ -11,28 +11,27 @@ ZelDataResult_tags ZelDataUtilities::createTocData(i_ZelDataToc** out)
 
 // Checking and repairing
 
-/// The finding of one entry; no later one starts before @p earliestLater.
-Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep, long long earliestLater) const
+/// Returns the finding of one entry; no later one starts before @p earliestLater.
+Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep,
+                             const std::vector<std::string>& listed, long long earliestLater)
 {
     if (deep && failed(item.isValid(true))) return item.getLastError();
-    if (const Ending ending = findMissingText(item, languageIDs())) return ending;
+    if (const Ending ending = findMissingText(item, listed)) return ending;
     long long start = 0;
     if (failed(item.getStart(start))) return item.getLastError();
     if (start > earliestLater) return ZelData_WarnTiming;
     return {};
 }
 
-/// The first finding of the items, in stored order.
+/// Returns the first finding of the entries, in stored order.
 ZelDataResult_tags ZelDataToc::checkItems(bool deep) const
 {
-    const auto earliestLater = earliestLaterStarts(items_.starts());
-    for (unsigned long i = 0; i < items_.count(); ++i) {
-        const Ending ending = items_.use(i, [&](const i_ZelDataTocItem& item) {
-            return checkItem(item, deep, earliestLater[i]);
+    const auto listed = languageIDs(); // a caller's item may change the list
+    const Ending ending =
+        items_.checkAll([&](const i_ZelDataTocItem& item, long long earliestLater) {
+            return checkItem(item, deep, listed, earliestLater);
         });
-        if (ending) return *ending;
-    }
-    return ZelData_Ok;
+    return ending.value_or(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataToc::isValid(bool deep) const
@@ -43,17 +42,14 @@ ZelDataResult_tags ZelDataToc::isValid(bool deep) const
 
 ZelDataResult_tags ZelDataToc::orderTocItems()
 {
-    return store(guarded([&] {
-        items_.order();
-        return ZelData_Ok;
-    }));
+    return store(guarded([&] { return items_.order().value_or(ZelData_Ok); }));
 }
 
 ZelDataResult_tags ZelDataToc::makeTocConsistent()
 {
     return store(guarded([&] {
-        items_.order();
-        if (const Ending ending = fillMissingTexts(items_, languageIDs())) return *ending;
+        const auto listed = languageIDs(); // a caller's item may change the list
+        if (const Ending ending = orderAndFillMissingTexts(items_, listed)) return *ending;
         frameRate_.repair();
         return ZelData_Ok;
     }));
@@ -98,23 +94,7 @@ ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
     return store(guarded([&] {
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
-        if (const Ending ending = addLanguagesOf(*copy.item)) return *ending;
-        items_.append(std::move(copy.item));
-        return ZelData_Ok;
-    }));
-}
-
-ZelDataResult_tags ZelDataToc::copyOwn(const ZelDataToc& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    return store(guarded([&] {
-        items_.clear();
-        const auto listed = languages().copyFrom(other.languages());
-        if (failed(listed)) return listed;
-        imageFile_ = other.imageFile_;
-        items_ = other.items_;
-        languages() = items_.summary().languages; // rebuilt from the items
-        return ZelData_Ok;
+        return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });
     }));
 }
 
@@ -128,7 +108,8 @@ ZelDataResult_tags ZelDataToc::removeTocItemAt(unsigned long index)
     return store(guarded([&] { return items_.removeAt(index); }));
 }
 
-/// Entries and the listed language are meant to stay: what goes is the text alone.
+/// Deliberate: removes only the texts; otherwise entries, or the listed language, would go with
+/// them.
 ZelDataResult_tags ZelDataToc::removeTocItemsForLanguage(const std::string& languageID)
 {
     return store(guarded([&] { return removeTexts(items_, languageID); }));

@@ -6,9 +6,9 @@
 
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/FrameRate.h"
-#include "core/ItemList.h"
-#include "core/LanguageListOwner.h"
+#include "sets/FrameRate.h"
+#include "sets/ItemList.h"
+#include "sets/LanguageListOwner.h"
 #include "toc/ZelDataTocItem.h"
 #include "util/Ending.h"
 
@@ -38,8 +38,8 @@ public:
     ZelDataResult_tags getTocItemsForLanguage(std::vector<i_ZelDataTocItem*>& items,
                                               const std::string& languageID) const override;
 
-    /// As copyFrom(), with the same codes, last errors and half-copied state, but sharing the
-    /// entries: those of an own table were checked on their way in.
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the
+    /// entries: those of our own tables were checked when they were added.
     ZelDataResult_tags copyOwn(const ZelDataToc& other);
     const Items& items() const noexcept { return items_; }
     const std::string& imageFile() const noexcept { return imageFile_; }
@@ -53,7 +53,8 @@ protected:
     FrameRate frameRate_;
 
 private:
-    Ending checkItem(const i_ZelDataTocItem& item, bool deep, long long earliestLater) const;
+    static Ending checkItem(const i_ZelDataTocItem& item, bool deep,
+                            const std::vector<std::string>& listed, long long earliestLater);
     ZelDataResult_tags checkItems(bool deep) const;
     /// createTocItem() as a callable.
     auto newItem() const

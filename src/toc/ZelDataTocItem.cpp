@@ -1,7 +1,7 @@
 #include "toc/ZelDataTocItem.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "util/GuardedCopy.h"
 
 namespace ZelInterchangeData {
@@ -17,15 +17,8 @@ ZelDataTocItem& ZelDataTocItem::operator=(const ZelDataTocItem& other)
     return *this;
 }
 
-ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
-{
-    other.setLastError(ZelData_Ok); // as the getters leave it
-    state_ = other.state_;
-    return store(ZelData_Ok);
-}
-
-/// An entry is always valid: its languages and titles were checked when they were set. The flag is meant
-/// to change nothing: an entry has no parts, and a second answer would tell callers that it has.
+/// An entry is always valid: its languages and titles were checked when they were set. Deliberate:
+/// the flag changes nothing; otherwise a deep check could refuse an entry.
 ZelDataResult_tags ZelDataTocItem::isValid(bool /*deep*/) const
 {
     return store(ZelData_Ok);
@@ -39,7 +32,8 @@ ZelDataResult_tags ZelDataTocItem::clearText()
     return store(ZelData_Ok);
 }
 
-/// Replacing a title is meant to be a warning and no error: callers that look for errors go on.
+/// Deliberate: replacing a title gives a warning; otherwise, as an error, it would stop a caller
+/// that lets warnings pass.
 ZelDataResult_tags ZelDataTocItem::setTextForLanguage(const std::string& text,
                                                       const std::string& languageID)
 {

@@ -5,8 +5,8 @@
 #define ZELINTERCHANGEDATA_TOC_ZELDATATOCITEM_H
 
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/LanguageTexts.h"
-#include "core/TextSummary.h"
+#include "sets/LanguageTexts.h"
+#include "sets/TextSummary.h"
 #include "util/SharedText.h"
 
 #include <utility>
@@ -26,7 +26,7 @@ public:
     const LanguageTexts& texts() const noexcept { return titles_; }
     LanguageTexts& changeTexts() noexcept { return titles_; }
 
-    /// Has the texts at hand when they are needed.
+    /// Prefetches the texts.
     void prefetch() const noexcept
     {
         titles_.prefetch();
@@ -70,8 +70,8 @@ public:
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
 
     const TocEntryState& state() const noexcept { return state_; }
-    /// As copyFrom(), with the same codes and last errors, but sharing the strings: those of an own
-    /// entry were checked when they were set.
+    /// As copyFrom(), with the same codes and last errors, but shares the strings: those of our own
+    /// entries were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataTocItem& other);
 
 private:

@@ -2,7 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/Factory.h"
+#include "sets/Factory.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -14,7 +14,8 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// The title that the marker carries. One alone is meant: players read the name as a plain text.
+/// Deliberate: the title in the first language alone; otherwise the marker's name would be a list
+/// of titles.
 std::string_view titleOf(const TocEntryState& entry, const std::vector<std::string>& languageIDs)
 {
     if (languageIDs.empty()) return {};
@@ -35,6 +36,8 @@ void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
 
 } // namespace
 
+i_ZelDataTocFormatter::~i_ZelDataTocFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createTocFormatter(i_ZelDataTocFormatter** out,
                                                         ZelDataFormatType_tags format)
 {
@@ -50,7 +53,7 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
     for (const std::string& id : languages) {
         std::string title;
         const auto got = item.getTextForLanguage(title, id);
-        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // no sign of a missing text
+        if (got == ZelData_OutOfMemory) throw std::bad_alloc(); // it does not mean a missing text
         if (failed(got)) {
             complete = false;
             continue;
@@ -63,7 +66,7 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
 
 ZelDataResult_tags ZelDataXmpTocFormatter::setToc(const i_ZelDataToc& toc)
 {
-    return hold(toc, &ZelDataUtilities::createTocData, &i_ZelDataToc::clearTocItems);
+    return hold(toc, &i_ZelDataToc::clearTocItems);
 }
 
 ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
@@ -71,23 +74,25 @@ ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
     return store(ZelData_NotImplemented);
 }
 
-ZelDataResult_tags ZelDataXmpTocFormatter::measureTrack(std::size_t& size) const
+std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
 {
-    // The texts with a little room for entities, and the markup.
+    // The texts with some room for entities, and the markup.
     constexpr std::size_t trackMarkup = 300;
     constexpr std::size_t markerMarkup = 210;
     const ZelDataToc& toc = *held();
-    if (toc.items().count() == 0) return ZelData_Ok;
-    size = trackMarkup + toc.imageFile().size() + toc.items().count() * markerMarkup;
+    if (toc.items().count() == 0) return {};
+    std::size_t size =
+        trackMarkup + sizeWithEntities(toc.imageFile()) + toc.items().count() * markerMarkup;
     for (unsigned long i = 0; i < toc.items().count(); ++i) {
         const TocEntryState& entry = toc.items().state(i);
-        size += titleOf(entry, toc.languageIDs()).size() + entry.imageFile().size();
+        size += sizeWithEntities(titleOf(entry, toc.languageIDs())) +
+                sizeWithEntities(entry.imageFile());
     }
-    return ZelData_Ok;
+    return size;
 }
 
-/// The table is written as makeTocConsistent() leaves it: in order, with a frame rate in its range. What
-/// else that repairs is not seen: a title that is missing counts as empty.
+/// Writes the table as makeTocConsistent() leaves it: in order, with a frame rate that is in range.
+/// The rest of what that repairs makes no difference: a missing title counts as empty.
 void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataToc& toc = *held();

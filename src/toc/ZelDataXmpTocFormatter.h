@@ -6,7 +6,7 @@
 
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocFormatter.h"
-#include "core/XmpFormatter.h"
+#include "sets/XmpFormatter.h"
 #include "toc/ZelDataToc.h"
 
 #include <string>
@@ -16,10 +16,10 @@ namespace ZelInterchangeData {
 
 class i_ZelDataTocItem;
 
-/// Replaces @p out with the titles of @p item in the languages of @p languages as markup; a
-/// language without title is skipped. Whether every language had one. The track does not use it: a
-/// marker carries the title of one language alone. Throws `std::bad_alloc` when memory runs out,
-/// also when the item says so.
+/// Replaces @p out with the titles of @p item in the languages of @p languages as markup and skips
+/// languages without title. Returns whether every language had one. The track does not use it: a
+/// marker has a title in one language alone. Throws `std::bad_alloc` when memory runs out, also
+/// when the item reports that.
 bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& item,
                   std::string& out);
 
@@ -30,7 +30,7 @@ public:
     ZelDataResult_tags setToc(const i_ZelDataToc& toc) override;
     ZelDataResult_tags getToc(i_ZelDataToc& toc) const override;
 
-    ZelDataResult_tags measureTrack(std::size_t& size) const;
+    std::optional<std::size_t> estimateTrack() const;
     void appendTrack(std::string& packet) const;
 };
 

@@ -1,8 +1,8 @@
 #include "ZelInterchangeData/i_ZelDataToc.h"
 
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
-#include "core/FieldCopy.h"
-#include "core/ItemCopies.h"
+#include "sets/FieldCopy.h"
+#include "sets/ItemCopies.h"
 #include "toc/ZelDataToc.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
@@ -11,11 +11,11 @@ namespace ZelInterchangeData {
 
 i_ZelDataToc::~i_ZelDataToc() = default;
 
-/// The frame rate is meant to stay: written tables always state 1000, and players count on it.
+/// Deliberate: the frame rate stays; otherwise a written table could state another rate than 1000.
 ZelDataResult_tags i_ZelDataToc::copyFrom(const i_ZelDataToc& source)
 {
     if (&source == this) return store(ZelData_InternalError);
-    // Between two tables of our own the steps below lead where sharing the entries does.
+    // Between two of our own tables, sharing the entries has the same result as the steps below.
     auto* own = exactly<ZelDataToc>(*this);
     const auto* ownSource = exactly<ZelDataToc>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
@@ -27,10 +27,24 @@ ZelDataResult_tags i_ZelDataToc::copyFrom(const i_ZelDataToc& source)
         if (const Ending ending = fields.ending()) return *ending;
         ReceivedItems<i_ZelDataTocItem> items;
         if (failed(source.getTocItems(items.vector()))) return source.getLastError();
-        // The list just copied is meant to go: it is rebuilt from the entries, as players expect
-        // it.
+        // Deliberate: drops the list just copied and rebuilds it from the entries; otherwise
+        // languages without a title, and the order of the source, would be kept.
         if (failed(clearLanguages())) return getLastError();
         return items.addTo(*this, &i_ZelDataToc::addTocItem).value_or(ZelData_Ok);
+    }));
+}
+
+ZelDataResult_tags ZelDataToc::copyOwn(const ZelDataToc& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters would leave it
+    return store(guarded([&] {
+        items_.clear();
+        const auto listed = languages().copyFrom(other.languages());
+        if (failed(listed)) return listed;
+        imageFile_ = other.imageFile_;
+        items_ = other.items_;
+        languages() = items_.summary().languages; // rebuilt from the items
+        return ZelData_Ok;
     }));
 }
 

@@ -1,7 +1,7 @@
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
-#include "core/FieldCopy.h"
-#include "core/TextCopy.h"
+#include "sets/FieldCopy.h"
+#include "sets/TextCopy.h"
 #include "toc/ZelDataTocItem.h"
 #include "util/ExactType.h"
 #include "util/Guard.h"
@@ -14,7 +14,7 @@ ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
 {
     using Item = i_ZelDataTocItem;
     if (&source == this) return store(ZelData_InternalError);
-    // Between two entries of our own the steps below lead where sharing the strings does.
+    // Between two of our own entries, sharing the strings has the same result as the steps below.
     auto* own = exactly<ZelDataTocItem>(*this);
     const auto* ownSource = exactly<ZelDataTocItem>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
@@ -27,6 +27,13 @@ ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
             .field(&Item::getImageOffset, &Item::setImageOffset);
         return fields.ending().value_or(ZelData_Ok);
     }));
+}
+
+ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters would leave it
+    state_ = other.state_;
+    return store(ZelData_Ok);
 }
 
 } // namespace ZelInterchangeData

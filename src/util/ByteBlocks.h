@@ -1,5 +1,5 @@
 /// @file
-/// Tests of eight bytes at once, in plain integers.
+/// Tests of eight bytes at once, with plain integers.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_BYTEBLOCKS_H
 #define ZELINTERCHANGEDATA_UTIL_BYTEBLOCKS_H
@@ -25,13 +25,13 @@ constexpr ByteBlock repeated(unsigned char byte) noexcept
 inline ByteBlock loadBlock(const char* bytes) noexcept
 {
     ByteBlock block = 0;
-    for (std::size_t i = 0; i < blockSize; ++i) { // compilers make one load of it
+    for (std::size_t i = 0; i < blockSize; ++i) { // compilers turn it into one load
         block |= ByteBlock{static_cast<unsigned char>(bytes[i])} << (8 * i);
     }
     return block;
 }
 
-/// The last @p count bytes of @p text, fewer than a block has, with zeros behind them.
+/// The last @p count bytes of @p text, fewer than a block has, followed by zeros.
 inline ByteBlock lastBytes(std::string_view text, std::size_t count) noexcept
 {
     if (count == 0) return 0;
@@ -52,16 +52,16 @@ constexpr ByteBlock highBits(ByteBlock block) noexcept
     return block & repeated(0x80);
 }
 
-/// How many bytes come before the first whose highest bit is set in @p bits, which is not zero and
-/// has no other bits set.
+/// The number of bytes before the first one whose highest bit is set in @p bits, which is not zero
+/// and has no other bits set.
 constexpr std::size_t bytesBeforeFirstPortably(ByteBlock bits) noexcept
 {
-    // One for each byte up to that one, and their sum in the highest byte.
+    // One for each byte up to that one; the multiplication adds them up in the highest byte.
     const ByteBlock ones = (bits - 1) & ~bits & repeated(0x01);
     return static_cast<std::size_t>(ones * repeated(0x01) >> 56) - 1;
 }
 
-/// The same with the processor's own way of counting, where the compiler gives it.
+/// The same, but counts with the processor's own instruction where the compiler offers it.
 constexpr std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
 {
 #ifdef __GNUC__
@@ -71,8 +71,8 @@ constexpr std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
 #endif
 }
 
-/// Sets the highest bit of the first zero byte of @p block, and perhaps those of bytes after it;
-/// zero when no byte is zero.
+/// Sets the highest bit of the first zero byte of @p block, and perhaps those of bytes after it.
+/// Returns zero when no byte is zero.
 constexpr ByteBlock zeroBytes(ByteBlock block) noexcept
 {
     return (block - repeated(0x01)) & ~block & repeated(0x80);

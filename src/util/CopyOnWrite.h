@@ -10,10 +10,12 @@
 
 namespace ZelInterchangeData {
 
-/// Behaves like a @p Value of its own. Copies share one value, which costs a count and neither time
-/// nor memory for its size; the first change through an owner that shares gives that owner a copy.
+/// Behaves like a separate @p Value. Copies share one value, at the cost of a count and of neither
+/// time nor memory for its size; the first change through an owner that shares the value gives that
+/// owner a copy.
 ///
-/// Owners that share a value may be used from different threads, each from one at a time.
+/// Different threads may use owners that share a value, but each owner only from one thread at a
+/// time.
 template <class Value>
 class CopyOnWrite {
 public:
@@ -25,7 +27,7 @@ public:
         shared_->owners.fetch_add(1, std::memory_order_relaxed);
     }
 
-    /// @p other can then only be assigned to and destroyed.
+    /// Afterwards, @p other can only be assigned to and destroyed.
     CopyOnWrite(CopyOnWrite&& other) noexcept : shared_(std::exchange(other.shared_, nullptr)) {}
 
     CopyOnWrite& operator=(CopyOnWrite other) noexcept
@@ -36,7 +38,7 @@ public:
 
     ~CopyOnWrite()
     {
-        // The last owner must see what the others did before they let go.
+        // The last owner must see what the others did before they released the value.
         if (shared_ != nullptr && shared_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
             delete shared_;
         }
@@ -51,7 +53,7 @@ public:
         return shared_->value;
     }
 
-    /// Makes it a value as constructed, without memory unless it is shared.
+    /// Makes it a value as default-constructed; allocates memory only if it is shared.
     void reset()
     {
         if (isShared()) {

@@ -10,10 +10,10 @@
 
 namespace ZelInterchangeData {
 
-/// Empty when the operation goes on, else the code that it ends with.
+/// Empty when the operation continues, otherwise the code that it ends with.
 ///
-/// The code alone would not do: a step ends with the last error of the object that failed, and an
-/// implementation that the caller wrote may report #ZelData_Ok there.
+/// A code alone would not be enough: a step ends with the last error of the object that failed, and
+/// that of an implementation that the caller wrote may be #ZelData_Ok.
 using Ending = std::optional<ZelDataResult_tags>;
 
 } // namespace ZelInterchangeData

@@ -8,10 +8,11 @@
 
 namespace ZelInterchangeData {
 
-/// @p object as an @p Own when it is exactly that and no class derived from it, else null.
+/// Returns @p object as an @p Own when it is exactly that and not of a class derived from it, else
+/// null.
 ///
-/// The type descriptions are compared by their place: another copy of the library in the same
-/// process has classes of the same names, and they need not have the same fields.
+/// Compares the addresses of the type descriptions: another copy of the library in the same process
+/// has classes of the same names, which need not have the same fields.
 template <class Own, class Interface>
 const Own* exactly(const Interface& object) noexcept
 {

@@ -13,7 +13,7 @@ namespace ZelInterchangeData {
 
 /// Makes @p target a copy of @p source, or leaves it alone and gives #ZelData_OutOfMemory.
 template <class Value>
-[[nodiscard]] ZelDataResult_tags guardedCopy(Value& target, const Value& source) noexcept
+[[nodiscard]] ZelDataResult_tags guardedCopy(Value& target, const Value& source)
 {
     return guarded([&] {
         Value copy(source);
@@ -23,8 +23,7 @@ template <class Value>
 }
 
 /// The same for a text that is not kept in a string.
-[[nodiscard]] inline ZelDataResult_tags guardedCopy(std::string& target,
-                                                    std::string_view source) noexcept
+[[nodiscard]] inline ZelDataResult_tags guardedCopy(std::string& target, std::string_view source)
 {
     return guarded([&] {
         std::string copy(source);

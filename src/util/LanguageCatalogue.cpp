@@ -1,5 +1,5 @@
 /// @file
-/// The language catalogue: its compile-time index, and what stands on it.
+/// The language catalogue: its compile-time index, and the lookups.
 
 #include "util/LanguageCatalogue.h"
 
@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t letterCount = 26;
 constexpr std::size_t codeLength = 2;
 
-/// The byte @p c, unsigned; only the letters of ASCII change, so no locale has a say.
+/// The byte @p c, unsigned, with ASCII letters in lower case, whatever the locale.
 constexpr unsigned lowerCase(char c) noexcept
 {
     const unsigned byte = static_cast<unsigned char>(c);
@@ -83,7 +83,7 @@ static_assert(codesAscend(), "the codes are sorted and unique");
 
 constexpr Index index = makeIndex();
 
-/// Whether @p id is long enough for a code and, where it is longer, goes on with "-".
+/// Whether @p id is long enough for a code and any rest begins with "-".
 constexpr bool isLanguageId(std::string_view id) noexcept
 {
     return id.size() >= codeLength && (id.size() == codeLength || id[codeLength] == '-');

@@ -9,7 +9,8 @@
 
 namespace ZelInterchangeData {
 
-/// One language of the catalogue. The views live as long as the program and end with a zero byte.
+/// One language of the catalogue. The views are valid as long as the program runs and are followed
+/// by a zero byte.
 struct LanguageEntry {
     /// The two-letter code in lower case.
     std::string_view code;
@@ -19,27 +20,27 @@ struct LanguageEntry {
     std::string_view nativeName;
 };
 
-/// A copy of one language of the catalogue. An empty English name means that there is none.
+/// A copy of one language of the catalogue. An empty English name means that no language was found.
 struct LanguageInfo {
     std::string englishName;
     std::string nativeName;
-    /// In lower case, whatever the case that was asked for.
+    /// In lower case, whatever the case of the code that was looked up.
     std::string code;
 };
 
-/// The language of the ID @p id, or null: a two-letter code in any letter case, alone or followed
-/// by "-" and anything. Constant time, no allocation.
+/// Finds the language of the ID @p id: a two-letter code in any letter case, alone or followed by
+/// "-" and anything. Null when there is none. Takes constant time and allocates nothing.
 [[nodiscard]] const LanguageEntry* findLanguage(std::string_view id) noexcept;
 
 /// Stores in @p key the four bytes "  xy", big-endian, of a code of two bytes, its ASCII letters in
-/// lower case ("AA" gives 0x20206161). The bytes need not be letters. False for a code that has not
-/// two bytes; @p key is left alone then.
+/// lower case ("AA" gives 0x20206161). The bytes need not be letters. Returns false for a code of
+/// any other length; @p key is left alone then.
 [[nodiscard]] bool intForISO6391Code(const std::string& code, int& key);
 
-/// The language of a code of exactly two bytes, or three empty strings.
+/// Returns the language of a code of exactly two bytes, or three empty strings.
 [[nodiscard]] LanguageInfo languageInfoISOCode(const std::string& code);
 
-/// The language of an ID, as findLanguage() finds it, or three empty strings.
+/// Returns the language of an ID, as findLanguage() finds it, or three empty strings.
 [[nodiscard]] LanguageInfo languagefromID(const std::string& id);
 
 } // namespace ZelInterchangeData

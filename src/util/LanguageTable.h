@@ -1,7 +1,7 @@
 /// @file
 /// The 184 languages of ISO 639-1 with their names, in code order.
 ///
-/// Meant to stay as they are; each change would give callers another name:
+/// Deliberate: these stay as they are; otherwise callers would get other names:
 /// - the left-to-right mark that ends nine native names;
 /// - the tab that begins the native name of "ug";
 /// - the empty native name of "lu";

@@ -10,8 +10,8 @@
 
 namespace ZelInterchangeData {
 
-/// Where @p pattern, which is not empty, stands last in @p text; `npos` when it does not. In long
-/// texts faster than `rfind`, which calls a comparison at every place.
+/// Returns the last position of @p pattern, which is not empty, in @p text; `npos` when it does not
+/// occur. Faster in long texts than `rfind`, which calls a comparison at every position.
 inline std::size_t lastPlaceOf(std::string_view pattern, std::string_view text) noexcept
 {
     const auto place = static_cast<std::size_t>(

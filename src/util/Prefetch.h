@@ -1,5 +1,5 @@
 /// @file
-/// Calling for memory before it is needed.
+/// Requesting memory before it is needed.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_PREFETCH_H
 #define ZELINTERCHANGEDATA_UTIL_PREFETCH_H
@@ -9,9 +9,9 @@
 
 namespace ZelInterchangeData {
 
-/// Asks for the @p size bytes at @p address. It changes nothing but the time that reading them takes, and
-/// the address need not be readable, nor need there be anything. Does nothing with a compiler that
-/// cannot ask.
+/// Prefetches the @p size bytes at @p address. Nothing changes but the time that reading them
+/// takes; the address need not be readable or even valid. Does nothing with a compiler that cannot
+/// prefetch.
 inline void prefetch([[maybe_unused]] const void* address,
                      [[maybe_unused]] std::size_t size) noexcept
 {
@@ -22,7 +22,7 @@ inline void prefetch([[maybe_unused]] const void* address,
     };
     constexpr std::uintptr_t cacheLine = 64;
     const auto first = reinterpret_cast<std::uintptr_t>(address);
-    const auto last = first + size; // may lie in one line more
+    const auto last = first + size; // may be in one more line
     for (std::uintptr_t line = first; line < last; line += cacheLine)
         askFor(line);
     askFor(last);

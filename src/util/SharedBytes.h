@@ -13,16 +13,17 @@
 
 namespace ZelInterchangeData {
 
-/// Bytes that are filled once, by the owner that made them, and from then on shared: a copy costs a
-/// count. Bytes and count lie in one piece of memory, so that reaching them is one step.
+/// Bytes that the owner that made them fills once and that are shared from then on: a copy costs a
+/// count. Bytes and count are in one block of memory, so that reaching the bytes takes one step.
 ///
-/// Owners that share bytes may be used from different threads, each from one at a time.
+/// Different threads may use owners that share bytes, but each owner only from one thread at a
+/// time.
 class SharedBytes {
 public:
     /// No bytes, and no memory.
     SharedBytes() noexcept = default;
 
-    /// @p size bytes, aligned for a `std::size_t`, whose values are open.
+    /// @p size uninitialised bytes, aligned for a `std::size_t`.
     explicit SharedBytes(std::size_t size) : head_(new (::operator new(sizeof(Head) + size)) Head)
     {
     }
@@ -42,24 +43,26 @@ public:
 
     ~SharedBytes()
     {
-        // The last owner must see what the others did before they let go.
+        // The last owner must see what the others did before they released the bytes.
         if (head_ != nullptr && head_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
             head_->~Head();
             ::operator delete(head_);
         }
     }
 
-    /// Has the first @p size bytes at hand when they are needed.
+    /// Prefetches the first @p size bytes.
     void prefetch(std::size_t size) const noexcept
     {
         ZelInterchangeData::prefetch(head_, sizeof(Head) + size);
     }
 
     /// The bytes; null when there are none.
-    std::byte* data() const noexcept
+    const std::byte* data() const noexcept
     {
-        return head_ == nullptr ? nullptr : reinterpret_cast<std::byte*>(head_ + 1);
+        return head_ == nullptr ? nullptr : reinterpret_cast<const std::byte*>(head_ + 1);
     }
+    /// The bytes, which must exist, to be filled before they are shared.
+    std::byte* mutableData() noexcept { return reinterpret_cast<std::byte*>(head_ + 1); }
 
 private:
     struct Head {

@@ -12,7 +12,7 @@
 
 namespace ZelInterchangeData {
 
-/// A text that never changes and that copies share. An empty one takes no memory.
+/// A text that never changes and that copies share. An empty one uses no memory.
 class SharedText {
 public:
     SharedText() noexcept = default;
@@ -22,11 +22,11 @@ public:
     {
         if (text.empty()) return;
         bytes_ = SharedBytes(text.size());
-        text.copy(characters(), size_);
+        text.copy(reinterpret_cast<char*>(bytes_.mutableData()), size_);
     }
 
     SharedText(const SharedText&) noexcept = default;
-    /// @p other is empty then.
+    /// Afterwards, @p other is empty.
     SharedText(SharedText&& other) noexcept
         : bytes_(std::move(other.bytes_)), size_(std::exchange(other.size_, 0))
     {
@@ -39,14 +39,14 @@ public:
     }
     ~SharedText() = default;
 
-    /// The text, as long as this object is not assigned to.
+    /// The text, valid until this object is assigned to or destroyed.
     std::string_view view() const noexcept { return {characters(), size_}; }
 
-    /// Has the text at hand when it is read.
+    /// Prefetches the text.
     void prefetch() const noexcept { bytes_.prefetch(size_); }
 
 private:
-    char* characters() const noexcept { return reinterpret_cast<char*>(bytes_.data()); }
+    const char* characters() const noexcept { return reinterpret_cast<const char*>(bytes_.data()); }
 
     SharedBytes bytes_;
     std::size_t size_ = 0;

@@ -1,5 +1,5 @@
 /// @file
-/// Text written in many small pieces.
+/// Text that is written in many small pieces.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_TEXTBLOCK_H
 #define ZELINTERCHANGEDATA_UTIL_TEXTBLOCK_H
@@ -12,8 +12,8 @@
 
 namespace ZelInterchangeData {
 
-/// Collects pieces in a block before they go to the end of a string: most pieces are a few bytes
-/// that the compiler knows, and copying those in place costs a fraction of a call for each.
+/// Collects pieces in a block before it appends them to a string: most pieces are a few bytes that
+/// the compiler knows, and copying those in place costs a fraction of a call for each.
 class TextBlock {
 public:
     /// Appends to @p out, which outlives this object and lacks the last pieces until flush().
@@ -41,10 +41,10 @@ public:
         size_ += static_cast<std::size_t>(std::to_chars(begin, begin + most, number).ptr - begin);
     }
 
-    /// How many bytes were appended so far.
+    /// The number of bytes appended so far.
     std::size_t position() const noexcept { return flushed_ + size_; }
 
-    /// Gives the string the pieces that it lacks.
+    /// Appends to the string the pieces that it lacks.
     void flush()
     {
         out_.append(block_.data(), size_);
@@ -55,7 +55,7 @@ public:
 private:
     void appendShort(std::string_view piece)
     {
-        // A copy takes an empty view of nothing, too.
+        // copy() also accepts an empty view of nothing.
         size_ += piece.copy(block_.data() + size_, piece.size());
     }
 

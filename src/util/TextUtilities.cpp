@@ -1,10 +1,10 @@
 /// @file
 /// Checks and transformations of UTF-8 texts, and the alignment words.
 
+#include "util/TextUtilities.h"
+
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "util/ByteBlocks.h"
-#include "util/MarkupText.h"
-#include "util/TextLines.h"
 
 #include <algorithm>
 #include <array>
@@ -21,12 +21,12 @@ constexpr unsigned char byteOf(char c) noexcept
     return static_cast<unsigned char>(c);
 }
 
-/// The first lead byte of the sequences that leave the Basic Multilingual Plane.
+/// The first lead byte of the sequences for characters outside the Basic Multilingual Plane.
 constexpr unsigned char firstLeadBeyondBmp = 0xF0;
 
 constexpr int invalidLead = -1;
 
-/// How many continuation bytes follow @p lead, or invalidLead.
+/// The number of continuation bytes that follow @p lead, or invalidLead.
 constexpr int continuationCount(unsigned char lead) noexcept
 {
     if (lead < 0x80) return 0;
@@ -34,7 +34,8 @@ constexpr int continuationCount(unsigned char lead) noexcept
     if (lead < 0xE0) return 1;
     if (lead < 0xF0) return 2;
     if (lead < 0xF8) return 3;
-    // Meant: the old forms of five and six bytes pass; these two lines gone, they would be refused.
+    // Deliberate: the old forms of five and six bytes pass; without these two lines they would be
+    // refused.
     if (lead < 0xFC) return 4;
     if (lead < 0xFE) return 5;
     return invalidLead;
@@ -45,7 +46,7 @@ constexpr bool isContinuation(char c) noexcept
     return (byteOf(c) & 0xC0U) == 0x80U;
 }
 
-/// Behind the character that begins at @p text, or null where there is no whole one.
+/// Returns the end of the character that begins at @p text, or null when that one is not complete.
 const char* skipCharacter(const char* text, const char* end) noexcept
 {
     const int count = continuationCount(byteOf(*text));
@@ -53,15 +54,15 @@ const char* skipCharacter(const char* text, const char* end) noexcept
     return std::all_of(text + 1, text + 1 + count, isContinuation) ? text + 1 + count : nullptr;
 }
 
-/// The marks of the lead bytes and of the continuation bytes of sequences, block after block.
+/// Checks sequences block by block, by the marks of their lead bytes and continuation bytes.
 class SequenceBlocks {
 public:
-    /// Whether the bytes of @p block go on rightly from those before it. No branch looks at single bytes:
-    /// in mixed text nobody could foresee it.
-    bool goesOn(ByteBlock block) noexcept
+    /// Adds a block. Returns whether it correctly continues the ones before it. No branch depends
+    /// on single bytes: in mixed text it would be unpredictable.
+    bool addBlock(ByteBlock block) noexcept
     {
         const ByteBlock high = highBits(block);
-        const ByteBlock lead = high & block << 1; // two bytes or more, and so on
+        const ByteBlock lead = high & block << 1; // at least two bytes, and so on
         const ByteBlock lead3 = lead & block << 2;
         const ByteBlock lead4 = lead3 & block << 3;
         const ByteBlock lead5 = lead4 & block << 4;
@@ -71,19 +72,19 @@ public:
         const ByteBlock expected =
             open_ | lead << 8 | lead3 << 16 | lead4 << 24 | lead5 << 32 | lead6 << 40;
         open_ = lead >> 56 | lead3 >> 48 | lead4 >> 40 | lead5 >> 32 | lead6 >> 24;
-        return ((high ^ lead ^ expected) | neverLead) == 0; // what is high and no lead continues
+        return ((high ^ lead ^ expected) | neverLead) == 0; // the other high bytes continue
     }
 
-    /// Whether a sequence goes on behind the last block.
+    /// Whether a sequence is incomplete at the end of the last block.
     bool isOpen() const noexcept { return open_ != 0; }
 
 private:
     ByteBlock open_ = 0; // the bytes of the next block that must continue a sequence
 };
 
-/// Whether each sequence of @p text has the continuation bytes that its lead byte asks for, and nothing
-/// stands between them.
-bool isWellFormed(std::string_view text) noexcept
+/// Whether each sequence of @p text has the continuation bytes that its lead byte requires, and
+/// there are no others.
+inline bool isWellFormed(std::string_view text) noexcept
 {
     SequenceBlocks sequences;
     const char* position = text.data();
@@ -91,13 +92,13 @@ bool isWellFormed(std::string_view text) noexcept
     for (; end - position >= static_cast<std::ptrdiff_t>(blockSize); position += blockSize) {
         const ByteBlock block = loadBlock(position);
         if (highBits(block) == 0 && !sequences.isOpen()) continue;
-        if (!sequences.goesOn(block)) return false;
+        if (!sequences.addBlock(block)) return false;
     }
-    return sequences.goesOn(lastBytes(text, static_cast<std::size_t>(end - position))) &&
+    return sequences.addBlock(lastBytes(text, static_cast<std::size_t>(end - position))) &&
            !sequences.isOpen();
 }
 
-/// The control characters below the blank, most of which XML forbids. Only the line feed stays.
+/// The control characters below the blank, most of which XML forbids, except the line feed.
 constexpr bool isUnsupported(char c) noexcept
 {
     constexpr unsigned char minChar = 31;
@@ -117,7 +118,7 @@ constexpr std::array<Entity, 5> entities = {{
     {'>', "&gt;"},
 }};
 
-/// For each byte the place of its entity, or noEntity.
+/// For each byte the index of its entity, or noEntity.
 using EntityPlaces = std::array<std::uint8_t, 256>;
 
 constexpr std::uint8_t noEntity = 0xFF;
@@ -140,22 +141,22 @@ constexpr bool needsEntity(char c) noexcept
     return entityPlaces[byteOf(c)] != noEntity;
 }
 
-/// Marks the bytes of @p block that need an entity, the first one exactly.
+/// Marks the bytes of @p block that need an entity; the first mark is exact.
 constexpr ByteBlock needingEntity(ByteBlock block) noexcept
 {
-    // Two of the characters differ in one bit, and another two: one test serves both.
+    // Two of the characters differ in one bit, and so do another two: one test covers both.
     return zeroBytes(block ^ repeated('"')) | zeroBytes((block & repeated(0xFE)) ^ repeated('&')) |
            zeroBytes((block & repeated(0xFD)) ^ repeated('<'));
 }
 
-/// Marks the bytes of @p block that need an entity or are below the blank, the first one exactly.
+/// Marks the bytes of @p block that need an entity or are below the blank; the first mark is exact.
 constexpr ByteBlock needingEntityOrControl(ByteBlock block) noexcept
 {
     return needingEntity(block) | zeroBytes(block & repeated(0xE0));
 }
 
-/// Behind the bytes from @p text on that go in as they are. @p mark marks those of a block that may not,
-/// and @p isHarmless tells for one byte.
+/// Returns the end of the bytes from @p text on that are written as they are. @p mark marks those
+/// of a block that may not be, and @p isHarmless decides for one byte.
 template <class Mark, class IsHarmless>
 const char* skipHarmless(const char* text, const char* end, Mark mark,
                          IsHarmless isHarmless) noexcept
@@ -173,54 +174,57 @@ const char* skipHarmless(const char* text, const char* end, Mark mark,
     return std::find_if_not(text, end, isHarmless);
 }
 
-/// Appends runs of harmless bytes as they are, and what @p replace appends for each byte between them.
-template <class Out, class Mark, class IsHarmless, class Replace>
-void appendRuns(Out& out, std::string_view text, Mark mark, IsHarmless isHarmless, Replace replace)
+/// Whether @p text may need so many entities that their number matters.
+constexpr bool isLong(std::string_view text) noexcept
 {
-    const char* run = text.data();
-    const char* const end = run + text.size();
-    for (;;) {
-        const char* const stop = skipHarmless(run, end, mark, isHarmless);
-        out.append(std::string_view(run, static_cast<std::size_t>(stop - run)));
-        if (stop == end) return;
-        replace(*stop);
-        run = stop + 1;
-    }
+    return text.size() >= 4096;
 }
 
-std::string_view entityFor(char character)
+std::string_view entityFor(char character) noexcept
 {
     return entities[entityPlaces[byteOf(character)]].markup;
+}
+
+/// Appends runs of harmless bytes as they are, and entities for the bytes between them that need
+/// one.
+template <class Out, class Mark, class IsHarmless>
+void appendRuns(Out& out, std::string_view text, Mark mark, IsHarmless isHarmless)
+{
+    const char* position = text.data();
+    const char* const end = position + text.size();
+    while (position != end) {
+        const char* const stop = skipHarmless(position, end, mark, isHarmless);
+        out.append(std::string_view(position, static_cast<std::size_t>(stop - position)));
+        for (position = stop; position != end && !isHarmless(*position); ++position) {
+            if (needsEntity(*position)) out.append(entityFor(*position));
+        }
+    }
 }
 
 template <class Out>
 void appendEscapedTo(Out& out, std::string_view text)
 {
-    appendRuns(
-        out, text, needingEntity, [](char c) { return !needsEntity(c); },
-        [&](char c) { out.append(entityFor(c)); });
+    appendRuns(out, text, needingEntity, [](char c) { return !needsEntity(c); });
 }
 
 template <class Out>
 void appendEscapedStrippedTo(Out& out, std::string_view text)
 {
-    appendRuns(
-        out, text, needingEntityOrControl,
-        [](char c) { return !needsEntity(c) && !isUnsupported(c); },
-        [&](char c) {
-            if (needsEntity(c)) out.append(entityFor(c));
-        });
+    appendRuns(out, text, needingEntityOrControl,
+               [](char c) { return !needsEntity(c) && !isUnsupported(c); });
 }
 
-/// Whether @p text begins with the markup of @p entity and goes on behind it.
+/// Whether @p text begins with the markup of @p entity and continues after it.
 bool beginsWith(std::string_view text, const Entity& entity) noexcept
 {
-    // Meant: the text must go on; with >= an entity at its very end would be decoded as well.
+    // Deliberate: the text must continue; with >= an entity at its very end would be decoded as
+    // well.
     return text.size() > entity.markup.size() &&
            text.compare(0, entity.markup.size(), entity.markup) == 0;
 }
 
-/// Takes the entity off the begin of @p text and appends its character. False where there is none.
+/// Removes the entity at the beginning of @p text and appends its character. Returns false when
+/// there is none.
 bool decodeEntity(std::string_view& text, std::string& result)
 {
     const auto* const end = entities.data() + entities.size();
@@ -232,13 +236,15 @@ bool decodeEntity(std::string_view& text, std::string& result)
     return true;
 }
 
-/// Takes a "&" that begins no entity off @p text and appends it, with the "a" that may follow.
+/// Removes a "&" that does not begin an entity from @p text and appends it, with the "a" that may
+/// follow.
 void copyPlainAmpersand(std::string_view& text, std::string& result)
 {
-    // "&a" begins two entities, so that the third byte decides; else the second one does.
+    // "&a" begins two entities, so the third byte decides; otherwise the second one does.
     const std::size_t decider = text.substr(0, 2) == "&a" ? 2 : 1;
     result.append(text.substr(0, decider));
-    // Meant: the deciding byte is dropped; if it were kept, "&nbsp;" would stay and not be "&bsp;".
+    // Deliberate: the deciding byte is dropped; otherwise "&nbsp;" would stay and not become
+    // "&bsp;".
     text.remove_prefix(std::min(decider + 1, text.size()));
 }
 
@@ -251,12 +257,12 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
-    // Most texts are good, and telling that is quicker than finding the first mistake.
+    // Most texts are valid, and checking that is quicker than finding the first error.
     if (!bmpOnly && isWellFormed(text)) return ZelData_Ok;
     const char* position = text.data();
     const char* const end = position + text.size();
     while (position != end) {
-        // Before any look at the sequence itself: a malformed one is refused for its range, too.
+        // Checked before the sequence itself: a malformed one is refused for its range, too.
         if (bmpOnly && byteOf(*position) >= firstLeadBeyondBmp) return ZelData_UnsupportedCharacter;
         position = skipCharacter(position, end);
         if (position == nullptr) return ZelData_InvalidUtf8;
@@ -264,9 +270,24 @@ ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, b
     return ZelData_Ok;
 }
 
+std::size_t sizeWithEntities(std::string_view text) noexcept
+{
+    std::size_t size = text.size();
+    if (!isLong(text)) return size;
+    for (const char c : text)
+        size += needsEntity(c) ? entityFor(c).size() - 1 : 0;
+    return size;
+}
+
 void appendEscaped(std::string& out, std::string_view text)
 {
-    appendEscapedTo(out, text);
+    if (isLong(text)) {
+        TextBlock block(out); // which takes many short pieces faster than a string
+        appendEscapedTo(block, text);
+        block.flush();
+    } else {
+        appendEscapedTo(out, text);
+    }
 }
 
 void appendEscaped(TextBlock& out, std::string_view text)
@@ -292,7 +313,7 @@ unsigned long ZelDataUtilities::countLinesInUTF8(const std::string& text)
 unsigned long countLines(std::string_view text) noexcept
 {
     const auto feeds = static_cast<unsigned long>(std::count(text.begin(), text.end(), '\n'));
-    // Meant: a text without any line feed has no lines; without this test it would have one.
+    // Deliberate: a text without any line feed has no lines; without this test it would have one.
     if (feeds == 0) return 0;
     return text.back() == '\n' ? feeds : feeds + 1;
 }
@@ -312,7 +333,7 @@ std::string ZelDataUtilities::stripUnsupportedCharacters(const std::string& text
 std::string ZelDataUtilities::htmlTagsToText(const std::string& text)
 {
     std::string result;
-    result.reserve(text.size());
+    result.reserve(sizeWithEntities(text));
     appendEscaped(result, text);
     return result;
 }

@@ -18,10 +18,10 @@ struct TimeSpan {
                                       static_cast<unsigned long long>(duration));
     }
 
-    /// Whether setEnd() would take the end.
+    /// Whether setEnd() would accept the end.
     constexpr bool hasLength() const noexcept { return end() > start; }
 
-    /// False, and nothing changes, for a negative start. The duration stays.
+    /// Returns false, and changes nothing, for a negative start. The duration stays.
     constexpr bool setStart(long long value) noexcept
     {
         if (value < 0) return false;
@@ -29,7 +29,8 @@ struct TimeSpan {
         return true;
     }
 
-    /// False, and nothing changes, for a negative end and for one that is not after the start.
+    /// Returns false, and changes nothing, for a negative end and for one that is not after the
+    /// start.
     constexpr bool setEnd(long long value) noexcept
     {
         if (value < 0 || value <= start) return false;

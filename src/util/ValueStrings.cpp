@@ -18,7 +18,7 @@ namespace {
 /// Room for every 64-bit number in decimal and for every double with six digits.
 using NumberBuffer = std::array<char, 32>;
 
-/// The number that @p format, the arguments of std::to_chars behind the value, makes of @p value.
+/// Formats @p value with std::to_chars; @p format holds the arguments after the value.
 template <class Number, class... Format>
 std::string numberText(Number value, Format... format)
 {
@@ -28,7 +28,7 @@ std::string numberText(Number value, Format... format)
     return std::string(begin, result.ptr);
 }
 
-/// The calendar date and the time of day; the year in 64 bits, as the calendar's may exceed an int.
+/// The calendar date and the time of day; the year in 64 bits, because it may exceed an int.
 std::string dateAndTime(const std::tm& utc)
 {
     std::array<char, 128> buffer{};
@@ -41,11 +41,13 @@ std::string dateAndTime(const std::tm& utc)
 /// The zone offset of a date, from the hour fields alone.
 std::string hourOffset(int utcHour, int localHour)
 {
-    // Meant: equal hours give "-0:00"; with <= here they would give "+0:00".
+    // Deliberate: equal hours give "-0:00"; with <= here they would give "+0:00".
     std::string offset = utcHour < localHour ? "+" : "-";
-    // Meant: no day boundary; with it, 23:00 here and 01:00 there would be "+2:00", not "-22:00".
+    // Deliberate: no day boundary; with it, 23:00 UTC and 01:00 local time would be "+2:00", not
+    // "-22:00".
     const long long hours = std::abs(localHour - utcHour);
-    // Meant: no minutes and no leading zero; a real offset would be "+05:30" where this is "+5:00".
+    // Deliberate: no minutes and no leading zero; a real offset would be "+05:30" where this is
+    // "+5:00".
     return offset.append(decimalText(hours)).append(":00");
 }
 
@@ -94,7 +96,7 @@ std::string ZelDataUtilities::getRateString(unsigned long rate)
 
 std::string ZelDataUtilities::getVersionString(unsigned long version)
 {
-    // The major field takes every higher bit: masking it to 16 bits would cut the value.
+    // The major field holds every higher bit: masking it to 16 bits would cut the value.
     return getValueString(version >> 16U) + "." + getValueString((version >> 8U) & 0xFFU) + "." +
            getValueString(version & 0xFFU);
 }
@@ -106,7 +108,8 @@ std::string ZelDataUtilities::getDateString(long* seconds)
     std::tm utc{};
     std::tm local{};
     if (gmtime_r(&instant, &utc) == nullptr || localtime_r(&instant, &local) == nullptr) return {};
-    // Meant: the date is in UTC under the local offset; local fields would move it by that offset.
+    // Deliberate: the date is in UTC but has the local offset; local fields would shift it by that
+    // offset.
     return dateAndTime(utc) + hourOffset(utc.tm_hour, local.tm_hour);
 }
 

@@ -14,8 +14,8 @@ namespace ZelInterchangeData {
 /// Plain decimal.
 [[nodiscard]] std::string decimalText(unsigned long long value);
 
-/// What a default output stream of the classic locale writes: six significant digits, the shorter
-/// of fixed and exponent notation, no zeros at the end ("0.1", "1e+06", "inf", "-nan", "-0").
+/// What a default output stream in the classic locale writes: six significant digits, the shorter
+/// of fixed and exponent notation, no trailing zeros ("0.1", "1e+06", "inf", "-nan", "-0").
 [[nodiscard]] std::string generalText(double value);
 
 } // namespace ZelInterchangeData

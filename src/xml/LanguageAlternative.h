@@ -14,8 +14,8 @@ inline constexpr std::string_view nameAlternativeStart = "<xmpDM:name><rdf:Alt>"
 /// Ends what #nameAlternativeStart opened.
 inline constexpr std::string_view nameAlternativeEnd = "</rdf:Alt></xmpDM:name>";
 
-/// Appends `<rdf:li xml:lang="ID">` to @p markup, a text that pieces can be appended to; the ID is
-/// written as given.
+/// Appends `<rdf:li xml:lang="ID">` to @p markup, a text that can be appended to; the ID is written
+/// as given.
 template <class Markup>
 void openLanguageItem(Markup& markup, std::string_view languageID)
 {
@@ -31,10 +31,15 @@ void closeLanguageItem(Markup& markup)
     markup.append(std::string_view("</rdf:li>"));
 }
 
-/// Appends `<rdf:li xml:lang="ID">text</rdf:li>` to @p markup. Nothing is escaped here: @p text is
-/// handed over as it is to be written, and so is @p languageID.
-void appendLanguageItem(std::string& markup, const std::string& languageID,
-                        const std::string& text);
+/// Appends `<rdf:li xml:lang="ID">text</rdf:li>` to @p markup. Nothing is escaped here: @p text and
+/// @p languageID are written as given.
+inline void appendLanguageItem(std::string& markup, std::string_view languageID,
+                               std::string_view text)
+{
+    openLanguageItem(markup, languageID);
+    markup += text;
+    closeLanguageItem(markup);
+}
 
 } // namespace ZelInterchangeData
 

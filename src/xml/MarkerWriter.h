@@ -4,8 +4,8 @@
 #ifndef ZELINTERCHANGEDATA_XML_MARKERWRITER_H
 #define ZELINTERCHANGEDATA_XML_MARKERWRITER_H
 
-#include "util/MarkupText.h"
 #include "util/TextBlock.h"
+#include "util/TextUtilities.h"
 
 #include <string>
 #include <string_view>
@@ -13,14 +13,14 @@
 namespace ZelInterchangeData {
 
 /// Appends markers to the text of a track. A track has many markers of one shape, so they are
-/// written as they come and not built as a tree:
+/// written one by one and not built as a tree:
 ///
 ///     markers.begin().attribute("xmpDM:startTime", start).escaped("zelDM:image", image).end();
 ///
 /// A marker has at least one attribute.
 class MarkerWriter {
 public:
-    /// Appends to @p text, which outlives this object and is whole after finish().
+    /// Appends to @p text, which outlives this object and is complete after finish().
     explicit MarkerWriter(std::string& text) : text_(text) {}
 
     /// Opens a marker; its attributes follow.
@@ -30,7 +30,7 @@ public:
         return *this;
     }
 
-    /// An attribute whose value goes in as given.
+    /// An attribute whose value is written as given.
     MarkerWriter& attribute(std::string_view name, std::string_view value)
     {
         beginValue(name);
@@ -70,7 +70,7 @@ public:
         return endValue();
     }
 
-    /// Ends the attributes and gives the text, to append the marker's content to.
+    /// Ends the attributes and returns the text, to append the marker's content to.
     TextBlock& content()
     {
         text_.append(">");
@@ -87,7 +87,7 @@ public:
     /// Closes a marker after its content().
     void endContent() { text_.append("</rdf:Description></rdf:li>"); }
 
-    /// Gives the text all that was written.
+    /// Appends to the text what it still lacks.
     void finish() { text_.flush(); }
 
 private:

@@ -1,5 +1,5 @@
 /// @file
-/// What stands in for a null character pointer.
+/// The replacement for a null character pointer.
 
 #ifndef ZELINTERCHANGEDATA_XML_OREMPTY_H
 #define ZELINTERCHANGEDATA_XML_OREMPTY_H

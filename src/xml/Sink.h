@@ -1,5 +1,5 @@
 /// @file
-/// What a builder verb returns where there is no node to return to.
+/// What a builder verb returns when there is no node to return to.
 
 #ifndef ZELINTERCHANGEDATA_XML_SINK_H
 #define ZELINTERCHANGEDATA_XML_SINK_H
@@ -10,8 +10,8 @@
 
 namespace ZelInterchangeData {
 
-/// A node that takes every verb and leads nowhere: it belongs to no tree, so nothing that is built
-/// on it is ever written.
+/// A node that accepts every verb and leads nowhere: it belongs to no tree, so nothing that is
+/// built on it is ever written.
 ///
 /// It is its own parent and the end of each of its paths. An expression that reaches it therefore
 /// stays on it, and however long the expression is, no second sink and no child is made.
@@ -25,8 +25,8 @@ public:
     ZelDataXmlNode& operator<([[maybe_unused]] const char* path) override { return *this; }
 };
 
-/// @p node, or the sink in @p sink when it is null. The sink is made when it is first needed.
-// cppcheck-suppress constParameter ; the node is given on to be changed
+/// @p node, or the sink in @p sink when it is null. The sink is created when it is first needed.
+// cppcheck-suppress constParameter ; the caller may change the node
 inline ZelDataXmlNode& orSink(ZelDataXmlNode* node, std::unique_ptr<ZelDataXmlNode>& sink)
 {
     if (node != nullptr) return *node;

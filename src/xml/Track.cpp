@@ -17,10 +17,11 @@ ZelDataXmlNode& Track::addProperty(const char* name)
     return description_.element(name);
 }
 
-/// Ends @p frame behind the start tag of the marker sequence and gives what stood there.
-std::string Track::cutBehindMarkersTag(std::string& frame)
+/// Ends @p frame after the start tag of the marker sequence and returns the rest.
+std::string Track::cutAfterMarkersTag(std::string& frame)
 {
-    // The last such pair is the track's own: an attribute that goes in as given may hold another.
+    // The last such pair is the track's own: an attribute that is written as given may contain
+    // another.
     constexpr std::string_view startTag = "<rdf:Seq>";
     const std::size_t place = lastPlaceOf("<rdf:Seq></rdf:Seq>", frame) + startTag.size();
     std::string rest = frame.substr(place);

@@ -17,7 +17,7 @@ namespace ZelInterchangeData {
 ///     <rdf:li><rdf:Description><xmpDM:markers><rdf:Seq> markers </rdf:Seq></xmpDM:markers>
 ///     properties </rdf:Description></rdf:li>      (written without blanks and line breaks)
 ///
-/// What describes the track and what a marker holds is up to the caller.
+/// The caller decides what describes the track and what a marker holds.
 class Track {
 public:
     /// A track without attributes and markers.
@@ -25,16 +25,16 @@ public:
 
     /// The description of the track, for its attributes.
     ZelDataXmlNode& description() noexcept { return description_; }
-    /// Appends an element called @p name after the markers and returns it. A name is used once per
-    /// track: a second element of the same name would stand inside the first.
+    /// Appends an element called @p name after the markers and returns it. Use a name once per
+    /// track: a second element of the same name would be placed inside the first.
     ZelDataXmlNode& addProperty(const char* name);
-    /// Appends the track to @p packet. @p writeMarkers is called with a MarkerWriter for the
-    /// track's markers.
+    /// Appends the track to @p packet. Calls @p writeMarkers with a MarkerWriter for the track's
+    /// markers.
     template <class WriteMarkers>
     void appendTo(std::string& packet, WriteMarkers&& writeMarkers) const
     {
         std::string frame = stream_.getXml(false);
-        const std::string rest = cutBehindMarkersTag(frame);
+        const std::string rest = cutAfterMarkersTag(frame);
         packet += frame;
         MarkerWriter markers(packet);
         writeMarkers(markers);
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    static std::string cutBehindMarkersTag(std::string& frame);
+    static std::string cutAfterMarkersTag(std::string& frame);
 
     ZelDataXmlStream stream_;
     ZelDataXmlNode& description_;

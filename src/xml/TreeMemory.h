@@ -10,15 +10,16 @@
 
 namespace ZelInterchangeData {
 
-/// Gives memory from large pieces, one bit after the other, and takes nothing back before it goes
+/// Hands out memory from large pieces, in order, and takes nothing back before it is destroyed
 /// itself: a tree is built, written once and destroyed as a whole.
 class TreeMemory {
 public:
     std::pmr::memory_resource* resource() noexcept { return &pieces_; }
 
 private:
-    /// The heap by way of the plain operators new and delete. The standard library's own resource
-    /// takes those with an alignment, which a program that replaces the plain ones need not know.
+    /// The heap, through the plain operators new and delete. The standard library's own resource
+    /// calls those with an alignment, which a program that replaces the plain ones need not
+    /// replace.
     class Heap final : public std::pmr::memory_resource {
         void* do_allocate(std::size_t size, std::size_t /*alignment*/) override
         {
@@ -30,7 +31,7 @@ private:
             ::operator delete(memory);
         }
 
-        // uncovered lines: the base class asks for it, but nothing compares these
+        // uncovered lines: the base class requires it, but nothing compares these
         bool do_is_equal(const std::pmr::memory_resource& other) const noexcept override
         {
             return this == &other;

@@ -19,6 +19,12 @@ ZelDataXmlAttributeValue& ZelDataXmlAttribute::operator<(const char* name)
     return value_;
 }
 
+std::size_t ZelDataXmlAttribute::length() const noexcept
+{
+    constexpr std::size_t markup = 4;
+    return name_.size() + value_.getValue().size() + markup;
+}
+
 void ZelDataXmlAttribute::write(std::string& out) const
 {
     out.append(std::string_view(name_)).append("=\"").append(value_.getValue()).append("\" ");

@@ -16,14 +16,16 @@ class ZelDataXmlNode;
 /// A name and a value; both are written as they were given.
 class ZelDataXmlAttribute {
 public:
-    /// An attribute of @p owner with empty name and value. The owner does not know of it. The name
-    /// is kept in @p memory.
+    /// An attribute of @p owner with empty name and value. The owner does not list it. The name is
+    /// kept in @p memory.
     explicit ZelDataXmlAttribute(
         ZelDataXmlNode* owner, std::pmr::memory_resource* memory = std::pmr::new_delete_resource());
 
     /// Replaces the name; null is an empty name. Returns the value, which leads back to the owner.
     ZelDataXmlAttributeValue& operator<(const char* name);
 
+    /// The number of bytes that write() appends.
+    std::size_t length() const noexcept;
     /// Appends the name, `="`, the value, `"` and one blank to @p out.
     void write(std::string& out) const;
 

@@ -13,8 +13,8 @@ class ZelDataXmlNode;
 
 /// The value of an attribute, and the node that an expression returns to after setting it.
 ///
-/// Every setter returns that node. As long as there is none it returns a node outside the tree,
-/// whose content is never written.
+/// Every setter returns that node. While there is none, it returns a node outside the tree, whose
+/// content is never written.
 class ZelDataXmlAttributeValue {
 public:
     /// An empty value without a node to return to.

@@ -13,7 +13,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Lets @p pointers take one more without asking for memory.
+/// Makes room for one more in @p pointers.
 template <class Pointers>
 void makeRoom(Pointers& pointers)
 {
@@ -40,9 +40,9 @@ ZelDataXmlNode::ZelDataXmlNode(ZelDataXmlNode* parent)
 {
 }
 
-// Leaves go first, found by way of the parents: neither the stack nor the memory that a recursion
-// or a list of nodes would take grows with the depth of the tree.
-// NOLINTNEXTLINE(misc-no-recursion): one step, because a leaf has nothing below.
+// Destroys leaves first and finds them through the parents: neither the stack nor the memory that a
+// recursion or a list of nodes would use grows with the depth of the tree.
+// NOLINTNEXTLINE(misc-no-recursion): one step, because a leaf has no children.
 ZelDataXmlNode::~ZelDataXmlNode()
 {
     ZelDataXmlNode* node = this;
@@ -53,14 +53,14 @@ ZelDataXmlNode::~ZelDataXmlNode()
             ZelDataXmlNode* const leaf = std::exchange(node, node->parent_);
             node->children_.pop_back();
             // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall): of another node.
-            leaf->~ZelDataXmlNode(); // its memory goes with the root
+            leaf->~ZelDataXmlNode(); // the root releases its memory
         }
     }
     for (ZelDataXmlAttribute* own : attributes_)
         std::destroy_at(own);
 }
 
-/// A new object in the tree's memory, which its owner destroys and does not delete.
+/// A new object in the tree's memory; its owner destroys it and does not delete it.
 template <class Object, class... Arguments>
 Object* ZelDataXmlNode::make(Arguments&&... arguments)
 {
@@ -97,10 +97,10 @@ ZelDataXmlValue& ZelDataXmlNode::operator<([[maybe_unused]] void** textVerb)
     return text_;
 }
 
-// cppcheck-suppress operatorEqRetRefThis ; a verb, no assignment
+// cppcheck-suppress operatorEqRetRefThis ; a verb, not an assignment
 ZelDataXmlNode& ZelDataXmlNode::operator=(long number)
 {
-    // NOLINTNEXTLINE(misc-unconventional-assign-operator): a verb, which leads on as text() does.
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): a verb, which continues as text() does.
     return text_.assign(decimalText(static_cast<long long>(number)));
 }
 
@@ -169,7 +169,8 @@ ZelDataXmlNode& ZelDataXmlNode::addChild(std::string_view name)
     ChildGroup entry(memory_);
     ZelDataXmlNode*& entered = entry.emplace(name, nullptr).first->second;
     entered = make<ZelDataXmlNode>(this);
-    // Whatever can fail is done, so a child is in both places or in none: this only moves and links.
+    // Whatever can fail is done, so a child is in both places or in neither: the rest only moves
+    // and links.
     entered->name_ = std::move(ownName);
     children_.push_back(entered);
     currentGroup_.merge(entry);
@@ -187,22 +188,38 @@ ZelDataXmlNode& ZelDataXmlNode::walk(std::string_view path)
             child = &node->addChild(path.substr(0, slash));
             if (isLast) return *child;
         } else if (slash == 0) {
-            // Meant: a nameless step that finds its child ends the path. Walked on, "/a" asked for
-            // twice would give <><a><a></a></a></> in place of <><a></a></>.
+            // Deliberate: a nameless step that finds its child ends the path; otherwise "/a" asked
+            // for twice would give <><a><a></a></a></> instead of <><a></a></>.
             return *child;
         }
-        // Meant: a last step whose name is taken is asked for again one level down. If it returned
-        // the child instead, asking twice for "x" would not give <x><x></x></x>.
+        // Deliberate: a last step whose name is taken is asked for again one level down; otherwise
+        // "x" asked for twice would not give <x><x></x></x>.
         if (!isLast) path.remove_prefix(slash + 1);
         node = child;
     }
 }
 
+std::size_t ZelDataXmlNode::length() const
+{
+    constexpr std::size_t markup = 6;
+    std::size_t length = 0;
+    std::vector<const ZelDataXmlNode*> open{this}; // a tree may be too deep for recursion
+    while (!open.empty()) {
+        const ZelDataXmlNode* const node = open.back();
+        open.pop_back();
+        length += 2 * node->name_.size() + markup + node->text_.getValue().size();
+        for (const auto* own : node->attributes_)
+            length += own->length();
+        open.insert(open.end(), node->children_.begin(), node->children_.end());
+    }
+    return length;
+}
+
 void ZelDataXmlNode::writeStartTag(std::string& out) const
 {
     out.append("<").append(std::string_view(name_));
-    // Meant: a blank follows every attribute, the last one too, as in <x:xmpmeta xmlns:x="…" >.
-    // Without it an XML reader would see no difference, but the bytes of every packet would change.
+    // Deliberate: a blank follows every attribute, even the last one; otherwise the one before ">"
+    // in every start tag with attributes would be missing.
     if (!attributes_.empty()) out += ' ';
     for (const auto* own : attributes_)
         own->write(out);
@@ -211,7 +228,7 @@ void ZelDataXmlNode::writeStartTag(std::string& out) const
 
 void ZelDataXmlNode::writeEndTag(std::string& out) const
 {
-    // Meant: children displace the text. If it were written too, markup would stand beside text.
+    // Deliberate: children displace the text; otherwise it would be written beside them.
     if (children_.empty()) out += text_.getValue();
     out.append("</").append(std::string_view(name_)).append(">");
 }

@@ -20,21 +20,21 @@ namespace ZelInterchangeData {
 
 /// One element: a name, attributes, and children or a text.
 ///
-/// A tree is built by verbs. Each verb has an operator form, and the frequent ones have a named
-/// form; an expression reads from left to right and each verb returns what the next one works on:
+/// You build a tree with verbs. Each verb has an operator form, and the frequent verbs have a named
+/// form. An expression reads from left to right, and each verb returns what the next one works on:
 ///
 ///     description.attribute("xmpDM:name", title).attribute("xmpDM:startTime", start);
 ///
-/// The tree only writes. Names, values and texts are written as they were given: whoever hands them
-/// over escapes them. Nothing is removed before the whole tree goes.
+/// The tree only writes. Names, values and texts are written as given: the caller escapes them.
+/// Nothing is removed before the whole tree is destroyed.
 ///
 /// A verb that runs out of memory lets `std::bad_alloc` through. The tree then holds what was built
-/// so far and can be written, extended and destroyed. Only memory limits how deep a tree may be.
+/// so far and can be written, extended and destroyed. Only memory limits the depth of a tree.
 class ZelDataXmlNode {
 public:
-    /// A node without name below @p parent, which does not know of it; null for a root. It takes its
-    /// memory from the tree of @p parent, which must outlive it. Elements of a tree are made by their
-    /// paths.
+    /// A nameless node below @p parent, which does not list it; null makes a root. It takes its
+    /// memory from the tree of @p parent, which must outlive it. To make the elements of a tree,
+    /// use their paths.
     explicit ZelDataXmlNode(ZelDataXmlNode* parent);
     /// Destroys the attributes and everything below, too.
     virtual ~ZelDataXmlNode();
@@ -42,14 +42,14 @@ public:
     /// The element at the end of @p path, a list of names with "/" between them. Null is an empty
     /// path.
     ///
-    /// Names are looked up in the current child group alone; elements that are missing are made.
+    /// Names are looked up in the current child group alone; missing elements are created.
     /// - An inner step goes to the child of its name, so "x/y" reuses an existing "x".
-    /// - The last step always makes an element. Where its name is taken it goes one level down and
-    ///   asks for the same name there: "x" asked for twice gives "x/x".
-    /// - An empty name is a name like any other, with one exception: where an inner step without
-    ///   name finds its child, the path ends there, whatever follows.
+    /// - The last step always creates an element. Where its name is taken it goes one level down
+    ///   and asks for the same name there: "x" asked for twice gives "x/x".
+    /// - An empty name is a name like any other, with one exception: where a nameless inner step
+    ///   finds its child, the path ends there, whatever follows.
     ///
-    /// For a second element of the same name beside the first one, use newGroup() before.
+    /// To get a second element of the same name beside the first one, call newGroup() first.
     virtual ZelDataXmlNode& operator<(const char* path);
     /// The same for the characters of @p path up to its first zero byte.
     ZelDataXmlNode& operator<(const std::string& path);
@@ -59,28 +59,28 @@ public:
     ZelDataXmlAttribute& operator<(void* attributeVerb);
     /// The text, which from now on leads back to the parent. The argument only selects the verb.
     ZelDataXmlValue& operator<(void** textVerb);
-    /// Makes @p number the text. Returns the parent, but a node outside the tree when the text was
-    /// never reached by its verb.
+    /// Makes @p number the text. Returns the parent, or a node outside the tree when the text was
+    /// never reached through its verb.
     ZelDataXmlNode& operator=(long number);
 
     /// As `*this < path`.
     ZelDataXmlNode& element(const char* path) { return operator<(path); }
     ZelDataXmlNode& element(const std::string& path) { return operator<(path); }
-    /// Starts a new child group: every child made so far keeps its place but is no longer found by
-    /// its name. Returns this node.
+    /// Starts a new child group: every existing child keeps its place but is no longer found by its
+    /// name. Returns this node.
     ZelDataXmlNode& newGroup();
     /// Appends an attribute; @p value is written as given. Returns this node.
     ZelDataXmlNode& attribute(const char* name, std::string value);
     /// Appends an attribute with @p value in decimal. Returns this node.
     ZelDataXmlNode& attribute(const char* name, long long value);
-    /// Replaces the text by @p markup, which is written as given, and only as long as there are no
+    /// Replaces the text with @p markup, which is written as given, and only while there are no
     /// children. Returns the parent, or a node outside the tree when there is none.
     ZelDataXmlNode& text(const std::string& markup);
 
     /// Takes the first step of @p path as the name and builds the rest below. Returns the end of
-    /// the path. The parent goes on finding this node by its first name.
+    /// the path. The parent still finds this node by its first name.
     ZelDataXmlNode& setName(const std::string& path);
-    /// The node that this one was made under; null for a root.
+    /// The node that this one was created under; null for a root.
     ZelDataXmlNode* parent() const noexcept { return parent_; }
     /// Appends the element and all below it to @p out.
     void write(std::string& out) const;
@@ -89,7 +89,9 @@ public:
     ZelDataXmlNode& operator=(const ZelDataXmlNode&) = delete;
 
 protected:
-    /// Appends each child, in the order of their making, to @p out.
+    /// The most bytes that write() appends.
+    std::size_t length() const;
+    /// Appends each child to @p out, in the order of creation.
     void writeChildren(std::string& out) const;
 
 private:
@@ -106,7 +108,7 @@ private:
 
     std::unique_ptr<TreeMemory> ownMemory_; // of a root, for the whole tree
     std::pmr::memory_resource* memory_;
-    ChildGroup currentGroup_; // nothing asks for the children of an earlier group by their names
+    ChildGroup currentGroup_; // children of earlier groups are never looked up
     std::pmr::vector<ZelDataXmlNode*> children_;
     std::pmr::string name_;
     ZelDataXmlValue text_;

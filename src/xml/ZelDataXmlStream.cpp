@@ -18,9 +18,8 @@ ZelDataXmlStream::~ZelDataXmlStream() = default;
 
 std::string ZelDataXmlStream::getXml(bool withDeclaration) const
 {
-    constexpr std::size_t usualSize = 4000;
     std::string xml;
-    xml.reserve(usualSize);
+    xml.reserve(declaration_.size() + length());
     if (withDeclaration) xml += declaration_;
     writeChildren(xml);
     return xml;
@@ -30,7 +29,8 @@ void ZelDataXmlStream::parseXml([[maybe_unused]] const std::string& text) {}
 
 std::string ZelDataXmlStream::getSafeXmlString(std::string text)
 {
-    // The ampersand comes first, so that those of the other entities are not escaped again.
+    // The ampersand comes first, so that the ampersands of the other entities are not escaped
+    // again.
     replaceAll(text, "&", "&amp;");
     replaceAll(text, "<", "&lt;");
     replaceAll(text, ">", "&gt;");
@@ -39,8 +39,8 @@ std::string ZelDataXmlStream::getSafeXmlString(std::string text)
     return text;
 }
 
-// Built beside the subject and put in its place at the end: replacing inside it would move its tail
-// once for every occurrence.
+// Builds the result beside the subject and puts it in its place at the end: replacing inside the
+// subject would move its tail once for every occurrence.
 std::string& replaceAll(std::string& subject, const std::string& from, const std::string& to)
 {
     std::string result;

@@ -19,20 +19,20 @@ public:
 
     using ZelDataXmlNode::operator=;
 
-    /// The children, one directly after the other; before them the XML declaration, without a line
-    /// break, when @p withDeclaration is true.
+    /// Returns the children, one directly after the other; when @p withDeclaration is true,
+    /// preceded by the XML declaration without a line break.
     std::string getXml(bool withDeclaration) const;
     /// Not supported: the tree stays as it is.
     void parseXml(const std::string& text);
-    /// @p text with `&`, `<`, `>`, `"` and `'` as the entities of XML. Entities that it holds
-    /// already are escaped again; every other byte stays.
+    /// @p text with `&`, `<`, `>`, `"` and `'` as XML entities. Entities that it already contains
+    /// are escaped again; every other byte stays.
     static std::string getSafeXmlString(std::string text);
 
 private:
     std::string declaration_;
 };
 
-/// Replaces every @p from in @p subject by @p to and returns @p subject. What was put in is not
+/// Replaces every @p from in @p subject with @p to and returns @p subject. Replacements are not
 /// searched again. @p from must not be empty: it would be found at every position, without end.
 std::string& replaceAll(std::string& subject, const std::string& from, const std::string& to);
 

@@ -11,10 +11,10 @@ namespace ZelInterchangeData {
 
 class ZelDataXmlNode;
 
-/// A text, and the node that it belongs to once setParent() was called.
+/// A text, and the node that it belongs to after a call of setParent().
 ///
 /// Every setter returns the parent of that node, so that the next path of an expression starts one
-/// level up. Where there is none it returns a node outside the tree, whose content is never
+/// level up. When there is none, it returns a node outside the tree, whose content is never
 /// written.
 class ZelDataXmlValue {
 public:

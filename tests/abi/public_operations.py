@@ -19,7 +19,7 @@ def argument_types(arguments):
 
 
 def of_interfaces(slot_folder):
-    """The operations of each class behind an interface, destructors aside."""
+    """The operations of each class that implements an interface, destructors aside."""
     for slot_list in read_slot_lists(slot_folder):
         operations = [split(operation) for operation in slot_list.operations if operation != "~"]
         signatures = [(name, argument_types(rest.removesuffix(" const")))
@@ -47,7 +47,8 @@ def named(class_name, signatures):
 
 def public_operations(slot_folder, include_folder):
     """Name and types of the arguments of each operation; that every source gives some is asserted."""
-    headers = sorted(Path(include_folder).glob("ZelInterchangeData/*.h"))
+    headers = [path for path in sorted(Path(include_folder).glob("ZelInterchangeData/*.h"))
+               if path.stem != "ZelDataStandardLibrary"]  # what it declares is never called
     sources = (of_interfaces(Path(slot_folder)),
                (of_header(r"\bstatic", header.stem, header) for header in headers),
                (of_header(r"^ZELINTERCHANGEDATA_API", "", header) for header in headers))

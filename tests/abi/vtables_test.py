@@ -1,7 +1,7 @@
 """The virtual tables inside the built shared library, entry by entry, against the slot lists.
 
 The tables are read from the file: symbols with nm, the table entries from the dynamic relocations
-with readelf. The classes behind the interfaces must have tables of exactly the interface's
+with readelf. The classes that implement the interfaces must have tables of exactly the interface's
 length."""
 
 import os
@@ -41,7 +41,7 @@ class Image:
         for line in output_of(NM, "--print-size", path).splitlines():
             fields = line.split()
             if len(fields) == 4:
-                address, size, name = int(fields[0], 16), int(fields[1], 16), fields[3]
+                address, size, name = int(fields[0], 16), int(fields[1], 16), fields[3].partition("@")[0]
                 self.names_at.setdefault(address, set()).add(name)
                 if name.startswith("_ZTV"):
                     self.tables[name] = (address, size)
@@ -94,7 +94,7 @@ class VirtualTables(unittest.TestCase):
         self.assertIn(listed(operation), found, f"{owner}, slot {slot}")
 
     def check_destructors(self, entries, owner, slot, abstract):
-        """The complete destructor stands first, the deleting one second."""
+        """The complete destructor comes first, the deleting one second."""
         if abstract and not any(entries[slot:slot + 2]):
             return  # g++ leaves both empty, because no object of the class itself is ever destroyed
         for kind, names in zip((("D1Ev", "D2Ev"), ("D0Ev",)), entries[slot:slot + 2]):

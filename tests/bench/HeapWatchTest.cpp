@@ -10,7 +10,7 @@ namespace ZelInterchangeData::bench {
 namespace {
 
 // The functions themselves are called, because a compiler may leave out a new expression whose
-// object nobody uses.
+// object that is not used.
 TEST(HeapWatchTest, CountsEveryFormOfNew)
 {
     constexpr auto wide = std::align_val_t(64);

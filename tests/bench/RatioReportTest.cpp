@@ -80,7 +80,11 @@ TEST(RatioReportTest, ChecksTheShareOfTheAppendersGainAndShowsTheGain)
 TEST(RatioReportTest, ChecksTextsByTheMultipleOfThePlainLoopAlone)
 {
     Results results;
-    results.texts = {{"ASCII", 1e9, 3}, {"Latin", 1e9, 0.5}, {"CJK", 1e9, 1}, {"captions", 1e9, 2}};
+    results.texts = {{"ASCII", 1e9, 3},
+                     {"Latin", 1e9, 0.5},
+                     {"CJK", 1e9, 1},
+                     {"captions", 1e9, 2},
+                     {"entities", 1e9, 2}};
     EXPECT_EQ(rowOf(results, "UTF-8 check, short ASCII texts").verdict, Verdict::shown);
     EXPECT_EQ(rowOf(results, "UTF-8 check, short ASCII texts: multiple of the plain loop").verdict,
               Verdict::met);

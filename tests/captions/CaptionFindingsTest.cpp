@@ -128,7 +128,7 @@ TEST(CaptionFindings, OrderedCaptionsKeepTheirOverlapsAlone)
 
 // Captions of a caller, which hold what the library's own refuse
 
-/// A caption that tells what it is told to tell.
+/// A caption that returns what a test gives it.
 class ToldItem : public ZelDataCaptionItem {
 public:
     struct Told {

@@ -4,7 +4,9 @@
 #ifndef ZELINTERCHANGEDATA_TESTS_CAPTIONS_CAPTIONS_H
 #define ZELINTERCHANGEDATA_TESTS_CAPTIONS_CAPTIONS_H
 
-#include "support/Checks.h"
+#include "captions/ZelDataCaptionItem.h"
+#include "captions/ZelDataCaptions.h"
+#include "support/Items.h"
 
 #include <array>
 #include <map>
@@ -48,22 +50,11 @@ inline void fill(i_ZelDataCaptionItem& item, const Caption& caption)
     EXPECT_EQ(ZelData_Ok, item.setAlignment(static_cast<ZelAlignment_tags>(caption.alignment)));
 }
 
-/// A new item that holds @p caption.
-inline std::unique_ptr<i_ZelDataCaptionItem> itemOf(const Caption& caption)
-{
-    auto item = make(ZelDataUtilities::createCaptionItemData);
-    fill(*item, caption);
-    return item;
-}
-
 /// What @p item holds.
 inline Caption contentsOf(const i_ZelDataCaptionItem& item)
 {
     Caption caption;
-    std::vector<std::string> ids;
-    EXPECT_EQ(ZelData_Ok, item.getLanguageIDs(ids));
-    for (const std::string& id : ids)
-        EXPECT_EQ(ZelData_Ok, item.getTextForLanguage(caption.texts[id], id));
+    caption.texts = textsOf(item);
     EXPECT_EQ(ZelData_Ok, item.getStart(caption.start));
     EXPECT_EQ(ZelData_Ok, item.getDuration(caption.duration));
     ZelAlignment_tags alignment = ZelAlignCenter;
@@ -72,39 +63,50 @@ inline Caption contentsOf(const i_ZelDataCaptionItem& item)
     return caption;
 }
 
-/// Adds @p captions to @p collection, in order.
+/// Captions under the names that all collections share.
+struct CaptionKind {
+    static constexpr auto name = "Captions";
+    using Values = Caption;
+    using Item = i_ZelDataCaptionItem;
+    using OwnItem = ZelDataCaptionItem;
+    using Data = i_ZelDataCaptions;
+    using Own = ZelDataCaptions;
+    using Formatter = i_ZelDataCaptionFormatter;
+
+    static constexpr auto makeItem = &ZelDataUtilities::createCaptionItemData;
+    static constexpr auto makeData = &ZelDataUtilities::createCaptionData;
+    static constexpr auto makeFormatter = &ZelDataUtilities::createCaptionFormatter;
+    static constexpr auto create = &Data::createCaptionItem;
+    static constexpr auto add = &Data::addCaptionItem;
+    static constexpr auto count = &Data::getCaptionItemCount;
+    static constexpr auto at = &Data::getCaptionItemAt;
+    static constexpr auto all = &Data::getCaptionItems;
+    static constexpr auto removeAt = &Data::removeCaptionItemAt;
+    static constexpr auto removeLanguage = &Data::removeCaptionItemsForLanguage;
+    static constexpr auto clear = &Data::clearCaptionItems;
+    static constexpr auto order = &Own::orderCaptions;
+    static constexpr auto makeConsistent = &Data::makeCaptionsConsistent;
+    static constexpr auto setData = &Formatter::setCaptions;
+};
+
+inline std::unique_ptr<i_ZelDataCaptionItem> itemOf(const Caption& caption)
+{
+    return newItem<CaptionKind>(caption);
+}
+
 inline void add(i_ZelDataCaptions& collection, const std::vector<Caption>& captions)
 {
-    for (const Caption& caption : captions)
-        EXPECT_EQ(ZelData_Ok, collection.addCaptionItem(*itemOf(caption)));
+    addItems<CaptionKind>(collection, captions);
 }
 
-/// A new collection of @p captions.
 inline std::unique_ptr<i_ZelDataCaptions> captionsOf(const std::vector<Caption>& captions)
 {
-    auto collection = make(ZelDataUtilities::createCaptionData);
-    add(*collection, captions);
-    return collection;
+    return newCollection<CaptionKind>(captions);
 }
 
-/// The items of @p collection, in stored order.
 inline std::vector<Caption> itemsOf(const i_ZelDataCaptions& collection)
 {
-    std::vector<i_ZelDataCaptionItem*> items;
-    EXPECT_EQ(ZelData_Ok, collection.getCaptionItems(items));
-    std::vector<Caption> captions;
-    for (i_ZelDataCaptionItem* item : items) {
-        const std::unique_ptr<i_ZelDataCaptionItem> owned(item);
-        captions.push_back(contentsOf(*owned));
-    }
-    return captions;
-}
-
-inline std::vector<std::string> languagesOf(const i_ZelDataCaptions& collection)
-{
-    std::vector<std::string> ids;
-    EXPECT_EQ(ZelData_Ok, collection.getOrderedLanguageIDs(ids));
-    return ids;
+    return valuesOf<CaptionKind>(collection);
 }
 
 /// All of the styling. The defaults are those of a new collection.

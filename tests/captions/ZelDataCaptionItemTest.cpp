@@ -21,36 +21,12 @@ long long endOf(const i_ZelDataCaptionItem& item)
     return end;
 }
 
-TEST(ZelDataCaptionItem, StartsEmptyAtTheBottomWithoutLength)
-{
-    const auto item = make(ZelDataUtilities::createCaptionItemData);
-    EXPECT_EQ(ZelData_Ok, item->getLastError());
-    EXPECT_EQ((Caption{0, 0, {}, 0x01}), contentsOf(*item));
-}
-
 TEST(ZelDataCaptionItem, ANewOneEndsAtZeroAndIsInvalid)
 {
     const ZelDataCaptionItem item;
     EXPECT_EQ(0, endOf(item));
     EXPECT_CODE(item, ZelData_InvalidItem, item.isValid(false));
     EXPECT_CODE(item, ZelData_InvalidItem, item.isValid(true));
-}
-
-TEST(ZelDataCaptionItem, KeepsAStartFromZeroOn)
-{
-    ZelDataCaptionItem item;
-    for (const long long start : {5LL, 0LL, most}) {
-        EXPECT_CODE(item, ZelData_Ok, item.setStart(start));
-        EXPECT_EQ(start, contentsOf(item).start);
-    }
-}
-
-TEST(ZelDataCaptionItem, RefusesANegativeStartAndKeepsTheOldOne)
-{
-    const auto item = itemOf({7, 8});
-    for (const long long start : {-1LL, least})
-        EXPECT_CODE(*item, ZelData_InvalidArgument, item->setStart(start));
-    EXPECT_EQ((Caption{7, 8}), contentsOf(*item));
 }
 
 TEST(ZelDataCaptionItem, MovesItsEndWithItsStart)
@@ -137,91 +113,6 @@ TEST(ZelDataCaptionItem, ItsGettersStoreSuccess)
     EXPECT_EQ(IDs{"en"}, ids);
 }
 
-TEST(ZelDataCaptionItem, ReplacingATextIsAWarningAndKeepsTheSecond)
-{
-    ZelDataCaptionItem item;
-    EXPECT_CODE(item, ZelData_Ok, item.setTextForLanguage("first", "en"));
-    EXPECT_CODE(item, ZelData_WarnAlreadyExists, item.setTextForLanguage("second", "en"));
-    EXPECT_EQ((Caption{0, 0, {{"en", "second"}}}), contentsOf(item));
-}
-
-TEST(ZelDataCaptionItem, TellsLanguageIDsApartByteForByte)
-{
-    ZelDataCaptionItem item;
-    for (const char* id : {"en", "EN", "en-US", "en-GB"})
-        EXPECT_CODE(item, ZelData_Ok, item.setTextForLanguage(id, id));
-    EXPECT_EQ(4U, contentsOf(item).texts.size());
-}
-
-TEST(ZelDataCaptionItem, TakesAnyUtf8Text)
-{
-    for (const std::string& text :
-         {std::string(), std::string("a\0b", 3), std::string("\t\x01"),
-          std::string("\xF0\x9F\x98\x80"), std::string("\xFC\x84\x80\x80\x80\x80")}) {
-        ZelDataCaptionItem item;
-        EXPECT_CODE(item, ZelData_Ok, item.setTextForLanguage(text, "en"));
-        EXPECT_EQ((Caption{0, 0, {{"en", text}}}), contentsOf(item));
-    }
-}
-
-TEST(ZelDataCaptionItem, RefusesALanguageThatIsUnknownOrMalformed)
-{
-    const auto item = itemOf({0, 1, {{"en", "x"}}});
-    for (const char* id : {"zz", "", "e", "eng", "en_US", "en-\xFF", "\xC3"})
-        EXPECT_CODE(*item, ZelData_InvalidItem, item->setTextForLanguage("y", id));
-    EXPECT_EQ((Caption{0, 1, {{"en", "x"}}}), contentsOf(*item));
-}
-
-TEST(ZelDataCaptionItem, RefusesATextThatIsNoUtf8)
-{
-    const auto item = itemOf({0, 1, {{"en", "x"}}});
-    for (const char* id : {"en", "de"})
-        EXPECT_CODE(*item, ZelData_InvalidItem, item->setTextForLanguage("a\xFFz", id));
-    EXPECT_EQ((Caption{0, 1, {{"en", "x"}}}), contentsOf(*item));
-}
-
-TEST(ZelDataCaptionItem, AnAbsentTextIsABadArgumentAndTheOutTextStays)
-{
-    const auto item = itemOf({0, 1, {{"en", "x"}}});
-    std::string text = "before";
-    for (const char* id : {"de", "EN", "en-US", "zz", ""})
-        EXPECT_CODE(*item, ZelData_InvalidArgument, item->getTextForLanguage(text, id));
-    EXPECT_EQ("before", text);
-}
-
-TEST(ZelDataCaptionItem, RemovesTheTextOfOneLanguage)
-{
-    const auto item = itemOf({0, 1, {{"de", "d"}, {"en", "e"}}});
-    EXPECT_CODE(*item, ZelData_Ok, item->removeTextForLanguage("de"));
-    EXPECT_EQ((Caption{0, 1, {{"en", "e"}}}), contentsOf(*item));
-}
-
-TEST(ZelDataCaptionItem, RemovingAnAbsentLanguageReturnsNotFound)
-{
-    const auto item = itemOf({0, 1, {{"en", "e"}}});
-    EXPECT_CODE(*item, ZelData_NotFound, item->removeTextForLanguage("de"));
-    EXPECT_CODE(*item, ZelData_NotFound, item->removeTextForLanguage("EN"));
-    EXPECT_EQ((Caption{0, 1, {{"en", "e"}}}), contentsOf(*item));
-}
-
-TEST(ZelDataCaptionItem, ClearsItsTextsAndNothingElse)
-{
-    const auto item = itemOf({5, 6, {{"de", "d"}, {"en", "e"}}, 0x22});
-    EXPECT_CODE(*item, ZelData_Ok, item->clearText());
-    EXPECT_EQ((Caption{5, 6, {}, 0x22}), contentsOf(*item));
-    EXPECT_CODE(*item, ZelData_Ok, item->clearText());
-}
-
-TEST(ZelDataCaptionItem, ListsItsLanguagesInByteOrderWhateverTheOrderOfAddition)
-{
-    ZelDataCaptionItem item;
-    for (const char* id : {"en", "de", "en-GB", "EN"})
-        EXPECT_CODE(item, ZelData_Ok, item.setTextForLanguage("", id));
-    IDs ids = {"what", "was", "before"};
-    EXPECT_CODE(item, ZelData_Ok, item.getLanguageIDs(ids));
-    EXPECT_EQ((IDs{"EN", "de", "en", "en-GB"}), ids);
-}
-
 TEST(ZelDataCaptionItemIsValid, AnItemWithoutTextPasses)
 {
     const auto item = itemOf({0, 1000});
@@ -267,39 +158,6 @@ TEST(ZelDataCaptionItemIsValid, AWrappingEndIsNotLookedAt)
 {
     const auto item = itemOf({most, 2000});
     EXPECT_CODE(*item, ZelData_Ok, item->isValid(true));
-}
-
-TEST(ZelDataCaptionItemAssignment, CopiesEveryFieldButTheLastError)
-{
-    ZelDataCaptionItem source;
-    fill(source, {100, 30, {{"de", "d"}, {"en", "e"}}, 0x22});
-    source.setLastError(ZelData_NotFound);
-    ZelDataCaptionItem target;
-    fill(target, {1, 2, {{"fr", "f"}}, 0x10});
-    target.setLastError(ZelData_WarnTiming);
-    target = source;
-    EXPECT_EQ(ZelData_WarnTiming, target.getLastError());
-    EXPECT_EQ(ZelData_NotFound, source.getLastError());
-    EXPECT_EQ((Caption{100, 30, {{"de", "d"}, {"en", "e"}}, 0x22}), contentsOf(target));
-}
-
-TEST(ZelDataCaptionItemAssignment, TakesAnItemThatNoCheckWouldPass)
-{
-    ZelDataCaptionItem target;
-    fill(target, {1, 2});
-    target = ZelDataCaptionItem();
-    EXPECT_EQ((Caption{0, 0}), contentsOf(target));
-}
-
-TEST(ZelDataCaptionItemAssignment, OntoItselfChangesNothing)
-{
-    ZelDataCaptionItem item;
-    fill(item, {1, 2, {{"fr", "f"}}, 0x10});
-    item.setLastError(ZelData_WarnTiming);
-    const ZelDataCaptionItem& same = item;
-    item = same;
-    EXPECT_EQ(ZelData_WarnTiming, item.getLastError());
-    EXPECT_EQ((Caption{1, 2, {{"fr", "f"}}, 0x10}), contentsOf(item));
 }
 
 } // namespace

@@ -48,24 +48,6 @@ TEST(ZelDataCaptions, ANewOneIsValid)
 
 // Styling
 
-TEST(ZelDataCaptionsStyling, KeepsAFrameRateFromOneToTenThousand)
-{
-    ZelDataCaptions captions;
-    for (const unsigned long rate : {1UL, 25UL, 10000UL}) {
-        EXPECT_CODE(captions, ZelData_Ok, captions.setFrameRate(rate));
-        EXPECT_EQ(rate, styleOf(captions).frameRate);
-    }
-}
-
-TEST(ZelDataCaptionsStyling, RefusesAFrameRateOutsideAndKeepsTheOldOne)
-{
-    ZelDataCaptions captions;
-    EXPECT_EQ(ZelData_Ok, captions.setFrameRate(30));
-    for (const unsigned long rate : {0UL, 10001UL, 0x100000001UL})
-        EXPECT_CODE(captions, ZelData_InvalidArgument, captions.setFrameRate(rate));
-    EXPECT_EQ(30U, styleOf(captions).frameRate);
-}
-
 TEST(ZelDataCaptionsStyling, KeepsAnyFontFamilyButNone)
 {
     ZelDataCaptions captions;
@@ -198,58 +180,7 @@ TEST(ZelDataCaptionsStyling, ItsGettersStoreSuccess)
 
 // Languages
 
-TEST(ZelDataCaptionsLanguages, RemovingALanguageTouchesNoItem)
-{
-    const auto captions = captionsOf({{0, 1, {{"de", "d"}, {"en", "e"}}}});
-    EXPECT_CODE(*captions, ZelData_Ok, captions->removeLanguage("de"));
-    EXPECT_EQ(IDs{"en"}, languagesOf(*captions));
-    EXPECT_EQ((Texts{{"de", "d"}, {"en", "e"}}), itemsOf(*captions)[0].texts);
-    EXPECT_CODE(*captions, ZelData_Ok, captions->clearLanguages());
-    EXPECT_EQ((Texts{{"de", "d"}, {"en", "e"}}), itemsOf(*captions)[0].texts);
-}
-
-TEST(ZelDataCaptionsLanguages, RemovingAnAbsentLanguageIsAnError)
-{
-    const auto captions = captionsOf({{0, 1, {{"en", "e"}}}});
-    EXPECT_CODE(*captions, ZelData_NotFound, captions->removeLanguage("fr"));
-    EXPECT_EQ(IDs{"en"}, languagesOf(*captions));
-}
-
 // Handing in
-
-TEST(ZelDataCaptionsAddCaptionItem, AppendsACopyWithoutSortingOrChecking)
-{
-    const std::vector<Caption> given = {
-        {500, 10, {{"en", "b"}}, 0x22}, {0, 600, {{"en", "a"}}}, {0, 1}};
-    const auto captions = captionsOf(given);
-    EXPECT_EQ(3U, countOf(*captions));
-    EXPECT_EQ(given, itemsOf(*captions));
-}
-
-TEST(ZelDataCaptionsAddCaptionItem, KeepsItsCopyWhenTheCallerChangesTheItem)
-{
-    ZelDataCaptions captions;
-    const auto item = itemOf({5, 6, {{"en", "a"}}});
-    EXPECT_CODE(captions, ZelData_Ok, captions.addCaptionItem(*item));
-    fill(*item, {9, 9, {{"de", "b"}}});
-    EXPECT_EQ((std::vector<Caption>{{5, 6, {{"en", "a"}}}}), itemsOf(captions));
-}
-
-TEST(ZelDataCaptionsAddCaptionItem, ListsNewLanguagesInByteOrderBehindTheListedOnes)
-{
-    ZelDataCaptions captions;
-    EXPECT_EQ(ZelData_Ok, captions.addLanguage("fr"));
-    add(captions, {{0, 1, {{"en", ""}, {"de", ""}, {"fr", ""}}}, {0, 1, {{"cs", ""}, {"en", ""}}}});
-    EXPECT_EQ((IDs{"fr", "de", "en", "cs"}), languagesOf(captions));
-}
-
-TEST(ZelDataCaptionsAddCaptionItem, ALanguageThatIsListedAlreadyIsIgnored)
-{
-    ZelDataCaptions captions;
-    EXPECT_EQ(ZelData_Ok, captions.addLanguage("en"));
-    EXPECT_CODE(captions, ZelData_Ok, captions.addCaptionItem(*itemOf({0, 1, {{"en", ""}}})));
-    EXPECT_EQ(1U, countOf(captions));
-}
 
 TEST(ZelDataCaptionsAddCaptionItem, RefusesAnItemWithoutLength)
 {
@@ -289,19 +220,6 @@ TEST(ZelDataCaptionsAddCaptionItem, TakesAForeignLastErrorOfZeroForSuccess)
     EXPECT_EQ((std::vector<Caption>{{7, 8, {{"en", "e"}}, 0x01}}), itemsOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, TurnsExceptionsOfAForeignItemIntoCodes)
-{
-    ZelDataCaptions captions;
-    FailingCaptionItem item;
-    fill(item, {0, 1, {{"en", ""}}});
-    item.throwAt("getStart", std::bad_alloc());
-    EXPECT_CODE(captions, ZelData_OutOfMemory, captions.addCaptionItem(item));
-    item.throwAt("getStart", std::runtime_error("foreign"));
-    EXPECT_CODE(captions, ZelData_InternalError, captions.addCaptionItem(item));
-    EXPECT_EQ(0U, countOf(captions));
-    EXPECT_EQ(IDs{}, languagesOf(captions));
-}
-
 TEST(ZelDataCaptionsAddCaptionItem, DestroysItsCopyWhenTheCopyingFails)
 {
     FailingCaptions captions;
@@ -310,18 +228,6 @@ TEST(ZelDataCaptionsAddCaptionItem, DestroysItsCopyWhenTheCopyingFails)
     EXPECT_CODE(captions, keptCode, captions.addCaptionItem(*itemOf({0, 1})));
     EXPECT_EQ(0, FailingCaptionItem::alive());
     EXPECT_EQ(0U, countOf(captions));
-}
-
-TEST(ZelDataCaptionsAddCaptionItem, StopsAtALanguageThatCannotBeListed)
-{
-    FailingCaptions captions;
-    captions.failAt("addLanguage", returnedCode, returnedCode, 2);
-    EXPECT_EQ(returnedCode,
-              captions.addCaptionItem(*itemOf({0, 1, {{"de", ""}, {"en", ""}, {"fr", ""}}})));
-    EXPECT_EQ(returnedCode, captions.storedError());
-    EXPECT_TRUE(itemsOf(captions).empty());
-    EXPECT_EQ(IDs{"de"}, languagesOf(captions));
-    EXPECT_EQ(0, FailingCaptionItem::alive());
 }
 
 TEST(ZelDataCaptionsAddCaptionItem, GivesTheCodeOfAFailingCreation)
@@ -333,59 +239,7 @@ TEST(ZelDataCaptionsAddCaptionItem, GivesTheCodeOfAFailingCreation)
     EXPECT_TRUE(itemsOf(captions).empty());
 }
 
-TEST(ZelDataCaptionsCreateCaptionItem, MakesADefaultItemThatIsNotItsOwn)
-{
-    const auto captions = make(ZelDataUtilities::createCaptionData);
-    i_ZelDataCaptionItem* made = nullptr;
-    EXPECT_CODE(*captions, ZelData_Ok, captions->createCaptionItem(&made));
-    ASSERT_NE(nullptr, made);
-    const std::unique_ptr<i_ZelDataCaptionItem> owned(made);
-    EXPECT_EQ(Caption(), contentsOf(*made));
-    EXPECT_EQ(0U, countOf(*captions));
-}
-
-TEST(ZelDataCaptionsCreateCaptionItem, RefusesAPointerThatIsNullOrTaken)
-{
-    const ZelDataCaptions captions;
-    const auto item = itemOf({1, 2});
-    i_ZelDataCaptionItem* taken = item.get();
-    EXPECT_CODE(captions, ZelData_InvalidArgument, captions.createCaptionItem(nullptr));
-    EXPECT_CODE(captions, ZelData_InvalidArgument, captions.createCaptionItem(&taken));
-    EXPECT_EQ(item.get(), taken);
-}
-
 // Handing out
-
-TEST(ZelDataCaptionsGetCaptionItemAt, HandsOutAFreshCopyEachTime)
-{
-    const auto captions = captionsOf({{1, 2, {{"en", "a"}}}, {3, 4, {{"en", "b"}}, 0x22}});
-    for (int time = 0; time < 2; ++time) {
-        i_ZelDataCaptionItem* item = nullptr;
-        EXPECT_CODE(*captions, ZelData_Ok, captions->getCaptionItemAt(&item, 1));
-        const std::unique_ptr<i_ZelDataCaptionItem> owned(item);
-        EXPECT_EQ((Caption{3, 4, {{"en", "b"}}, 0x22}), contentsOf(*item));
-        fill(*item, {9, 9});
-    }
-}
-
-TEST(ZelDataCaptionsGetCaptionItemAt, RefusesAPointerThatIsNullOrTaken)
-{
-    const auto captions = captionsOf({{1, 2}});
-    const auto item = itemOf({7, 8});
-    i_ZelDataCaptionItem* taken = item.get();
-    EXPECT_CODE(*captions, ZelData_InvalidArgument, captions->getCaptionItemAt(nullptr, 0));
-    EXPECT_CODE(*captions, ZelData_InvalidArgument, captions->getCaptionItemAt(&taken, 0));
-    EXPECT_EQ(item.get(), taken);
-}
-
-TEST(ZelDataCaptionsGetCaptionItemAt, RefusesAnIndexBehindTheLast)
-{
-    const auto captions = captionsOf({{1, 2}});
-    i_ZelDataCaptionItem* item = nullptr;
-    for (const unsigned long index : {1UL, 0x100000000UL, ~0UL})
-        EXPECT_CODE(*captions, ZelData_InvalidArgument, captions->getCaptionItemAt(&item, index));
-    EXPECT_EQ(nullptr, item);
-}
 
 /// Two items, the second of which fails when it is copied out for the first time.
 void fillWithABrokenSecondItem(FailingCaptions& captions)
@@ -407,18 +261,6 @@ TEST(ZelDataCaptionsGetCaptionItemAt, GivesTheCodeOfACopyThatFails)
     EXPECT_EQ(2, FailingCaptionItem::alive());
 }
 
-TEST(ZelDataCaptionsGetCaptionItems, ReplacesTheVectorWithoutDestroyingWhatItPointedTo)
-{
-    const auto captions = captionsOf({{1, 2}});
-    const auto before = itemOf({7, 8});
-    std::vector<i_ZelDataCaptionItem*> items = {before.get(), before.get()};
-    EXPECT_CODE(*captions, ZelData_Ok, captions->getCaptionItems(items));
-    ASSERT_EQ(1U, items.size());
-    const std::unique_ptr<i_ZelDataCaptionItem> owned(items[0]);
-    EXPECT_EQ((Caption{1, 2}), contentsOf(*owned));
-    EXPECT_EQ((Caption{7, 8}), contentsOf(*before));
-}
-
 TEST(ZelDataCaptionsGetCaptionItems, LeavesTheVectorEmptyWhenACopyFails)
 {
     FailingCaptions captions;
@@ -430,94 +272,7 @@ TEST(ZelDataCaptionsGetCaptionItems, LeavesTheVectorEmptyWhenACopyFails)
     EXPECT_EQ(2, FailingCaptionItem::alive());
 }
 
-TEST(ZelDataCaptionsGetCaptionItems, AnEmptyCollectionEmptiesTheVector)
-{
-    const ZelDataCaptions captions;
-    const auto before = itemOf({7, 8});
-    std::vector<i_ZelDataCaptionItem*> items = {before.get()};
-    EXPECT_CODE(captions, ZelData_Ok, captions.getCaptionItems(items));
-    EXPECT_TRUE(items.empty());
-}
-
-TEST(ZelDataCaptions, GettingTheItemsOfALanguageIsNotSupported)
-{
-    const auto captions = captionsOf({{1, 2, {{"en", "a"}}}});
-    const auto before = itemOf({7, 8});
-    std::vector<i_ZelDataCaptionItem*> items = {before.get()};
-    for (const char* id : {"en", "zz", ""})
-        EXPECT_CODE(*captions, ZelData_NotImplemented,
-                    captions->getCaptionItemsForLanguage(items, id));
-    EXPECT_EQ(std::vector<i_ZelDataCaptionItem*>{before.get()}, items);
-}
-
 // Removing
-
-TEST(ZelDataCaptionsRemoveCaptionItemAt, ClosesTheGapAndKeepsTheLanguages)
-{
-    const auto captions = captionsOf({{1, 2, {{"de", ""}}}, {3, 4, {{"en", ""}}}, {5, 6}});
-    EXPECT_CODE(*captions, ZelData_Ok, captions->removeCaptionItemAt(1));
-    EXPECT_EQ((std::vector<Caption>{{1, 2, {{"de", ""}}}, {5, 6}}), itemsOf(*captions));
-    EXPECT_EQ((IDs{"de", "en"}), languagesOf(*captions));
-    EXPECT_EQ(2U, countOf(*captions));
-}
-
-TEST(ZelDataCaptionsRemoveCaptionItemAt, RefusesAnIndexBehindTheLast)
-{
-    const auto captions = captionsOf({{1, 2}});
-    for (const unsigned long index : {1UL, 0x100000000UL, ~0UL})
-        EXPECT_CODE(*captions, ZelData_InvalidArgument, captions->removeCaptionItemAt(index));
-    EXPECT_EQ(1U, countOf(*captions));
-}
-
-TEST(ZelDataCaptions, DestroysItsItemsWhenTheyAreRemovedClearedOrLeftBehind)
-{
-    {
-        FailingCaptions captions;
-        add(captions, {{1, 2}, {3, 4}, {5, 6}});
-        EXPECT_EQ(3, FailingCaptionItem::alive());
-        EXPECT_EQ(ZelData_Ok, captions.removeCaptionItemAt(0));
-        EXPECT_EQ(2, FailingCaptionItem::alive());
-        EXPECT_EQ(ZelData_Ok, captions.clearCaptionItems());
-        EXPECT_EQ(0, FailingCaptionItem::alive());
-        add(captions, {{1, 2}});
-    }
-    EXPECT_EQ(0, FailingCaptionItem::alive());
-}
-
-TEST(ZelDataCaptions, ClearingTheItemsEmptiesTheLanguageListToo)
-{
-    const auto captions = captionsOf({{1, 2, {{"de", ""}}}});
-    EXPECT_EQ(ZelData_Ok, captions->setFontSize(30));
-    EXPECT_CODE(*captions, ZelData_Ok, captions->clearCaptionItems());
-    unsigned long languages = 4711;
-    EXPECT_CODE(*captions, ZelData_Ok, captions->getLanguageCount(languages));
-    EXPECT_EQ(0U, languages);
-    EXPECT_EQ(0U, countOf(*captions));
-    EXPECT_EQ(30U, styleOf(*captions).fontSize);
-}
-
-TEST(ZelDataCaptionsRemoveCaptionItemsForLanguage, TakesTheTextFromEveryItemAndRemovesNone)
-{
-    const auto captions = captionsOf({{1, 2, {{"en", "a"}, {"fr", "b"}}}, {3, 4, {{"fr", "c"}}}});
-    EXPECT_CODE(*captions, ZelData_Ok, captions->removeCaptionItemsForLanguage("fr"));
-    EXPECT_EQ((std::vector<Caption>{{1, 2, {{"en", "a"}}}, {3, 4}}), itemsOf(*captions));
-    EXPECT_EQ((IDs{"en", "fr"}), languagesOf(*captions));
-}
-
-TEST(ZelDataCaptionsRemoveCaptionItemsForLanguage, StopsAtTheFirstItemThatLacksIt)
-{
-    const auto captions =
-        captionsOf({{1, 2, {{"fr", "a"}}}, {3, 4, {{"en", "b"}}}, {5, 6, {{"fr", "c"}}}});
-    EXPECT_CODE(*captions, ZelData_NotFound, captions->removeCaptionItemsForLanguage("fr"));
-    EXPECT_EQ((std::vector<Caption>{{1, 2}, {3, 4, {{"en", "b"}}}, {5, 6, {{"fr", "c"}}}}),
-              itemsOf(*captions));
-}
-
-TEST(ZelDataCaptionsRemoveCaptionItemsForLanguage, WithoutItemsThereIsNothingToMiss)
-{
-    ZelDataCaptions captions;
-    EXPECT_CODE(captions, ZelData_Ok, captions.removeCaptionItemsForLanguage("fr"));
-}
 
 } // namespace
 } // namespace ZelInterchangeData

@@ -90,6 +90,13 @@ class PkgConfig(ChecksOfPrograms, unittest.TestCase):
             with self.subTest(module):
                 self.check(PREFIX / "lib", module, [], static=True)
 
+    def test_a_static_link_defines_the_static_form_and_no_other_does(self):
+        environment = dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig"))
+        for options, defined in (((), False), (("--static",), True)):
+            with self.subTest(options):
+                flags = run("pkg-config", *options, "--cflags", "ZelInterchangeData", env=environment)
+                self.assertEqual("-DZELINTERCHANGEDATA_STATIC" in flags.split(), defined)
+
     def test_absolute_folders(self):
         self.assertFalse((ABSOLUTE / "prefix" / "lib").exists())
         self.check(ABSOLUTE / "lib", "ZelInterchangeData", [RELEASE_LIBRARY])
@@ -163,6 +170,12 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
                 with self.subTest(f"{name} {standard}"):
                     run(CXX, *CXXFLAGS, f"-std={standard}", *STRICT, "-I", PREFIX / "include",
                         "-fsyntax-only", source)
+
+    def test_the_version_can_be_had_without_the_language(self):
+        source = fresh_folder(self.id()) / "version.c"
+        source.write_text('#include "ZelInterchangeData/ZelDataVersion.h"\n'
+                          "int version = ZELINTERCHANGEDATA_VERSION;\n", encoding="utf-8")
+        run(CXX, "-x", "c", "-I", PREFIX / "include", "-fsyntax-only", source)
 
     def test_exceptions_cross_the_boundary_with_hidden_visibility(self):
         program = make_with_pkg_config(fresh_folder(self.id()), PREFIX / "lib" / "pkgconfig",

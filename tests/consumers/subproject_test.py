@@ -29,6 +29,7 @@ class Subproject(ChecksOfPrograms):
 
     PROJECT = ""
     NEEDED = ()
+    DEFINED = ()
 
     @classmethod
     def setUpClass(cls):
@@ -63,7 +64,8 @@ class Subproject(ChecksOfPrograms):
     def test_the_consumer_is_compiled_with_its_own_flags_and_our_headers_alone(self):
         command, = (entry["command"] for entry in compile_commands(self.tree)
                     if entry["file"].endswith("program/main.cpp"))
-        self.assertEqual(re.findall(r" -[IDfO]\S*", command), [f" -I{SOURCE}/include"])
+        self.assertEqual(re.findall(r" (-[IDfO]\S*)", command),
+                         [*self.DEFINED, f"-I{SOURCE}/include"])
 
 
 class AddSubdirectory(Subproject, unittest.TestCase):
@@ -73,6 +75,7 @@ class AddSubdirectory(Subproject, unittest.TestCase):
 
 class FetchContent(Subproject, unittest.TestCase):
     PROJECT = "fetch_content"
+    DEFINED = ("-DZELINTERCHANGEDATA_STATIC",)
 
     # Changes the tree, and by its name runs last.
     def test_when_its_user_asks_for_it_it_is_installed(self):

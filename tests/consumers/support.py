@@ -20,8 +20,9 @@ RELEASE_TREE = WORK / "library-Release"
 ABSOLUTE = WORK / "absolute"
 
 MAJOR, MINOR, PATCH = (int(part) for part in VERSION.split("."))
+NUMBER = MAJOR * 10000 + MINOR * 100 + PATCH
 EXPECTED_OUTPUT = ((CONSUMERS / "program" / "expected_output.txt").read_text(encoding="utf-8") +
-                   f"version {MAJOR * 10000 + MINOR * 100 + PATCH}\n")
+                   f"version {NUMBER}, running {NUMBER}\n")
 
 
 def run(*command, **options):

@@ -9,6 +9,7 @@
 #include "screentext/ZelDataScreenText.h"
 #include "screentext/ZelDataScreenTextItem.h"
 #include "screentext/ZelDataXmpScreenTextFormatter.h"
+#include "support/Checks.h"
 #include "toc/ZelDataToc.h"
 #include "toc/ZelDataTocItem.h"
 #include "toc/ZelDataXmpTocFormatter.h"
@@ -58,29 +59,37 @@ template <class Object>
 void addTexts(Object& object, Dice& dice)
 {
     for (unsigned i = dice.below(4); i > 0; --i)
-        object.setTextForLanguage(randomText(dice), randomID(dice));
+        EXPECT_FALSE(isError(object.setTextForLanguage(randomText(dice), randomID(dice))));
+}
+
+/// What @p get, a getter of @p object, delivers.
+template <class Value, class Object, class Interface>
+Value got(const Object& object, ZelDataResult_tags (Interface::*get)(Value&) const)
+{
+    Value value{};
+    EXPECT_EQ(ZelData_Ok, (object.*get)(value));
+    return value;
 }
 
 /// Languages that no item has, another order, and now and then an identical one twice.
 template <class Collection>
 void stirLanguages(Collection& collection, Dice& dice)
 {
-    if (dice.oneIn(3)) collection.addLanguage(randomID(dice));
-    std::vector<std::string> ids;
-    collection.getOrderedLanguageIDs(ids);
+    if (dice.oneIn(3)) {
+        EXPECT_FALSE(isError(collection.addLanguage(randomID(dice))));
+    }
+    auto ids = got(collection, &i_ZelDataLanguage::getOrderedLanguageIDs);
     if (ids.size() > 1 && dice.oneIn(4)) std::swap(ids.front(), ids.back());
     if (ids.size() > 1 && dice.oneIn(6)) ids.front() = ids.back();
-    collection.setOrderedLanguageIDs(ids);
+    mayRefuse(collection.setOrderedLanguageIDs(ids));
 }
 
 template <class Object>
 void describeTexts(const Object& object, std::ostream& out)
 {
-    std::vector<std::string> ids;
-    object.getLanguageIDs(ids);
-    for (const std::string& id : ids) {
+    for (const std::string& id : got(object, &Object::getLanguageIDs)) {
         std::string text;
-        object.getTextForLanguage(text, id);
+        EXPECT_EQ(ZelData_Ok, object.getTextForLanguage(text, id));
         out << ' ' << id << '=' << text;
     }
 }
@@ -88,9 +97,7 @@ void describeTexts(const Object& object, std::ostream& out)
 template <class Collection>
 void describeLanguages(const Collection& collection, std::ostream& out)
 {
-    std::vector<std::string> ids;
-    collection.getOrderedLanguageIDs(ids);
-    for (const std::string& id : ids)
+    for (const std::string& id : got(collection, &i_ZelDataLanguage::getOrderedLanguageIDs))
         out << id << ',';
     out << '\n';
 }
@@ -98,12 +105,13 @@ void describeLanguages(const Collection& collection, std::ostream& out)
 template <class Item>
 using Owned = std::vector<std::unique_ptr<Item>>;
 
+/// None where the collection cannot hand out one of them.
 template <class Item, class Collection>
 Owned<Item> itemsOf(const Collection& collection,
                     ZelDataResult_tags (Collection::*get)(std::vector<Item*>&) const)
 {
     std::vector<Item*> items;
-    (collection.*get)(items);
+    mayRefuse((collection.*get)(items));
     return Owned<Item>(items.begin(), items.end());
 }
 
@@ -124,57 +132,50 @@ struct CaptionKind {
 
     static void fill(Item& item, Dice& dice)
     {
-        item.setStart(dice.below(4));
-        if (!dice.oneIn(8)) item.setDuration(1 + dice.below(3));
-        if (dice.oneIn(20)) item.setStart(std::numeric_limits<long long>::max()); // its end wraps
-        item.setAlignment(static_cast<ZelAlignment_tags>(dice.below(64)));
+        EXPECT_EQ(ZelData_Ok, item.setStart(dice.below(4)));
+        if (!dice.oneIn(8)) {
+            EXPECT_EQ(ZelData_Ok, item.setDuration(1 + dice.below(3)));
+        }
+        if (dice.oneIn(20))
+            mayRefuse(item.setStart(std::numeric_limits<long long>::max())); // its end wraps
+        EXPECT_EQ(ZelData_Ok, item.setAlignment(static_cast<ZelAlignment_tags>(dice.below(64))));
         addTexts(item, dice);
     }
 
     static void fill(Data& data, Dice& dice)
     {
-        data.setFrameRate(dice.below(4));
-        data.setFontFamily(randomText(dice));
-        data.setFontSize(dice.below(600));
-        data.setForegroundColor(static_cast<float>(dice.below(3)) / 2, 0.25F, 1);
-        data.setBackgroundOpacity(dice.oneIn(4) ? std::numeric_limits<float>::quiet_NaN() : 0.5F);
+        mayRefuse(data.setFrameRate(dice.below(4)));
+        mayRefuse(data.setFontFamily(randomText(dice)));
+        mayRefuse(data.setFontSize(dice.below(600)));
+        EXPECT_EQ(ZelData_Ok,
+                  data.setForegroundColor(static_cast<float>(dice.below(3)) / 2, 0.25F, 1));
+        EXPECT_EQ(ZelData_Ok, data.setBackgroundOpacity(
+                                  dice.oneIn(4) ? std::numeric_limits<float>::quiet_NaN() : 0.5F));
         for (unsigned i = dice.below(8); i > 0; --i) {
             ZelDataCaptionItem item;
             fill(item, dice);
-            data.addCaptionItem(item);
+            mayRefuse(data.addCaptionItem(item));
         }
         stirLanguages(data, dice);
     }
 
     static void describe(const Item& item, std::ostream& out)
     {
-        long long start = -1;
-        long long duration = -1;
-        auto alignment = ZelAlignBottom;
-        item.getStart(start);
-        item.getDuration(duration);
-        item.getAlignment(alignment);
-        out << start << '+' << duration << ' ' << alignment;
+        out << got(item, &Item::getStart) << '+' << got(item, &Item::getDuration) << ' '
+            << got(item, &Item::getAlignment);
         describeTexts(item, out);
         out << '\n';
     }
 
     static void describe(const Data& data, std::ostream& out)
     {
-        unsigned long number = 0;
-        std::string family;
         float red = 0;
         float green = 0;
         float blue = 0;
-        float opacity = 0;
-        data.getFrameRate(number);
-        out << number << ' ';
-        data.getFontFamily(family);
-        data.getFontSize(number);
-        data.getForegroundColor(red, green, blue);
-        data.getBackgroundOpacity(opacity);
-        out << family << ' ' << number << ' ' << red << ' ' << green << ' ' << blue << ' '
-            << opacity << '\n';
+        EXPECT_EQ(ZelData_Ok, data.getForegroundColor(red, green, blue));
+        out << got(data, &Data::getFrameRate) << ' ' << got(data, &Data::getFontFamily) << ' '
+            << got(data, &Data::getFontSize) << ' ' << red << ' ' << green << ' ' << blue << ' '
+            << got(data, &Data::getBackgroundOpacity) << '\n';
         describeLanguages(data, out);
         for (const auto& item : itemsOf(data, &Data::getCaptionItems))
             describe(*item, out);
@@ -191,47 +192,36 @@ struct TocKind {
 
     static void fill(Item& item, Dice& dice)
     {
-        item.setStart(dice.below(4));
-        item.setImageFile(randomText(dice));
-        item.setImageIndex(dice.below(9));
-        item.setImageOffset(dice.below(9));
+        EXPECT_EQ(ZelData_Ok, item.setStart(dice.below(4)));
+        EXPECT_EQ(ZelData_Ok, item.setImageFile(randomText(dice)));
+        EXPECT_EQ(ZelData_Ok, item.setImageIndex(dice.below(9)));
+        EXPECT_EQ(ZelData_Ok, item.setImageOffset(dice.below(9)));
         addTexts(item, dice);
     }
 
     static void fill(Data& data, Dice& dice)
     {
-        data.setFrameRate(dice.below(4));
-        data.setImageFile(randomText(dice));
+        mayRefuse(data.setFrameRate(dice.below(4)));
+        EXPECT_EQ(ZelData_Ok, data.setImageFile(randomText(dice)));
         for (unsigned i = dice.below(8); i > 0; --i) {
             ZelDataTocItem item;
             fill(item, dice);
-            data.addTocItem(item);
+            mayRefuse(data.addTocItem(item));
         }
         stirLanguages(data, dice);
     }
 
     static void describe(const Item& item, std::ostream& out)
     {
-        long long start = -1;
-        std::string image;
-        unsigned long index = 0;
-        unsigned long long offset = 0;
-        item.getStart(start);
-        item.getImageFile(image);
-        item.getImageIndex(index);
-        item.getImageOffset(offset);
-        out << start << ' ' << image << ' ' << index << ' ' << offset;
+        out << got(item, &Item::getStart) << ' ' << got(item, &Item::getImageFile) << ' '
+            << got(item, &Item::getImageIndex) << ' ' << got(item, &Item::getImageOffset);
         describeTexts(item, out);
         out << '\n';
     }
 
     static void describe(const Data& data, std::ostream& out)
     {
-        unsigned long rate = 0;
-        std::string image;
-        data.getFrameRate(rate);
-        data.getImageFile(image);
-        out << rate << ' ' << image << '\n';
+        out << got(data, &Data::getFrameRate) << ' ' << got(data, &Data::getImageFile) << '\n';
         describeLanguages(data, out);
         for (const auto& item : itemsOf(data, &Data::getTocItems))
             describe(*item, out);
@@ -248,50 +238,38 @@ struct ScreenTextKind {
 
     static void fill(Item& item, Dice& dice)
     {
-        item.setText(randomText(dice));
-        item.setStart(dice.below(4));
-        if (!dice.oneIn(8)) item.setDuration(1 + dice.below(3));
-        item.setImageFile(randomText(dice));
-        item.setImageIndex(dice.below(9));
-        item.setImageOffset(dice.below(9));
-        item.setGroupId(dice.below(9));
+        EXPECT_EQ(ZelData_Ok, item.setText(randomText(dice)));
+        EXPECT_EQ(ZelData_Ok, item.setStart(dice.below(4)));
+        if (!dice.oneIn(8)) {
+            EXPECT_EQ(ZelData_Ok, item.setDuration(1 + dice.below(3)));
+        }
+        EXPECT_EQ(ZelData_Ok, item.setImageFile(randomText(dice)));
+        EXPECT_EQ(ZelData_Ok, item.setImageIndex(dice.below(9)));
+        EXPECT_EQ(ZelData_Ok, item.setImageOffset(dice.below(9)));
+        EXPECT_EQ(ZelData_Ok, item.setGroupId(dice.below(9)));
     }
 
     static void fill(Data& data, Dice& dice)
     {
-        data.setFrameRate(dice.below(4));
+        mayRefuse(data.setFrameRate(dice.below(4)));
         for (unsigned i = dice.below(8); i > 0; --i) {
             ZelDataScreenTextItem item;
             fill(item, dice);
-            data.addScreenTextItem(item);
+            mayRefuse(data.addScreenTextItem(item));
         }
     }
 
     static void describe(const Item& item, std::ostream& out)
     {
-        std::string text;
-        std::string image;
-        long long start = -1;
-        long long duration = -1;
-        unsigned long index = 0;
-        unsigned long group = 0;
-        unsigned long long offset = 0;
-        item.getText(text);
-        item.getImageFile(image);
-        item.getStart(start);
-        item.getDuration(duration);
-        item.getImageIndex(index);
-        item.getImageOffset(offset);
-        item.getGroupId(group);
-        out << text << ' ' << image << ' ' << start << '+' << duration << ' ' << index << ' '
-            << offset << ' ' << group << '\n';
+        out << got(item, &Item::getText) << ' ' << got(item, &Item::getImageFile) << ' '
+            << got(item, &Item::getStart) << '+' << got(item, &Item::getDuration) << ' '
+            << got(item, &Item::getImageIndex) << ' ' << got(item, &Item::getImageOffset) << ' '
+            << got(item, &Item::getGroupId) << '\n';
     }
 
     static void describe(const Data& data, std::ostream& out)
     {
-        unsigned long rate = 0;
-        data.getFrameRate(rate);
-        out << rate << '\n';
+        out << got(data, &Data::getFrameRate) << '\n';
         for (const auto& item : itemsOf(data, &Data::getScreenTextItems))
             describe(*item, out);
     }
@@ -406,10 +384,10 @@ TEST(BothRoadsOfCaptions, ACaptionWithoutLengthStopsBoth)
     std::vector<std::string> results;
     const auto go = [&](auto&& source) {
         CaptionKind::Pretender pretender;
-        pretender.setTextForLanguage("text", "de");
-        EXPECT_EQ(ZelData_Ok, source.addCaptionItem(pretender)); // half copied, and no code tells
+        EXPECT_EQ(ZelData_Ok, pretender.setTextForLanguage("text", "de"));
+        EXPECT_EQ(ZelData_Ok, source.addCaptionItem(pretender)); // half copied, and no code says so
         unsigned long count = 0;
-        source.getCaptionItemCount(count);
+        EXPECT_EQ(ZelData_Ok, source.getCaptionItemCount(count));
         EXPECT_EQ(1U, count);
         ZelDataCaptions target;
         results.push_back(copied<CaptionKind>(static_cast<i_ZelDataCaptions&>(target),

@@ -83,6 +83,13 @@ TYPED_TEST(DataSet, ThatCannotBeMadeGivesTheDocumentsLastError)
     EXPECT_CODE(this->document_, ZelData_NoData, this->get(*this->sample_));
 }
 
+TYPED_TEST(DataSet, ThatIsNotMadeInSpiteOfSuccessIsAnInternalError)
+{
+    this->document_.refuseSets(ZelData_Ok, ZelData_Ok);
+    EXPECT_CODE(this->document_, ZelData_InternalError, this->set(*this->sample_));
+    EXPECT_CODE(this->document_, ZelData_NoData, this->get(*this->sample_));
+}
+
 TYPED_TEST(DataSet, IsMadeOnlyWhenThereIsNone)
 {
     this->fill();

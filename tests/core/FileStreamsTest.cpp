@@ -77,10 +77,12 @@ TEST(FileStreams, OpeningForWritingEmptiesTheFile)
 
 TEST(FileStreams, AWideCharacterThatIsNoByteFailsTheStream)
 {
-    const TempFile file;
-    const auto stream = createWofstreamWithFile(file.path());
-    *stream << L'\x100' << std::flush;
-    EXPECT_TRUE(stream->fail());
+    for (const wchar_t character : {L'\x100', static_cast<wchar_t>(-2)}) {
+        const TempFile file;
+        const auto stream = createWofstreamWithFile(file.path());
+        *stream << character << std::flush;
+        EXPECT_TRUE(stream->fail());
+    }
 }
 
 TEST(FileStreams, EveryByteIsReadAsItsNumberInEveryLocale)

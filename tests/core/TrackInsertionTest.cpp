@@ -85,7 +85,7 @@ TEST(TrackInsertion, ExhaustedMemoryPassesThrough)
     std::string packet = emptyList;
     packet.shrink_to_fit();
     const FailingAllocation failing(0);
-    EXPECT_THROW(insert(packet, std::string()), std::bad_alloc);
+    EXPECT_THROW(static_cast<void>(insert(packet, std::string())), std::bad_alloc);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ REGISTERED = Path(os.environ["REGISTERED"])
 # A block without a word for its language is shown and not run.
 LANGUAGES = {"", "cmake", "cpp", "sh", "text", "xml"}
 
-# Whatever looks like the beginning of a block with a word behind it, however it is indented.
+# All that looks like the beginning of a block followed by a word, however it is indented.
 ANY_FENCE = re.compile(r"^[ \t>*+-]*(?:`{3,}|~{3,})[ \t]*(\w[^\s`]*)", re.MULTILINE)
 
 

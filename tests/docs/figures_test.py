@@ -46,7 +46,7 @@ class Figures(unittest.TestCase):
 
     def test_documents(self):
         rules = (ROOT / "tests/hostile/CMakeLists.txt").read_text(encoding="ascii")
-        count = int(re.search(r"set\(promise_documents (\d+)\)", rules)[1])
+        count = int(re.search(r"_PROMISE_DOCUMENTS=(\d+)\"", rules)[1])
         self.assert_named(f"{count:,} documents")
 
     def test_threads_and_writes(self):

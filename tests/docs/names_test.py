@@ -18,7 +18,7 @@ PROJECT_PATH = re.compile(r"(?:bench|cmake|docs|examples|include|scripts|src|tes
 
 
 def code_words(path):
-    """What stands between backquotes, in the text and not in a fenced block."""
+    """What is between backquotes, in the text and not in a fenced block."""
     text = re.sub(r"^```.*?^```$", "", path.read_text(encoding="utf-8"), flags=re.S | re.M)
     return CODE.findall(text)
 
@@ -62,7 +62,7 @@ class Names(unittest.TestCase):
         self.assertEqual({row[-1].strip("`") for row in rows}, tests)
 
     def test_every_oddity_names_a_test(self):
-        for heading in ("## The date", "## Oddities that players rely on"):
+        for heading in ("## The date", "## Deliberate oddities"):
             for oddity, *_, tests in rows_of(heading):
                 with self.subTest(oddity=oddity):
                     self.assertRegex(tests, r"^`[A-Z]\w+\.[A-Z]\w+`")

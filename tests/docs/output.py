@@ -25,8 +25,8 @@ def masked(text):
 
 
 def same(actual, block):
-    """Whether the text is the one shown; the line feed behind a printed packet does not count."""
-    # A date that is shown empty stands for any, but there must be one.
+    """Whether the text is the one shown; the line feed after a printed packet does not count."""
+    # A date that is shown empty matches any, but there must be one.
     shown = masked(block.text).replace('dc:date=""', 'dc:date="DATE"')
     if block.language == "xml":
         return masked(actual).removesuffix("\n") == in_one_line(shown)
@@ -34,7 +34,7 @@ def same(actual, block):
 
 
 def outputs_of(sample):
-    """The blocks behind the sample, and the file of the project that its first line refers to."""
+    """The blocks after the sample, and the file of the project that its first line refers to."""
     expected = sample.block.option("expected")
     if not expected:
         return sample.outputs

@@ -30,7 +30,7 @@ Options parseAll(const Words& words)
     return parseOptions(static_cast<int>(arguments.size()), arguments.data());
 }
 
-/// Parses @p words behind what is required.
+/// Parses @p words after what is required.
 Options parse(const Words& words)
 {
     Words all{"-o", "out.xmp", "--size", "640x480"};
@@ -49,7 +49,7 @@ std::string failureOfAll(const Words& words)
     return "(no failure)";
 }
 
-/// The message of the failure that @p words lead to behind what is required.
+/// The message of the failure that @p words lead to after what is required.
 std::string failureOf(const Words& words)
 {
     Words all{"-o", "out.xmp", "--size", "640x480"};
@@ -128,13 +128,13 @@ const Words wholeValues{"",    "-",     "--", "-x",    "--creator", "[a,b]", "[a
                         "a b", " a ",   "=",  "a=b",   "==",        "@file", "/x", "\\",
                         "\\n", "a;b",   "#x", "$HOME", "*",         "true",  "0"};
 
-TEST(OptionValues, AreTakenWholeBehindABlank)
+TEST(OptionValues, AreTakenWholeAfterABlank)
 {
     for (const std::string& value : wholeValues)
         EXPECT_EQ(parse({"--title", value}).title, value);
 }
 
-TEST(OptionValues, AreTakenWholeBehindAnEqualsSign)
+TEST(OptionValues, AreTakenWholeAfterAnEqualsSign)
 {
     for (const std::string& value : wholeValues)
         EXPECT_EQ(parse({"--title=" + value}).title, value);

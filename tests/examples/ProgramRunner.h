@@ -47,7 +47,7 @@ protected:
 
     /// The written packet's file, with the date of writing replaced by "DATE".
     std::string packet() const;
-    /// What stands between the tags of the packet's tracks.
+    /// The text between the tags of the packet's tracks.
     std::string tracks() const;
 
     /// Expects that @p run failed with one line that names @p named, and that no file but @p left

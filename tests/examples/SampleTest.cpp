@@ -27,7 +27,7 @@ std::string count(const std::string& file, const std::string& counts)
     return folder + file + ": " + counts + " empty (left out)\n";
 }
 
-TEST_F(SampleTest, ReportTellsEveryIrregularity)
+TEST_F(SampleTest, ReportNamesEveryIrregularity)
 {
     const RunResult done = publishSample();
     EXPECT_EQ(done.status, 0);

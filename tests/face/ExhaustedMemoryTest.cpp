@@ -40,7 +40,7 @@ Ending endingOf(const std::function<void()>& call, std::size_t granted, Shortage
     return ending;
 }
 
-/// Expects that each failure of memory is thrown to the caller, and that nothing is left behind.
+/// Expects that each failure of memory is thrown to the caller, and that nothing leaks.
 void expectTold(const std::function<void()>& call)
 {
     call(); // what it leaves in its object is there from here on

@@ -5,8 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <stdexcept>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 namespace ZelInterchangeData {
 namespace {
@@ -38,6 +43,34 @@ TEST(ZelDataError, ACopyOutlivesTheOperationsName)
     name.assign(name.size(), 'x');
     EXPECT_EQ("a name that is longer than a short string", copy.operation());
     static_assert(std::is_nothrow_copy_constructible_v<ZelDataError>);
+}
+
+TEST(ZelDataError, HasTheLayoutThatCallersWereCompiledWith)
+{
+    const ZelDataError error(ZelData_NoData, "getDataToc");
+    const auto at = [&error](std::size_t place, auto value) {
+        std::memcpy(&value, reinterpret_cast<const char*>(&error) + place, sizeof(value));
+        return value;
+    };
+    EXPECT_EQ(16U, sizeof(std::runtime_error));
+    EXPECT_EQ(32U, sizeof(error));
+    EXPECT_EQ(ZelData_NoData, at(16, ZelData_Ok));
+    EXPECT_EQ(error.operation().size(), at(24, std::size_t{0}));
+}
+
+TEST(ZelDataError, MovedOrAssignedIsACopy)
+{
+    ZelDataError original(ZelData_NoData, "getDataToc");
+    const ZelDataError moved(std::move(original));
+    // NOLINTNEXTLINE(bugprone-use-after-move): deliberate: what was moved from stays whole.
+    EXPECT_EQ("getDataToc", original.operation());
+    EXPECT_EQ("getDataToc", moved.operation());
+    ZelDataError assigned(ZelData_Ok, "");
+    assigned = moved;
+    EXPECT_STREQ(moved.what(), assigned.what());
+    EXPECT_EQ(ZelData_NoData, assigned.code());
+    EXPECT_EQ("getDataToc", assigned.operation());
+    static_assert(std::is_nothrow_move_constructible_v<ZelDataError>);
 }
 
 TEST(Check, LetsSuccessAlonePass)

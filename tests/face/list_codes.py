@@ -9,7 +9,7 @@ from pathlib import Path
 
 def codes(text):
     """The enumerators of the header's enumeration, in order."""
-    body = re.search(r"enum ZelDataResult_tags[^{]*\{(.*?)\};", text, re.DOTALL)[1]
+    body = re.search(r"enum \[\[nodiscard\]\] ZelDataResult_tags[^{]*\{(.*?)\};", text, re.DOTALL)[1]
     body = re.sub(r"//[^\n]*", "", body)
     return [enumerator.split("=")[0].strip() for enumerator in body.split(",")]
 

@@ -1,4 +1,4 @@
-"""The checked views against the slot lists: each operation of an interface stands in its view, and
+"""The checked views against the slot lists: each operation of an interface is in its view, and
 each function of a view calls the operation of its own name and names it so in the exception."""
 
 import os

@@ -1,5 +1,5 @@
 /// @file
-/// Filled headers, and what stands in a header as one value.
+/// Filled headers, and what a header holds as one value.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HEADER_HEADERS_H
 #define ZELINTERCHANGEDATA_TESTS_HEADER_HEADERS_H
@@ -49,9 +49,15 @@ inline void fill(i_ZelDataHeader& header, const HeaderValues& values)
     EXPECT_CODE(header, ZelData_Ok, header.setDescription(values.description));
     EXPECT_CODE(header, ZelData_Ok, header.setKeywords(values.keywords));
     EXPECT_CODE(header, ZelData_Ok, header.setIPodExplicit(values.iPodExplicit));
-    if (values.videoLength != 0) header.setVideoLength(values.videoLength);
-    if (values.videoWidth != 0) header.setVideoWidth(values.videoWidth);
-    if (values.videoHeight != 0) header.setVideoHeight(values.videoHeight);
+    if (values.videoLength != 0) {
+        EXPECT_CODE(header, ZelData_Ok, header.setVideoLength(values.videoLength));
+    }
+    if (values.videoWidth != 0) {
+        EXPECT_CODE(header, ZelData_Ok, header.setVideoWidth(values.videoWidth));
+    }
+    if (values.videoHeight != 0) {
+        EXPECT_CODE(header, ZelData_Ok, header.setVideoHeight(values.videoHeight));
+    }
     for (const std::string& id : values.languages)
         EXPECT_CODE(header, ZelData_Ok, header.addLanguage(id));
     for (const std::string& name : values.contentNames)

@@ -112,18 +112,24 @@ TEST_F(ZelDataHeaderTest, AHeaderIsValidWhenLengthAndSizeAreSet)
 {
     for (int missing = 0; missing < 3; ++missing) {
         const auto header = make(&ZelDataUtilities::createHeaderData);
-        if (missing != 0) header->setVideoLength(1);
-        if (missing != 1) header->setVideoWidth(1);
-        if (missing != 2) header->setVideoHeight(1);
+        if (missing != 0) {
+            EXPECT_EQ(ZelData_Ok, header->setVideoLength(1));
+        }
+        if (missing != 1) {
+            EXPECT_EQ(ZelData_Ok, header->setVideoWidth(1));
+        }
+        if (missing != 2) {
+            EXPECT_EQ(ZelData_Ok, header->setVideoHeight(1));
+        }
         EXPECT_CODE(*header, ZelData_InvalidArgument, header->isValid());
-        header->setVideoLength(1);
-        header->setVideoWidth(1);
-        header->setVideoHeight(1);
+        EXPECT_EQ(ZelData_Ok, header->setVideoLength(1));
+        EXPECT_EQ(ZelData_Ok, header->setVideoWidth(1));
+        EXPECT_EQ(ZelData_Ok, header->setVideoHeight(1));
         EXPECT_CODE(*header, ZelData_Ok, header->isValid());
     }
 }
 
-/// The search-bar flag and the content names are meant to survive.
+/// Deliberate: the search-bar flag and the content names survive.
 TEST_F(ZelDataHeaderTest, ClearingLeavesTheSearchBarAndTheContentNames)
 {
     fill(*header_, sampleValues());

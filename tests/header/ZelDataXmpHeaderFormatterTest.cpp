@@ -1,14 +1,11 @@
 /// @file
-/// The packet of a header: the whole text for given headers, and the refusals.
+/// The packet of a header: the whole text for given headers.
 
 #include "header/Headers.h"
 #include "header/ScriptedHeader.h"
 #include "support/Checks.h"
 
 #include <chrono>
-#include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <regex>
 #include <string>
@@ -16,10 +13,6 @@
 
 namespace ZelInterchangeData {
 namespace {
-
-constexpr auto otherFormats = {static_cast<ZelDataFormatType_tags>(0),
-                               static_cast<ZelDataFormatType_tags>(2),
-                               static_cast<ZelDataFormatType_tags>(0xFFFFFFFF)};
 
 const char* const beforeTitle = "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\" >"
                                 "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\""
@@ -84,7 +77,7 @@ protected:
         return written();
     }
 
-    /// The value of an attribute that stands once in the packet.
+    /// The value of an attribute that the packet has once.
     static std::string attribute(const std::string& packet, const std::string& name)
     {
         const std::string opening = " " + name + "=\"";
@@ -270,7 +263,7 @@ TEST_F(HeaderFormatter, HoldsACopy)
     const auto header = make(&ZelDataUtilities::createHeaderData);
     fill(*header, sampleValues());
     EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setHeader(*header));
-    header->setTitle("Changed");
+    EXPECT_EQ(ZelData_Ok, header->setTitle("Changed"));
     EXPECT_EQ("Boats", attribute(written(), "dc:title"));
 }
 
@@ -342,70 +335,6 @@ TEST_F(HeaderFormatter, GivesSuccessForAFailingHeaderThatKeptSuccess)
     source.script.keep(ZelData_Ok);
     EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setHeader(source));
     EXPECT_EQ("", attribute(written(), "dc:title"));
-}
-
-// Refusals
-
-TEST_F(HeaderFormatter, StartsWithoutErrorAndWithoutAHeader)
-{
-    EXPECT_EQ(ZelData_Ok, formatter_->getLastError());
-    std::string text = "as before";
-    EXPECT_CODE(*formatter_, ZelData_InvalidData,
-                formatter_->writeString(text, ZelDataFormat_Xmp, false));
-    EXPECT_EQ("as before", text);
-}
-
-TEST_F(HeaderFormatter, AnotherFormatIsRefusedBeforeTheHeaderIsLookedFor)
-{
-    std::string text = "as before";
-    for (const auto format : otherFormats) {
-        EXPECT_CODE(*formatter_, ZelData_InternalError,
-                    formatter_->writeString(text, format, false));
-    }
-    set(sampleValues());
-    for (const auto format : otherFormats) {
-        EXPECT_CODE(*formatter_, ZelData_InternalError,
-                    formatter_->writeString(text, format, true));
-    }
-    EXPECT_EQ("as before", text);
-}
-
-TEST_F(HeaderFormatter, ReadingAndFilesAreNotSupported)
-{
-    const std::string path = testing::TempDir() + "header_formatter_file.xmp";
-    std::ofstream(path) << "as before";
-    for (int round = 0; round < 2; ++round) { // without a header, and with one
-        for (const bool flag : {false, true}) {
-            EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                        formatter_->readString("<a></a>", ZelDataFormat_Xmp, flag));
-            EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                        formatter_->writeFile(path, ZelDataFormat_Xmp, flag));
-            for (const auto format : otherFormats) {
-                EXPECT_CODE(*formatter_, ZelData_InternalError,
-                            formatter_->readString("<a></a>", format, flag));
-                EXPECT_CODE(*formatter_, ZelData_InternalError,
-                            formatter_->writeFile(path, format, flag));
-            }
-        }
-        EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                    formatter_->readFile(path, ZelDataFormat_Xmp));
-        for (const auto format : otherFormats)
-            EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->readFile(path, format));
-        set(plainValues());
-    }
-    std::ifstream file(path);
-    EXPECT_EQ("as before", std::string(std::istreambuf_iterator<char>(file), {}));
-    std::remove(path.c_str());
-}
-
-TEST_F(HeaderFormatter, GivesNoHeaderBack)
-{
-    const auto header = make(&ZelDataUtilities::createHeaderData);
-    fill(*header, sampleValues());
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getHeader(*header));
-    set(plainValues());
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getHeader(*header));
-    EXPECT_EQ(described(sampleValues()), described(*header));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 /// @file
-/// Every code point through the text utilities: alone, between letters and behind an ampersand.
+/// Every code point through the text utilities: alone, between letters and after an ampersand.
 
 #include "hostile/CodePoints.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
@@ -37,9 +37,9 @@ std::string stripped(std::uint32_t point)
     return point < 0x20 && point != 0x0A ? std::string() : encoded(point);
 }
 
-/// What is left of the code point and a letter b behind an ampersand: the byte that shows that no
-/// entity begins here goes. Behind an a that is the byte after it.
-std::string leftBehindAmpersand(std::uint32_t point)
+/// What is left of the code point and a letter b after an ampersand: the byte that shows that no
+/// entity begins here goes. After an a that is the byte that follows it.
+std::string leftAfterAmpersand(std::uint32_t point)
 {
     return point == 'a' ? "a" : encoded(point).substr(1) + "b";
 }
@@ -90,10 +90,10 @@ TEST(EveryCodePoint, StandsForItselfWhereNoEntityBegins)
     });
 }
 
-TEST(EveryCodePoint, LosesItsFirstByteBehindAnAmpersandThatBeginsNoEntity)
+TEST(EveryCodePoint, LosesItsFirstByteAfterAnAmpersandThatBeginsNoEntity)
 {
     expectOfAll([](std::uint32_t point) {
-        return U::htmlTagsFromText("&" + encoded(point) + "b") == "&" + leftBehindAmpersand(point);
+        return U::htmlTagsFromText("&" + encoded(point) + "b") == "&" + leftAfterAmpersand(point);
     });
 }
 

@@ -1,5 +1,5 @@
 /// @file
-/// Texts that nobody wishes for.
+/// Texts that a careless program would not expect.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_HOSTILETEXTS_H
 #define ZELINTERCHANGEDATA_TESTS_HOSTILE_HOSTILETEXTS_H

@@ -109,7 +109,7 @@ Pieces texts(Dice& dice)
     return result;
 }
 
-/// A language, often with something behind it that nobody examines.
+/// A language, often followed by something that no check reads.
 std::string language(Dice& dice)
 {
     auto name = languageNames().begin();

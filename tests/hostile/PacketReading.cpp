@@ -53,7 +53,7 @@ const xmlNode* inside(const xmlNode* node, std::initializer_list<const char*> na
     return node;
 }
 
-/// Appends all that stands in @p node but the elements named @p leftOut.
+/// Appends all that @p node holds but the elements named @p leftOut.
 void append(Record& record, const xmlNode& node, std::string_view leftOut)
 {
     for (const xmlAttr* attribute = node.properties; attribute != nullptr;

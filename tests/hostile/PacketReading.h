@@ -9,7 +9,7 @@
 
 namespace ZelInterchangeData {
 
-/// All that stands in a part of a packet, in its order: attributes as "prefix:name=value", the text
+/// All that a part of a packet holds, in its order: attributes as "prefix:name=value", the text
 /// of an element as "text=...".
 using Record = std::vector<std::string>;
 

@@ -124,7 +124,7 @@ std::string packetOf(const i_ZelDataScreenText& screenText)
 
 std::string dateMasked(std::string packet)
 {
-    // Only the title stands before the date, and its quotation marks are escaped.
+    // Only the title comes before the date, and its quotation marks are escaped.
     const std::string name = " dc:date=\"";
     const std::size_t begin = packet.find(name);
     EXPECT_NE(std::string::npos, begin);

@@ -24,7 +24,7 @@ std::string testName(const ::testing::TestParamInfo<Parameter>& parameter)
     return name;
 }
 
-/// The names of all, the same one as often as it stands there.
+/// The names of all, each as often as it occurs.
 template <class Parameter>
 std::multiset<std::string> namesOf(const std::vector<Parameter>& parameters)
 {

@@ -11,14 +11,14 @@ using U = ZelDataUtilities;
 
 const std::string of = "ZelDataUtilities::";
 
-/// One entity: what it stands for, and how many bytes behind the ampersand choose it.
+/// One entity: what it stands for, and how many bytes after the ampersand choose it.
 struct Entity {
     std::string name;
     char character;
     std::size_t selectors;
 };
 
-/// The entity that the bytes behind the ampersand at @p at choose; one without a name if none.
+/// The entity that the bytes after the ampersand at @p at choose; one without a name if none.
 Entity chosenAt(const std::string& text, std::size_t at)
 {
     for (const Entity& entity :

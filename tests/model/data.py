@@ -35,6 +35,10 @@ class ForeignException(Exception):
     """Any other exception that a foreign implementation throws."""
 
 
+class EndOfThread(Exception):
+    """Cancellation or exit inside a foreign implementation. No operation catches it."""
+
+
 class Ref:
     """A reference argument."""
 

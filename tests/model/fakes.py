@@ -12,6 +12,7 @@ from data import (
     BadAlloc,
     CaptionItemInterface,
     CaptionsInterface,
+    EndOfThread,
     ForeignException,
     HeaderInterface,
     LanguageInterface,
@@ -37,7 +38,8 @@ class Script:
     c: fails; d: does its work, then fails; h: hands out half of the items, then fails;
     b, x: throws exhausted memory, something else; B, X: the same after handing out half of the
     items; l, m: fails, and from then on the last error's getter throws exhausted memory, something
-    else.
+    else; e, k: ends its thread, which exits or is cancelled; E: exits after handing out half of the
+    items; n: fails, and from then on the last error's getter ends its thread.
     """
 
     def __init__(self, at=0, mode="c", code=OK, last=OK):
@@ -48,6 +50,8 @@ class Script:
 
 
 def throw(mode):
+    if mode in "eEkn":
+        raise EndOfThread()
     raise BadAlloc() if mode in "bBl" else ForeignException()
 
 
@@ -96,13 +100,13 @@ class Fake:
 
     def go_wrong(self, work, half):
         mode = self.script.mode
-        if half and mode in "hBX":
+        if half and mode in "hBXE":
             half()
         if mode == "d":
             work()
-        if mode in "bBxX":
+        if mode in "bBxXeEk":
             throw(mode)
-        if mode in "lm":
+        if mode in "lmn":
             self.last_error_throws = mode
         self.keep(self.script.last)
         return self.script.code

@@ -8,7 +8,7 @@ import fakes
 import packet
 import text as texts
 from codes import OK, UNKNOWN_LANGUAGE
-from data import BadAlloc, ForeignException, Ref
+from data import BadAlloc, EndOfThread, ForeignException, Ref
 from signatures import FUNCTIONS, SIGNATURES
 from xmltree import Stream, safe_xml
 
@@ -99,6 +99,8 @@ def last_error(thing):
         return "%08x" % thing.getLastError()
     except (BadAlloc, ForeignException):
         return "throws"
+    except EndOfThread:
+        return "ended"
 
 
 DESCRIBED = (
@@ -428,6 +430,8 @@ class Session:
             return "bad_alloc"
         except ForeignException:
             return "exception"
+        except EndOfThread:
+            return "ended"
         return "-" if code is None else "%08x" % code
 
     def function(self, name, values):

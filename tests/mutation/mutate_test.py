@@ -128,8 +128,8 @@ class Verdicts(unittest.TestCase):
         self.assertEqual(len(self.seen), len(mutate.programs_for(self.mutant.file)))
 
     def test_the_first_program_that_fails_has_noticed(self):
-        result = self.verdict(test=lambda program: int(program == "core_tests"))
-        self.assertEqual((result, len(self.seen)), (("noticed", "core_tests"), 3))
+        result = self.verdict(test=lambda program: int(program == "header_tests"))
+        self.assertEqual((result, len(self.seen)), (("noticed", "header_tests"), 4))
 
     def test_a_program_that_runs_too_long_has_noticed(self):
         self.assertEqual(self.verdict(test=lambda program: None), ("noticed", "util_tests"))

@@ -78,11 +78,19 @@ void addItems(OperationsOf<Captions>& of)
         thread_local const auto item = callersCopyOf<ZelDataCaptionItem>(*filledCaption());
         return c.addCaptionItem(*item);
     });
+    of.add("addCaptionItem|with two languages that are not listed", [](Captions& c, Outs&) {
+        thread_local const auto item = captionWithOtherLanguages();
+        return c.addCaptionItem(*item);
+    });
     of.add("createCaptionItem",
            [](Captions& c, Outs& o) { return c.createCaptionItem(&o.caption.object); });
     of.add("removeCaptionItemAt", [](Captions& c, Outs&) { return c.removeCaptionItemAt(0); });
     of.add("removeCaptionItemsForLanguage",
            [](Captions& c, Outs&) { return c.removeCaptionItemsForLanguage(firstID); });
+    of.addOn(captionsInBothLanguages, "removeCaptionItemsForLanguage|that all have",
+             [](Captions& c, Outs&) { return c.removeCaptionItemsForLanguage(firstID); });
+    of.addOn(captionsWithLongTexts, "removeCaptionItemsForLanguage|with long texts",
+             [](Captions& c, Outs&) { return c.removeCaptionItemsForLanguage(firstID); });
     of.add("getCaptionItemCount",
            [](Captions& c, Outs& o) { return c.getCaptionItemCount(o.number); });
     of.add("getCaptionItemAt",
@@ -102,9 +110,7 @@ void addCaptionOperations(OperationList& list)
     OperationsOf<Captions> of(list, "ZelDataCaptions", filledCaptions);
     addLanguageOperations(of);
     of.add("isValid", [](Captions& c, Outs&) { return c.isValid(true); });
-    of.add("makeCaptionsConsistent", [](Captions& c, Outs&) {
-          return c.makeCaptionsConsistent();
-      }).inSteps();
+    of.add("makeCaptionsConsistent", [](Captions& c, Outs&) { return c.makeCaptionsConsistent(); });
     addStyle(of);
     addItems(of);
     of.add("copyFrom(const i_ZelDataCaptions&)", [](Captions& c, Outs&) {

@@ -18,7 +18,7 @@ namespace {
 
 const std::string refused = "refused by this machine: ";
 
-/// The child's part: @p said goes into the pipe, and nothing is cleaned up that is the parent's.
+/// The child's part: writes @p said into the pipe, and cleans nothing up that is the parent's.
 [[noreturn]] void answer(int pipe, const std::string& said)
 {
     const auto written = write(pipe, said.data(), said.size());

@@ -19,7 +19,7 @@ std::string inChild(const std::function<std::string()>& body);
 /// How many descriptors of this process are open.
 std::size_t openDescriptors();
 
-/// What a child says when the machine does not let it do @p what; errno tells why.
+/// What a child says when the machine does not let it do @p what; errno says why.
 std::string refusal(const std::string& what);
 
 /// Expects that a child was fine. A refusal is printed, which makes CTest call the test skipped.

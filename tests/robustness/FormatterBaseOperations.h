@@ -9,7 +9,7 @@
 
 namespace ZelInterchangeData {
 
-/// @p storesNothing tells whether the writing operations keep their final code to themselves.
+/// @p storesNothing says whether the writing operations keep their final code to themselves.
 template <class Object>
 void addFormatterBaseOperations(OperationsOf<Object>& of, bool storesNothing = false)
 {

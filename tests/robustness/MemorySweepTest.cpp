@@ -132,6 +132,37 @@ TEST(MemorySweep, MemoryThatStaysExhaustedLeavesEveryObjectWhole)
     sweepAll(Shortage::Lasting);
 }
 
+/// The operation of @p entry without its class, its arguments and without what distinguishes entries.
+std::string bareName(const std::string& entry)
+{
+    const std::string name = entry.substr(entry.find("::") + 2);
+    return name.substr(0, name.find_first_of("(|"));
+}
+
+TEST(MemorySweep, OnlyCopiesAndDisplayNamesMayEndHalfWay)
+{
+    const std::set<std::string> expected = {"copyFrom",
+                                            "getDataCaptions",
+                                            "getDataHeader",
+                                            "getDataScreenText",
+                                            "getDataToc",
+                                            "getLanguageDisplayNames",
+                                            "getLanguageNativeDisplayNames",
+                                            "setCaptions",
+                                            "setDataCaptions",
+                                            "setDataHeader",
+                                            "setDataScreenText",
+                                            "setDataToc",
+                                            "setHeader",
+                                            "setScreenText",
+                                            "setToc"};
+    std::set<std::string> stepwise;
+    for (const Operation& operation : allOperations()) {
+        if (operation.stepwise) stepwise.insert(bareName(operation.name));
+    }
+    EXPECT_EQ(expected, stepwise);
+}
+
 TEST(MemorySweep, TheListHasEveryOperationOfEveryInterface)
 {
     const std::set<std::string> expected = {

@@ -28,7 +28,7 @@ struct Subject {
 /// besides is made once for each thread.
 struct Operation {
     /// Class and operation, with the types of the arguments where the name alone would not do.
-    /// What follows a bar tells several entries for one operation apart.
+    /// The part after a bar distinguishes several entries for one operation.
     std::string name;
     std::function<Subject()> make;
     /// Lets the exception through.

@@ -44,7 +44,7 @@ class Outs {
 public:
     Outs();
 
-    /// What stands in all of them.
+    /// What all of them hold.
     [[nodiscard]] std::string described() const;
 
     std::string text = "a text that was there before the operation began";

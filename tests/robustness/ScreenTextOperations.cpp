@@ -83,9 +83,8 @@ void addScreenTextOperations(OperationList& list)
     addItemOperations(list);
     OperationsOf<ScreenText> of(list, "ZelDataScreenText", filledScreenText);
     of.add("isValid", [](ScreenText& s, Outs&) { return s.isValid(true); });
-    of.add("makeScreenTextConsistent", [](ScreenText& s, Outs&) {
-          return s.makeScreenTextConsistent();
-      }).inSteps();
+    of.add("makeScreenTextConsistent",
+           [](ScreenText& s, Outs&) { return s.makeScreenTextConsistent(); });
     of.add("setFrameRate", [](ScreenText& s, Outs&) { return s.setFrameRate(77); });
     of.add("getFrameRate", [](ScreenText& s, Outs& o) { return s.getFrameRate(o.number); });
     addItems(of);

@@ -69,6 +69,34 @@ std::unique_ptr<i_ZelDataCaptionItem> filledCaption()
     return item;
 }
 
+std::unique_ptr<i_ZelDataCaptionItem> captionWithOtherLanguages()
+{
+    auto item = captionAt(1500, otherID);
+    expectOk({item->setTextForLanguage(otherText, otherID + "-too")});
+    return item;
+}
+
+std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages()
+{
+    auto captions = make(&ZelDataUtilities::createCaptionData);
+    for (int i = 0; i < 3; ++i)
+        expectOk({captions->addCaptionItem(*filledCaption())});
+    return captions;
+}
+
+std::unique_ptr<i_ZelDataCaptions> captionsWithLongTexts()
+{
+    auto captions = make(&ZelDataUtilities::createCaptionData);
+    const std::string text(20000, 'x');
+    for (int i = 0; i < 2; ++i) {
+        auto item = filledCaption();
+        EXPECT_EQ(ZelData_WarnAlreadyExists, item->setTextForLanguage(text, firstID));
+        EXPECT_EQ(ZelData_WarnAlreadyExists, item->setTextForLanguage(text, secondID));
+        expectOk({captions->addCaptionItem(*item)});
+    }
+    return captions;
+}
+
 std::unique_ptr<i_ZelDataCaptions> filledCaptions()
 {
     auto captions = make(&ZelDataUtilities::createCaptionData);
@@ -86,6 +114,21 @@ std::unique_ptr<i_ZelDataTocItem> filledEntry()
     auto item = entryAt(1500, firstID);
     expectOk({item->setTextForLanguage(otherText, secondID)});
     return item;
+}
+
+std::unique_ptr<i_ZelDataTocItem> entryWithOtherLanguages()
+{
+    auto item = entryAt(1500, otherID);
+    expectOk({item->setTextForLanguage(otherText, otherID + "-too")});
+    return item;
+}
+
+std::unique_ptr<i_ZelDataToc> tocInBothLanguages()
+{
+    auto toc = make(&ZelDataUtilities::createTocData);
+    for (int i = 0; i < 3; ++i)
+        expectOk({toc->addTocItem(*filledEntry())});
+    return toc;
 }
 
 std::unique_ptr<i_ZelDataToc> filledToc()

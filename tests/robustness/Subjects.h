@@ -30,11 +30,21 @@ extern const std::vector<std::string> reversedIDs;
 
 std::unique_ptr<i_ZelDataHeader> filledHeader();
 std::unique_ptr<i_ZelDataCaptionItem> filledCaption();
+/// A caption in two languages that filledCaptions() do not list.
+std::unique_ptr<i_ZelDataCaptionItem> captionWithOtherLanguages();
 /// Two captions, the later one first. Each lacks the language of the other one.
 std::unique_ptr<i_ZelDataCaptions> filledCaptions();
+/// Three captions in the same two languages.
+std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages();
+/// Two captions in the same two languages, with texts of many kilobytes.
+std::unique_ptr<i_ZelDataCaptions> captionsWithLongTexts();
 std::unique_ptr<i_ZelDataTocItem> filledEntry();
+/// An entry in two languages that filledToc() does not list.
+std::unique_ptr<i_ZelDataTocItem> entryWithOtherLanguages();
 /// Two entries, the later one first. Each lacks the language of the other one.
 std::unique_ptr<i_ZelDataToc> filledToc();
+/// Three entries in the same two languages.
+std::unique_ptr<i_ZelDataToc> tocInBothLanguages();
 std::unique_ptr<i_ZelDataScreenTextItem> filledScreenTextItem();
 /// Two texts, the later one first.
 std::unique_ptr<i_ZelDataScreenText> filledScreenText();

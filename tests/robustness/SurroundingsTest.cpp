@@ -299,7 +299,7 @@ std::string changes()
         Outs outs;
         std::feclearexcept(FE_ALL_EXCEPT);
         const auto before = processState();
-        subject.call(outs);
+        mayRefuse(subject.call(outs));
         const auto found = difference(before, processState());
         if (!found.empty()) all += operation.name + ": " + found;
     }

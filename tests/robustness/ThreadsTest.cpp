@@ -26,7 +26,7 @@ constexpr std::size_t writeCount = 10000;
 constexpr std::size_t writesPerThread = writeCount / threadCount;
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// Lets nobody through before all are there.
+/// Lets no thread through before all have arrived.
 class Barrier {
 public:
     void wait()
@@ -93,7 +93,7 @@ std::unique_ptr<i_ZelDataHeader> ownHeader(std::size_t number)
     return header;
 }
 
-/// A document whose contents tell the thread.
+/// A document whose contents name the thread.
 std::unique_ptr<i_ZelInterchangeDataCore> ownDocument(std::size_t number)
 {
     const auto captions = make(&ZelDataUtilities::createCaptionData);

@@ -57,10 +57,16 @@ void addItems(OperationsOf<Toc>& of)
         thread_local const auto item = callersCopyOf<ZelDataTocItem>(*filledEntry());
         return t.addTocItem(*item);
     });
+    of.add("addTocItem|with two languages that are not listed", [](Toc& t, Outs&) {
+        thread_local const auto entry = entryWithOtherLanguages();
+        return t.addTocItem(*entry);
+    });
     of.add("createTocItem", [](Toc& t, Outs& o) { return t.createTocItem(&o.entry.object); });
     of.add("removeTocItemAt", [](Toc& t, Outs&) { return t.removeTocItemAt(0); });
     of.add("removeTocItemsForLanguage",
            [](Toc& t, Outs&) { return t.removeTocItemsForLanguage(firstID); });
+    of.addOn(tocInBothLanguages, "removeTocItemsForLanguage|that all have",
+             [](Toc& t, Outs&) { return t.removeTocItemsForLanguage(firstID); });
     of.add("getTocItemCount", [](Toc& t, Outs& o) { return t.getTocItemCount(o.number); });
     of.add("getTocItemAt", [](Toc& t, Outs& o) { return t.getTocItemAt(&o.entry.object, 1); });
     of.add("getTocItems", [](Toc& t, Outs& o) { return t.getTocItems(o.entries.objects); });
@@ -76,7 +82,7 @@ void addTocOperations(OperationList& list)
     OperationsOf<Toc> of(list, "ZelDataToc", filledToc);
     addLanguageOperations(of);
     of.add("isValid", [](Toc& t, Outs&) { return t.isValid(true); });
-    of.add("makeTocConsistent", [](Toc& t, Outs&) { return t.makeTocConsistent(); }).inSteps();
+    of.add("makeTocConsistent", [](Toc& t, Outs&) { return t.makeTocConsistent(); });
     of.add("setFrameRate", [](Toc& t, Outs&) { return t.setFrameRate(77); });
     of.add("getFrameRate", [](Toc& t, Outs& o) { return t.getFrameRate(o.number); });
     of.add("setImageFile", [](Toc& t, Outs&) { return t.setImageFile(otherText); });

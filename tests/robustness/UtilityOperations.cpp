@@ -7,7 +7,7 @@ namespace {
 
 using U = ZelDataUtilities;
 
-/// Adds a function; what it returns stands in the arguments.
+/// Adds a function; it returns its results in the arguments.
 Operation& add(OperationList& list, const std::string& name, ZelDataResult_tags (*act)(Outs&))
 {
     list.push_back({name, [act] { return Subject{nullptr, act, [] { return std::string(); }}; }});
@@ -145,6 +145,10 @@ void addUtilityOperations(OperationList& list)
     addCodes(list);
     addTexts(list);
     addFindings(list);
+    add(list, "libraryVersion", [](Outs& o) {
+        o.text = getValueString(libraryVersion());
+        return ZelData_Ok;
+    }).letsThrough();
     add(list, "getValueString", [](Outs& o) {
         o.text = getValueString(-9223372036854775807L);
         return ZelData_Ok;

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] std::size_t troubled() const noexcept;
 };
 
-/// While it lives, closing a file of the C library closes it and then tells of an error. One at a time.
+/// While it lives, closing a file of the C library closes it and then reports an error. One at a time.
 class FailingCloses {
 public:
     FailingCloses();

@@ -1,13 +1,17 @@
 """Gives every operation that takes a caller's object one that goes wrong at its first, second, third
 call and so on, in every way, and compares what happens with the model.
 
-foreign_sweep.py --driver PATH --slots FOLDER
+foreign_sweep.py --driver PATH --slots FOLDER [--share N/M]
+
+With a share only each M-th of these points is tried, from the N-th on: the shares 1/M to M/M have all
+of them.
 
 Compared are the code, both last errors, what each side holds afterwards, every call that is made on
 the caller's object and the number of such objects that are alive. Then the operation is called once
 more with the object in order."""
 
 import argparse
+import itertools
 import re
 import sys
 from collections import namedtuple
@@ -36,13 +40,14 @@ INTERFACES = {
 SETS = {"H": "Header", "C": "Captions", "T": "Toc", "S": "ScreenText"}
 ITEMS = {"C": ("CI", "Caption"), "T": ("TI", "Toc"), "S": ("SI", "ScreenText")}
 FORMATTERS = {"HF": "H", "CF": "C", "TF": "T", "SF": "S"}
-# Our classes behind each interface; the language operations belong to three of them.
+# Our classes for each interface; the language operations belong to three of them.
 OWN = {"L": ["H", "C", "T"], "D": ["D", "X"]}
 
 # What goes wrong: the model's letter for it, the code returned and the code kept. A known error and
 # a known warning, unknown ones, both bits at once, a failure that is kept as success, a code that is
 # no failure; a failure after the work was done or half of the items were handed out; exhausted
-# memory, an exception, a number thrown; a last error that cannot be asked for any more.
+# memory, an exception, a number thrown; the end of the thread; a last error that cannot be asked for
+# any more.
 WAYS = [
     ("c", INVALID_ARGUMENT, WARN_TIMING), ("c", WARN_TIMING, INVALID_ARGUMENT),
     ("c", 0x80000E11, 0x40000E22), ("c", 0x40000E22, 0x80000E11), ("c", 0xC0000E33, 0x80000E44),
@@ -50,9 +55,11 @@ WAYS = [
     ("c", INVALID_ARGUMENT, OK), ("d", 0x3FFFFFFF, INVALID_ARGUMENT),
     ("d", 0x80000E11, 0x40000E22), ("h", 0x80000E11, 0x40000E22),
     ("b", OK, OK), ("x", OK, OK), ("B", OK, OK), ("X", OK, OK),
+    ("e", OK, OK), ("k", OK, OK), ("E", OK, OK),
 ]
 # Of a target whose last error cannot be asked for, nothing can be said.
-SOURCE_WAYS = WAYS + [("l", 0x80000E11, 0x80000E11), ("m", 0x80000E11, 0x80000E11)]
+SOURCE_WAYS = WAYS + [("l", 0x80000E11, 0x80000E11), ("m", 0x80000E11, 0x80000E11),
+                        ("n", 0x80000E11, 0x80000E11)]
 
 # One operation with the family of the caller's object that it reads ("c") or changes ("m").
 Operation = namedtuple("Operation", "owner name direction family")
@@ -179,7 +186,7 @@ class Script:
             self.make(FULL + index, family, family, old=True)
 
     def make_called(self, kind):
-        """An object to call the operation on. What is old stands in it; "empty D" holds nothing."""
+        """An object to call the operation on. It holds what is old; "empty D" holds nothing."""
         is_empty, kind = kind.startswith("empty "), kind.split()[-1]
         if kind in ("D", "X"):
             self.emit("object.new", CALLED, kind)
@@ -247,8 +254,9 @@ def scenes(operation):
 class Sweep:
     """All calls of one scene, each going wrong in each way."""
 
-    def __init__(self, scene):
+    def __init__(self, scene, in_share):
         self.scene = scene
+        self.in_share = in_share
         self.script = Script()
         self.script.make_full_ones()
         self.points = [(0, "in order")]
@@ -281,6 +289,8 @@ class Sweep:
             self.script.look_at(self.scene.operation.family, ARGUMENT)
 
     def point(self, at, way, keeps_own):
+        if not next(self.in_share):
+            return
         mode, code, kept = way
         self.points.append((len(self.script.operations), "call %d, %s" % (at, (way, keeps_own))))
         self.prepare((at, mode, code, kept, keeps_own))
@@ -325,18 +335,26 @@ def check_list(slot_folder):
     return listed == expected and len(expected) > 0
 
 
+def share_of(text):
+    """For each point in turn whether it is in the share."""
+    number, _, shares = text.partition("/")
+    return itertools.cycle(index + 1 == int(number) for index in range(int(shares)))
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--driver", required=True)
     parser.add_argument("--slots", required=True)
+    parser.add_argument("--share", default="1/1")
     options = parser.parse_args()
     if not check_list(options.slots):
         return 1
+    in_share = share_of(options.share)
     scene_count = calls = points = steps = 0
     for operation in operations():
         reached = 0
         for scene in scenes(operation):
-            sweep = Sweep(scene)
+            sweep = Sweep(scene, in_share)
             reached += sweep.run()
             scene_count += 1
             points += len(sweep.points) - 1

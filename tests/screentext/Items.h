@@ -4,7 +4,9 @@
 #ifndef ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
 #define ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
 
-#include "support/Checks.h"
+#include "screentext/ZelDataScreenText.h"
+#include "screentext/ZelDataScreenTextItem.h"
+#include "support/Items.h"
 
 #include <memory>
 #include <ostream>
@@ -50,14 +52,6 @@ inline void fill(i_ZelDataScreenTextItem& item, const Shown& shown)
     EXPECT_EQ(ZelData_Ok, item.setGroupId(shown.group));
 }
 
-/// A new item that holds @p shown.
-inline std::unique_ptr<i_ZelDataScreenTextItem> itemOf(const Shown& shown)
-{
-    auto item = make(ZelDataUtilities::createScreenTextItemData);
-    fill(*item, shown);
-    return item;
-}
-
 /// What @p item holds.
 inline Shown contentsOf(const i_ZelDataScreenTextItem& item)
 {
@@ -72,39 +66,49 @@ inline Shown contentsOf(const i_ZelDataScreenTextItem& item)
     return shown;
 }
 
-/// Adds @p items to @p screenText, in order.
+/// Screen text under the names that all collections share.
+struct ScreenTextKind {
+    static constexpr auto name = "ScreenText";
+    using Values = Shown;
+    using Item = i_ZelDataScreenTextItem;
+    using OwnItem = ZelDataScreenTextItem;
+    using Data = i_ZelDataScreenText;
+    using Own = ZelDataScreenText;
+    using Formatter = i_ZelDataScreenTextFormatter;
+
+    static constexpr auto makeItem = &ZelDataUtilities::createScreenTextItemData;
+    static constexpr auto makeData = &ZelDataUtilities::createScreenTextData;
+    static constexpr auto makeFormatter = &ZelDataUtilities::createScreenTextFormatter;
+    static constexpr auto create = &Data::createScreenTextItem;
+    static constexpr auto add = &Data::addScreenTextItem;
+    static constexpr auto count = &Data::getScreenTextItemCount;
+    static constexpr auto at = &Data::getScreenTextItemAt;
+    static constexpr auto all = &Data::getScreenTextItems;
+    static constexpr auto removeAt = &Data::removeScreenTextItemAt;
+    static constexpr auto clear = &Data::clearScreenTextItems;
+    static constexpr auto order = &Own::orderScreenTextItems;
+    static constexpr auto makeConsistent = &Data::makeScreenTextConsistent;
+    static constexpr auto setData = &Formatter::setScreenText;
+};
+
+inline std::unique_ptr<i_ZelDataScreenTextItem> itemOf(const Shown& shown)
+{
+    return newItem<ScreenTextKind>(shown);
+}
+
 inline void add(i_ZelDataScreenText& screenText, const std::vector<Shown>& items)
 {
-    for (const Shown& shown : items)
-        EXPECT_EQ(ZelData_Ok, screenText.addScreenTextItem(*itemOf(shown)));
+    addItems<ScreenTextKind>(screenText, items);
 }
 
-/// A new collection of @p items.
 inline std::unique_ptr<i_ZelDataScreenText> screenTextOf(const std::vector<Shown>& items)
 {
-    auto screenText = make(ZelDataUtilities::createScreenTextData);
-    add(*screenText, items);
-    return screenText;
+    return newCollection<ScreenTextKind>(items);
 }
 
-/// The items of @p screenText, in stored order.
 inline std::vector<Shown> itemsOf(const i_ZelDataScreenText& screenText)
 {
-    std::vector<i_ZelDataScreenTextItem*> items;
-    EXPECT_EQ(ZelData_Ok, screenText.getScreenTextItems(items));
-    std::vector<Shown> all;
-    for (i_ZelDataScreenTextItem* item : items) {
-        const std::unique_ptr<i_ZelDataScreenTextItem> owned(item);
-        all.push_back(contentsOf(*owned));
-    }
-    return all;
-}
-
-inline unsigned long frameRateOf(const i_ZelDataScreenText& screenText)
-{
-    unsigned long rate = 0;
-    EXPECT_EQ(ZelData_Ok, screenText.getFrameRate(rate));
-    return rate;
+    return valuesOf<ScreenTextKind>(screenText);
 }
 
 } // namespace ZelInterchangeData

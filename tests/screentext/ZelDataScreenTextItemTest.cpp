@@ -64,16 +64,6 @@ TEST_F(ScreenTextItem, EveryGetterStoresSuccess)
     EXPECT_CODE(*item_, ZelData_Ok, item_->getGroupId(number));
 }
 
-TEST_F(ScreenTextItem, ANegativeStartIsRefusedAndTheEarlierOneKept)
-{
-    fill(*item_, {500, 20});
-    EXPECT_CODE(*item_, ZelData_InvalidArgument, item_->setStart(-1));
-    EXPECT_CODE(*item_, ZelData_InvalidArgument, item_->setStart(earliest));
-    EXPECT_EQ((Shown{500, 20}), contentsOf(*item_));
-    EXPECT_CODE(*item_, ZelData_Ok, item_->setStart(0));
-    EXPECT_EQ((Shown{0, 20}), contentsOf(*item_));
-}
-
 TEST_F(ScreenTextItem, TheEndMovesWithTheStart)
 {
     fill(*item_, {1000, 500});
@@ -168,33 +158,6 @@ TEST_F(ScreenTextItem, IsValidWhateverTheFlagAndTheTimes)
     fill(*item_, {latest, latest, "Click", "\xFF"});
     for (const bool deep : {false, true})
         EXPECT_CODE(*item_, ZelData_Ok, item_->isValid(deep));
-}
-
-TEST(ScreenTextItemAssignment, CopiesAllFieldsAndNotTheLastError)
-{
-    const Shown shown{7, 8, "Click", "s.png", 3, 4, 5};
-    ZelDataScreenTextItem source;
-    ZelDataScreenTextItem target;
-    fill(source, shown);
-    fill(target, {1, 1, "old", "t.png", 1, 1, 1});
-    source.setLastError(ZelData_NotFound);
-    target.setLastError(ZelData_InvalidItem);
-    EXPECT_EQ(&target, &(target = source));
-    EXPECT_EQ(ZelData_InvalidItem, target.getLastError());
-    EXPECT_EQ(ZelData_NotFound, source.getLastError());
-    EXPECT_EQ(shown, contentsOf(target));
-}
-
-TEST(ScreenTextItemAssignment, OntoItselfChangesNothing)
-{
-    const Shown shown{7, 8, "Click", "s.png", 3, 4, 5};
-    ZelDataScreenTextItem item;
-    fill(item, shown);
-    item.setLastError(ZelData_InvalidItem);
-    const ZelDataScreenTextItem& same = item;
-    item = same;
-    EXPECT_EQ(ZelData_InvalidItem, item.getLastError());
-    EXPECT_EQ(shown, contentsOf(item));
 }
 
 } // namespace

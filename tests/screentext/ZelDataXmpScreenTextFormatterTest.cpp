@@ -4,20 +4,13 @@
 #include "screentext/ZelDataXmpScreenTextFormatter.h"
 
 #include "screentext/Items.h"
-#include "support/fakes/FailingScreenText.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <limits>
-#include <new>
-#include <stdexcept>
 
 namespace ZelInterchangeData {
 namespace {
-
-const auto unknownFormat = static_cast<ZelDataFormatType_tags>(0);
-const auto otherFormat = static_cast<ZelDataFormatType_tags>(2);
 
 /// A track of @p markers that states @p rate.
 std::string track(const std::string& rate, const std::string& markers)
@@ -56,19 +49,6 @@ protected:
         make(ZelDataUtilities::createScreenTextFormatter);
 };
 
-TEST_F(ScreenTextFormatter, WritesManyItemsInTheOrderOfTheirStarts)
-{
-    std::vector<Shown> items;
-    std::string markers;
-    for (long long i = 0; i != 40; ++i) {
-        const long long start = i * 7 % 40; // each start once
-        items.push_back({start, 1, "at " + std::to_string(start)});
-        markers += marker("at " + std::to_string(i), std::to_string(i), "1");
-    }
-    give(items);
-    EXPECT_EQ(track("f1000", markers), written());
-}
-
 TEST_F(ScreenTextFormatter, WritesTextTimesImageAndGroup)
 {
     give({{2000, 1500, "Click Save", "shots.png", 3, 4096, 1}});
@@ -79,33 +59,6 @@ TEST_F(ScreenTextFormatter, WritesTextTimesImageAndGroup)
               R"(zelDM:imageoffset="4096" zelDM:tocEntry="1" ></rdf:Description></rdf:li>)"
               R"(</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>)",
               written());
-}
-
-TEST_F(ScreenTextFormatter, BeforeACollectionWasSetThereIsNothingToWrite)
-{
-    std::string out = "kept";
-    EXPECT_CODE(*formatter_, ZelData_InvalidData,
-                formatter_->writeString(out, ZelDataFormat_Xmp, false));
-    EXPECT_EQ("kept", out);
-}
-
-TEST_F(ScreenTextFormatter, AnotherFormatIsRefusedBeforeAndAfterACollectionWasSet)
-{
-    std::string out = "kept";
-    for (const auto format : {unknownFormat, otherFormat})
-        EXPECT_CODE(*formatter_, ZelData_InternalError,
-                    formatter_->writeString(out, format, false));
-    give({{1}});
-    for (const auto format : {unknownFormat, otherFormat})
-        EXPECT_CODE(*formatter_, ZelData_InternalError,
-                    formatter_->writeString(out, format, false));
-    EXPECT_EQ("kept", out);
-}
-
-TEST_F(ScreenTextFormatter, AnEmptyCollectionWritesNothingAndLeavesTheTextAlone)
-{
-    give({});
-    EXPECT_EQ("replaced", written());
 }
 
 TEST_F(ScreenTextFormatter, StatesTheCollectionsOwnFrameRate)
@@ -122,22 +75,6 @@ TEST_F(ScreenTextFormatter, WritesItemsInTheOrderOfTheirStarts)
     EXPECT_EQ(
         track("f1000", marker("a", "9", "1") + marker("b", "100", "1") + marker("c", "500", "1")),
         written());
-}
-
-TEST_F(ScreenTextFormatter, ItemsWithEqualStartsComeInTheOrderOfTheExchangeSort)
-{
-    give({{5, 1, "first"}, {5, 1, "second"}, {3, 1, "early"}});
-    EXPECT_EQ(track("f1000", marker("early", "3", "1") + marker("second", "5", "1") +
-                                 marker("first", "5", "1")),
-              written());
-}
-
-TEST_F(ScreenTextFormatter, SortingAffectsTheHeldCopyAlone)
-{
-    const auto texts = screenTextOf({{500}, {100}});
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(*texts));
-    written();
-    EXPECT_EQ((std::vector<Shown>{{500}, {100}}), itemsOf(*texts));
 }
 
 TEST_F(ScreenTextFormatter, ADurationOfZeroIsWritten)
@@ -185,90 +122,6 @@ TEST_F(ScreenTextFormatter, WritesTheLargestNumbersWhole)
                     R"(zelDM:imageoffset="18446744073709551615" )"
                     R"(zelDM:tocEntry="18446744073709551615" ></rdf:Description></rdf:li>)"),
               written());
-}
-
-TEST_F(ScreenTextFormatter, TheFlagOfWritingMeansNothingAndWritingAgainGivesTheSame)
-{
-    give({{2, 1, "b"}, {1, 1, "a"}});
-    std::string out;
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->writeString(out, ZelDataFormat_Xmp, false));
-    EXPECT_EQ(track("f1000", marker("a", "1", "1") + marker("b", "2", "1")), out);
-    EXPECT_EQ(out, written());
-}
-
-TEST_F(ScreenTextFormatter, HoldsACopyThatTheNextCollectionReplaces)
-{
-    const auto texts = screenTextOf({{1, 1, "a"}});
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(*texts));
-    EXPECT_EQ(ZelData_Ok, texts->clearScreenTextItems());
-    EXPECT_EQ(track("f1000", marker("a", "1", "1")), written());
-    give({{2, 2, "b"}}, 30);
-    EXPECT_EQ(track("f30", marker("b", "2", "2")), written());
-    give({});
-    EXPECT_EQ("replaced", written());
-}
-
-TEST_F(ScreenTextFormatter, AsksTheGivenCollectionForNoValidity)
-{
-    FailingScreenText texts;
-    texts.failAt("isValid", ZelData_InvalidData, ZelData_InvalidData);
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setScreenText(texts));
-    EXPECT_EQ("replaced", written());
-}
-
-TEST_F(ScreenTextFormatter, ACollectionThatCannotBeCopiedGivesItsLastErrorAndIsHeldAsFarAsItGot)
-{
-    give({{1, 1, "a"}});
-    FailingScreenText texts;
-    add(texts, {{2, 1, "b"}});
-    texts.failAt("getScreenTextItems", ZelData_InvalidItem, ZelData_NotFound);
-    EXPECT_CODE(*formatter_, ZelData_NotFound, formatter_->setScreenText(texts));
-    EXPECT_EQ("replaced", written());
-}
-
-TEST_F(ScreenTextFormatter, ExceptionsOfAGivenCollectionBecomeCodes)
-{
-    FailingScreenText texts;
-    texts.throwAt("getFrameRate", std::bad_alloc());
-    EXPECT_CODE(*formatter_, ZelData_OutOfMemory, formatter_->setScreenText(texts));
-    FailingScreenText other;
-    other.throwAt("getFrameRate", std::runtime_error("foreign"));
-    EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->setScreenText(other));
-}
-
-TEST_F(ScreenTextFormatter, WritesNoFile)
-{
-    const auto path = std::filesystem::temp_directory_path() / "screen-text-that-is-never-written";
-    EXPECT_CODE(*formatter_, ZelData_InvalidData,
-                formatter_->writeFile(path.string(), ZelDataFormat_Xmp, false));
-    EXPECT_CODE(*formatter_, ZelData_InternalError,
-                formatter_->writeFile(path.string(), unknownFormat, false));
-    give({{1, 1, "a"}});
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                formatter_->writeFile(path.string(), ZelDataFormat_Xmp, true));
-    EXPECT_CODE(*formatter_, ZelData_InternalError,
-                formatter_->writeFile(path.string(), otherFormat, false));
-    EXPECT_FALSE(std::filesystem::exists(path));
-}
-
-TEST_F(ScreenTextFormatter, ReadsNothing)
-{
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                formatter_->readString("<a></a>", ZelDataFormat_Xmp, false));
-    EXPECT_CODE(*formatter_, ZelData_InternalError,
-                formatter_->readString("<a></a>", unknownFormat, false));
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                formatter_->readFile("texts.xmp", ZelDataFormat_Xmp));
-    EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->readFile("texts.xmp", otherFormat));
-}
-
-TEST_F(ScreenTextFormatter, NeverGivesTheCollectionBack)
-{
-    const auto texts = screenTextOf({{1}});
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getScreenText(*texts));
-    give({{2}});
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getScreenText(*texts));
-    EXPECT_EQ(std::vector<Shown>{{1}}, itemsOf(*texts));
 }
 
 } // namespace

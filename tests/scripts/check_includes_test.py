@@ -36,7 +36,7 @@ class CheckIncludes(unittest.TestCase):
         self.assertEqual(result.stderr, offence + "\n")
 
     def test_own_room_and_lower_rooms_are_accepted(self):
-        self.write("src/toc/A.cpp", '#include "toc/A.h"\n#include "core/B.h"\n#include "xml/C.h"\n'
+        self.write("src/toc/A.cpp", '#include "toc/A.h"\n#include "sets/B.h"\n#include "xml/C.h"\n'
                                     '#include "util/D.h"\n#include "ZelInterchangeData/Thing.h"\n'
                                     "#include <vector>\n")
         self.assert_accepted()
@@ -70,7 +70,7 @@ class CheckIncludes(unittest.TestCase):
     def test_angle_brackets_hide_nothing(self):
         self.write("src/xml/A.cpp", "#include <core/B.h>\n")
         self.assert_refused(
-            "src/xml/A.cpp:1: <core/B.h> belongs to the project and is written in quotes")
+            "src/xml/A.cpp:1: <core/B.h> belongs to the project, so write it in quotes")
 
     def test_a_name_without_its_room_is_refused(self):
         self.write("src/xml/A.cpp", '#include "A.h"\n')
@@ -84,22 +84,22 @@ class CheckIncludes(unittest.TestCase):
     def test_a_name_made_by_a_macro_is_refused(self):
         self.write("src/xml/A.cpp", "#include CORE_HEADER\n")
         self.assert_refused(
-            "src/xml/A.cpp:1: the included file must be named in the line itself")
+            "src/xml/A.cpp:1: the #include line must name the file itself")
 
     def test_a_file_outside_the_rooms_is_refused(self):
         self.write("src/attic/A.cpp", "")
-        self.assert_refused("src/attic/A.cpp:1: lies in no room of the table")
+        self.assert_refused("src/attic/A.cpp:1: is in no room of the table")
 
     def test_a_file_beside_the_rooms_is_refused(self):
         self.write("src/A.cpp", "")
-        self.assert_refused("src/A.cpp:1: lies in no room of the table")
+        self.assert_refused("src/A.cpp:1: is in no room of the table")
 
     def test_an_example_uses_the_public_headers_alone(self):
         self.write("examples/a.cpp", '#include "ZelInterchangeData/Thing.h"\n#include "own.h"\n')
         self.assert_accepted()
         self.write("examples/a.cpp", '#include "util/Text.h"\n')
-        self.assert_refused('examples/a.cpp:1: "util/Text.h" is internal; an example uses the '
-                            "public headers alone")
+        self.assert_refused('examples/a.cpp:1: "util/Text.h" is internal; an example may '
+                            "include only public headers")
 
     def test_an_empty_tree_is_no_success(self):
         (self.root / "include/ZelInterchangeData/Thing.h").unlink()

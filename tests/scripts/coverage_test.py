@@ -130,7 +130,8 @@ class Markers(unittest.TestCase):
         for marker in ("uncovered line", "uncovered line:", "uncovered: why not", "uncovered"):
             with self.subTest(marker):
                 row = self.row(f"a(); // {marker}\n", line(1, 0))
-                self.assertEqual(row.offences, ["src/core/A.cpp:1: what is uncovered, and why?"])
+                self.assertEqual(row.offences, ["src/core/A.cpp:1: the marker must say what is "
+                                                "uncovered and why"])
                 self.assertEqual(row.missing, ["1"])
 
     def test_a_marker_on_what_is_reached_is_refused(self):
@@ -157,12 +158,12 @@ class Gate(unittest.TestCase):
 
     def test_one_line_of_a_thousand_is_missed(self):
         self.assertEqual(self.offences(999, 1000, 19, 20),
-                         ["99.9 % of lines are reached, 100.0 % must be"])
+                         ["99.9 % of lines reached, 100.0 % required"])
 
     def test_a_share_is_not_rounded_up(self):
         self.assertEqual(self.offences(9999, 10000, 18999, 20000),
-                         ["99.9 % of lines are reached, 100.0 % must be",
-                          "94.9 % of branches are taken, 95.0 % must be"])
+                         ["99.9 % of lines reached, 100.0 % required",
+                          "94.9 % of branches taken, 95.0 % required"])
 
     def test_nothing_counted_is_no_success(self):
         self.assertEqual(coverage.offences([], 100.0, 100.0), ["nothing was counted"])

@@ -50,20 +50,20 @@ class Pictures(unittest.TestCase):
 
     def test_a_new_arrow_between_rooms_is_noticed(self):
         (self.root / "src/header/A.cpp").write_text('#include "toc/B.h"\n', encoding="utf-8")
-        self.assert_offence("docs/pictures/rooms.dot: not current")
+        self.assert_offence("docs/pictures/rooms.dot: out of date")
 
     def test_an_arrow_that_was_there_already_changes_nothing(self):
-        (self.root / "src/header/A.cpp").write_text('#include "core/B.h"\n', encoding="utf-8")
+        (self.root / "src/header/A.cpp").write_text('#include "sets/B.h"\n', encoding="utf-8")
         self.assert_current()
 
     def test_a_room_that_is_gone_is_noticed(self):
         shutil.rmtree(self.root / "src" / "xml")
-        self.assert_offence("docs/pictures/rooms.dot: not current")
+        self.assert_offence("docs/pictures/rooms.dot: out of date")
 
     def test_another_structure_of_the_packet_is_noticed(self):
         self.change("tests/core/data/header-captions-toc-screentext.xmp", "dc:creator=",
                     "dc:creators=")
-        self.assert_offence("docs/pictures/packet.dot: not current")
+        self.assert_offence("docs/pictures/packet.dot: out of date")
 
     def test_other_values_in_the_packet_change_nothing(self):
         self.change("tests/core/data/header-captions-toc-screentext.xmp", "Click Save", "Save")
@@ -71,20 +71,20 @@ class Pictures(unittest.TestCase):
 
     def test_a_figure_that_changed_is_noticed(self):
         self.change("bench/figures.md", "| 1000 | shuffled | ", "| 2000 | shuffled | ")
-        self.assert_offence("docs/pictures/ratios.gp: not current")
+        self.assert_offence("docs/pictures/ratios.gp: out of date")
 
     def test_a_table_of_the_readme_that_differs_is_noticed(self):
         self.change("README.md", "| write ÷ straight appender | ≤ 2 | ",
                     "| write ÷ straight appender | ≤ 2 | 0.01, was ")
-        self.assert_offence("README.md: not current")
+        self.assert_offence("README.md: out of date")
 
     def test_a_picture_of_another_source_is_noticed(self):
         shutil.copy(self.root / "docs/pictures/rooms.svg", self.root / "docs/pictures/packet.svg")
-        self.assert_offence("docs/pictures/packet.svg: not drawn from packet.dot as it is")
+        self.assert_offence("docs/pictures/packet.svg: not drawn from the current packet.dot")
 
     def test_a_missing_picture_is_noticed(self):
         (self.root / "docs/pictures/ratios.svg").unlink()
-        self.assert_offence("docs/pictures/ratios.svg: not drawn from ratios.gp as it is")
+        self.assert_offence("docs/pictures/ratios.svg: not drawn from the current ratios.gp")
 
 
 if __name__ == "__main__":

@@ -36,6 +36,9 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
         EXPECT_EQ(expectedCode_, checkedObject_.getLastError()) << "last error of " #object;       \
     } while (false)
 
+/// Takes the code of a call that an object may refuse: what it then holds is a part of the test.
+inline void mayRefuse(::ZelInterchangeData::ZelDataResult_tags /*code*/) {}
+
 /// A new object from @p create, a factory that takes an out-pointer.
 template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(Interface**))

@@ -11,7 +11,7 @@
 namespace ZelInterchangeData {
 
 /// What happens at the allocations after the one that failed. When they succeed, an operation that
-/// took the failure for something else goes on with memory at hand, and is noticed.
+/// took the failure for something else goes on and has memory again, and is noticed.
 enum class Shortage { Lasting, Once };
 
 /// As long as it lives, the first allocations of this thread are granted and then one or all fail.

@@ -4,7 +4,9 @@
 #ifndef ZELINTERCHANGEDATA_TESTS_TOC_ENTRIES_H
 #define ZELINTERCHANGEDATA_TESTS_TOC_ENTRIES_H
 
-#include "support/Checks.h"
+#include "support/Items.h"
+#include "toc/ZelDataToc.h"
+#include "toc/ZelDataTocItem.h"
 
 #include <map>
 #include <memory>
@@ -47,22 +49,11 @@ inline void fill(i_ZelDataTocItem& item, const Entry& entry)
     EXPECT_EQ(ZelData_Ok, item.setImageOffset(entry.offset));
 }
 
-/// A new item that holds @p entry.
-inline std::unique_ptr<i_ZelDataTocItem> itemOf(const Entry& entry)
-{
-    auto item = make(ZelDataUtilities::createTocItemData);
-    fill(*item, entry);
-    return item;
-}
-
 /// What @p item holds.
 inline Entry contentsOf(const i_ZelDataTocItem& item)
 {
     Entry entry;
-    std::vector<std::string> ids;
-    EXPECT_EQ(ZelData_Ok, item.getLanguageIDs(ids));
-    for (const std::string& id : ids)
-        EXPECT_EQ(ZelData_Ok, item.getTextForLanguage(entry.titles[id], id));
+    entry.titles = textsOf(item);
     EXPECT_EQ(ZelData_Ok, item.getStart(entry.start));
     EXPECT_EQ(ZelData_Ok, item.getImageFile(entry.image));
     EXPECT_EQ(ZelData_Ok, item.getImageIndex(entry.index));
@@ -70,39 +61,50 @@ inline Entry contentsOf(const i_ZelDataTocItem& item)
     return entry;
 }
 
-/// Adds @p entries to @p toc, in order.
+/// A table of contents under the names that all collections share.
+struct TocKind {
+    static constexpr auto name = "Toc";
+    using Values = Entry;
+    using Item = i_ZelDataTocItem;
+    using OwnItem = ZelDataTocItem;
+    using Data = i_ZelDataToc;
+    using Own = ZelDataToc;
+    using Formatter = i_ZelDataTocFormatter;
+
+    static constexpr auto makeItem = &ZelDataUtilities::createTocItemData;
+    static constexpr auto makeData = &ZelDataUtilities::createTocData;
+    static constexpr auto makeFormatter = &ZelDataUtilities::createTocFormatter;
+    static constexpr auto create = &Data::createTocItem;
+    static constexpr auto add = &Data::addTocItem;
+    static constexpr auto count = &Data::getTocItemCount;
+    static constexpr auto at = &Data::getTocItemAt;
+    static constexpr auto all = &Data::getTocItems;
+    static constexpr auto removeAt = &Data::removeTocItemAt;
+    static constexpr auto removeLanguage = &Data::removeTocItemsForLanguage;
+    static constexpr auto clear = &Data::clearTocItems;
+    static constexpr auto order = &Own::orderTocItems;
+    static constexpr auto makeConsistent = &Data::makeTocConsistent;
+    static constexpr auto setData = &Formatter::setToc;
+};
+
+inline std::unique_ptr<i_ZelDataTocItem> itemOf(const Entry& entry)
+{
+    return newItem<TocKind>(entry);
+}
+
 inline void add(i_ZelDataToc& toc, const std::vector<Entry>& entries)
 {
-    for (const Entry& entry : entries)
-        EXPECT_EQ(ZelData_Ok, toc.addTocItem(*itemOf(entry)));
+    addItems<TocKind>(toc, entries);
 }
 
-/// A new table of @p entries.
 inline std::unique_ptr<i_ZelDataToc> tocOf(const std::vector<Entry>& entries)
 {
-    auto toc = make(ZelDataUtilities::createTocData);
-    add(*toc, entries);
-    return toc;
+    return newCollection<TocKind>(entries);
 }
 
-/// The entries of @p toc, in stored order.
 inline std::vector<Entry> entriesOf(const i_ZelDataToc& toc)
 {
-    std::vector<i_ZelDataTocItem*> items;
-    EXPECT_EQ(ZelData_Ok, toc.getTocItems(items));
-    std::vector<Entry> entries;
-    for (i_ZelDataTocItem* item : items) {
-        const std::unique_ptr<i_ZelDataTocItem> owned(item);
-        entries.push_back(contentsOf(*owned));
-    }
-    return entries;
-}
-
-inline std::vector<std::string> languagesOf(const i_ZelDataToc& toc)
-{
-    std::vector<std::string> ids;
-    EXPECT_EQ(ZelData_Ok, toc.getOrderedLanguageIDs(ids));
-    return ids;
+    return valuesOf<TocKind>(toc);
 }
 
 inline std::string imageOf(const i_ZelDataToc& toc)
@@ -110,13 +112,6 @@ inline std::string imageOf(const i_ZelDataToc& toc)
     std::string name;
     EXPECT_EQ(ZelData_Ok, toc.getImageFile(name));
     return name;
-}
-
-inline unsigned long frameRateOf(const i_ZelDataToc& toc)
-{
-    unsigned long rate = 0;
-    EXPECT_EQ(ZelData_Ok, toc.getFrameRate(rate));
-    return rate;
 }
 
 } // namespace ZelInterchangeData

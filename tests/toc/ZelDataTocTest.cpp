@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <new>
 #include <stdexcept>
 
 namespace ZelInterchangeData {
@@ -29,25 +28,6 @@ TEST_F(Toc, StartsEmpty)
     EXPECT_TRUE(languagesOf(*toc_).empty());
 }
 
-TEST_F(Toc, AcceptsFrameRatesFrom1To10000)
-{
-    for (const unsigned long rate : {1UL, 30UL, 10000UL}) {
-        EXPECT_CODE(*toc_, ZelData_Ok, toc_->setFrameRate(rate));
-        unsigned long stored = 0;
-        EXPECT_CODE(*toc_, ZelData_Ok, toc_->getFrameRate(stored));
-        EXPECT_EQ(rate, stored);
-    }
-}
-
-TEST_F(Toc, RefusesOtherFrameRatesAndKeepsTheEarlierOne)
-{
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setFrameRate(25));
-    for (const unsigned long rate : {0UL, 10001UL, 0x100000001UL}) {
-        EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setFrameRate(rate));
-    }
-    EXPECT_EQ(25UL, frameRateOf(*toc_));
-}
-
 TEST_F(Toc, TheImageFileIsStoredUnchecked)
 {
     const std::string anyBytes("\xFF\0<&>", 5);
@@ -55,119 +35,6 @@ TEST_F(Toc, TheImageFileIsStoredUnchecked)
     std::string name;
     EXPECT_CODE(*toc_, ZelData_Ok, toc_->getImageFile(name));
     EXPECT_EQ(anyBytes, name);
-}
-
-TEST_F(Toc, RefusesALanguageThatIsNotUtf8OrUnknownOrListed)
-{
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("en"));
-    EXPECT_CODE(*toc_, ZelData_InvalidUtf8, toc_->addLanguage("en-\xC3"));
-    EXPECT_CODE(*toc_, ZelData_UnknownLanguage, toc_->addLanguage("xx"));
-    EXPECT_CODE(*toc_, ZelData_WarnAlreadyExists, toc_->addLanguage("en"));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("EN"));
-    EXPECT_EQ((Ids{"en", "EN"}), languagesOf(*toc_));
-}
-
-TEST_F(Toc, RemovingAnAbsentLanguageReturnsNotFound)
-{
-    add(*toc_, {{0, {{"de", "1"}, {"en", "2"}}}});
-    EXPECT_CODE(*toc_, ZelData_NotFound, toc_->removeLanguage("fr"));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeLanguage("de"));
-    EXPECT_EQ(Ids{"en"}, languagesOf(*toc_));
-    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "1"}, {"en", "2"}}}}), entriesOf(*toc_));
-}
-
-TEST_F(Toc, AnOrderOfLanguagesMayRepeatOneButNotBringAnother)
-{
-    add(*toc_, {{0, {{"de", "1"}, {"en", "2"}}}});
-    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setOrderedLanguageIDs({"en"}));
-    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setOrderedLanguageIDs({"en", "fr"}));
-    EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->setOrderedLanguageIDs({"en", "de", "en"}));
-    EXPECT_EQ((Ids{"de", "en"}), languagesOf(*toc_));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setOrderedLanguageIDs({"en", "de"}));
-    EXPECT_EQ((Ids{"en", "de"}), languagesOf(*toc_));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setOrderedLanguageIDs({"en", "en"}));
-    EXPECT_EQ((Ids{"en", "en"}), languagesOf(*toc_));
-}
-
-TEST_F(Toc, TellsCountAndMembershipOfItsLanguages)
-{
-    add(*toc_, {{0, {{"de", "1"}, {"en", "2"}}}});
-    unsigned long count = 0;
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->getLanguageCount(count));
-    EXPECT_EQ(2UL, count);
-    std::string id = "en";
-    bool exists = false;
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->doesLanguageExist(id, exists));
-    EXPECT_TRUE(exists);
-    id = "EN";
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->doesLanguageExist(id, exists));
-    EXPECT_FALSE(exists);
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->clearLanguages());
-    EXPECT_TRUE(languagesOf(*toc_).empty());
-}
-
-TEST_F(Toc, AnEntryListsItsLanguagesInByteOrder)
-{
-    add(*toc_, {{0, {{"fr", "Un"}, {"de", "Eins"}}}});
-    EXPECT_EQ((Ids{"de", "fr"}), languagesOf(*toc_));
-}
-
-TEST_F(Toc, LanguagesThatAreListedKeepTheirPlace)
-{
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("fr"));
-    add(*toc_, {{0, {{"de", "Eins"}, {"fr", "Un"}}}, {1, {{"EN", "Two"}, {"fr", "Deux"}}}});
-    EXPECT_EQ((Ids{"fr", "de", "EN"}), languagesOf(*toc_));
-}
-
-TEST_F(Toc, ClearingTheEntriesClearsTheLanguagesToo)
-{
-    add(*toc_, {{0, {{"de", "Eins"}}}});
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->addLanguage("fr"));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setFrameRate(25));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->setImageFile("t.png"));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->clearTocItems());
-    EXPECT_TRUE(entriesOf(*toc_).empty());
-    EXPECT_TRUE(languagesOf(*toc_).empty());
-    EXPECT_EQ(25UL, frameRateOf(*toc_));
-    EXPECT_EQ("t.png", imageOf(*toc_));
-}
-
-TEST_F(Toc, RemovingAnEntryLeavesTheLanguages)
-{
-    add(*toc_, {{0, {{"de", "Eins"}}}, {1, {{"en", "Two"}}}});
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeTocItemAt(0));
-    EXPECT_EQ((Ids{"de", "en"}), languagesOf(*toc_));
-}
-
-TEST_F(Toc, RemovingALanguagesTextsLeavesEntriesAndLanguage)
-{
-    add(*toc_, {{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"de", "Zwei"}}}});
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeTocItemsForLanguage("de"));
-    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "One"}}}, {1}}), entriesOf(*toc_));
-    EXPECT_EQ((Ids{"de", "en"}), languagesOf(*toc_));
-}
-
-TEST_F(Toc, RemovingALanguagesTextsStopsAtAnEntryWithout)
-{
-    add(*toc_, {{0, {{"de", "Eins"}}}, {1, {{"en", "Two"}}}, {2, {{"de", "Drei"}}}});
-    EXPECT_CODE(*toc_, ZelData_NotFound, toc_->removeTocItemsForLanguage("de"));
-    EXPECT_EQ((std::vector<Entry>{{0}, {1, {{"en", "Two"}}}, {2, {{"de", "Drei"}}}}),
-              entriesOf(*toc_));
-}
-
-TEST_F(Toc, RemovingTheTextsOfAnEmptyTableSucceeds)
-{
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeTocItemsForLanguage("xx"));
-}
-
-TEST_F(Toc, EntriesForALanguageAreNotProvided)
-{
-    i_ZelDataTocItem* const kept = nullptr;
-    std::vector<i_ZelDataTocItem*> items{kept};
-    EXPECT_CODE(*toc_, ZelData_NotImplemented, toc_->getTocItemsForLanguage(items, "de"));
-    add(*toc_, {{0, {{"de", "Eins"}}}});
-    EXPECT_CODE(*toc_, ZelData_NotImplemented, toc_->getTocItemsForLanguage(items, "de"));
-    EXPECT_EQ(std::vector<i_ZelDataTocItem*>{kept}, items);
 }
 
 // Checking
@@ -207,16 +74,6 @@ TEST_F(Toc, AMissingTextIsAnErrorUntilTheTableIsMadeConsistent)
     EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(false));
 }
 
-TEST_F(Toc, TextsInUnlistedLanguagesAreLeftAlone)
-{
-    add(*toc_, {{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"en", "Two"}}}});
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->removeLanguage("de"));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(true));
-    EXPECT_CODE(*toc_, ZelData_Ok, toc_->makeTocConsistent());
-    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "Eins"}, {"en", "One"}}}, {1, {{"en", "Two"}}}}),
-              entriesOf(*toc_));
-}
-
 TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
 {
     add(*toc_, {{100, {{"en", "a"}}}, {100}, {50, {{"en", "c"}}}});
@@ -227,46 +84,6 @@ TEST_F(Toc, AMissingTextIsFoundBeforeTheSameEntrysDisorder)
 {
     add(*toc_, {{100}, {50, {{"en", "b"}}}});
     EXPECT_CODE(*toc_, ZelData_InvalidArgument, toc_->isValid(false));
-}
-
-/// A table whose rate is out of range, as no setter would leave it.
-class TocWithRate : public ZelDataToc {
-public:
-    explicit TocWithRate(unsigned long rate) { frameRate_.value = rate; }
-};
-
-TEST(TocWithABadRate, IsInvalidEvenWithoutEntries)
-{
-    for (const unsigned long rate : {0UL, 10001UL}) {
-        const TocWithRate toc(rate);
-        EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(false));
-        EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(true));
-    }
-}
-
-TEST(TocWithABadRate, TheRateIsFoundBeforeDisorder)
-{
-    TocWithRate toc(0);
-    add(toc, {{500}, {100}});
-    EXPECT_CODE(toc, ZelData_InvalidArgument, toc.isValid(false));
-}
-
-TEST(TocWithABadRate, IsRepairedToTheStandardRate)
-{
-    for (const unsigned long rate : {0UL, 10001UL}) {
-        TocWithRate toc(rate);
-        EXPECT_CODE(toc, ZelData_Ok, toc.makeTocConsistent());
-        EXPECT_EQ(1000UL, frameRateOf(toc));
-    }
-}
-
-TEST(TocWithAGoodRate, KeepsItWhenMadeConsistent)
-{
-    for (const unsigned long rate : {1UL, 10000UL}) {
-        TocWithRate toc(rate);
-        EXPECT_CODE(toc, ZelData_Ok, toc.makeTocConsistent());
-        EXPECT_EQ(rate, frameRateOf(toc));
-    }
 }
 
 TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
@@ -333,14 +150,14 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
 
 // The order is looked at first, so an entry is asked for its start a second time.
 
-TEST(StoredEntry, TheLastErrorOfOneThatDoesNotTellItsStartIsTakenOver)
+TEST(StoredEntry, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
 {
     TocOfFailing toc;
     toc.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-TEST(StoredEntry, AStartThatItLeavesOpenCountsAsZero)
+TEST(StoredEntry, AStartThatItDoesNotSetCountsAsZero)
 {
     TocOfFailing toc;
     toc.added({5}).failAt("getStart", ZelData_Ok, ZelData_Ok, 2);
@@ -375,20 +192,6 @@ TEST(StoredEntry, ThatCannotTakeAnEmptyTextEndsTheRepair)
     EXPECT_CODE(toc, ZelData_NoData, toc.makeTocConsistent());
 }
 
-TEST(StoredEntry, ThatRunsOutOfMemoryIsNotTakenForOneWithoutText)
-{
-    TocOfFailing returning;
-    returning.added({0, {{"en", "a"}}})
-        .failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
-    EXPECT_CODE(returning, ZelData_OutOfMemory, returning.makeTocConsistent());
-    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "a"}}}}), entriesOf(returning));
-
-    TocOfFailing throwing;
-    throwing.added({0, {{"en", "a"}}}).throwAt("getTextForLanguage", std::bad_alloc());
-    EXPECT_CODE(throwing, ZelData_OutOfMemory, throwing.makeTocConsistent());
-    EXPECT_EQ((std::vector<Entry>{{0, {{"en", "a"}}}}), entriesOf(throwing));
-}
-
 // Languages of an added entry
 
 TEST(AddedEntry, WhoseLanguagesCannotBeReadIsNotAdded)
@@ -410,25 +213,6 @@ TEST(AddedEntry, WhoseLanguagesCannotBeReadIsNotAdded)
     unsigned long count = 1;
     EXPECT_CODE(toc, ZelData_Ok, toc.getTocItemCount(count));
     EXPECT_EQ(0UL, count);
-}
-
-TEST(AddedEntry, WhoseLanguageIsRefusedIsNotAddedButItsEarlierLanguagesStay)
-{
-    FailingToc toc;
-    toc.failAt("addLanguage", ZelData_UnknownLanguage, ZelData_NoData, 2);
-    EXPECT_CODE(toc, ZelData_NoData, toc.addTocItem(*itemOf({0, {{"de", "1"}, {"en", "2"}}})));
-    EXPECT_EQ(ZelData_NoData, toc.storedError());
-    EXPECT_EQ(Ids{"de"}, languagesOf(toc));
-    EXPECT_TRUE(entriesOf(toc).empty());
-}
-
-TEST(AddedEntry, AWarningForItsLanguageIsNoHindrance)
-{
-    FailingToc toc;
-    toc.failAt("addLanguage", ZelData_WarnTiming, ZelData_Ok);
-    EXPECT_CODE(toc, ZelData_Ok, toc.addTocItem(*itemOf({0, {{"de", "1"}, {"en", "2"}}})));
-    EXPECT_EQ(Ids{"en"}, languagesOf(toc));
-    EXPECT_EQ((std::vector<Entry>{{0, {{"de", "1"}, {"en", "2"}}}}), entriesOf(toc));
 }
 
 } // namespace

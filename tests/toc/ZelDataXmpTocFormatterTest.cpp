@@ -8,16 +8,11 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <limits>
 #include <new>
-#include <stdexcept>
 
 namespace ZelInterchangeData {
 namespace {
-
-const auto unknownFormat = static_cast<ZelDataFormatType_tags>(0);
-const auto otherFormat = static_cast<ZelDataFormatType_tags>(2);
 
 /// A track of @p markers for a table with @p image.
 std::string track(const std::string& image, const std::string& markers)
@@ -56,19 +51,6 @@ protected:
     std::unique_ptr<i_ZelDataTocFormatter> formatter_ = make(ZelDataUtilities::createTocFormatter);
 };
 
-TEST_F(TocFormatter, WritesManyEntriesInTheOrderOfTheirStarts)
-{
-    std::vector<Entry> entries;
-    std::string markers;
-    for (long long i = 0; i != 40; ++i) {
-        const long long start = i * 7 % 40; // each start once
-        entries.push_back({start, {{"en", "at " + std::to_string(start)}}});
-        markers += marker("at " + std::to_string(i), std::to_string(i));
-    }
-    give(entries);
-    EXPECT_EQ(track("", markers), written());
-}
-
 TEST_F(TocFormatter, WritesImageEntriesAndThumbnails)
 {
     give({{0, {{"en", "Intro"}}, "thumbs.png", 0, 0},
@@ -87,52 +69,10 @@ TEST_F(TocFormatter, WritesImageEntriesAndThumbnails)
               written());
 }
 
-TEST_F(TocFormatter, BeforeATableWasSetThereIsNothingToWrite)
-{
-    std::string out = "kept";
-    EXPECT_CODE(*formatter_, ZelData_InvalidData,
-                formatter_->writeString(out, ZelDataFormat_Xmp, false));
-    EXPECT_EQ("kept", out);
-}
-
-TEST_F(TocFormatter, AnotherFormatIsRefusedBeforeAndAfterATableWasSet)
-{
-    std::string out = "kept";
-    for (const auto format : {unknownFormat, otherFormat})
-        EXPECT_CODE(*formatter_, ZelData_InternalError,
-                    formatter_->writeString(out, format, false));
-    give({{0}});
-    for (const auto format : {unknownFormat, otherFormat})
-        EXPECT_CODE(*formatter_, ZelData_InternalError,
-                    formatter_->writeString(out, format, false));
-    EXPECT_EQ("kept", out);
-}
-
-TEST_F(TocFormatter, ATableWithoutEntriesWritesNothingAndLeavesTheTextAlone)
-{
-    give({}, "toc.png");
-    EXPECT_EQ("replaced", written());
-}
-
 TEST_F(TocFormatter, WritesEntriesInTheOrderOfTheirStarts)
 {
     give({{500, {{"en", "c"}}}, {9, {{"en", "a"}}}, {100, {{"en", "b"}}}});
     EXPECT_EQ(track("", marker("a", "9") + marker("b", "100") + marker("c", "500")), written());
-}
-
-TEST_F(TocFormatter, EntriesWithEqualStartsComeInTheOrderOfTheExchangeSort)
-{
-    give({{5, {{"en", "first"}}}, {5, {{"en", "second"}}}, {3, {{"en", "early"}}}});
-    EXPECT_EQ(track("", marker("early", "3") + marker("second", "5") + marker("first", "5")),
-              written());
-}
-
-TEST_F(TocFormatter, SortingAffectsTheHeldCopyAlone)
-{
-    const auto toc = tocOf({{500, {{"en", "b"}}}, {100, {{"de", "a"}}}});
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setToc(*toc));
-    written();
-    EXPECT_EQ((std::vector<Entry>{{500, {{"en", "b"}}}, {100, {{"de", "a"}}}}), entriesOf(*toc));
 }
 
 TEST_F(TocFormatter, StatesTheStandardFrameRateWhateverTheTableHas)
@@ -202,104 +142,6 @@ TEST_F(TocFormatter, WritesTheLargestNumbersWhole)
               written());
 }
 
-TEST_F(TocFormatter, WritesTheSameAgain)
-{
-    give({{2, {{"en", "b"}}}, {1, {{"de", "a"}}}});
-    const std::string expected = track("", marker("", "1") + marker("b", "2"));
-    EXPECT_EQ(expected, written());
-    EXPECT_EQ(expected, written());
-}
-
-TEST_F(TocFormatter, TheFlagOfWritingMeansNothing)
-{
-    give({{1, {{"en", "a"}}}});
-    std::string out = "replaced";
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->writeString(out, ZelDataFormat_Xmp, false));
-    EXPECT_EQ(track("", marker("a", "1")), out);
-}
-
-TEST_F(TocFormatter, HoldsACopyThatTheNextTableReplaces)
-{
-    const auto toc = tocOf({{1, {{"en", "a"}}}});
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setToc(*toc));
-    EXPECT_EQ(ZelData_Ok, toc->clearTocItems());
-    EXPECT_EQ(track("", marker("a", "1")), written());
-    give({{2, {{"de", "b"}}}}, "new.png");
-    EXPECT_EQ(track("new.png", marker("b", "2")), written());
-    give({});
-    EXPECT_EQ("replaced", written());
-}
-
-TEST_F(TocFormatter, AsksTheGivenTableForNoValidity)
-{
-    FailingToc toc;
-    toc.failAt("isValid", ZelData_InvalidData, ZelData_InvalidData);
-    EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->setToc(toc));
-    EXPECT_EQ("replaced", written());
-}
-
-TEST_F(TocFormatter, ATableThatCannotBeCopiedGivesItsLastErrorAndIsHeldAsFarAsItGot)
-{
-    give({{1, {{"en", "a"}}}}, "old.png");
-    FailingToc toc;
-    add(toc, {{2, {{"de", "b"}}}});
-    toc.failAt("getTocItems", ZelData_InvalidItem, ZelData_NotFound);
-    EXPECT_CODE(*formatter_, ZelData_NotFound, formatter_->setToc(toc));
-    EXPECT_EQ("replaced", written());
-}
-
-TEST_F(TocFormatter, ExceptionsOfAGivenTableBecomeCodes)
-{
-    FailingToc toc;
-    toc.throwAt("getImageFile", std::bad_alloc());
-    EXPECT_CODE(*formatter_, ZelData_OutOfMemory, formatter_->setToc(toc));
-    FailingToc other;
-    other.throwAt("getImageFile", std::runtime_error("foreign"));
-    EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->setToc(other));
-}
-
-TEST_F(TocFormatter, AListedLanguageTwiceCannotBeHeld)
-{
-    const auto toc = tocOf({{1, {{"de", "a"}, {"en", "b"}}}});
-    EXPECT_EQ(ZelData_Ok, toc->setOrderedLanguageIDs({"en", "en"}));
-    EXPECT_CODE(*formatter_, ZelData_WarnAlreadyExists, formatter_->setToc(*toc));
-}
-
-TEST_F(TocFormatter, WritesNoFile)
-{
-    const auto path = std::filesystem::temp_directory_path() / "toc-track-that-is-never-written";
-    EXPECT_CODE(*formatter_, ZelData_InvalidData,
-                formatter_->writeFile(path.string(), ZelDataFormat_Xmp, false));
-    EXPECT_CODE(*formatter_, ZelData_InternalError,
-                formatter_->writeFile(path.string(), unknownFormat, false));
-    give({{1, {{"en", "a"}}}});
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                formatter_->writeFile(path.string(), ZelDataFormat_Xmp, true));
-    EXPECT_CODE(*formatter_, ZelData_InternalError,
-                formatter_->writeFile(path.string(), otherFormat, false));
-    EXPECT_FALSE(std::filesystem::exists(path));
-}
-
-TEST_F(TocFormatter, ReadsNothing)
-{
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                formatter_->readString("<a></a>", ZelDataFormat_Xmp, false));
-    EXPECT_CODE(*formatter_, ZelData_InternalError,
-                formatter_->readString("<a></a>", unknownFormat, false));
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented,
-                formatter_->readFile("toc.xmp", ZelDataFormat_Xmp));
-    EXPECT_CODE(*formatter_, ZelData_InternalError, formatter_->readFile("toc.xmp", otherFormat));
-}
-
-TEST_F(TocFormatter, NeverGivesTheTableBack)
-{
-    const auto toc = tocOf({{1}});
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getToc(*toc));
-    give({{2}});
-    EXPECT_CODE(*formatter_, ZelData_NotImplemented, formatter_->getToc(*toc));
-    EXPECT_EQ(std::vector<Entry>{{1}}, entriesOf(*toc));
-}
-
 // The titles of all languages
 
 TEST(TocList, ListsTheTitlesInTheOrderOfTheLanguages)
@@ -312,7 +154,7 @@ TEST(TocList, ListsTheTitlesInTheOrderOfTheLanguages)
               out);
 }
 
-TEST(TocList, SkipsLanguagesWithoutTitleAndTellsSo)
+TEST(TocList, SkipsLanguagesWithoutTitleAndReturnsFalse)
 {
     const auto item = itemOf({0, {{"de", "Eins"}, {"en", ""}}});
     std::string out;

@@ -1,5 +1,5 @@
 /// @file
-/// Dates in UTC with the hours of the local zone behind them.
+/// Dates in UTC followed by the hours of the local zone.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "support/FailingAllocation.h"
@@ -111,7 +111,7 @@ TEST(GetDateString, TakesTheCurrentTimeForNull)
         found = now == ZelDataUtilities::getDateString(&argument);
     }
     EXPECT_TRUE(found) << now;
-    EXPECT_GT(before, march5) << "the clock must be set for this test to tell anything";
+    EXPECT_GT(before, march5) << "set the clock: this test needs it";
 }
 
 TEST(GetDateString, LeavesTheArgumentAlone)

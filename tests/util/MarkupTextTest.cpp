@@ -1,8 +1,8 @@
 /// @file
 /// Text on its way into markup, against the two utilities that define it.
 
-#include "util/MarkupText.h"
 #include "support/TextRules.h"
+#include "util/TextUtilities.h"
 
 #include <gtest/gtest.h>
 

@@ -15,7 +15,7 @@ namespace {
 SharedBytes bytesOf(const std::string& text)
 {
     SharedBytes bytes(text.size());
-    std::memcpy(bytes.data(), text.data(), text.size());
+    std::memcpy(bytes.mutableData(), text.data(), text.size());
     return bytes;
 }
 

@@ -200,6 +200,8 @@ TEST(GetVersionString, JoinsMajorMinorAndPatch)
 {
     EXPECT_EQ(ZelDataUtilities::getVersionString(0), "0.0.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x00020103), "2.1.3");
+    EXPECT_EQ(ZelDataUtilities::getVersionString(66048), "1.2.0");
+    EXPECT_EQ(ZelDataUtilities::getVersionString(10200), "0.39.216"); // packed in another way
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x010A00FF), "266.0.255");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x0000FF00), "0.255.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0xFFFFFFFF), "65535.255.255");

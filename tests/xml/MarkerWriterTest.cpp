@@ -10,7 +10,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-TEST(MarkerWriter, WritesAttributesInTheirOrderWithABlankBehindEach)
+TEST(MarkerWriter, WritesAttributesInTheirOrderWithABlankAfterEach)
 {
     std::string text = "before";
     MarkerWriter markers(text);

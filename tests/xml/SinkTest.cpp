@@ -1,5 +1,5 @@
 /// @file
-/// The node that stands in where there is none to return to.
+/// The node that replaces one that is missing.
 
 #include "xml/Sink.h"
 

@@ -97,5 +97,6 @@ int main()
 {
     std::cout << "title " << titleIn(writtenPacket()) << '\n'
               << "without memory " << messageWithoutMemory() << '\n'
-              << "version " << ZELINTERCHANGEDATA_VERSION << '\n';
+              << "version " << ZELINTERCHANGEDATA_VERSION << ", running " << libraryVersion()
+              << '\n';
 }

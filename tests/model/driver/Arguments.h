@@ -50,7 +50,7 @@ public:
     using Argument<T>::Argument;
 };
 
-/// A reference: the script tells what stands there before, the answer what stands there after.
+/// A reference: the script gives the value before, the answer the value after.
 template <class T>
 class Argument<T&, std::enable_if_t<!isObject<T> && !isItemList<T> && !std::is_const_v<T>>> {
 public:

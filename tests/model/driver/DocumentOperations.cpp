@@ -31,7 +31,7 @@ std::string pathOf(const std::string& where, const std::string& folder)
     return path;
 }
 
-/// What stands at @p path now. Of a path with a zero byte, what stands at the part before it.
+/// The contents of @p path now; of a path with a zero byte, those of the part before it.
 std::string contentOf(const std::string& path)
 {
     std::ifstream in(path.c_str(), std::ios::binary);

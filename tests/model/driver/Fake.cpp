@@ -1,5 +1,7 @@
 #include "Fake.h"
 
+#include <pthread.h>
+
 #include <cstring>
 #include <new>
 #include <stdexcept>
@@ -33,11 +35,21 @@ void FakeControl::begin(const std::string& name, Notes* notes)
     setScript(script_);
 }
 
+namespace {
+
+bool isOneOf(char mode, const char* modes)
+{
+    return std::strchr(modes, mode) != nullptr;
+}
+
+} // namespace
+
 void FakeControl::setScript(const FakeScript& script)
 {
     script_ = script;
     calls_ = 0;
     lastErrorThrows_ = 0;
+    if (script.at != 0) mayEndThread_ = isOneOf(script.mode, "eEkn");
 }
 
 void FakeControl::note(const std::string& call) const
@@ -49,6 +61,7 @@ void FakeControl::throwIfLastErrorDoes() const
 {
     if (lastErrorThrows_ == 'l') throw std::bad_alloc();
     if (lastErrorThrows_ == 'm') throw std::runtime_error("foreign");
+    if (lastErrorThrows_ == 'n') pthread_exit(nullptr);
 }
 
 ZelDataResult_tags FakeControl::call(const std::string& operation, const Work& work,
@@ -57,20 +70,27 @@ ZelDataResult_tags FakeControl::call(const std::string& operation, const Work& w
 {
     note(operation + arguments);
     ++calls_;
-    return calls_ == script_.at ? goWrong(work, half) : keep(work());
+    if (calls_ == script_.at) return goWrong(work, half);
+    const auto code = work();
+    keep(code);
+    return code;
 }
 
 ZelDataResult_tags FakeControl::goWrong(const Work& work, const std::function<void()>& half) const
 {
     ++wentWrong_;
     const char mode = script_.mode;
-    const auto isOneOf = [mode](const char* modes) { return std::strchr(modes, mode) != nullptr; };
-    if (half && isOneOf("hBX")) half();
-    if (mode == 'd') work();
-    if (isOneOf("bB")) throw std::bad_alloc();
+    if (half && isOneOf(mode, "hBXE")) half();
+    if (mode == 'd') static_cast<void>(work()); // the code of the script counts
+    if (isOneOf(mode, "bB")) throw std::bad_alloc();
     if (mode == 'x') throw std::runtime_error("foreign");
     if (mode == 'X') throw 42;
-    if (isOneOf("lm")) lastErrorThrows_ = mode;
+    if (isOneOf(mode, "eE")) pthread_exit(nullptr);
+    if (mode == 'k') {
+        pthread_cancel(pthread_self());
+        pthread_testcancel();
+    }
+    if (isOneOf(mode, "lmn")) lastErrorThrows_ = mode;
     keep(script_.last);
     return script_.code;
 }

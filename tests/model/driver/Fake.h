@@ -24,7 +24,9 @@ using ZelInterchangeData::ZelDataResult_tags;
 ///
 /// c: fails; d: does its work, then fails; h: hands out half of the items, then fails; b, x: throws
 /// exhausted memory, something else; B, X: the same after handing out half of the items; l, m:
-/// fails, and from then on getLastError() throws exhausted memory, something else.
+/// fails, and from then on getLastError() throws exhausted memory, something else; e, k: ends its
+/// thread, which exits or is cancelled; E: exits after handing out half of the items; n: fails, and
+/// from then on getLastError() ends its thread.
 struct FakeScript {
     unsigned long at = 0;
     char mode = 'c';
@@ -63,6 +65,8 @@ public:
     static int alive() { return alive_; }
     /// How many calls of all fakes did what a script says.
     static unsigned long wentWrong() { return wentWrong_; }
+    /// Whether a script that ends a thread was set after the last one that did.
+    static bool mayEndThread() { return mayEndThread_; }
 
     virtual ~FakeControl() { --alive_; }
 
@@ -86,14 +90,15 @@ protected:
                             const std::string& arguments = {},
                             const std::function<void()>& half = {}) const;
     void throwIfLastErrorDoes() const;
-    /// Keeps @p code as the last error and gives it back.
-    virtual ZelDataResult_tags keep(ZelDataResult_tags code) const = 0;
+    /// Keeps @p code as the last error.
+    virtual void keep(ZelDataResult_tags code) const = 0;
 
 private:
     ZelDataResult_tags goWrong(const Work& work, const std::function<void()>& half) const;
 
     inline static int alive_ = 0;
     inline static unsigned long wentWrong_ = 0;
+    inline static bool mayEndThread_ = false;
 
     std::string name_;
     Notes* notes_ = nullptr;
@@ -102,7 +107,7 @@ private:
     mutable char lastErrorThrows_ = 0;
 };
 
-/// A fake of @p Interface. Its last error stands in the interface's field or in one of its own.
+/// A fake of @p Interface. It keeps its last error in the interface's field or in one of its own.
 template <class Interface>
 class Fake : public Interface, public FakeControl {
 public:
@@ -124,10 +129,13 @@ protected:
         Interface::setLastError(ZelInterchangeData::ZelData_Ok);
         own_ = ZelInterchangeData::ZelData_Ok;
     }
-    ZelDataResult_tags keep(ZelDataResult_tags code) const override
+    void keep(ZelDataResult_tags code) const override
     {
-        if (keepsOwn()) return own_ = code;
-        return this->store(code);
+        if (keepsOwn()) {
+            own_ = code;
+        } else {
+            Interface::setLastError(code);
+        }
     }
     template <class T, class V>
     ZelDataResult_tags put(const std::string& operation, T& field, const V& value)

@@ -8,6 +8,8 @@
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
 
+#include <stdexcept>
+
 namespace model {
 
 using namespace ZelInterchangeData;
@@ -22,7 +24,7 @@ Maker data(ZelDataResult_tags (*factory)(I**))
 {
     return [factory] {
         I* made = nullptr;
-        factory(&made);
+        if (failed(factory(&made))) throw std::runtime_error("no object was made");
         return Made(made);
     };
 }
@@ -32,7 +34,9 @@ Maker formatter(ZelDataResult_tags (*factory)(I**, ZelDataFormatType_tags))
 {
     return [factory] {
         I* made = nullptr;
-        factory(&made, ZelDataFormat_Xmp);
+        if (failed(factory(&made, ZelDataFormat_Xmp))) {
+            throw std::runtime_error("no formatter was made");
+        }
         return Made(made);
     };
 }

@@ -5,8 +5,10 @@
 #define ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
 
 #include "Arguments.h"
+#include "Fake.h"
 #include "Session.h"
 
+#include <exception>
 #include <functional>
 #include <new>
 #include <string>
@@ -29,17 +31,23 @@ void addTreeOperations(Operations& operations);
 /// Making and destroying objects, and the script of a fake.
 void addObjectOperations(Operations& operations);
 
-/// The code that @p call gives as eight digits, or the kind of exception that it throws.
+/// The code that @p call gives as eight digits, or the kind of exception that it throws, or "ended"
+/// where it ends its thread.
 template <class Call>
 std::string codeOf(Call&& call)
 {
-    try {
-        return hexadecimal(call());
-    } catch (const std::bad_alloc&) {
-        return "bad_alloc";
-    } catch (...) {
-        return "exception";
-    }
+    const auto run = [&]() -> std::string {
+        try {
+            return hexadecimal(call());
+        } catch (const std::bad_alloc&) {
+            return "bad_alloc";
+        } catch (const std::exception&) {
+            return "exception";
+        } catch (int) {
+            return "exception";
+        }
+    };
+    return FakeControl::mayEndThread() ? inThread(run) : run();
 }
 
 template <class I, class Method, class... Args>

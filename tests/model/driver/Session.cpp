@@ -2,15 +2,27 @@
 
 #include "Fake.h"
 
+#include <thread>
+
 namespace model {
+
+std::string inThread(const std::function<std::string()>& call)
+{
+    std::string result = "ended";
+    std::thread([&] { result = call(); }).join();
+    return result;
+}
 
 std::string lastError(const ZelInterchangeData::i_ZelDataResult& object)
 {
-    try {
-        return hexadecimal(object.getLastError());
-    } catch (...) {
-        return "throws";
-    }
+    const auto read = [&]() -> std::string {
+        try {
+            return hexadecimal(object.getLastError());
+        } catch (const std::exception&) {
+            return "throws";
+        }
+    };
+    return FakeControl::mayEndThread() ? inThread(read) : read();
 }
 
 void Session::keep(int slot, std::unique_ptr<ZelInterchangeData::i_ZelDataResult> object)

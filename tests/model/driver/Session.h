@@ -16,7 +16,10 @@
 
 namespace model {
 
-/// The last error of @p object as eight digits, or "throws".
+/// What @p call gives, or "ended" where it ends its thread, which is another one than this.
+std::string inThread(const std::function<std::string()>& call);
+
+/// The last error of @p object as eight digits, "throws" or "ended".
 std::string lastError(const ZelInterchangeData::i_ZelDataResult& object);
 
 /// Objects by number, the notes of the fakes, and the words of script and answer.

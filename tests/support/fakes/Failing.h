@@ -13,11 +13,16 @@
 
 namespace ZelInterchangeData {
 
+/// Called before each operation of every such object in this thread, unless it is empty.
+inline thread_local std::function<void()> beforeEachCall;
+
 /// A @p Base that fails where a test asks for it. A class that derives from it overrides operations
 /// and passes each through run(). It counts the objects of its kind that are alive.
 template <class Base>
 class Failing : public Base {
 public:
+    using Own = Base;
+
     Failing() { ++alive(); }
     Failing(const Failing&) = delete;
     Failing& operator=(const Failing&) = delete;
@@ -55,6 +60,9 @@ public:
     /// What the library stored, whatever getLastError() was made to read.
     ZelDataResult_tags storedError() const { return Base::getLastError(); }
 
+    /// Hands a list of items out before the operation fails.
+    void handOutBeforeFailing() { handsOut_ = true; }
+
     /// The operations that were called so far, in order.
     const std::vector<std::string>& calls() const { return calls_; }
 
@@ -69,9 +77,18 @@ protected:
     template <class Operation>
     ZelDataResult_tags run(const char* name, Operation&& operation) const
     {
+        if (beforeEachCall) beforeEachCall();
         calls_.emplace_back(name);
         if (name != operation_ || --remaining_ != 0) return operation();
         return action_();
+    }
+    /// Hands a list of items out with @p operation; before a failure too where a test asks for it.
+    template <class Operation>
+    ZelDataResult_tags runHandingOut(const char* name, Operation&& operation) const
+    {
+        if (!handsOut_) return run(name, operation);
+        static_cast<void>(operation());
+        return run(name, [] { return ZelData_Ok; });
     }
 
 private:
@@ -86,6 +103,7 @@ private:
     std::function<ZelDataResult_tags()> action_;
     mutable int remaining_ = 0;
     mutable std::vector<std::string> calls_;
+    bool handsOut_ = false;
     bool tripped_ = false;
     ZelDataResult_tags lastError_ = ZelData_Ok;
 };

@@ -6,7 +6,7 @@
 
 #include "captions/ZelDataCaptionItem.h"
 #include "captions/ZelDataCaptions.h"
-#include "support/fakes/Failing.h"
+#include "support/fakes/FailingParts.h"
 
 #include <functional>
 #include <string>
@@ -16,62 +16,11 @@
 namespace ZelInterchangeData {
 
 /// A caption item, each operation of which can fail.
-class FailingCaptionItem : public Failing<ZelDataCaptionItem> {
-    using Own = ZelDataCaptionItem;
-    using Text = const std::string&;
-
+class FailingCaptionItem : public FailingTexts<FailingSpan<FailingItem<ZelDataCaptionItem>>> {
 public:
-    ZelDataResult_tags isValid(bool strict) const override
-    {
-        return run("isValid", [&] { return Own::isValid(strict); });
-    }
-    ZelDataResult_tags clearText() override
-    {
-        return run("clearText", [&] { return Own::clearText(); });
-    }
-    ZelDataResult_tags setTextForLanguage(Text text, Text id) override
-    {
-        return run("setTextForLanguage", [&] { return Own::setTextForLanguage(text, id); });
-    }
-    ZelDataResult_tags setStart(long long start) override
-    {
-        return run("setStart", [&] { return Own::setStart(start); });
-    }
-    ZelDataResult_tags setEnd(long long end) override
-    {
-        return run("setEnd", [&] { return Own::setEnd(end); });
-    }
-    ZelDataResult_tags setDuration(long long duration) override
-    {
-        return run("setDuration", [&] { return Own::setDuration(duration); });
-    }
     ZelDataResult_tags setAlignment(ZelAlignment_tags alignment) override
     {
         return run("setAlignment", [&] { return Own::setAlignment(alignment); });
-    }
-    ZelDataResult_tags removeTextForLanguage(Text id) override
-    {
-        return run("removeTextForLanguage", [&] { return Own::removeTextForLanguage(id); });
-    }
-    ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const override
-    {
-        return run("getLanguageIDs", [&] { return Own::getLanguageIDs(ids); });
-    }
-    ZelDataResult_tags getTextForLanguage(std::string& text, Text id) const override
-    {
-        return run("getTextForLanguage", [&] { return Own::getTextForLanguage(text, id); });
-    }
-    ZelDataResult_tags getStart(long long& start) const override
-    {
-        return run("getStart", [&] { return Own::getStart(start); });
-    }
-    ZelDataResult_tags getEnd(long long& end) const override
-    {
-        return run("getEnd", [&] { return Own::getEnd(end); });
-    }
-    ZelDataResult_tags getDuration(long long& duration) const override
-    {
-        return run("getDuration", [&] { return Own::getDuration(duration); });
     }
     ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const override
     {
@@ -80,8 +29,7 @@ public:
 };
 
 /// Captions, each operation of which that a copy uses can fail. Their items are failing ones too.
-class FailingCaptions : public Failing<ZelDataCaptions> {
-    using Own = ZelDataCaptions;
+class FailingCaptions : public FailingLanguages<FailingCollection<ZelDataCaptions>> {
     using Text = const std::string&;
 
 public:
@@ -90,29 +38,7 @@ public:
     {
         prepare_ = std::move(prepare);
     }
-    /// Makes the items be handed out before a failure of getCaptionItems.
-    void handOutBeforeFailing() { handsOut_ = true; }
 
-    ZelDataResult_tags clearLanguages() override
-    {
-        return run("clearLanguages", [&] { return Own::clearLanguages(); });
-    }
-    ZelDataResult_tags addLanguage(Text id) override
-    {
-        return run("addLanguage", [&] { return Own::addLanguage(id); });
-    }
-    ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const override
-    {
-        return run("getOrderedLanguageIDs", [&] { return Own::getOrderedLanguageIDs(ids); });
-    }
-    ZelDataResult_tags setFrameRate(unsigned long rate) override
-    {
-        return run("setFrameRate", [&] { return Own::setFrameRate(rate); });
-    }
-    ZelDataResult_tags getFrameRate(unsigned long& rate) const override
-    {
-        return run("getFrameRate", [&] { return Own::getFrameRate(rate); });
-    }
     ZelDataResult_tags setFontFamily(Text family) override
     {
         return run("setFontFamily", [&] { return Own::setFontFamily(family); });
@@ -172,14 +98,11 @@ public:
     }
     ZelDataResult_tags getCaptionItems(std::vector<i_ZelDataCaptionItem*>& items) const override
     {
-        if (handsOut_) static_cast<void>(Own::getCaptionItems(items));
-        return run("getCaptionItems",
-                   [&] { return handsOut_ ? ZelData_Ok : Own::getCaptionItems(items); });
+        return runHandingOut("getCaptionItems", [&] { return Own::getCaptionItems(items); });
     }
 
 private:
     std::function<void(FailingCaptionItem&)> prepare_;
-    bool handsOut_ = false;
 };
 
 } // namespace ZelInterchangeData

@@ -1,0 +1,10 @@
+#include "ZelInterchangeData/ZelDataStandardLibrary.h"
+
+namespace ZelInterchangeData {
+
+void library_was_built_with_another_std_string_or_vector(
+    const std::string& /*string*/, const std::vector<std::string>& /*vector*/) noexcept
+{
+}
+
+} // namespace ZelInterchangeData

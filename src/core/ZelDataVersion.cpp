@@ -1,0 +1,10 @@
+#include "ZelInterchangeData/ZelDataVersion.h"
+
+namespace ZelInterchangeData {
+
+int libraryVersion() noexcept
+{
+    return ZELINTERCHANGEDATA_VERSION;
+}
+
+} // namespace ZelInterchangeData

@@ -1,7 +1,0 @@
-#include "ZelInterchangeData/i_ZelDataFormatterBase.h"
-
-namespace ZelInterchangeData {
-
-i_ZelDataFormatterBase::~i_ZelDataFormatterBase() = default;
-
-} // namespace ZelInterchangeData

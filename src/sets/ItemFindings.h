@@ -1,0 +1,101 @@
+/// @file
+/// The steps of finding problems that the collections share.
+
+#ifndef ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
+#define ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
+
+#include "sets/FindingList.h"
+#include "sets/ItemCopies.h"
+#include "sets/ItemOrder.h"
+#include "util/Ending.h"
+#include "util/Guard.h"
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+class i_ZelDataLanguage;
+
+/// Replaces @p findings with what @p find, a callable for a FindingList, adds. When @p find ends
+/// early, returns the code it ends with, and @p findings stays as it was.
+template <class Find>
+ZelDataResult_tags collectFindings(ZelDataFindingSubject_tags subject,
+                                   std::vector<ZelDataFinding>& findings, Find&& find)
+{
+    return guarded([&] {
+        FindingList found(subject);
+        if (const Ending ending = find(found)) return *ending;
+        found.moveTo(findings);
+        return ZelData_Ok;
+    });
+}
+
+/// Ends with @p code when it is a failure. Deliberate: the returned code, not the last error;
+/// otherwise an object that fails with a last error of ZelData_Ok would pass as one without
+/// problems.
+inline Ending endingOf(ZelDataResult_tags code) noexcept
+{
+    return failed(code) ? Ending(code) : Ending();
+}
+
+/// Replaces @p ids with the languages that @p languages lists, each once: the list may hold
+/// duplicates.
+Ending readLanguages(const i_ZelDataLanguage& languages, std::vector<std::string>& ids);
+
+/// Fills @p items through @p getAll, the getter of all items of @p collection, and @p starts with
+/// the start of each.
+template <class Collection, class Item>
+Ending receiveItems(const Collection& collection,
+                    ZelDataResult_tags (Collection::*getAll)(std::vector<Item*>&) const,
+                    ReceivedItems<Item>& items, std::vector<long long>& starts)
+{
+    if (const Ending ending = endingOf((collection.*getAll)(items.vector()))) return ending;
+    starts.reserve(items.items().size());
+    for (const Item* item : items.items()) {
+        if (item == nullptr) return ZelData_InternalError;
+        long long start = 0;
+        if (const Ending ending = endingOf(item->getStart(start))) return ending;
+        starts.push_back(start);
+    }
+    return {};
+}
+
+/// Checks each item with @p look, a callable that may end the search, and adds a finding where a
+/// later one starts before the item's bound.
+template <class Item, class Look>
+Ending findItemProblems(const ReceivedItems<Item>& items, const std::vector<long long>& bounds,
+                        const std::vector<long long>& starts, FindingList& found, Look&& look)
+{
+    const auto later = firstLaterStartsBelow(bounds, starts);
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        found.setItem(i, starts[i]);
+        if (const Ending ending = look(std::as_const(*items.items()[i]))) return ending;
+        if (later[i] < starts.size()) found.addLater(bounds[i], later[i], starts[later[i]]);
+    }
+    return {};
+}
+
+/// Checks the texts of @p item, and calls @p look, a callable for text and language, for each of
+/// them. Then adds the texts that are missing in the languages of @p listed.
+template <class Item, class Look>
+Ending findTextProblems(const Item& item, const std::vector<std::string>& listed,
+                        FindingList& found, Look&& look)
+{
+    std::vector<std::string> ids;
+    if (const Ending ending = endingOf(item.getLanguageIDs(ids))) return ending;
+    for (const std::string& id : ids) {
+        std::string text;
+        if (const Ending ending = endingOf(item.getTextForLanguage(text, id))) return ending;
+        found.checkText(text, id);
+        look(text, id);
+    }
+    found.addMissingTexts(std::move(ids), listed);
+    return {};
+}
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,295 @@
+/// @file
+/// The items of a collection.
+
+#ifndef ZELINTERCHANGEDATA_SETS_ITEMLIST_H
+#define ZELINTERCHANGEDATA_SETS_ITEMLIST_H
+
+#include "sets/Factory.h"
+#include "sets/ItemCopies.h"
+#include "sets/ItemOrder.h"
+#include "util/CopyOnWrite.h"
+#include "util/Ending.h"
+#include "util/ExactType.h"
+#include "util/FrontVector.h"
+#include "util/Prefetch.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// The items of a collection in their stored order.
+///
+/// An item of our own is stored as its bare state, and a copy of the list shares all states with it
+/// until one of the two changes. Where a collection makes other items, as a derived one may, they
+/// are stored as they are, and copies of its list share them.
+///
+/// Such an item is a caller's, and any of its operations may change its collection. So each
+/// operation here that calls one keeps its own reference to the items that it works on: a change
+/// makes new ones.
+///
+/// @tparam Item the interface of the items.
+/// @tparam Own our implementation of it. It has a `State` with a `start()`, is made from one, and
+///         returns it from `state()`. The state's `Summary` summarises all states; each is added to
+///         it in stored order.
+template <class Item, class Own>
+class ItemList {
+public:
+    using State = typename Own::State;
+    using Summary = typename State::Summary;
+
+    ItemList() = default;
+    ItemList(const ItemList&) = default;
+    ~ItemList() = default;
+    /// Items and summary are replaced together: when memory runs out, neither is.
+    ItemList& operator=(ItemList other) noexcept
+    {
+        slots_ = std::move(other.slots_);
+        summary_ = std::move(other.summary_);
+        return *this;
+    }
+
+    unsigned long count() const noexcept { return slots_.read().size(); }
+
+    void clear()
+    {
+        slots_.reset();
+        summary_ = Summary();
+    }
+
+    /// The state of the item at @p index, which is one of our own.
+    const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
+
+    /// The state of the item at @p index, which is one of our own, to be changed.
+    State& changeState(unsigned long index)
+    {
+        summary_.reset();
+        return slots_.write()[index].state;
+    }
+
+    /// Whether all items are our own.
+    bool areOwn() const
+    {
+        const Slots& slots = slots_.read();
+        return std::none_of(slots.begin(), slots.end(),
+                            [](const Slot& slot) { return slot.foreign != nullptr; });
+    }
+
+    /// The summary of all items, which are our own.
+    const Summary& summary() const
+    {
+        if (!summary_) {
+            Summary made;
+            for (const Slot& slot : slots_.read())
+                made.add(slot.state);
+            summary_ = std::move(made);
+        }
+        return *summary_;
+    }
+
+    void append(std::unique_ptr<Item> item)
+    {
+        auto known = std::exchange(summary_, std::nullopt); // restored when the item is in
+        Slot slot;
+        if (const auto* own = exactly<Own>(std::as_const(*item))) {
+            slot.state = own->state();
+            if (known) known->add(slot.state);
+        } else {
+            slot.foreign = std::move(item);
+        }
+        slots_.write().push_back(std::move(slot));
+        summary_ = std::move(known);
+    }
+
+    /// Calls @p changeState with the state of each item that is one of our own, and @p changeItem
+    /// with each other item, until a call ends. #ZelData_InternalError when an item changed this
+    /// list.
+    template <class ChangeState, class ChangeItem>
+    Ending changeAll(ChangeState&& changeState, ChangeItem&& changeItem)
+    {
+        return rework([&](Slots& slots) { return changeEach(slots, changeState, changeItem); });
+    }
+
+    /// The same with the items in the order of order().
+    template <class ChangeState, class ChangeItem>
+    Ending orderAndChangeAll(ChangeState&& changeState, ChangeItem&& changeItem)
+    {
+        return rework([&](Slots& slots) {
+            orderByStart(slots);
+            return changeEach(slots, changeState, changeItem);
+        });
+    }
+
+    /// Calls @p check, which may end the loop, with each item and the earliest start of those after
+    /// it.
+    template <class Check>
+    Ending checkAll(Check&& check) const
+    {
+        const auto held = slots_;
+        const auto earliestLater = earliestLaterStarts(startsOf(held.read()));
+        for (std::size_t i = 0; i < earliestLater.size(); ++i) {
+            const Ending ending = use(
+                held.read()[i], [&](const Item& item) { return check(item, earliestLater[i]); });
+            if (ending) return ending;
+        }
+        return {};
+    }
+
+    /// Calls @p visit with the state of each item, which is one of our own, in the order that
+    /// order() would put them in.
+    template <class Visit>
+    void visitOrdered(Visit&& visit) const
+    {
+        const Slots& slots = slots_.read();
+        const auto places = exchangeOrder(startsOf(slots));
+        if (places.empty()) {
+            for (const Slot& slot : slots)
+                visit(slot.state);
+            return;
+        }
+        // The items are scattered in memory: prefetches what a later visit needs.
+        constexpr std::size_t ahead = 8;
+        const Slot* const first = &slots[0];
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            if (i + 2 * ahead < places.size())
+                prefetch(first + places[i + 2 * ahead], sizeof(Slot));
+            if (i + ahead < places.size()) first[places[i + ahead]].state.prefetch();
+            visit(first[places[i]].state);
+        }
+    }
+
+    /// Orders the items by start, as exchangeOrder() does. #ZelData_InternalError when an item
+    /// changed this list.
+    Ending order()
+    {
+        return rework([](Slots& slots) -> Ending {
+            orderByStart(slots);
+            return {};
+        });
+    }
+
+    /// #ZelData_InvalidArgument when there is no item at @p index.
+    ZelDataResult_tags removeAt(unsigned long index)
+    {
+        if (index >= count()) return ZelData_InvalidArgument;
+        summary_.reset();
+        slots_.write().erase(index);
+        return ZelData_Ok;
+    }
+
+    /// Hands out a copy of the item at @p index, made by @p create, a factory, and owned by the
+    /// caller. #ZelData_InvalidArgument when @p out cannot accept one or there is no such item.
+    template <class Create>
+    ZelDataResult_tags copyOut(Item** out, unsigned long index, Create&& create) const
+    {
+        if (!isEmptyOutPointer(out) || index >= count()) return ZelData_InvalidArgument;
+        const auto held = slots_;
+        auto copy =
+            use(held.read()[index], [&](const Item& item) { return copyItem(item, create); });
+        *out = copy.item.release();
+        return copy.code;
+    }
+
+    /// Replaces @p out with copies of all items, made by @p create and owned by the caller; empty
+    /// when one fails.
+    template <class Create>
+    ZelDataResult_tags copyOutAll(std::vector<Item*>& out, Create&& create) const
+    {
+        out.clear();
+        const auto held = slots_;
+        std::vector<std::unique_ptr<Item>> copies;
+        copies.reserve(held.read().size());
+        for (const Slot& slot : held.read()) {
+            auto copy = use(slot, [&](const Item& item) { return copyItem(item, create); });
+            if (!copy.item) return copy.code;
+            copies.push_back(std::move(copy.item));
+        }
+        out.reserve(copies.size());
+        std::transform(copies.begin(), copies.end(), std::back_inserter(out),
+                       [](std::unique_ptr<Item>& copy) { return copy.release(); });
+        return ZelData_Ok;
+    }
+
+private:
+    /// One item: our own as its state, any other as it is.
+    struct Slot {
+        long long start() const
+        {
+            if (!foreign) return state.start();
+            long long start = 0;
+            // Deliberate: ignores a failure; otherwise an item that cannot return its start would
+            // stop the operation instead of counting as one that starts at 0.
+            static_cast<void>(foreign->getStart(start));
+            return start;
+        }
+
+        State state;
+        std::shared_ptr<Item> foreign;
+    };
+    using Slots = FrontVector<Slot>;
+
+    /// Replaces the slots with what @p change, which may end, makes of a copy. Until then our own
+    /// items are as they were, so when memory runs out nothing has happened to them.
+    template <class Change>
+    Ending rework(Change&& change)
+    {
+        const auto before = slots_;
+        Slots slots(before.read());
+        const Ending ending = change(slots);
+        if (&slots_.read() != &before.read()) return ZelData_InternalError;
+        slots_ = CopyOnWrite<Slots>(std::move(slots));
+        summary_.reset();
+        return ending;
+    }
+
+    template <class ChangeState, class ChangeItem>
+    static Ending changeEach(Slots& slots, ChangeState& changeState, ChangeItem& changeItem)
+    {
+        for (Slot& slot : slots) {
+            const Ending ending =
+                slot.foreign ? changeItem(*slot.foreign) : changeState(slot.state);
+            if (ending) return ending;
+        }
+        return {};
+    }
+
+    static void orderByStart(Slots& slots)
+    {
+        const auto places = exchangeOrder(startsOf(slots));
+        if (places.empty()) return;
+        Slots ordered;
+        ordered.reserve(places.size());
+        for (const std::size_t place : places)
+            ordered.push_back(std::move(slots[place]));
+        slots = std::move(ordered);
+    }
+
+    /// Returns what @p use, a callable for an item, returns for the one in @p slot.
+    template <class Use>
+    static auto use(const Slot& slot, Use&& use)
+    {
+        if (slot.foreign) return use(std::as_const(*slot.foreign));
+        const Own item(slot.state);
+        return use(static_cast<const Item&>(item));
+    }
+
+    static std::vector<long long> startsOf(const Slots& slots)
+    {
+        std::vector<long long> starts;
+        starts.reserve(slots.size());
+        std::transform(slots.begin(), slots.end(), std::back_inserter(starts),
+                       [](const Slot& slot) { return slot.start(); });
+        return starts;
+    }
+
+    CopyOnWrite<Slots> slots_;
+    mutable std::optional<Summary> summary_ = Summary(); // empty while unknown
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,246 @@
+#include "sets/ItemOrder.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <numeric>
+#include <utility>
+
+namespace ZelInterchangeData {
+
+namespace {
+
+using Places = std::vector<std::size_t>;
+
+/// Counts at places, with sums of all counts before a place (a Fenwick tree).
+class PrefixCounts {
+public:
+    /// Makes room for @p size places with nothing counted, and up to the next power of two, so that
+    /// take() stays within bounds.
+    void clear(std::size_t size)
+    {
+        highestStep_ = 1;
+        while (highestStep_ <= size)
+            highestStep_ *= 2;
+        sums_.assign(highestStep_ * 2, 0);
+    }
+
+    /// The same with a count of one at each place.
+    void fill(std::size_t size)
+    {
+        clear(size);
+        for (std::size_t i = 1; i < sums_.size(); ++i) {
+            sums_[i] = lowestBit(i);
+        }
+    }
+
+    void add(std::size_t place)
+    {
+        for (std::size_t i = place + 1; i < sums_.size(); i += lowestBit(i)) {
+            ++sums_[i];
+        }
+    }
+
+    std::size_t before(std::size_t place) const
+    {
+        std::size_t sum = 0;
+        for (std::size_t i = place; i > 0; i -= lowestBit(i)) {
+            sum += sums_[i];
+        }
+        return sum;
+    }
+
+    /// Takes one off the place whose count makes the sum exceed @p count, and returns the place.
+    std::size_t take(std::size_t count)
+    {
+        std::size_t place = 0;
+        for (std::size_t step = highestStep_; step > 0; step /= 2) {
+            std::size_t& sum = sums_[place + step];
+            const bool isBelow = sum <= count; // no branch on it: it would be unpredictable
+            count -= isBelow ? sum : 0;
+            sum -= isBelow ? 0 : 1;
+            place += isBelow ? step : 0;
+        }
+        return place;
+    }
+
+private:
+    static constexpr std::size_t lowestBit(std::size_t i) noexcept { return i & (~i + 1); }
+
+    Places sums_;
+    std::size_t highestStep_ = 1;
+};
+
+/// An item's start, counted from the smallest one, and below it the item's place: half of the bits
+/// each.
+using Packed = std::uint64_t;
+
+constexpr unsigned placeBits = 32;
+constexpr Packed greatestHalf = 0xFFFFFFFF;
+
+/// Orders @p items by the byte at @p shift alone; those with equal bytes keep their order.
+void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsigned shift)
+{
+    std::array<std::size_t, 256> next{}; // where the next item with a byte goes
+    for (const Packed item : items) {
+        ++next[item >> shift & 0xFF];
+    }
+    std::size_t sum = 0;
+    for (std::size_t& place : next) {
+        sum += std::exchange(place, sum);
+    }
+    for (const Packed item : items) {
+        scratch[next[item >> shift & 0xFF]++] = item;
+    }
+    items.swap(scratch);
+}
+
+/// The order of a stable sort for starts that are at most @p range above @p least. It sorts byte by
+/// byte (a radix sort): starts differ in a few bytes, and no comparison has to be predicted.
+Places packedOrder(const std::vector<long long>& starts, long long least, Packed range)
+{
+    std::vector<Packed> items(starts.size());
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        const Packed above = static_cast<Packed>(starts[i]) - static_cast<Packed>(least);
+        items[i] = above << placeBits | i;
+    }
+    std::vector<Packed> scratch(starts.size());
+    for (unsigned shift = 0; shift < placeBits && range >> shift != 0; shift += 8) {
+        orderByByte(items, scratch, placeBits + shift);
+    }
+    Places order(starts.size());
+    std::transform(items.begin(), items.end(), order.begin(),
+                   [](Packed item) { return static_cast<std::size_t>(item & greatestHalf); });
+    return order;
+}
+
+/// The order of a stable sort.
+Places stableOrder(const std::vector<long long>& starts)
+{
+    const auto [least, greatest] = std::minmax_element(starts.begin(), starts.end());
+    const Packed range = static_cast<Packed>(*greatest) - static_cast<Packed>(*least);
+    if (range <= greatestHalf && starts.size() <= greatestHalf) {
+        return packedOrder(starts, *least, range);
+    }
+    Places order(starts.size()); // starts that are weeks apart
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return starts[a] < starts[b]; });
+    return order;
+}
+
+/// For each item, how many earlier ones have a smaller start. @p order is the stable order.
+Places smallerBefore(const std::vector<long long>& starts, const Places& order)
+{
+    Places rank(order.size()); // the number of the item's group of equal starts
+    std::size_t groups = 1;
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (starts[order[i]] != starts[order[i - 1]]) ++groups;
+        rank[order[i]] = groups - 1;
+    }
+    PrefixCounts met;
+    met.clear(groups);
+    for (std::size_t& each : rank) {
+        const std::size_t smaller = met.before(each);
+        met.add(each);
+        each = smaller;
+    }
+    return rank;
+}
+
+/// Puts groups of equal starts in the order of the exchange sort, one after the other.
+///
+/// Each smaller start that the sort meets after some members takes the place of the first of them,
+/// which moves to the end: it rotates the group by one. A new member joins at the end. So the group
+/// is a ring with a head, rotation moves the head, and a member joins before it.
+class GroupArranger {
+public:
+    /// @param counts for each item, how many smaller starts come before it.
+    explicit GroupArranger(const Places& counts) : counts_(counts) {}
+
+    /// Arranges one group, the members from @p first to @p last in stored order; @p total starts of
+    /// all items are smaller.
+    void arrange(Places::iterator first, Places::iterator last, std::size_t total)
+    {
+        members_.assign(first, last);
+        joinRing();
+        const std::size_t size = members_.size();
+        const std::size_t head = (head_ + total - counts_[members_.back()]) % size;
+        // The member that joined last is where it joined; the others make room for it.
+        free_.fill(size);
+        for (std::size_t i = size; i-- > 0;) {
+            const std::size_t place = free_.take(joined_[i]);
+            first[static_cast<std::ptrdiff_t>((place + size - head) % size)] = members_[i];
+        }
+    }
+
+private:
+    /// Notes where in the ring, cut at the first member, each member joins.
+    void joinRing()
+    {
+        joined_.assign(members_.size(), 0);
+        head_ = 0;
+        for (std::size_t i = 1; i < members_.size(); ++i) {
+            head_ = (head_ + counts_[members_[i]] - counts_[members_[i - 1]]) % i;
+            joined_[i] = head_++;
+        }
+    }
+
+    const Places& counts_;
+    Places members_;
+    Places joined_;
+    std::size_t head_ = 0;
+    PrefixCounts free_;
+};
+
+} // namespace
+
+std::vector<long long> earliestLaterStarts(std::vector<long long> starts)
+{
+    long long smallest = std::numeric_limits<long long>::max();
+    for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
+        const long long smallestWithThis = std::min(*start, smallest);
+        *start = std::exchange(smallest, smallestWithThis);
+    }
+    return starts;
+}
+
+std::vector<std::size_t> firstLaterStartsBelow(const std::vector<long long>& bounds,
+                                               const std::vector<long long>& starts)
+{
+    Places found(starts.size(), starts.size());
+    // The later items that start before all items between here and there, the furthest first, so
+    // with ascending starts. Any other later item has one of these before it that starts no later.
+    Places candidates;
+    for (std::size_t i = starts.size(); i-- > 0;) {
+        const auto notBelow =
+            std::partition_point(candidates.begin(), candidates.end(),
+                                 [&](std::size_t place) { return starts[place] < bounds[i]; });
+        if (notBelow != candidates.begin()) found[i] = *(notBelow - 1);
+        while (!candidates.empty() && starts[candidates.back()] >= starts[i])
+            candidates.pop_back();
+        candidates.push_back(i);
+    }
+    return found;
+}
+
+std::vector<std::size_t> exchangeOrder(const std::vector<long long>& starts)
+{
+    if (std::is_sorted(starts.begin(), starts.end())) return {};
+    Places order = stableOrder(starts);
+    const auto isTie = [&](std::size_t a, std::size_t b) { return starts[a] == starts[b]; };
+    auto group = std::adjacent_find(order.begin(), order.end(), isTie);
+    if (group == order.end()) return order;
+    const Places counts = smallerBefore(starts, order);
+    GroupArranger arranger(counts);
+    while (group != order.end()) {
+        const auto next = std::find_if(
+            group, order.end(), [&](std::size_t place) { return starts[place] != starts[*group]; });
+        arranger.arrange(group, next, static_cast<std::size_t>(group - order.begin()));
+        group = std::adjacent_find(next, order.end(), isTie);
+    }
+    return order;
+}
+
+} // namespace ZelInterchangeData

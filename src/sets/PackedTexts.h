@@ -1,0 +1,57 @@
+/// @file
+/// A few texts in one block of memory.
+
+#ifndef ZELINTERCHANGEDATA_SETS_PACKEDTEXTS_H
+#define ZELINTERCHANGEDATA_SETS_PACKEDTEXTS_H
+
+#include "util/SharedBytes.h"
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Texts by language ID, in ascending byte order. Exhausted memory passes through as
+/// `std::bad_alloc` and changes nothing.
+///
+/// All of them are in one block of memory that copies share; a change makes a new one. A copy only
+/// counts a reference, and reading reaches the bytes in one step, but each change copies all texts.
+class PackedTexts {
+public:
+    /// A language ID and its text.
+    struct Entry {
+        std::string_view languageID;
+        std::string_view text;
+    };
+
+    std::size_t count() const noexcept;
+    /// The entry at @p index, which is below count(). Its views hold until the texts change.
+    Entry operator[](std::size_t index) const noexcept;
+    /// The text for @p languageID; none when there is no such text.
+    std::optional<std::string_view> find(std::string_view languageID) const noexcept;
+    /// The number of bytes in all IDs and texts.
+    std::size_t characters() const noexcept;
+    /// The number of bytes that a change copies when it adds a text of @p added bytes, its ID
+    /// included.
+    std::size_t bytesWith(std::size_t added) const noexcept;
+
+    /// Prefetches the texts if they are of usual length.
+    void prefetch() const noexcept { bytes_.prefetch(224); }
+
+    void clear() noexcept { bytes_ = SharedBytes(); }
+    /// Stores a copy of @p text. Returns whether it replaced a text.
+    bool set(std::string_view text, std::string_view languageID);
+    /// Removes the text for @p languageID, which exists.
+    void remove(std::string_view languageID);
+
+private:
+    std::size_t placeOf(std::string_view languageID) const noexcept;
+    bool holds(std::size_t place, std::string_view languageID) const noexcept;
+
+    SharedBytes bytes_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,36 @@
+/// @file
+/// What a collection knows about the texts of all its items.
+
+#ifndef ZELINTERCHANGEDATA_SETS_TEXTSUMMARY_H
+#define ZELINTERCHANGEDATA_SETS_TEXTSUMMARY_H
+
+#include "sets/LanguageList.h"
+#include "util/TextUtilities.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace ZelInterchangeData {
+
+/// Summarises all items, so that not every item need be asked.
+struct TextSummary {
+    /// The languages of the texts in the order of their first occurrence, those of one item
+    /// ascending.
+    LanguageList languages;
+    /// The approximate number of bytes that all texts, with their language IDs, take in the packet.
+    std::size_t size = 0;
+
+    /// Adds the next item, whose texts @p state has.
+    template <class State>
+    void add(const State& state)
+    {
+        state.texts().forEach([this](std::string_view languageID, std::string_view text) {
+            languages.addChecked(languageID);
+            size += languageID.size() + sizeWithEntities(text);
+        });
+    }
+};
+
+} // namespace ZelInterchangeData
+
+#endif

@@ -1,0 +1,175 @@
+#include "ZelInterchangeData/ZelDataFindings.h"
+
+#include "ZelInterchangeData/ZelDataUtilities.h"
+
+namespace ZelInterchangeData {
+
+namespace {
+
+std::string joined(std::initializer_list<std::string> parts)
+{
+    std::string text;
+    for (const std::string& part : parts)
+        text += part;
+    return text;
+}
+
+std::string number(long long value)
+{
+    return std::to_string(value);
+}
+
+/// Writes a byte of @p text as "\x0A" wherever @p needsEscape says so.
+template <class NeedsEscape>
+std::string escaped(const std::string& text, NeedsEscape&& needsEscape)
+{
+    constexpr const char* digits = "0123456789ABCDEF";
+    std::string result;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (needsEscape(byte)) {
+            result.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 0xF]);
+        } else {
+            result += character;
+        }
+    }
+    return result;
+}
+
+/// The language of @p finding, escaped so that it stays on one line.
+std::string languageOf(const ZelDataFinding& finding)
+{
+    const bool isUtf8 = !failed(ZelDataUtilities::verifyUtf8Format(finding.language, false));
+    return escaped(finding.language, [&](unsigned char byte) {
+        return byte < 0x20 || byte == 0x7F || (byte >= 0x80 && !isUtf8);
+    });
+}
+
+std::string nameOfCollection(ZelDataFindingSubject_tags subject)
+{
+    switch (subject) {
+    case ZelDataFindingSubject_Caption:
+        return "captions";
+    case ZelDataFindingSubject_TocEntry:
+        return "table of contents";
+    case ZelDataFindingSubject_ScreenText:
+        return "screen texts";
+    }
+    return "collection";
+}
+
+std::string nameOfItem(ZelDataFindingSubject_tags subject)
+{
+    switch (subject) {
+    case ZelDataFindingSubject_Caption:
+        return "caption ";
+    case ZelDataFindingSubject_TocEntry:
+        return "entry ";
+    case ZelDataFindingSubject_ScreenText:
+        return "screen text ";
+    }
+    return "item ";
+}
+
+/// Only captions have a unit of their own; the others count in ticks of the frame rate.
+std::string timeOf(const ZelDataFinding& finding, long long time)
+{
+    return number(time) + (finding.subject == ZelDataFindingSubject_Caption ? " ms" : "");
+}
+
+std::string placeOf(const ZelDataFinding& finding)
+{
+    if (finding.item == ZelDataFinding::noItem) return nameOfCollection(finding.subject);
+    return joined({nameOfItem(finding.subject), ZelDataUtilities::getValueString(finding.item),
+                   " at ", timeOf(finding, finding.start)});
+}
+
+std::string laterItemOf(const ZelDataFinding& finding)
+{
+    return nameOfItem(finding.subject) + ZelDataUtilities::getValueString(finding.laterItem);
+}
+
+std::string outOfRange(const std::string& what, const ZelDataFinding& finding)
+{
+    const bool below = finding.value < finding.limit;
+    return joined({what, " out of range (", number(finding.value),
+                   below ? ", at least " : ", at most ", number(finding.limit), ")"});
+}
+
+std::string colorOutOfRange(const ZelDataFinding& finding)
+{
+    const bool below = finding.component < static_cast<float>(finding.limit);
+    return joined({finding.property, " out of range (",
+                   ZelDataUtilities::getValueString(finding.component),
+                   below ? ", at least " : ", at most ", number(finding.limit), ")"});
+}
+
+std::string shortDuration(const std::string& what, const ZelDataFinding& finding)
+{
+    return joined({what, " (", timeOf(finding, finding.value), ", at least ",
+                   timeOf(finding, finding.limit), ")"});
+}
+
+std::string badText(const ZelDataFinding& finding)
+{
+    const bool hasLanguage = finding.subject != ZelDataFindingSubject_ScreenText;
+    return "the text" + (hasLanguage ? " in " + languageOf(finding) : "") + " is not UTF-8";
+}
+
+std::string tooManyLines(const ZelDataFinding& finding)
+{
+    return joined({"too many lines in ", languageOf(finding), " (", number(finding.value),
+                   ", at most ", number(finding.limit), ")"});
+}
+
+std::string overlap(const ZelDataFinding& finding)
+{
+    return joined({"overlap: it ends at ", timeOf(finding, finding.value), ", ",
+                   laterItemOf(finding), " starts at ", timeOf(finding, finding.laterStart)});
+}
+
+std::string outOfOrder(const ZelDataFinding& finding)
+{
+    return joined({"out of order: ", laterItemOf(finding), " starts before it, at ",
+                   timeOf(finding, finding.laterStart)});
+}
+
+std::string reasonOf(const ZelDataFinding& finding)
+{
+    switch (finding.kind) {
+    case ZelDataFinding_FrameRateOutOfRange:
+        return outOfRange("frame rate", finding);
+    case ZelDataFinding_FontFamilyMissing:
+        return "the font family is empty";
+    case ZelDataFinding_FontSizeOutOfRange:
+        return outOfRange("font size", finding);
+    case ZelDataFinding_ColorOutOfRange:
+        return colorOutOfRange(finding);
+    case ZelDataFinding_NoDuration:
+        return shortDuration("no duration", finding);
+    case ZelDataFinding_TooShort:
+        return shortDuration("too short", finding);
+    case ZelDataFinding_BadText:
+        return badText(finding);
+    case ZelDataFinding_BadLanguage:
+        return joined({"the language ", languageOf(finding), " is not known"});
+    case ZelDataFinding_TooManyLines:
+        return tooManyLines(finding);
+    case ZelDataFinding_MissingText:
+        return "no text in " + languageOf(finding);
+    case ZelDataFinding_Overlap:
+        return overlap(finding);
+    case ZelDataFinding_OutOfOrder:
+        return outOfOrder(finding);
+    }
+    return "unknown finding";
+}
+
+} // namespace
+
+std::string describe(const ZelDataFinding& finding)
+{
+    return placeOf(finding) + ": " + reasonOf(finding);
+}
+
+} // namespace ZelInterchangeData

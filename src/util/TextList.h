@@ -1,0 +1,45 @@
+/// @file
+/// An ordered list of texts.
+
+#ifndef ZELINTERCHANGEDATA_UTIL_TEXTLIST_H
+#define ZELINTERCHANGEDATA_UTIL_TEXTLIST_H
+
+#include <cstddef>
+#include <functional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ZelInterchangeData {
+
+/// Texts in the order in which they were appended. contains() takes log n steps. Exhausted memory
+/// passes through as `std::bad_alloc` and changes nothing.
+class TextList {
+public:
+    TextList() = default;
+    explicit TextList(std::vector<std::string> texts);
+    TextList(const TextList&) = default;
+    TextList(TextList&&) noexcept = default;
+    TextList& operator=(const TextList& other);
+    TextList& operator=(TextList&& other) noexcept;
+    ~TextList() = default;
+
+    const std::vector<std::string>& texts() const noexcept { return texts_; }
+    bool contains(std::string_view text) const;
+
+    void clear() noexcept;
+    void append(std::string_view text);
+    /// Removes the first identical text; false when there is none.
+    bool remove(std::string_view text);
+    /// Removes all texts but the first @p count, if there are that many.
+    void truncate(std::size_t count) noexcept;
+
+private:
+    std::vector<std::string> texts_;
+    std::multiset<std::string, std::less<>> index_; // all texts, or none while they are few
+};
+
+} // namespace ZelInterchangeData
+
+#endif
