@@ -93,6 +93,10 @@ void writeMarker(MarkerWriter& markers, const CaptionState& item,
 
 i_ZelDataCaptionFormatter::~i_ZelDataCaptionFormatter() = default;
 
+// Here, so that the document that creates one does not compile the class template again.
+ZelDataXmpCaptionFormatter::ZelDataXmpCaptionFormatter() = default;
+ZelDataXmpCaptionFormatter::~ZelDataXmpCaptionFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createCaptionFormatter(i_ZelDataCaptionFormatter** out,
                                                             ZelDataFormatType_tags format)
 {

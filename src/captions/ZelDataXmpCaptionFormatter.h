@@ -27,6 +27,9 @@ class ZelDataXmpCaptionFormatter
     : public XmpTrackFormatter<i_ZelDataCaptionFormatter, i_ZelDataCaptions, ZelDataCaptions,
                                ZelDataXmpCaptionFormatter> {
 public:
+    ZelDataXmpCaptionFormatter();
+    ~ZelDataXmpCaptionFormatter() override;
+
     ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) override;
     ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const override;
 

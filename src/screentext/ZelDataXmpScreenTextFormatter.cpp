@@ -30,6 +30,10 @@ void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
 
 i_ZelDataScreenTextFormatter::~i_ZelDataScreenTextFormatter() = default;
 
+// Here, so that the document that creates one does not compile the class template again.
+ZelDataXmpScreenTextFormatter::ZelDataXmpScreenTextFormatter() = default;
+ZelDataXmpScreenTextFormatter::~ZelDataXmpScreenTextFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createScreenTextFormatter(i_ZelDataScreenTextFormatter** out,
                                                                ZelDataFormatType_tags format)
 {

@@ -16,6 +16,9 @@ class ZelDataXmpScreenTextFormatter
     : public XmpTrackFormatter<i_ZelDataScreenTextFormatter, i_ZelDataScreenText, ZelDataScreenText,
                                ZelDataXmpScreenTextFormatter> {
 public:
+    ZelDataXmpScreenTextFormatter();
+    ~ZelDataXmpScreenTextFormatter() override;
+
     ZelDataResult_tags setScreenText(const i_ZelDataScreenText& screenText) override;
     ZelDataResult_tags getScreenText(i_ZelDataScreenText& screenText) const override;
 

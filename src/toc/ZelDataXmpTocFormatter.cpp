@@ -38,6 +38,10 @@ void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
 
 i_ZelDataTocFormatter::~i_ZelDataTocFormatter() = default;
 
+// Here, so that the document that creates one does not compile the class template again.
+ZelDataXmpTocFormatter::ZelDataXmpTocFormatter() = default;
+ZelDataXmpTocFormatter::~ZelDataXmpTocFormatter() = default;
+
 ZelDataResult_tags ZelDataUtilities::createTocFormatter(i_ZelDataTocFormatter** out,
                                                         ZelDataFormatType_tags format)
 {

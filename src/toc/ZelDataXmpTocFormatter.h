@@ -27,6 +27,9 @@ bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& it
 class ZelDataXmpTocFormatter : public XmpTrackFormatter<i_ZelDataTocFormatter, i_ZelDataToc,
                                                         ZelDataToc, ZelDataXmpTocFormatter> {
 public:
+    ZelDataXmpTocFormatter();
+    ~ZelDataXmpTocFormatter() override;
+
     ZelDataResult_tags setToc(const i_ZelDataToc& toc) override;
     ZelDataResult_tags getToc(i_ZelDataToc& toc) const override;
 

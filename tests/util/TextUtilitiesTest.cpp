@@ -153,6 +153,18 @@ TEST(HtmlTagsToText, EscapesWhatIsEscapedAlready)
     EXPECT_EQ(escape("&lt;"), "&amp;lt;");
 }
 
+TEST(HtmlTagsToText, EscapesLongTextsOfNothingButMarkup)
+{
+    for (const std::size_t length : {4095U, 4096U, 5000U, 70000U}) {
+        std::string expected;
+        for (std::size_t i = 0; i < length; ++i)
+            expected += "&amp;";
+        EXPECT_EQ(expected, ZelDataUtilities::htmlTagsToText(std::string(length, '&')));
+        const std::string plain(length, 'x');
+        EXPECT_EQ(plain, ZelDataUtilities::htmlTagsToText(plain));
+    }
+}
+
 TEST(HtmlTagsToText, GivesAnEmptyTextForAnEmptyOne)
 {
     EXPECT_EQ(escape(""), "");
