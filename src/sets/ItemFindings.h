@@ -33,13 +33,8 @@ ZelDataResult_tags collectFindings(ZelDataFindingSubject_tags subject,
     });
 }
 
-/// Ends with @p code when it is a failure. Deliberate: the returned code, not the last error;
-/// otherwise an object that fails with a last error of ZelData_Ok would pass as one without
-/// problems.
-inline Ending endingOf(ZelDataResult_tags code) noexcept
-{
-    return failed(code) ? Ending(code) : Ending();
-}
+// Deliberate: the steps below end with the code that a getter returned, not with the last error;
+// otherwise an object that fails with a last error of ZelData_Ok would pass as one without problems.
 
 /// Replaces @p ids with the languages that @p languages lists, each once: the list may hold
 /// duplicates.

@@ -82,10 +82,7 @@ ZelDataResult_tags removeTexts(ItemList<Item, Own>& items, const std::string& la
 {
     if (items.areOwn()) return removeOwnTexts(items, languageID);
     const Ending ending = items.changeAll(
-        [&](typename Own::State& state) -> Ending {
-            const auto code = state.changeTexts().remove(languageID);
-            return failed(code) ? Ending(code) : Ending();
-        },
+        [&](auto& state) { return endingOf(state.changeTexts().remove(languageID)); },
         [&](Item& item) -> Ending {
             if (failed(item.removeTextForLanguage(languageID))) return item.getLastError();
             return {};

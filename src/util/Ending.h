@@ -16,6 +16,12 @@ namespace ZelInterchangeData {
 /// that of an implementation that the caller wrote may be #ZelData_Ok.
 using Ending = std::optional<ZelDataResult_tags>;
 
+/// Ends with @p code when it is a failure.
+inline Ending endingOf(ZelDataResult_tags code) noexcept
+{
+    return failed(code) ? Ending(code) : Ending();
+}
+
 } // namespace ZelInterchangeData
 
 #endif

@@ -8,6 +8,8 @@
 
 #include <limits>
 #include <new>
+#include <string>
+#include <vector>
 
 namespace ZelInterchangeData {
 namespace {
@@ -256,6 +258,36 @@ TEST(BuildCaptionList, DoesNotTakeExhaustedMemoryForAMissingText)
     item.failAt("getTextForLanguage", ZelData_OutOfMemory, ZelData_OutOfMemory);
     std::string text;
     EXPECT_THROW(buildCaptionList({"en"}, item, text), std::bad_alloc);
+}
+
+/// An item whose end cannot be read, although its last error says that all is well.
+class ItemWithoutEnd : public ZelDataCaptionItem {
+public:
+    ZelDataResult_tags getEnd(long long& /*end*/) const override
+    {
+        setLastError(ZelData_Ok);
+        return ZelData_NotFound;
+    }
+};
+
+/// Captions that hand out one such item.
+class CaptionsWithoutEnd : public ZelDataCaptions {
+public:
+    ZelDataResult_tags getCaptionItems(std::vector<i_ZelDataCaptionItem*>& items) const override
+    {
+        items.assign(1, new ItemWithoutEnd);
+        return ZelData_Ok;
+    }
+};
+
+TEST(ZelDataXmpCaptionFormatter, DoesNotWriteAnItemThatWasCopiedHalfWay)
+{
+    ZelDataXmpCaptionFormatter formatter;
+    EXPECT_CODE(formatter, ZelData_Ok, formatter.setCaptions(CaptionsWithoutEnd()));
+    std::string out = "kept";
+    EXPECT_CODE(formatter, ZelData_InvalidArgument,
+                formatter.writeString(out, ZelDataFormat_Xmp, false));
+    EXPECT_EQ("kept", out);
 }
 
 } // namespace
