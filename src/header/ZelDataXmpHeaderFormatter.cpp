@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "sets/Factory.h"
 #include "util/Ending.h"
+#include "util/TextUtilities.h"
 #include "util/ValueStrings.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/ZelDataXmlStream.h"
@@ -68,11 +69,13 @@ ZelDataResult_tags buildLanguageMarkup(const std::vector<std::string>& ids, std:
 ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std::string& markup)
 {
     if (names.empty()) return ZelData_InternalError;
+    constexpr std::size_t itemMarkup = 80;
     for (std::size_t i = 0; i < names.size(); ++i) {
+        markup.reserve(markup.size() + itemMarkup + sizeWithEntities(names[i]));
         markup += "<rdf:li xmpDM:name=\"";
         markup += decimalText(static_cast<unsigned long long>(i));
         markup += "\" xmpDM:value=\"";
-        markup += Utilities::htmlTagsToText(names[i]);
+        appendEscaped(markup, names[i]);
         markup += "\"></rdf:li>";
     }
     return ZelData_Ok;
@@ -221,7 +224,8 @@ private:
         if (failed(header_.getContentNames(names))) return header_.getLastError();
         if (names.empty()) return {};
         if (const auto built = buildContentMarkup(names, markup); failed(built)) return built;
-        description_.element("zelDM:contentList/rdf:Description/zelDM:files/rdf:Seq").text(markup);
+        description_.element("zelDM:contentList/rdf:Description/zelDM:files/rdf:Seq")
+            .text(std::move(markup));
         return {};
     }
 
