@@ -7,9 +7,17 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <type_traits>
+
+#ifndef __cpp_lib_to_chars
+#include <cfenv>
+#include <locale>
+#include <sstream>
+#endif
 
 namespace ZelInterchangeData {
 
@@ -22,11 +30,36 @@ using NumberBuffer = std::array<char, 32>;
 template <class Number, class... Format>
 std::string numberText(Number value, Format... format)
 {
+    static_assert(std::is_integral_v<Number> || sizeof...(Format) != 0);
     NumberBuffer buffer;
     char* const begin = buffer.data();
     const auto result = std::to_chars(begin, begin + buffer.size(), value, format...);
     return std::string(begin, result.ptr);
 }
+
+#ifdef __cpp_lib_to_chars
+
+std::string finiteText(double value)
+{
+    constexpr int significantDigits = 6;
+    return numberText(value, std::chars_format::general, significantDigits);
+}
+
+#else
+
+// Without the macro std::to_chars may take no floating-point number, or only on newer systems.
+std::string finiteText(double value)
+{
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    const int rounding = std::fegetround();
+    std::fesetround(FE_TONEAREST);
+    stream << value;
+    std::fesetround(rounding);
+    return stream.str();
+}
+
+#endif
 
 /// The calendar date and the time of day; the year in 64 bits, because it may exceed an int.
 std::string dateAndTime(const std::tm& utc)
@@ -65,8 +98,9 @@ std::string decimalText(unsigned long long value)
 
 std::string generalText(double value)
 {
-    constexpr int significantDigits = 6;
-    return numberText(value, std::chars_format::general, significantDigits);
+    if (std::isfinite(value)) return finiteText(value);
+    // Here and there std::to_chars writes "-nan(ind)".
+    return std::string(std::signbit(value) ? "-" : "").append(std::isnan(value) ? "nan" : "inf");
 }
 
 std::string ZelDataUtilities::getValueString(float value)
