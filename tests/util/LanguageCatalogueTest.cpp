@@ -319,8 +319,11 @@ TEST(EnglishNameForLanguage, RefusesOtherIdsAndLeavesTheNameAlone)
 
 TEST(EnglishNameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
 {
-    const std::string id = "cu"; // its English name is too long for a string's own buffer
-    std::string name = "before";
+    const std::string id = "cu";
+    std::string name;
+    ASSERT_EQ(ZelDataUtilities::englishNameForLanguage(id, name), ZelData_Ok);
+    if (name.size() <= std::string().capacity()) GTEST_SKIP() << "a string needs no memory for it";
+    name = "before";
     ZelDataResult_tags code = ZelData_Ok;
     {
         const FailingAllocation watch(0);
