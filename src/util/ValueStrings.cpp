@@ -13,6 +13,10 @@
 #include <ctime>
 #include <type_traits>
 
+#ifdef _WIN32
+#include "util/UtcCalendar.h"
+#endif
+
 #ifndef __cpp_lib_to_chars
 #include <cfenv>
 #include <locale>
@@ -70,6 +74,33 @@ std::string dateAndTime(const std::tm& utc)
         utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
     return {buffer.data(), static_cast<std::size_t>(length)};
 }
+
+#ifdef _WIN32
+
+bool utcTime(long long instant, std::tm& utc)
+{
+    return utcCalendar(instant, utc);
+}
+
+bool localTime(long long instant, std::tm& local)
+{
+    const __time64_t seconds = instant;
+    return _localtime64_s(&local, &seconds) == 0;
+}
+
+#else
+
+bool utcTime(std::time_t instant, std::tm& utc)
+{
+    return gmtime_r(&instant, &utc) != nullptr;
+}
+
+bool localTime(std::time_t instant, std::tm& local)
+{
+    return localtime_r(&instant, &local) != nullptr;
+}
+
+#endif
 
 /// The zone offset of a date, from the hour fields alone.
 std::string hourOffset(int utcHour, int localHour)
@@ -141,7 +172,7 @@ std::string ZelDataUtilities::getDateString(long* seconds)
     const std::time_t instant = seconds == nullptr ? std::time(nullptr) : *seconds;
     std::tm utc{};
     std::tm local{};
-    if (gmtime_r(&instant, &utc) == nullptr || localtime_r(&instant, &local) == nullptr) return {};
+    if (!utcTime(instant, utc) || !localTime(instant, local)) return {};
     // Deliberate: the date is in UTC but has the local offset; local fields would shift it by that
     // offset.
     return dateAndTime(utc) + hourOffset(utc.tm_hour, local.tm_hour);
