@@ -16,6 +16,7 @@ else()
 endif()
 
 install(TARGETS ${zel_targets} EXPORT ZelInterchangeDataTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${zel_runtime}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         COMPONENT ${zel_runtime} NAMELINK_COMPONENT ${zel_development}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${zel_development}
