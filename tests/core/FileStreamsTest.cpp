@@ -44,7 +44,7 @@ TEST(FileStreams, NarrowStringsAreWrittenAsTheirBytes)
 
 TEST(FileStreams, EveryByteIsWrittenInEveryLocale)
 {
-    for (const char* name : {"C", "C.UTF-8"}) {
+    for (const char* name : localeNames) {
         const TempFile file;
         {
             const HostileLocale hostile(name);
@@ -177,6 +177,7 @@ TEST(FileStreams, TheConversionCountsAByteForEachCharacter)
     EXPECT_FALSE(conversion.always_noconv());
 }
 
+// Its characters have no sign on Windows.
 TEST(FileStreams, AWideCharacterBelowZeroFailsTheStream)
 {
     const TempFile file;
@@ -185,6 +186,28 @@ TEST(FileStreams, AWideCharacterBelowZeroFailsTheStream)
     EXPECT_TRUE(stream->fail());
     EXPECT_EQ("", file.bytes());
 }
+
+TEST(FileStreams, ThePathIsUtf8)
+{
+    const TempFile file;
+    const std::string path = file.path() + " vid\u00E9o-\u65E5\u672C\U0001F3AC.xmp";
+    *createWofstreamWithFile(path) << "text";
+    const auto expected = std::filesystem::u8path(path);
+    EXPECT_EQ("text", bytesOf(expected));
+    EXPECT_TRUE(createWifstreamWithFile(path)->is_open());
+    std::filesystem::remove(expected);
+}
+
+#ifdef _WIN32
+TEST(FileStreams, APathThatIsNotUtf8IsNotOpened)
+{
+    const TempFile file;
+    for (const char* bytes : {"\xFF", "\xC3", "\xED\xA0\x80", "\xC0\xAF"}) {
+        EXPECT_FALSE(createWofstreamWithFile(file.path() + bytes)->is_open());
+        EXPECT_FALSE(createWifstreamWithFile(file.path() + bytes)->is_open());
+    }
+}
+#endif
 
 TEST(FileStreams, AMissingFileIsNotOpenedForReadingAndNotMade)
 {

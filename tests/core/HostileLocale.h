@@ -4,12 +4,20 @@
 #ifndef ZELINTERCHANGEDATA_TESTS_CORE_HOSTILELOCALE_H
 #define ZELINTERCHANGEDATA_TESTS_CORE_HOSTILELOCALE_H
 
+#include <array>
 #include <clocale>
 #include <cwchar>
 #include <locale>
 #include <string>
 
 namespace ZelInterchangeData {
+
+/// The names of C locales that the system has.
+#ifdef _WIN32
+constexpr std::array<const char*, 1> localeNames = {"C"};
+#else
+constexpr std::array<const char*, 2> localeNames = {"C", "C.UTF-8"};
+#endif
 
 /// As long as it lives, the global locale widens every narrow character to a question mark and
 /// converts no wide character, and the C locale is the named one.

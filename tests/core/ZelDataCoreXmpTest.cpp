@@ -341,7 +341,7 @@ TEST_F(ZelDataCoreXmpTest, TheFileHoldsTheSameBytesWhateverTheLocale)
     setAll();
     const auto packet = withoutDate(written());
     EXPECT_NE(std::string::npos, packet.find("\xE8\x8C\xB6 \xF0\x9F\x8D\xB5"));
-    for (const char* name : {"C", "C.UTF-8"}) {
+    for (const char* name : localeNames) {
         const TempFile file;
         {
             const HostileLocale hostile(name);

@@ -130,11 +130,11 @@ class EndAtCall {
 public:
     EndAtCall(std::size_t nth, End end)
     {
-        beforeEachCall = [nth, end, calls = std::size_t{0}]() mutable {
+        beforeEachCall() = [nth, end, calls = std::size_t{0}]() mutable {
             if (++calls == nth) end();
         };
     }
-    ~EndAtCall() { beforeEachCall = nullptr; }
+    ~EndAtCall() { beforeEachCall() = nullptr; }
     EndAtCall(const EndAtCall&) = delete;
     EndAtCall& operator=(const EndAtCall&) = delete;
 };
@@ -203,7 +203,7 @@ struct StoringCaptions : FailingCaptions {
     ZelDataResult_tags createCaptionItem(i_ZelDataCaptionItem** out) const override
     {
         const auto code = FailingCaptions::createCaptionItem(out);
-        if (beforeEachCall) beforeEachCall();
+        if (beforeEachCall()) beforeEachCall()();
         return code;
     }
 };
@@ -227,9 +227,9 @@ private:
     template <class Made, class Interface>
     ZelDataResult_tags create(Interface** out) const
     {
-        if (beforeEachCall) beforeEachCall();
+        if (beforeEachCall()) beforeEachCall()();
         *out = new Made;
-        if (beforeEachCall) beforeEachCall();
+        if (beforeEachCall()) beforeEachCall()();
         return store(ZelData_Ok);
     }
 };

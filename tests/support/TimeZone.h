@@ -17,22 +17,29 @@ public:
     explicit TimeZone(const char* zone)
     {
         if (const char* const before = std::getenv("TZ")) before_ = before;
-        setenv("TZ", zone, 1);
-        tzset();
+        set(zone);
     }
-    ~TimeZone()
-    {
-        if (before_) {
-            setenv("TZ", before_->c_str(), 1);
-        } else {
-            unsetenv("TZ");
-        }
-        tzset();
-    }
+    ~TimeZone() { set(before_ ? before_->c_str() : nullptr); }
     TimeZone(const TimeZone&) = delete;
     TimeZone& operator=(const TimeZone&) = delete;
 
 private:
+    /// Null for none.
+    static void set(const char* zone)
+    {
+#ifdef _WIN32
+        _putenv_s("TZ", zone != nullptr ? zone : "");
+        _tzset();
+#else
+        if (zone != nullptr) {
+            setenv("TZ", zone, 1);
+        } else {
+            unsetenv("TZ");
+        }
+        tzset();
+#endif
+    }
+
     std::optional<std::string> before_;
 };
 

@@ -15,7 +15,8 @@
 namespace ZelInterchangeData {
 namespace {
 
-// The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus.
+// The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus. On Windows, a
+// name has three letters.
 const char* const utc = "UTC0";
 const char* const twoHoursEast = "EET-2";
 const char* const fiveHoursWest = "EST5";
@@ -39,7 +40,7 @@ TEST(GetDateString, WritesTheUtcDateAndTheLocalHours)
 TEST(GetDateString, WritesAMinusWhereTheHoursAgree)
 {
     EXPECT_EQ(dateIn(utc, march5), "2009-03-05T14:07:09-0:00");
-    EXPECT_EQ(dateIn("HALF-0:30", march5), "2009-03-05T14:07:09-0:00");
+    EXPECT_EQ(dateIn("HLF-0:30", march5), "2009-03-05T14:07:09-0:00");
     EXPECT_EQ(dateIn(utc, 0), "1970-01-01T00:00:00-0:00");
 }
 
@@ -53,8 +54,8 @@ TEST(GetDateString, IgnoresTheDayBoundary)
 {
     EXPECT_EQ(dateIn(twoHoursEast, 1236294000), "2009-03-05T23:00:00-22:00");
     EXPECT_EQ(dateIn(fiveHoursWest, 1236218400), "2009-03-05T02:00:00+19:00");
-    EXPECT_EQ(dateIn("WEST12", 1236214800), "2009-03-05T01:00:00+12:00");
-    EXPECT_EQ(dateIn("EAST-14", march5), "2009-03-05T14:07:09-10:00");
+    EXPECT_EQ(dateIn("WST12", 1236214800), "2009-03-05T01:00:00+12:00");
+    EXPECT_EQ(dateIn("EST-14", march5), "2009-03-05T14:07:09-10:00");
 }
 
 TEST(GetDateString, FollowsSummerTime)
@@ -66,6 +67,10 @@ TEST(GetDateString, FollowsSummerTime)
 TEST(GetDateString, FillsTheFieldsWithZeros)
 {
     EXPECT_EQ(dateIn(utc, 951782400), "2000-02-29T00:00:00-0:00");
+}
+
+TEST(GetDateString, WritesDatesBefore1970)
+{
     EXPECT_EQ(dateIn(utc, -1), "1969-12-31T23:59:59-0:00");
 }
 

@@ -29,6 +29,8 @@ public:
     template <class Number>
     std::string textOf(Number value)
     {
+        // The C library of Windows leaves the sign out.
+        if (std::isnan(value)) return std::signbit(value) ? "-nan" : "nan";
         stream_.str("");
         stream_ << value;
         return stream_.str();

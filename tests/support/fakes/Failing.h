@@ -14,7 +14,11 @@
 namespace ZelInterchangeData {
 
 /// Called before each operation of every such object in this thread, unless it is empty.
-inline thread_local std::function<void()> beforeEachCall;
+inline std::function<void()>& beforeEachCall()
+{
+    static thread_local std::function<void()> called;
+    return called;
+}
 
 /// A @p Base that fails where a test asks for it. A class that derives from it overrides operations
 /// and passes each through run(). It counts the objects of its kind that are alive.
@@ -77,7 +81,7 @@ protected:
     template <class Operation>
     ZelDataResult_tags run(const char* name, Operation&& operation) const
     {
-        if (beforeEachCall) beforeEachCall();
+        if (beforeEachCall()) beforeEachCall()();
         calls_.emplace_back(name);
         if (name != operation_ || --remaining_ != 0) return operation();
         return action_();
