@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "sets/Factory.h"
+#include "sets/FrameRate.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -95,18 +96,17 @@ std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
     return size;
 }
 
-/// Writes the table as makeTocConsistent() leaves it: in order, with a frame rate that is in range.
-/// The rest of what that repairs makes no difference: a missing title counts as empty.
+/// Writes the table as makeTocConsistent() leaves it: in order. The rest of what that repairs makes no
+/// difference: a missing title counts as empty, and the copy that this object holds has the standard
+/// frame rate, because copying a table leaves out its rate.
 void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataToc& toc = *held();
-    FrameRate rate = toc.frameRate();
-    rate.repair();
     Track track;
     track.description()
         .attribute("xmpDM:trackType", "TableOfContents")
         .attribute("xmpDM:trackName", "Table of Contents")
-        .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))
+        .attribute("xmpDM:frameRate", Utilities::getRateString(FrameRate::standard))
         .attribute("zelDM:image", Utilities::htmlTagsToText(toc.imageFile()));
     track.appendTo(packet, [&](MarkerWriter& markers) {
         toc.items().visitOrdered(
