@@ -6,12 +6,12 @@
 #define ZELINTERCHANGEDATA_ZELDATAEXPORT_H
 
 /// @def ZELINTERCHANGEDATA_API
-/// Marks what the shared library exports. Empty where ZELINTERCHANGEDATA_STATIC is defined, as it
+/// Marks what the shared library exports. Empty if ZELINTERCHANGEDATA_STATIC is defined, as it
 /// is for the static library, which exports nothing from the program that links it.
 
 // Deliberate: the static form is empty, not "hidden"; with hidden interfaces g++ would warn about
 // every class of the program that has a pointer to one. The static library itself is compiled with
-// hidden visibility, which is what counts when a program is linked.
+// hidden visibility, which decides at link time.
 #if defined(ZELINTERCHANGEDATA_STATIC)
 #define ZELINTERCHANGEDATA_API
 #elif defined(__GNUC__)

@@ -15,7 +15,7 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// Deliberate: the title in the first language alone; otherwise the marker's name would be a list
+/// Deliberate: only the title in the first language; otherwise, the marker's name would be a list
 /// of titles.
 std::string_view titleOf(const TocEntryState& entry, const std::vector<std::string>& languageIDs)
 {
@@ -39,7 +39,7 @@ void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
 
 i_ZelDataTocFormatter::~i_ZelDataTocFormatter() = default;
 
-// Here, so that the document that creates one does not compile the class template again.
+// Defined here so that the document, which creates one, does not compile the class template again.
 ZelDataXmpTocFormatter::ZelDataXmpTocFormatter() = default;
 ZelDataXmpTocFormatter::~ZelDataXmpTocFormatter() = default;
 
@@ -81,7 +81,7 @@ ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
 
 std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
 {
-    // The texts with some room for entities, and the markup.
+    // The size of the texts, with some space for entities, and of the markup.
     constexpr std::size_t trackMarkup = 300;
     constexpr std::size_t markerMarkup = 210;
     const ZelDataToc& toc = *held();
@@ -96,9 +96,9 @@ std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
     return size;
 }
 
-/// Writes the table as makeTocConsistent() leaves it: in order. The rest of what that repairs makes no
-/// difference: a missing title counts as empty, and the copy that this object holds has the standard
-/// frame rate, because copying a table leaves out its rate.
+/// Writes the table as makeTocConsistent() leaves it: in order. Its other repairs make no difference:
+/// a missing title counts as empty, and the held copy has the standard frame rate, because copying a
+/// table does not copy its rate.
 void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataToc& toc = *held();

@@ -37,7 +37,8 @@ constexpr std::size_t indexOf(std::size_t first, std::size_t second) noexcept
     return first * letterCount + second;
 }
 
-/// For each pair of letters the place in the table, counted from 1; 0 where there is no language.
+/// For each pair of letters, the place in the table, counted from 1, or 0 if there is no such
+/// language.
 using Index = std::array<std::uint8_t, letterCount * letterCount>;
 
 constexpr Index makeIndex() noexcept

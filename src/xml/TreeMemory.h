@@ -10,16 +10,15 @@
 
 namespace ZelInterchangeData {
 
-/// Hands out memory from large pieces, in order, and takes nothing back before it is destroyed
-/// itself: a tree is built, written once and destroyed as a whole.
+/// Allocates memory from large pieces, in order, and frees it only when it is destroyed: a tree is
+/// built, written once and destroyed as a whole.
 class TreeMemory {
 public:
     std::pmr::memory_resource* resource() noexcept { return &pieces_; }
 
 private:
     /// The heap, through the plain operators new and delete. The standard library's own resource
-    /// calls those with an alignment, which a program that replaces the plain ones need not
-    /// replace.
+    /// calls the aligned ones, and a program that replaces the plain ones need not replace those.
     class Heap final : public std::pmr::memory_resource {
         void* do_allocate(std::size_t size, std::size_t /*alignment*/) override
         {

@@ -16,8 +16,8 @@ class ZelDataXmlNode;
 /// A name and a value; both are written as they were given.
 class ZelDataXmlAttribute {
 public:
-    /// An attribute of @p owner with empty name and value. The owner does not list it. The name is
-    /// kept in @p memory.
+    /// An attribute of @p owner with an empty name and value. The owner does not list it. Its name
+    /// uses @p memory.
     explicit ZelDataXmlAttribute(
         ZelDataXmlNode* owner, std::pmr::memory_resource* memory = std::pmr::new_delete_resource());
 
@@ -26,7 +26,7 @@ public:
 
     /// The number of bytes that write() appends.
     std::size_t length() const noexcept;
-    /// Appends the name, `="`, the value, `"` and one blank to @p out.
+    /// Appends the name, `="`, the value, `"` and a space to @p out.
     void write(std::string& out) const;
 
     ZelDataXmlAttribute(const ZelDataXmlAttribute&) = delete;
