@@ -9,7 +9,6 @@
 #include "xml/ZelDataXmlStream.h"
 
 #include <array>
-#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -49,10 +48,9 @@ std::string joined(const std::vector<std::string>& words)
     return text;
 }
 
-/// Builds the items of the language list; ZelData_InternalError if @p ids is empty.
+/// Builds the items of the language list.
 ZelDataResult_tags buildLanguageMarkup(const std::vector<std::string>& ids, std::string& markup)
 {
-    if (ids.empty()) return ZelData_InternalError;
     for (const std::string& id : ids) {
         std::string name;
         const auto found = Utilities::englishNameForLanguage(id, name);
@@ -65,11 +63,11 @@ ZelDataResult_tags buildLanguageMarkup(const std::vector<std::string>& ids, std:
     return ZelData_Ok;
 }
 
-/// Builds the items of the content list; ZelData_InternalError if @p names is empty.
-ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std::string& markup)
+/// The items of the content list.
+std::string contentMarkup(const std::vector<std::string>& names)
 {
-    if (names.empty()) return ZelData_InternalError;
     constexpr std::size_t itemMarkup = 80;
+    std::string markup;
     for (std::size_t i = 0; i < names.size(); ++i) {
         markup.reserve(markup.size() + itemMarkup + sizeWithEntities(names[i]));
         markup += "<rdf:li xmpDM:name=\"";
@@ -78,7 +76,7 @@ ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std
         appendEscaped(markup, names[i]);
         markup += "\"></rdf:li>";
     }
-    return ZelData_Ok;
+    return markup;
 }
 
 /// Writes one header, step by step, in the order of the packet. A step that cannot get a value ends
@@ -220,12 +218,10 @@ private:
     Ending addContentNames()
     {
         std::vector<std::string> names;
-        std::string markup;
         if (failed(header_.getContentNames(names))) return header_.getLastError();
         if (names.empty()) return {};
-        if (const auto built = buildContentMarkup(names, markup); failed(built)) return built;
         description_.element("zelDM:contentList/rdf:Description/zelDM:files/rdf:Seq")
-            .text(std::move(markup));
+            .text(contentMarkup(names));
         return {};
     }
 

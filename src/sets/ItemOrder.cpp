@@ -16,12 +16,11 @@ using Places = std::vector<std::size_t>;
 /// Counts at places, and the sum of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    /// Prepares @p size places with counts of zero, rounded up to the next power of two so that
-    /// take() stays within bounds.
+    /// Prepares @p size places with counts of zero, and as many more as take() can reach.
     void clear(std::size_t size)
     {
         highestStep_ = 1;
-        while (highestStep_ <= size)
+        while (highestStep_ <= size / 2)
             highestStep_ *= 2;
         sums_.assign(highestStep_ * 2, 0);
     }
@@ -106,7 +105,7 @@ Places packedOrder(const std::vector<long long>& starts, long long least, Packed
         items[i] = above << placeBits | i;
     }
     std::vector<Packed> scratch(starts.size());
-    for (unsigned shift = 0; shift < placeBits && range >> shift != 0; shift += 8) {
+    for (unsigned shift = 0; range >> shift != 0; shift += 8) {
         orderByByte(items, scratch, placeBits + shift);
     }
     Places order(starts.size());
