@@ -25,7 +25,7 @@ TEST(HeapWatchTest, CountsEveryFormOfNew)
     EXPECT_EQ(watch.use().allocations, 7U);
 }
 
-TEST(HeapWatchTest, ThePeakIsWhatWasHeldAtOneTime)
+TEST(HeapWatchTest, ThePeakIsTheMostMemoryHeldAtOnce)
 {
     constexpr std::size_t size = 1000000;
     const HeapWatch watch;
@@ -40,7 +40,7 @@ TEST(HeapWatchTest, ThePeakIsWhatWasHeldAtOneTime)
     EXPECT_LT(watch.use().peak, 2 * size + 20000);
 }
 
-TEST(HeapWatchTest, NeitherCountsNorPeaksBefore)
+TEST(HeapWatchTest, IgnoresEarlierAllocations)
 {
     const std::vector<char> before(1000000);
     const HeapWatch watch;

@@ -63,7 +63,7 @@ TEST_P(Peer, WritesTheInformationThatTheLibraryWrites)
     }
 }
 
-TEST_P(Peer, WritesAsMuchWithoutACopy)
+TEST_P(Peer, WritesTheSameSizeWithoutACopy)
 {
     const Document document = makeDocument(100, Order::ascending, Pair::enDe);
     std::string written;

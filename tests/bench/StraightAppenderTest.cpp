@@ -44,7 +44,7 @@ TEST_P(StraightAppender, WritesTheLibrarysBytes)
     expectSameBytes(makeDocument(size, order, pair));
 }
 
-TEST_P(StraightAppender, StaysWithinTheRoomThatEveryWriterReserves)
+TEST_P(StraightAppender, StaysWithinTheSizeThatEveryWriterReserves)
 {
     const auto [size, order, pair] = GetParam();
     const Document document = makeDocument(size, order, pair);
@@ -108,7 +108,7 @@ TEST(DocumentsTest, TheSameArgumentsGiveTheSameDocument)
     EXPECT_EQ(packet(), packet());
 }
 
-TEST(DocumentsTest, OrdersAreWhatTheyAreCalled)
+TEST(DocumentsTest, OrdersMatchTheirNames)
 {
     const auto starts = [](Order order) {
         std::vector<long long> all;

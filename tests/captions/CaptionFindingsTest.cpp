@@ -118,7 +118,7 @@ TEST(CaptionFindings, AllFindingsComeInStoredOrder)
               linesOf(*captions));
 }
 
-TEST(CaptionFindings, OrderedCaptionsKeepTheirOverlapsAlone)
+TEST(CaptionFindings, OrderedCaptionsKeepOnlyTheirOverlaps)
 {
     const auto captions = captionsOf({{2000, 1000, {{"en", "a"}}}, {0, 2001, {{"de", ""}}}});
     ASSERT_EQ(ZelData_Ok, captions->makeCaptionsConsistent());
@@ -215,7 +215,7 @@ public:
     std::vector<ToldItem::Told> items;
 };
 
-TEST(CaptionFindings, ADurationThatIsNotPositiveIsNoneAndNotTooShortAsWell)
+TEST(CaptionFindings, ANonPositiveDurationIsMissingAndNotAlsoTooShort)
 {
     ToldCaptions captions;
     captions.items = {{0, 0, 0}, {1, 0, -1}, {2, 3, 1}};
@@ -236,7 +236,7 @@ TEST(CaptionFindings, ACaptionThatEndsBeforeItStartsCanBeOutOfOrder)
               linesOf(captions));
 }
 
-TEST(CaptionFindings, TextsAndLanguagesAreLookedAtByThemselves)
+TEST(CaptionFindings, TextsAndLanguagesAreCheckedSeparately)
 {
     ToldCaptions captions;
     captions.items = {{0, 1000, 1000, {{"en", "\xFF"}, {"zz", "a"}, {"yy", "\xFF"}}}};
@@ -250,7 +250,7 @@ TEST(CaptionFindings, TextsAndLanguagesAreLookedAtByThemselves)
               findingsOf(captions));
 }
 
-TEST(CaptionFindings, LanguagesNeedNotComeInOrder)
+TEST(CaptionFindings, LanguagesMayComeInAnyOrder)
 {
     ToldCaptions captions;
     ASSERT_EQ(ZelData_Ok, captions.addLanguage("de"));
@@ -527,7 +527,7 @@ TEST(CaptionFindings, AgreeWithTheCheckAndWithTheDefinitionOnRandomCaptions)
     EXPECT_LT(valid, rounds / 2);
 }
 
-TEST(CaptionFindings, TakeNoQuadraticTime)
+TEST(CaptionFindings, DoNotTakeQuadraticTime)
 {
     // Comparing each caption with each would be five thousand million steps.
     constexpr long long count = 100000;

@@ -19,7 +19,7 @@ protected:
     std::unique_ptr<i_ZelDataCaptions> target_ = captionsOf({});
 };
 
-TEST_F(CaptionsCopy, CopiesValuesThatAreNoNumbers)
+TEST_F(CaptionsCopy, CopiesNans)
 {
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
     EXPECT_EQ(ZelData_Ok, source_->setForegroundColor(nan, nan, nan));

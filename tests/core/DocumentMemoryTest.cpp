@@ -100,7 +100,7 @@ TEST(StarvedDocument, HeaderThatCannotBeCopiedReportsTheCaptionsLastError)
                 codeWith(0, [&] { return document.setDataHeader(*header); }));
 }
 
-TEST(StarvedDocument, WritesNothingIntoTheStringAndStoresAtMostThatItCouldNotHandOver)
+TEST(StarvedDocument, LeavesTheStringAloneAndStoresAtMostOutOfMemory)
 {
     ZelDataCore document;
     fill(document);
@@ -119,7 +119,7 @@ TEST(StarvedDocument, WritesNothingIntoTheStringAndStoresAtMostThatItCouldNotHan
     }
 }
 
-TEST(StarvedDocument, TheFirstAllocationsAreThoseOfHandingOverAndTheirFailureIsStored)
+TEST(StarvedDocument, FirstAllocatesToHandOverItsSetsAndStoresTheFailure)
 {
     ZelDataCore document;
     fill(document);
@@ -128,7 +128,7 @@ TEST(StarvedDocument, TheFirstAllocationsAreThoseOfHandingOverAndTheirFailureIsS
                 codeWith(0, [&] { return document.writeString(out, xmp, false); }));
 }
 
-TEST(StarvedDocument, TheWriterStoresThatItsMemoryRanOut)
+TEST(StarvedDocument, TheWriterStoresOutOfMemory)
 {
     ZelDataCoreXmp document;
     fill(document);

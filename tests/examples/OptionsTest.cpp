@@ -176,7 +176,7 @@ TEST(OptionValues, FileNamesKeepTheirControlCharacters)
     EXPECT_EQ(parseAll({"-o", "a\tb", "--size=1x1"}).output, "a\tb");
 }
 
-TEST(OptionValues, EnvironmentIsNotLookedAt)
+TEST(OptionValues, EnvironmentIsIgnored)
 {
     ::setenv("TITLE", "from outside", 1);
     ::setenv("PUBLISH_VIDEO_TITLE", "from outside", 1);
@@ -255,7 +255,7 @@ TEST(Numbers, SizeIsTwoNumbersAroundAnX)
         EXPECT_THAT(failureOfAll({"-o", "x", "--size=" + bad}), HasSubstr("--size")) << bad;
 }
 
-TEST(LanguageFiles, LanguageStandsBeforeTheFirstEqualsSign)
+TEST(LanguageFiles, LanguageEndsAtTheFirstEqualsSign)
 {
     const Options options = parse({"de=a=b.srt", "pt-BR=c"});
     ASSERT_EQ(options.captions.size(), 2U);
@@ -282,7 +282,7 @@ TEST(LanguageFiles, ArgumentWithoutEqualsSignIsRefused)
     EXPECT_THAT(failureOf({"-"}), HasSubstr("'-'"));
 }
 
-TEST(LanguageFiles, SameLanguageMayComeTwice)
+TEST(LanguageFiles, SameLanguageMayBeGivenTwice)
 {
     EXPECT_EQ(parse({"de=a", "de=b"}).captions.size(), 2U);
 }
@@ -297,7 +297,7 @@ TEST(LanguageFiles, TableOfContentsIsEnglishWithoutALanguage)
     EXPECT_EQ(french.toc->path, "a=b.vtt");
 }
 
-TEST(ArgumentBytes, WhatIsNotStrictUtf8IsRefusedByName)
+TEST(ArgumentBytes, BytesThatAreNotStrictUtf8AreRefusedByName)
 {
     for (const std::string bad : {"\xFF", "\xED\xA0\x80", "\xC0\xAF", "\xF4\x90\x80\x80"}) {
         for (const std::string option :
@@ -309,7 +309,7 @@ TEST(ArgumentBytes, WhatIsNotStrictUtf8IsRefusedByName)
     }
 }
 
-TEST(Help, AsksForNothingElse)
+TEST(Help, NeedsNoOtherOption)
 {
     EXPECT_TRUE(parseAll({"--help"}).help);
 }

@@ -79,7 +79,7 @@ TEST_F(UsageTest, ValueIsTakenWhole)
                                     "xmpDM:value=\"&apos;e&apos;,{f}\"></rdf:li></rdf:Seq>"));
 }
 
-TEST_F(UsageTest, ContentNamesThatOnlyControlCharactersTellApartAreOne)
+TEST_F(UsageTest, ContentNamesThatDifferOnlyInControlCharactersAreOne)
 {
     publish({"--content", "a\x01", "--content", "a"});
     EXPECT_THAT(packet(), HasSubstr("<rdf:Seq><rdf:li xmpDM:name=\"0\" xmpDM:value=\"a\">"

@@ -106,7 +106,7 @@ void expectItemsTell(const Collection& collection)
     expectTold([&] { static_cast<void>(items(collection)); });
 }
 
-TEST(FaceWithoutMemory, ItemsThrowAndNoneIsLeftBehind)
+TEST(FaceWithoutMemory, ItemsThrowAndLeakNothing)
 {
     const auto captions = createCaptions();
     const auto toc = createToc();

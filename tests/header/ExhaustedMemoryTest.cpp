@@ -59,7 +59,7 @@ std::unique_ptr<i_ZelDataHeader> sampleHeader()
     return header;
 }
 
-TEST(HeaderWithoutMemory, RefusesWhatItCannotStoreAndStaysAsItWas)
+TEST(HeaderWithoutMemory, RefusesWhatItCannotStoreAndStaysUnchanged)
 {
     using Operation = std::function<ZelDataResult_tags(i_ZelDataHeader&)>;
     const Texts two = {longText, longText};
@@ -141,7 +141,7 @@ TEST(HeaderWithoutMemory, DisplayNamesEndWithOutOfMemory)
     EXPECT_EQ(Texts({"English", "Old Church Slavonic"}), names);
 }
 
-TEST(HeaderWithoutMemory, ACopyEndsAndCanBeMadeAgain)
+TEST(HeaderWithoutMemory, AFailedCopyCanBeRepeated)
 {
     const auto source = longHeader();
     const auto failures = failAtEachAllocation(
@@ -159,7 +159,7 @@ std::unique_ptr<i_ZelDataHeaderFormatter> newFormatter()
     return make(&ZelDataUtilities::createHeaderFormatter);
 }
 
-TEST(HeaderFormatterWithoutMemory, TakesAHeaderAtTheNextAttempt)
+TEST(HeaderFormatterWithoutMemory, AcceptsTheHeaderAtTheNextAttempt)
 {
     const auto source = longHeader();
     const auto failures = failAtEachAllocation(

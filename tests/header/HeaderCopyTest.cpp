@@ -117,7 +117,7 @@ TEST_F(HeaderCopy, ReproducesAllFieldsInTheStatedOrder)
     EXPECT_EQ(described(sampleValues()), targetState());
 }
 
-TEST_F(HeaderCopy, LeavesTheSourceAsItWasButForTheCodeOfItsGetters)
+TEST_F(HeaderCopy, ChangesOnlyTheLastErrorOfTheSource)
 {
     source_.ZelDataHeader::setLastError(ZelData_NoData);
     EXPECT_EQ(ZelData_Ok, target().copyFrom(source_));
@@ -203,7 +203,7 @@ public:
     }
 };
 
-TEST_F(HeaderCopy, AContentNameThatStandsTwiceEndsItWithAWarning)
+TEST_F(HeaderCopy, ADuplicateContentNameEndsItWithAWarning)
 {
     RepeatingHeader source;
     fill(source, sampleValues());

@@ -75,7 +75,7 @@ TEST_F(ZelDataHeaderTest, KeywordsAreReplacedAsAWholeAndMayRepeat)
     EXPECT_EQ(Texts({"b", "\xFF", "b", ""}), keywords);
 }
 
-TEST_F(ZelDataHeaderTest, FlagsCanBeSetAndTakenBack)
+TEST_F(ZelDataHeaderTest, FlagsCanBeSetAndCleared)
 {
     for (const bool flag : {true, false}) {
         bool read = !flag;
@@ -174,7 +174,7 @@ TEST_F(ZelDataHeaderTest, AContentNameThatIsNotUtf8IsRefused)
     EXPECT_EQ(Texts(), contentNames());
 }
 
-TEST_F(ZelDataHeaderTest, RemovingAContentNameTakesTheIdenticalOne)
+TEST_F(ZelDataHeaderTest, RemovingAContentNameRemovesTheIdenticalOne)
 {
     addContentNames({"a", "b", "c"});
     EXPECT_CODE(*header_, ZelData_WarnNoChange, header_->removeContentName("B"));

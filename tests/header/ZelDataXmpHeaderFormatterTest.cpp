@@ -131,7 +131,7 @@ TEST_F(HeaderFormatter, WritesNeitherLanguagesNorContentListWhenThereAreNone)
               written(plainValues()));
 }
 
-TEST_F(HeaderFormatter, WritesTheMomentOfWriting)
+TEST_F(HeaderFormatter, WritesTheTimeOfWriting)
 {
     set(plainValues());
     std::string text;
@@ -155,7 +155,7 @@ TEST_F(HeaderFormatter, TwoWritingsASecondApartDifferOnlyInTheDate)
     EXPECT_EQ(withoutDate(first), withoutDate(second));
 }
 
-TEST_F(HeaderFormatter, EscapesEachTextButTheCreator)
+TEST_F(HeaderFormatter, EscapesEachTextExceptTheCreator)
 {
     HeaderValues values = plainValues();
     values.title = values.creator = values.description = values.appName = values.appVersion =
@@ -170,7 +170,7 @@ TEST_F(HeaderFormatter, EscapesEachTextButTheCreator)
     EXPECT_EQ(escaped, attribute(packet, "zelDM:keywords"));
 }
 
-TEST_F(HeaderFormatter, LeavesEveryOtherByteOfATextAsItIs)
+TEST_F(HeaderFormatter, LeavesEveryOtherByteOfATextUnchanged)
 {
     HeaderValues values = plainValues();
     values.title = "\xFF\n\t\x01\xC3\xA9";
@@ -210,7 +210,7 @@ TEST_F(HeaderFormatter, WritesTheFlagsAsWords)
               packet.find("<rdf:li xmpDM:name=\"showsearch\" xmpDM:value=\"false\" ></rdf:li>"));
 }
 
-TEST_F(HeaderFormatter, CutsNoNumber)
+TEST_F(HeaderFormatter, TruncatesNoNumber)
 {
     HeaderValues values = plainValues();
     values.videoLength = 4294967296;
@@ -248,7 +248,7 @@ TEST_F(HeaderFormatter, NumbersAndEscapesContentNames)
     EXPECT_NE(std::string::npos, written(values).find("<rdf:Seq>" + items + "</rdf:Seq>"));
 }
 
-TEST_F(HeaderFormatter, TakesTheFlagOfWritingWithoutUsingIt)
+TEST_F(HeaderFormatter, IgnoresTheFlag)
 {
     set(sampleValues());
     std::string text = "left over";
@@ -310,7 +310,7 @@ TEST_F(HeaderFormatter, ARefusedHeaderLeavesTheContentNamesOfTheOneBefore)
     EXPECT_NE(std::string::npos, packet.find("xmpDM:name=\"showsearch\" xmpDM:value=\"false\""));
 }
 
-TEST_F(HeaderFormatter, GivesTheCodeOfAHeaderThatCannotBeCopied)
+TEST_F(HeaderFormatter, ReturnsTheCodeOfAHeaderThatCannotBeCopied)
 {
     for (const auto& [misdeed, expected] :
          {std::pair(Misdeed::ReturnsCode, CallScript::keptCode),
@@ -327,7 +327,7 @@ TEST_F(HeaderFormatter, GivesTheCodeOfAHeaderThatCannotBeCopied)
 }
 
 /// The held header's last error is that of the source, here success, though the copy stopped.
-TEST_F(HeaderFormatter, GivesSuccessForAFailingHeaderThatKeptSuccess)
+TEST_F(HeaderFormatter, ReturnsSuccessForAFailingHeaderThatKeptSuccess)
 {
     ScriptedHeader source;
     fill(source, sampleValues());

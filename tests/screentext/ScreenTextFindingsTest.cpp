@@ -68,7 +68,7 @@ private:
     unsigned long rate_;
 };
 
-TEST(ScreenTextFindings, FrameRateAndTextAreLookedAt)
+TEST(ScreenTextFindings, FrameRateAndTextAreChecked)
 {
     EXPECT_EQ((Lines{"screen texts: frame rate out of range (0, at least 1)",
                      "screen text 0 at 0: the text is not UTF-8"}),

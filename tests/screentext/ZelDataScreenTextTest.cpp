@@ -58,7 +58,7 @@ TEST_F(ScreenText, EqualStartsAndOverlapsPass)
     EXPECT_EQ(items, itemsOf(*texts_));
 }
 
-TEST(ScreenTextOrder, ComparesStartsAlone)
+TEST(ScreenTextOrder, ComparesOnlyStarts)
 {
     ZelDataScreenText texts;
     add(texts, {{5, 9, "z", "", 0, 0, 9}, {5, 1, "a", "", 0, 0, 1}, {3}});
@@ -90,7 +90,7 @@ private:
     mutable FailingScreenTextItem* last_ = nullptr;
 };
 
-TEST(StoredScreenText, IsAskedForItsValidityOnlyByADeepCheck)
+TEST(StoredScreenText, IsValidatedOnlyByADeepCheck)
 {
     ScreenTextOfFailing texts;
     texts.added({1}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
@@ -113,7 +113,7 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
 
 // The order is looked at first, so an item is asked for its start a second time.
 
-TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
+TEST(StoredScreenText, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {
     ScreenTextOfFailing texts;
     texts.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
@@ -128,7 +128,7 @@ TEST(StoredScreenText, AStartThatItDoesNotSetCountsAsZero)
     EXPECT_CODE(texts, ZelData_Ok, texts.isValid(false));
 }
 
-TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsChecked)
 {
     ScreenTextOfFailing texts;
     texts.added({100});

@@ -108,7 +108,7 @@ TEST_F(ScreenTextFormatter, DropsControlCharactersFromTheTextButNotFromTheImage)
               written());
 }
 
-TEST_F(ScreenTextFormatter, WritesTheLargestNumbersWhole)
+TEST_F(ScreenTextFormatter, WritesTheLargestNumbersInFull)
 {
     const auto latest = std::numeric_limits<long long>::max();
     const auto largest = std::numeric_limits<unsigned long>::max();

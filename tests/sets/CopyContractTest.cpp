@@ -465,7 +465,7 @@ TYPED_TEST(Copy, LeavesSuccessInTheLastErrorOfTheSource)
     EXPECT_EQ(ZelData_Ok, source.getLastError());
 }
 
-TYPED_TEST(Copy, OntoItselfIsRefusedAndCallsAndChangesNothing)
+TYPED_TEST(Copy, OntoItselfIsRefusedWithoutACallOrAChange)
 {
     typename TypeParam::Fake object;
     TypeParam::fillSource(object);
@@ -480,7 +480,7 @@ TYPED_TEST(Copy, OntoItselfIsRefusedAndCallsAndChangesNothing)
     EXPECT_EQ(before, this->contents(own));
 }
 
-TYPED_TEST(Copy, CallsTheOperationsOfSourceAndTargetInTheirOrder)
+TYPED_TEST(Copy, CallsTheOperationsOfSourceAndTargetInOrder)
 {
     typename TypeParam::Fake source;
     typename TypeParam::Fake target;
@@ -505,7 +505,7 @@ TYPED_TEST(Copy, StopsAtAWarningOfTheSource)
     });
 }
 
-TYPED_TEST(Copy, TakesALastErrorOfZeroOver)
+TYPED_TEST(Copy, TakesOverALastErrorOfZero)
 {
     this->failEachGetter(ZelData_Ok, [](auto& source, const auto& step) {
         source.failAt(step.getter, returnedCode, ZelData_Ok, step.nth);
@@ -519,7 +519,7 @@ TYPED_TEST(Copy, TurnsAnExceptionOfTheSourceIntoACode)
     });
 }
 
-TYPED_TEST(Copy, EndsWhereMemoryOfTheSourceRunsOut)
+TYPED_TEST(Copy, EndsWhenTheSourceRunsOutOfMemory)
 {
     this->failEachGetter(ZelData_OutOfMemory, [](auto& source, const auto& step) {
         source.throwAt(step.getter, std::bad_alloc(), step.nth);
@@ -547,7 +547,7 @@ TYPED_TEST(Copy, TurnsAnExceptionOfTheTargetIntoACode)
     });
 }
 
-TYPED_TEST(Copy, EndsWhereMemoryOfTheTargetRunsOut)
+TYPED_TEST(Copy, EndsWhenTheTargetRunsOutOfMemory)
 {
     this->failEachSetter(ZelData_OutOfMemory, [](auto& target, const auto& step) {
         target.throwAt(step.setter, std::bad_alloc(), step.nth);
@@ -619,7 +619,7 @@ protected:
 using CopiesWithLanguages = testing::Types<CaptionsCopies, TocCopies>;
 TYPED_TEST_SUITE(CopiedLanguages, CopiesWithLanguages, KindName);
 
-TYPED_TEST(CopiedLanguages, AreThoseOfTheItemsInTheOrderOfTheirFirstOccurrence)
+TYPED_TEST(CopiedLanguages, AreThoseOfTheItemsInOrderOfFirstOccurrence)
 {
     EXPECT_EQ(TypeParam::languagesOfItems(), this->languagesOfCopy());
     EXPECT_EQ(TypeParam::listed(), languagesOf(*this->source_));
@@ -646,7 +646,7 @@ TYPED_TEST(CopiedLanguages, DoNotIncludeOneThatOnlyARemovedItemHad)
     EXPECT_EQ((IDs{"de", "en"}), this->languagesOfCopy());
 }
 
-TYPED_TEST(CopiedLanguages, AreNoneAfterTheItemsWereCleared)
+TYPED_TEST(CopiedLanguages, AreEmptyAfterTheItemsWereCleared)
 {
     EXPECT_EQ(ZelData_Ok, ((*this->source_).*TypeParam::clear)());
     EXPECT_EQ(IDs{}, this->languagesOfCopy());

@@ -133,7 +133,7 @@ TYPED_TEST(FormatterStubContract, SettingTheDataSucceedsEachTime)
         EXPECT_CODE(*this->empty_, ZelData_Ok, ((*this->empty_).*TypeParam::set)(*this->data_));
 }
 
-TYPED_TEST(FormatterStubContract, GivesNoDataBack)
+TYPED_TEST(FormatterStubContract, ReturnsNoData)
 {
     const auto mark = TypeParam::mark(*this->data_);
     ASSERT_NE(0U, mark);
@@ -212,7 +212,7 @@ TYPED_TEST(FormatterStubContract, LeavesAnExistingFileAlone)
     EXPECT_EQ("precious", path.text());
 }
 
-TYPED_TEST(FormatterStubContract, AFileWithoutDataGetsTheCodeOfTheWritingExceptFromTheHeader)
+TYPED_TEST(FormatterStubContract, AFileWithoutDataReturnsTheCodeOfWriteStringExceptForTheHeader)
 {
     const Path path;
     EXPECT_CODE(*this->empty_, TypeParam::emptyWriteFile,

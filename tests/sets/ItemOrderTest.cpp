@@ -67,7 +67,7 @@ TEST(ExchangeOrder, TiesThatASmallerStartJumpsOverAreRotated)
     EXPECT_EQ((Places{1, 0}), exchangeOrder({2, 1}));
 }
 
-TEST(ExchangeOrder, IsThatOfTheExchangeSortForRandomStarts)
+TEST(ExchangeOrder, MatchesTheExchangeSortForRandomStarts)
 {
     std::mt19937 random(20);
     for (int round = 0; round < 20000; ++round) {
@@ -77,7 +77,7 @@ TEST(ExchangeOrder, IsThatOfTheExchangeSortForRandomStarts)
     }
 }
 
-TEST(ExchangeOrder, IsThatOfTheExchangeSortForLongGroupsOfTies)
+TEST(ExchangeOrder, MatchesTheExchangeSortForLongGroupsOfTies)
 {
     std::mt19937 random(21);
     for (const long long distinct : {1, 2, 3, 10, 100, 100000}) {
@@ -86,7 +86,7 @@ TEST(ExchangeOrder, IsThatOfTheExchangeSortForLongGroupsOfTies)
     }
 }
 
-TEST(ExchangeOrder, TakesTheExtremesOfStarts)
+TEST(ExchangeOrder, HandlesExtremeStarts)
 {
     constexpr long long largest = std::numeric_limits<long long>::max();
     constexpr long long smallest = std::numeric_limits<long long>::min();
@@ -94,7 +94,7 @@ TEST(ExchangeOrder, TakesTheExtremesOfStarts)
     EXPECT_EQ(exchanged(starts), ordered(starts));
 }
 
-TEST(ExchangeOrder, TwoStartsInTurnTakeNoQuadraticTime)
+TEST(ExchangeOrder, TwoAlternatingStartsDoNotTakeQuadraticTime)
 {
     // A million items: comparing each with each would not come to an end here.
     Starts starts(1000000);
@@ -137,7 +137,7 @@ TEST(FirstLaterStartsBelow, AreTheNearestAndNotTheSmallest)
     EXPECT_TRUE(firstLaterStartsBelow({}, {}).empty());
 }
 
-TEST(FirstLaterStartsBelow, AreThoseOfTheDefinition)
+TEST(FirstLaterStartsBelow, MatchTheDefinition)
 {
     std::mt19937 random(22);
     for (int round = 0; round < 20000; ++round) {
@@ -149,7 +149,7 @@ TEST(FirstLaterStartsBelow, AreThoseOfTheDefinition)
     }
 }
 
-TEST(FirstLaterStartsBelow, TakeNoQuadraticTime)
+TEST(FirstLaterStartsBelow, DoNotTakeQuadraticTime)
 {
     // A million items without any: comparing each with each would not come to an end here.
     const std::size_t size = 1000000;

@@ -122,7 +122,7 @@ TYPED_TEST(LanguageListContract, ClearingEmptiesTheList)
     EXPECT_EQ(IDs(), idsOf(this->list()));
 }
 
-TYPED_TEST(LanguageListContract, IDsAreKeptAsGivenInTheOrderOfTheirAddition)
+TYPED_TEST(LanguageListContract, IDsAreKeptAsGivenInOrderOfAddition)
 {
     add(this->list(),
         {"en", "de", "EN", "en-US", "pt-BR", "aa-", "en-GB", "fr-<&\">", "ja-\xF0\x9F\x98\x80"});
@@ -159,7 +159,7 @@ TYPED_TEST(LanguageListContract, MalformedBytesAreFoundBeforeTheLanguageIsLooked
     EXPECT_EQ(IDs(), idsOf(this->list()));
 }
 
-TYPED_TEST(LanguageListContract, RemovingTakesTheIdenticalEntryAlone)
+TYPED_TEST(LanguageListContract, RemovingRemovesOnlyTheIdenticalEntry)
 {
     add(this->list(), {"en", "EN", "en-GB"});
     EXPECT_CODE(this->list(), ZelData_Ok, this->list().removeLanguage("EN"));
@@ -167,7 +167,7 @@ TYPED_TEST(LanguageListContract, RemovingTakesTheIdenticalEntryAlone)
 }
 
 /// A header warns, the other two report an error.
-TYPED_TEST(LanguageListContract, RemovingAnAbsentLanguageGivesTheOwnersCode)
+TYPED_TEST(LanguageListContract, RemovingAnAbsentLanguageReturnsTheOwnersCode)
 {
     add(this->list(), {"en", "FR"});
     for (const char* id : {"fr", "", "\xFF"}) {
@@ -298,7 +298,7 @@ TYPED_TEST(LanguageListContract, CopyingADuplicateStopsThereWithAWarning)
     EXPECT_EQ(IDs({"en"}), idsOf(this->list()));
 }
 
-TYPED_TEST(LanguageListContract, CopyingChecksEachIDAnew)
+TYPED_TEST(LanguageListContract, CopyingChecksEachIDAgain)
 {
     add(this->list(), {"fr"});
     EXPECT_CODE(this->list(), ZelData_UnknownLanguage,
@@ -403,7 +403,7 @@ TEST_F(LanguageListNames, AMissingNameIsAnErrorAndTheOthersStay)
     EXPECT_EQ(IDs({"name of en", "name of fr"}), names_);
 }
 
-TEST_F(LanguageListNames, ExhaustedMemoryIsNotTakenForAMissingName)
+TEST_F(LanguageListNames, ExhaustedMemoryIsNotMistakenForAMissingName)
 {
     EXPECT_EQ(ZelData_OutOfMemory, list_.names(names_, &noMemoryForGerman));
     EXPECT_EQ(IDs({"name of en"}), names_);

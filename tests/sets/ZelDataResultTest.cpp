@@ -72,7 +72,7 @@ TEST(ZelDataResult, ACodeIsAnErrorWhenItIsNegativeAsASignedNumber)
         EXPECT_EQ(static_cast<std::int32_t>(value) < 0, isError(code));
 }
 
-TEST(ZelDataResult, AWarningIsAFailureButNoError)
+TEST(ZelDataResult, AWarningIsAFailureButNotAnError)
 {
     EXPECT_TRUE(failed(static_cast<ZelDataResult_tags>(0x40000001U)));
     EXPECT_FALSE(isError(static_cast<ZelDataResult_tags>(0x40000001U)));
@@ -100,7 +100,7 @@ TEST(ZelDataResult, TheLastErrorOfAConstObjectCanBeSet)
     EXPECT_EQ(ZelData_Ok, object.getLastError());
 }
 
-TEST(ZelDataResult, AnyValueTravelsUnharmedAsTheLastError)
+TEST(ZelDataResult, AnyValueIsKeptAsTheLastError)
 {
     const OwnObject object;
     object.setLastError(static_cast<ZelDataResult_tags>(0xFEDCBA98U));

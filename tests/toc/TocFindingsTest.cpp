@@ -91,7 +91,7 @@ private:
     unsigned long rate_;
 };
 
-TEST(TocFindings, FrameRateTextsAndLanguagesAreLookedAt)
+TEST(TocFindings, FrameRateTextsAndLanguagesAreChecked)
 {
     EXPECT_EQ((Lines{"table of contents: frame rate out of range (10001, at most 10000)",
                      "entry 0 at 0: the text in en is not UTF-8",

@@ -74,7 +74,7 @@ TEST_F(Toc, AMissingTextIsAnErrorUntilTheTableIsMadeConsistent)
     EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(false));
 }
 
-TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsChecked)
 {
     add(*toc_, {{100, {{"en", "a"}}}, {100}, {50, {{"en", "c"}}}});
     EXPECT_CODE(*toc_, ZelData_WarnTiming, toc_->isValid(false));
@@ -117,7 +117,7 @@ private:
     mutable FailingTocItem* last_ = nullptr;
 };
 
-TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
+TEST(StoredEntry, IsValidatedOnlyByADeepCheck)
 {
     TocOfFailing toc;
     toc.added({0, {{"en", "a"}}}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
@@ -125,7 +125,7 @@ TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
     EXPECT_CODE(toc, ZelData_NotFound, toc.isValid(true));
 }
 
-TEST(StoredEntry, AWarningOfItsValidityCountsAsFinding)
+TEST(StoredEntry, AWarningWhenItIsValidatedFailsTheCheck)
 {
     TocOfFailing toc;
     toc.added({}).failAt("isValid", ZelData_WarnItemGuidelines, ZelData_WarnItemGuidelines);
@@ -150,7 +150,7 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
 
 // The order is looked at first, so an entry is asked for its start a second time.
 
-TEST(StoredEntry, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
+TEST(StoredEntry, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {
     TocOfFailing toc;
     toc.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);

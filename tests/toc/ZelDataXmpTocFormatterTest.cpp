@@ -83,13 +83,13 @@ TEST_F(TocFormatter, StatesTheStandardFrameRateWhateverTheTableHas)
     EXPECT_EQ(track("", marker("a", "1")), written());
 }
 
-TEST_F(TocFormatter, WritesTheTitleOfTheFirstLanguageAlone)
+TEST_F(TocFormatter, WritesOnlyTheTitleInTheFirstLanguage)
 {
     give({{1, {{"fr", "Un"}, {"de", "Eins"}}}});
     EXPECT_EQ(track("", marker("Eins", "1")), written());
 }
 
-TEST_F(TocFormatter, TheFirstLanguageIsThatOfTheFirstEntryGivenNotOfTheOrderSet)
+TEST_F(TocFormatter, TheFirstLanguageComesFromTheFirstEntryNotFromTheOrderSet)
 {
     const auto toc = tocOf({{8, {{"fr", "Deux"}, {"it", "Due"}}}, {1, {{"de", "Eins"}}}});
     EXPECT_EQ(ZelData_Ok, toc->setOrderedLanguageIDs({"de", "it", "fr"}));
@@ -127,7 +127,7 @@ TEST_F(TocFormatter, DropsControlCharactersFromTitlesButNotFromImages)
               written());
 }
 
-TEST_F(TocFormatter, WritesTheLargestNumbersWhole)
+TEST_F(TocFormatter, WritesTheLargestNumbersInFull)
 {
     give({{std::numeric_limits<long long>::max(),
            {},
@@ -164,7 +164,7 @@ TEST(TocList, SkipsLanguagesWithoutTitleAndReturnsFalse)
               out);
 }
 
-TEST(TocList, DoesNotTakeExhaustedMemoryForAMissingTitle)
+TEST(TocList, DoesNotMistakeExhaustedMemoryForAMissingTitle)
 {
     FailingTocItem item;
     fill(item, {0, {{"de", "Eins"}}});

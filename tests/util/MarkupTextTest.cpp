@@ -21,7 +21,7 @@ void expectBoth(const std::string& text)
     ASSERT_EQ("before" + markupOf(text, true), stripped);
 }
 
-TEST(MarkupText, EveryByteAtEveryPlaceOfABlockBecomesWhatItShould)
+TEST(MarkupText, MatchesTheUtilitiesForEveryByteAtEveryPositionOfABlock)
 {
     for (int byte = 0; byte < 256; ++byte) {
         for (std::size_t place = 0; place < 20; ++place) {
@@ -32,7 +32,7 @@ TEST(MarkupText, EveryByteAtEveryPlaceOfABlockBecomesWhatItShould)
     }
 }
 
-TEST(MarkupText, EveryPairOfBytesBecomesWhatItShould)
+TEST(MarkupText, MatchesTheUtilitiesForEveryPairOfBytes)
 {
     for (int pair = 0; pair < 65536; ++pair) {
         std::string text("aaaaaaa");
@@ -42,7 +42,7 @@ TEST(MarkupText, EveryPairOfBytesBecomesWhatItShould)
     }
 }
 
-TEST(MarkupText, RandomTextsBecomeWhatTheyShould)
+TEST(MarkupText, MatchesTheUtilitiesForRandomTexts)
 {
     std::mt19937 random(22);
     const std::string likely = "\"&'<>\n\t\r\x01\x1F\x7F abc";

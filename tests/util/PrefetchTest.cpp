@@ -6,7 +6,7 @@ namespace ZelInterchangeData {
 namespace {
 
 /// The sanitizers see what is done with the addresses.
-TEST(Prefetch, TakesAddressesThatNobodyMayRead)
+TEST(Prefetch, AcceptsUnreadableAddresses)
 {
     const int value = 7;
     prefetch(nullptr, 0);

@@ -32,7 +32,7 @@ TEST(SharedBytes, NoBytesHaveNoAddress)
     EXPECT_EQ(nullptr, copy.data());
 }
 
-TEST(SharedBytes, CopiesShareThemUntilTheLastOneGoes)
+TEST(SharedBytes, CopiesShareThemUntilTheLastIsDestroyed)
 {
     SharedBytes last;
     {
@@ -75,7 +75,7 @@ TEST(SharedBytes, PrefetchingChangesNothingAndTakesAnySize)
     EXPECT_EQ("abc", textOf(bytes, 3));
 }
 
-TEST(SharedBytes, OwnersMayLetGoInSeveralThreads)
+TEST(SharedBytes, CanBeReleasedInSeveralThreads)
 {
     for (int round = 0; round < 200; ++round) {
         std::vector<std::thread> threads;

@@ -25,7 +25,7 @@ TextList listOf(std::size_t count)
     return list;
 }
 
-TEST(TextList, RandomChangesGiveWhatAVectorGives)
+TEST(TextList, MatchesAVectorUnderRandomChanges)
 {
     std::mt19937 random(7);
     TextList list;

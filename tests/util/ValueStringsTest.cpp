@@ -69,7 +69,7 @@ TEST(GetValueStringOfFloat, WritesSixSignificantDigits)
     EXPECT_EQ(ofFloat(0.00001F), "1e-05");
 }
 
-TEST(GetValueStringOfFloat, WritesWhatIsNoOrdinaryNumber)
+TEST(GetValueStringOfFloat, WritesInfinityNanAndMinusZero)
 {
     EXPECT_EQ(ofFloat(std::numeric_limits<float>::infinity()), "inf");
     EXPECT_EQ(ofFloat(-std::numeric_limits<float>::infinity()), "-inf");
@@ -161,7 +161,7 @@ TEST(GetValueStringOfLong, WritesAMinusBeforeNegativeValues)
     EXPECT_EQ(getValueString(-2147483648L), "-2147483648");
 }
 
-TEST(GetValueStringOfLong, CutsNoValue)
+TEST(GetValueStringOfLong, TruncatesNoValue)
 {
     EXPECT_EQ(getValueString(9223372036854775807L), "9223372036854775807");
     EXPECT_EQ(getValueString(LONG_MIN), "-9223372036854775808");
@@ -180,7 +180,7 @@ TEST(GetValueStringOfUnsignedLong, WritesPlainDecimal)
     EXPECT_EQ(ZelDataUtilities::getValueString(4294967295UL), "4294967295");
 }
 
-TEST(GetValueStringOfUnsignedLong, CutsNoValue)
+TEST(GetValueStringOfUnsignedLong, TruncatesNoValue)
 {
     EXPECT_EQ(ZelDataUtilities::getValueString(4294967296UL), "4294967296");
     EXPECT_EQ(ZelDataUtilities::getValueString(ULONG_MAX), "18446744073709551615");

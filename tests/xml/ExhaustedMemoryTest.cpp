@@ -46,7 +46,7 @@ std::size_t failAtEachAllocation(const Verb& verb, const Check& check)
     return failures;
 }
 
-TEST(ExhaustedMemory, AChildIsThereForBothLookupAndWritingOrForNeither)
+TEST(ExhaustedMemory, ANewChildIsBothFoundAndWrittenOrNeither)
 {
     const std::string made = std::string("<") + longName + "></" + longName + ">";
     const auto failures =
@@ -83,7 +83,7 @@ TEST(ExhaustedMemory, ANewGroupTakesNoMemory)
     EXPECT_EQ(tree.getXml(false), "<first></first><first></first>");
 }
 
-TEST(ExhaustedMemory, AnAttributeThatCouldNotBeMadeIsNotThere)
+TEST(ExhaustedMemory, AnAttributeThatCannotBeMadeIsNotAdded)
 {
     const auto failures =
         failAtEachAllocation([](ZelDataXmlStream& tree) { tree < attributeVerb; },
@@ -106,7 +106,7 @@ TEST(ExhaustedMemory, ANamedAttributeIsWritableAtEachStage)
     EXPECT_GE(failures, 4U);
 }
 
-TEST(ExhaustedMemory, ATextThatCouldNotBeKeptLeavesTheOldOne)
+TEST(ExhaustedMemory, ATextThatCannotBeStoredLeavesTheOldOne)
 {
     ZelDataXmlNode node(nullptr);
     ZelDataXmlNode child(&node);
@@ -115,7 +115,7 @@ TEST(ExhaustedMemory, ATextThatCouldNotBeKeptLeavesTheOldOne)
     EXPECT_EQ(written(child), "<>old</>");
 }
 
-TEST(ExhaustedMemory, ARootWhoseTextLeadsNowhereStaysWhole)
+TEST(ExhaustedMemory, SettingTheTextOfARootLeavesTheTreeAsItWas)
 {
     const auto failures =
         failAtEachAllocation([](ZelDataXmlStream& tree) { (tree = 5L) < "lost"; },
@@ -155,7 +155,7 @@ TEST(ExhaustedMemory, ReplacingLeavesTheSubjectAsItWas)
     EXPECT_EQ(subject, "a-b-c");
 }
 
-TEST(ExhaustedMemory, ATrackThatCouldNotBeMadeLeaksNothing)
+TEST(ExhaustedMemory, ATrackThatCannotBeMadeLeaksNothing)
 {
     const long long before = liveAllocations();
     std::size_t granted = 0;

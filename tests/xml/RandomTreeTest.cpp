@@ -112,7 +112,7 @@ private:
     std::map<PlainNode*, ZelDataXmlNode*> nodeOf_{{&plain_, &tree_}};
 };
 
-TEST(RandomTree, IsWhatTheRecursiveRulesMakeOfTheSameVerbs)
+TEST(RandomTree, MatchesTheRecursiveModel)
 {
     for (unsigned seed = 1; seed <= 400 && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));

@@ -40,7 +40,7 @@ TEST(ZelDataXmlAttributeValue, KeepsTextsAsTheyAre)
     EXPECT_EQ(valueOf(std::string("a\0b", 3)), std::string("a\0b", 3));
 }
 
-TEST(ZelDataXmlAttributeValue, TakesANullTextAsEmpty)
+TEST(ZelDataXmlAttributeValue, TreatsANullTextAsEmpty)
 {
     const char* none = nullptr;
     ZelDataXmlAttributeValue value;
@@ -81,7 +81,7 @@ TEST(ZelDataXmlAttributeValue, WritesNumbersTheSameInEveryLocale)
     EXPECT_EQ(valueOf(123456.0), "123456");
 }
 
-TEST(ZelDataXmlAttributeValue, ReplacesTheValueBefore)
+TEST(ZelDataXmlAttributeValue, ReplacesTheOldValue)
 {
     ZelDataXmlAttributeValue value;
     value < "a long value that stood there before";
@@ -102,7 +102,7 @@ TEST(ZelDataXmlAttributeValue, ReturnsItsNodeFromEverySetter)
     EXPECT_EQ(&(value < 0.5), &node);
 }
 
-TEST(ZelDataXmlAttributeValue, ReturnsANodeOfItsOwnWhereItHasNone)
+TEST(ZelDataXmlAttributeValue, ReturnsANodeOfItsOwnIfItHasNone)
 {
     ZelDataXmlAttributeValue value;
     ZelDataXmlNode& returned = value < "v";
