@@ -9,8 +9,8 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-// The functions themselves are called, because a compiler may leave out a new expression whose
-// object that is not used.
+// Calls the functions directly, because a compiler may omit a new expression whose object is not
+// used.
 TEST(HeapWatchTest, CountsEveryFormOfNew)
 {
     constexpr auto wide = std::align_val_t(64);

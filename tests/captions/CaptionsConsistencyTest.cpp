@@ -1,5 +1,5 @@
 /// @file
-/// Captions checked, ordered and repaired.
+/// Checking, ordering and repairing captions.
 
 #include "captions/Captions.h"
 #include "support/fakes/FailingCaptions.h"
@@ -20,7 +20,7 @@ constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// Captions whose styling a test can put out of range, which no setter does.
+/// Captions whose styling a test can set out of range, which every setter refuses.
 class AnyStyle : public ZelDataCaptions {
 public:
     CaptionStyle& style() { return style_; }
@@ -44,7 +44,7 @@ const Spoil spoiledStyles[] = {
     [](CaptionStyle& style) { style.backgroundOpacity = 1.1F; },
 };
 
-/// What makeCaptionsConsistent() makes of a styling that @p spoil spoiled.
+/// The styling that makeCaptionsConsistent() leaves after @p spoil changed it.
 Style repaired(const Spoil& spoil)
 {
     AnyStyle captions;
@@ -361,7 +361,7 @@ TEST(ZelDataCaptionsMakeConsistent, ReturnsTheLastErrorOfAnItemThatCannotBeFille
     EXPECT_EQ(ZelData_Ok, captions.addLanguage("en"));
     add(captions, {{9, 1}, {0, 1}});
     EXPECT_CODE(captions, keptCode, captions.makeCaptionsConsistent());
-    EXPECT_EQ(0, itemsOf(captions)[0].start) << "the items are sorted before";
+    EXPECT_EQ(0, itemsOf(captions)[0].start) << "the items are sorted first";
 }
 
 TEST(ZelDataCaptionsMakeConsistent, AForeignExceptionIsAnInternalError)

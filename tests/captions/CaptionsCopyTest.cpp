@@ -1,5 +1,5 @@
 /// @file
-/// Copying captions: what concerns them alone. The rest is in sets/CopyContractTest.cpp.
+/// Copying captions: the rules of their own. The rest is in sets/CopyContractTest.cpp.
 
 #include "captions/Captions.h"
 #include "support/fakes/FailingCaptions.h"
@@ -37,7 +37,7 @@ TEST_F(CaptionsCopy, AColorThatASourceDoesNotSetIsBlack)
     EXPECT_EQ((std::array<float, 3>{0.0F, 0.0F, 0.0F}), styleOf(*target_).foreground);
 }
 
-/// A foreign source with a font size that no setter takes.
+/// A foreign source with a font size that every setter refuses.
 class HugeFont : public ZelDataCaptions {
 public:
     ZelDataResult_tags getFontSize(unsigned long& size) const override

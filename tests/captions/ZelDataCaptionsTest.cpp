@@ -178,9 +178,7 @@ TEST(ZelDataCaptionsStyling, ItsGettersStoreSuccess)
     EXPECT_CODE(captions, ZelData_Ok, captions.getBackgroundOpacity(fraction));
 }
 
-// Languages
-
-// Handing in
+// Adding
 
 TEST(ZelDataCaptionsAddCaptionItem, RefusesAnItemWithoutLength)
 {
@@ -239,9 +237,9 @@ TEST(ZelDataCaptionsAddCaptionItem, ReturnsTheCodeOfAFailingCreation)
     EXPECT_TRUE(itemsOf(captions).empty());
 }
 
-// Handing out
+// Getting copies
 
-/// Two items, the second of which fails when it is copied out for the first time.
+/// Adds two items, the second of which fails when it is first copied out.
 void fillWithABrokenSecondItem(FailingCaptions& captions)
 {
     add(captions, {{1, 2}});
@@ -271,8 +269,6 @@ TEST(ZelDataCaptionsGetCaptionItems, LeavesTheVectorEmptyWhenACopyFails)
     EXPECT_TRUE(items.empty());
     EXPECT_EQ(2, FailingCaptionItem::alive());
 }
-
-// Removing
 
 } // namespace
 } // namespace ZelInterchangeData

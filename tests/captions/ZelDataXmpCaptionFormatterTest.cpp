@@ -26,7 +26,7 @@ std::string written(const i_ZelDataCaptions& captions)
     return out;
 }
 
-/// The part of @p text from @p first up to and with @p last, both of which must occur.
+/// The part of @p text from @p first to @p last, both of which must occur.
 std::string part(const std::string& text, const std::string& first, const std::string& last)
 {
     const auto begin = text.find(first);
@@ -38,19 +38,19 @@ std::string part(const std::string& text, const std::string& first, const std::s
                : text.substr(begin, end - begin + last.size());
 }
 
-/// How the one caption @p caption is written: its description's tag.
+/// The written description tag of @p caption.
 std::string markerOf(const Caption& caption)
 {
     return part(written(*captionsOf({caption})), "<rdf:Description xmpDM:startTime", ">");
 }
 
-/// How an English text is written.
+/// The written form of an English text.
 std::string entryOf(const std::string& text)
 {
     return part(written(*captionsOf({{0, 1, {{"en", text}}}})), "<rdf:Alt>", "</rdf:Alt>");
 }
 
-/// How the one caption of a track with the styling @p style is dressed.
+/// The written tag that begins with @p first, in captions with the styling @p style.
 std::string tagOf(const Style& style, const std::string& first)
 {
     const auto captions = captionsOf({{0, 1}});
@@ -260,7 +260,7 @@ TEST(BuildCaptionList, DoesNotMistakeExhaustedMemoryForAMissingText)
     EXPECT_THROW(buildCaptionList({"en"}, item, text), std::bad_alloc);
 }
 
-/// An item whose end cannot be read, although its last error says that all is well.
+/// An item whose end cannot be read, although its last error is success.
 class ItemWithoutEnd : public ZelDataCaptionItem {
 public:
     ZelDataResult_tags getEnd(long long& /*end*/) const override

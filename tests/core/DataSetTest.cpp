@@ -1,5 +1,5 @@
 /// @file
-/// How a document takes and gives back its data sets: the same rules for all four kinds.
+/// Setting and getting the data sets of a document: the same rules for all four kinds.
 
 #include "core/SampleSets.h"
 #include "core/WatchedDocument.h"

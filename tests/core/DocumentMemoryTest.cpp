@@ -1,5 +1,5 @@
 /// @file
-/// A document whose memory runs out at every point, one after the other.
+/// A document whose memory runs out at each allocation in turn.
 
 #include "core/SampleSets.h"
 #include "core/TempFile.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr auto xmp = ZelDataFormat_Xmp;
 constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 
-/// The code of @p action when only @p granted allocations are granted.
+/// The code of @p action if only @p granted allocations succeed.
 template <class Action>
 ZelDataResult_tags codeWith(std::size_t granted, Action&& action)
 {
@@ -31,8 +31,8 @@ void fill(i_ZelInterchangeDataCore& document)
     EXPECT_EQ(ZelData_Ok, document.setDataScreenText(*sampleScreenText()));
 }
 
-/// Runs @p action with more and more memory until it succeeds. Before that it always runs out of
-/// it, and @p check looks at what it left.
+/// Runs @p action with more and more memory until it succeeds. Until then it must run out of memory
+/// each time, after which @p check checks the state.
 template <class Action, class Check>
 void starve(Action&& action, Check&& check)
 {

@@ -15,7 +15,7 @@ constexpr auto xmp = ZelDataFormat_Xmp;
 constexpr ZelDataFormatType_tags foreignFormats[] = {
     static_cast<ZelDataFormatType_tags>(0), static_cast<ZelDataFormatType_tags>(2),
     static_cast<ZelDataFormatType_tags>(0xFFFFFFFFU)};
-/// A code that no operation gives.
+/// A code that no operation returns.
 constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 
 /// A header without any size, which cannot be copied.
@@ -43,7 +43,7 @@ protected:
     WatchedDocument<ZelDataCore> document_;
 };
 
-/// Expects that @p call gives @p code and that the last error of @p document stays as it was.
+/// Expects that @p call returns @p code and leaves the last error of @p document alone.
 #define EXPECT_UNSTORED(document, code, call)                                                      \
     do {                                                                                           \
         (document).setLastError(untouched);                                                        \

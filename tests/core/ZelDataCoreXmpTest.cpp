@@ -39,8 +39,8 @@ protected:
         EXPECT_EQ(ZelData_Ok, header().getOrderedLanguageIDs(ids));
         return ids;
     }
-    /// Writing gives and stores @p code and leaves the text alone, whether it would be appended or
-    /// replaced; neither does a file come into being.
+    /// Expects that writing returns and stores @p code, leaves the text alone with and without the
+    /// flag, and creates no file.
     void expectFailure(ZelDataResult_tags code) const
     {
         std::string out = "before";
@@ -394,7 +394,7 @@ TEST_F(ZelDataCoreXmpTest, AFullDeviceIsNotReported)
     EXPECT_CODE(document_, ZelData_Ok, document_.writeFile("/dev/full", xmp, false));
 }
 
-/// Its text never comes out as asked.
+/// A document whose own writeString() writes another text.
 class OtherText : public ZelDataCoreXmp {
 public:
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags /*format*/,

@@ -1,5 +1,5 @@
 /// @file
-/// Captions out of the cues of several languages.
+/// Merging the cues of several languages into captions.
 
 #include "CaptionMerger.h"
 

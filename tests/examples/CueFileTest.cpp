@@ -1,5 +1,5 @@
 /// @file
-/// What becomes of the cues of a file.
+/// Reading the cues of a file.
 
 #include "CueFile.h"
 

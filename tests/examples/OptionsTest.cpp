@@ -30,7 +30,7 @@ Options parseAll(const Words& words)
     return parseOptions(static_cast<int>(arguments.size()), arguments.data());
 }
 
-/// Parses @p words after what is required.
+/// Parses @p words after the required options.
 Options parse(const Words& words)
 {
     Words all{"-o", "out.xmp", "--size", "640x480"};
@@ -38,7 +38,7 @@ Options parse(const Words& words)
     return parseAll(all);
 }
 
-/// The message of the failure that @p words lead to, alone on the command line.
+/// The error message of @p words alone on the command line.
 std::string failureOfAll(const Words& words)
 {
     try {
@@ -49,7 +49,7 @@ std::string failureOfAll(const Words& words)
     return "(no failure)";
 }
 
-/// The message of the failure that @p words lead to after what is required.
+/// The error message of @p words after the required options.
 std::string failureOf(const Words& words)
 {
     Words all{"-o", "out.xmp", "--size", "640x480"};
@@ -122,7 +122,7 @@ TEST(OptionValues, EveryOptionReachesItsField)
     EXPECT_TRUE(options.skipEmpty);
 }
 
-/// Values that argument libraries like to take apart.
+/// Values that argument libraries tend to split.
 const Words wholeValues{"",    "-",     "--", "-x",    "--creator", "[a,b]", "[a", "a,b",
                         ",",   "\"q\"", "\"", "'x'",   "'",         "`",     "{}", "%%",
                         "a b", " a ",   "=",  "a=b",   "==",        "@file", "/x", "\\",

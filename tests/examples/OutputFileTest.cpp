@@ -1,5 +1,5 @@
 /// @file
-/// The replacement of a file.
+/// Replacing a file.
 
 #include "OutputFile.h"
 

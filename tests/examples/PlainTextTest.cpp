@@ -1,5 +1,5 @@
 /// @file
-/// The removal of markup.
+/// Removing markup.
 
 #include "PlainText.h"
 

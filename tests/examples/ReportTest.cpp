@@ -1,5 +1,5 @@
 /// @file
-/// What the program says about its work.
+/// The report that the program prints.
 
 #include "examples/ProgramRunner.h"
 

@@ -1,5 +1,5 @@
 /// @file
-/// Cues out of SRT and WebVTT files.
+/// Reading cues from SRT and WebVTT files.
 
 #include "SubtitleReader.h"
 
@@ -51,7 +51,7 @@ void expectTiming(const std::string& line, long long start, long long end)
     EXPECT_EQ(subtitles.malformed, 0U) << line;
 }
 
-/// Expects that @p line is malformed and takes its text along.
+/// Expects that @p line is malformed, and that its text is dropped with it.
 void expectMalformed(const std::string& line)
 {
     const Subtitles subtitles = read(line + "\nlost\n\n00:09.000 --> 00:10.000\nkept\n");

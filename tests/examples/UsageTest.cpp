@@ -1,5 +1,5 @@
 /// @file
-/// The program's arguments and the header that they make.
+/// The program's arguments and the resulting header.
 
 #include "examples/ProgramRunner.h"
 

@@ -1,5 +1,5 @@
 /// @file
-/// The views that throw where an operation fails.
+/// The views that throw when an operation fails.
 
 #include "ZelInterchangeData/ZelDataFace.h"
 #include "face/Thrown.h"

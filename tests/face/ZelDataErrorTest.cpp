@@ -1,5 +1,5 @@
 /// @file
-/// The exception, and the two tests of codes that throw it.
+/// The exception, and the two checks of codes that throw it.
 
 #include "ZelInterchangeData/ZelDataCheck.h"
 
@@ -62,7 +62,7 @@ TEST(ZelDataError, MovedOrAssignedIsACopy)
 {
     ZelDataError original(ZelData_NoData, "getDataToc");
     const ZelDataError moved(std::move(original));
-    // NOLINTNEXTLINE(bugprone-use-after-move): deliberate: what was moved from stays whole.
+    // NOLINTNEXTLINE(bugprone-use-after-move): deliberate: a moved-from object keeps its value.
     EXPECT_EQ("getDataToc", original.operation());
     EXPECT_EQ("getDataToc", moved.operation());
     ZelDataError assigned(ZelData_Ok, "");

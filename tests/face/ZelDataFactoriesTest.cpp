@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto noFormat = static_cast<ZelDataFormatType_tags>(2);
 
-/// Expects that @p made is of the class that the factory @p create makes, and new.
+/// Expects that @p made is a new object of the class that the factory @p create makes.
 template <class Interface, class... Format>
 void expectMade(const std::unique_ptr<Interface>& made,
                 ZelDataResult_tags (*create)(Interface**, Format...), Format... format)

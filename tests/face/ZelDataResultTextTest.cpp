@@ -1,5 +1,5 @@
 /// @file
-/// The words for the result codes.
+/// The names and descriptions of the result codes.
 
 #include "ZelInterchangeData/ZelDataResultText.h"
 
@@ -17,7 +17,7 @@ struct ListedCode {
     const char* name;
 };
 
-/// The codes as they are read out of the header that defines them.
+/// The codes in the header that defines them.
 constexpr ListedCode listedCodes[] = {
 #define LISTED_CODE(code) {code, #code},
 #include "face/ListedCodes.inc"

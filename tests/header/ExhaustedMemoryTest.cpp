@@ -17,7 +17,7 @@ namespace {
 /// Too long for any string to hold it without an allocation.
 const std::string longText(60, 'x');
 
-/// What sampleValues() holds, in texts that need memory.
+/// The values of sampleValues(), with texts that need memory.
 HeaderValues longValues()
 {
     HeaderValues values = sampleValues();
@@ -29,8 +29,8 @@ HeaderValues longValues()
     return values;
 }
 
-/// Lets each allocation of @p operation fail in turn, each time on a new object from @p create, and
-/// hands the object to @p check afterwards. The number of allocations.
+/// Makes each allocation of @p operation fail in turn, each time on a new object from @p create, then
+/// passes the object to @p check. Returns the number of allocations.
 template <class Create, class Operation, class Check>
 std::size_t failAtEachAllocation(const Create& create, const Operation& operation,
                                  const Check& check)
@@ -135,7 +135,7 @@ TEST(HeaderWithoutMemory, DisplayNamesEndWithOutOfMemory)
         longHeader, [&](const i_ZelDataHeader& h) { return h.getLanguageDisplayNames(names); },
         [&](const i_ZelDataHeader& /*header*/) {
             EXPECT_LT(names.size(), 2U);
-            names = Texts(); // gives its memory back, so that the next call needs as much
+            names = Texts(); // frees its memory, so that the next call needs as much
         });
     EXPECT_GT(failures, 0U);
     EXPECT_EQ(Texts({"English", "Old Church Slavonic"}), names);
@@ -171,7 +171,7 @@ TEST(HeaderFormatterWithoutMemory, AcceptsTheHeaderAtTheNextAttempt)
     EXPECT_GT(failures, 0U);
 }
 
-/// The lookup of a language's name included: a language is not dropped for want of memory.
+/// Also while looking up a language's name: the formatter must not drop the language.
 TEST(HeaderFormatterWithoutMemory, WritesEverythingOrNothing)
 {
     const auto source = longHeader();

@@ -36,14 +36,14 @@ const char* const controllerWithSearchBar =
 
 const char* const afterController = "</rdf:Description></rdf:RDF></x:xmpmeta>";
 
-/// @p packet with DATE for the moment of writing.
+/// @p packet with DATE in place of its date.
 std::string withoutDate(const std::string& packet)
 {
     static const std::regex date(R"re(dc:date="\d{4,}-\d\d-\d\dT\d\d:\d\d:\d\d[+-]\d{1,2}:00")re");
     return std::regex_replace(packet, date, "dc:date=\"DATE\"");
 }
 
-/// The least that a header formatter takes.
+/// The minimal values that a header formatter accepts.
 HeaderValues plainValues()
 {
     HeaderValues values;
@@ -138,7 +138,6 @@ TEST_F(HeaderFormatter, WritesTheTimeOfWriting)
     const std::string before = ZelDataUtilities::getDateString(nullptr);
     EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->writeString(text, ZelDataFormat_Xmp, false));
     const std::string after = ZelDataUtilities::getDateString(nullptr);
-    // In seconds, so the text is one of the two or lies between them.
     EXPECT_LE(before, attribute(text, "dc:date"));
     EXPECT_GE(after, attribute(text, "dc:date"));
 }
@@ -256,7 +255,7 @@ TEST_F(HeaderFormatter, IgnoresTheFlag)
     EXPECT_EQ(written(), withoutDate(text));
 }
 
-// What it holds
+// The held copy
 
 TEST_F(HeaderFormatter, HoldsACopy)
 {
@@ -275,7 +274,6 @@ TEST_F(HeaderFormatter, EachHeaderReplacesTheOneBefore)
     EXPECT_EQ(plain, written(plainValues()));
 }
 
-/// Such a header is written all the same, as far as it was copied.
 TEST_F(HeaderFormatter, AHeaderWithoutSizesIsRefusedAndWrittenAsFarAsItWasCopied)
 {
     const auto header = make(&ZelDataUtilities::createHeaderData);
@@ -297,7 +295,7 @@ TEST_F(HeaderFormatter, AHeaderWithoutSizesIsRefusedAndWrittenAsFarAsItWasCopied
               written());
 }
 
-/// Content names and search bar are copied last and survive the clearing before.
+/// Content names and search bar are copied last, and clearing the held copy keeps them.
 TEST_F(HeaderFormatter, ARefusedHeaderLeavesTheContentNamesOfTheOneBefore)
 {
     set(sampleValues());
@@ -326,7 +324,7 @@ TEST_F(HeaderFormatter, ReturnsTheCodeOfAHeaderThatCannotBeCopied)
     }
 }
 
-/// The held header's last error is that of the source, here success, though the copy stopped.
+/// The last error of the held header is that of the source, here success, although the copy stopped.
 TEST_F(HeaderFormatter, ReturnsSuccessForAFailingHeaderThatKeptSuccess)
 {
     ScriptedHeader source;

@@ -69,7 +69,7 @@ TEST(ScreenTextOrder, ComparesOnlyStarts)
 
 // Stored items that fail
 
-/// A collection whose items are those of the tests, so that stored ones can fail.
+/// A collection that stores a test's items, which can fail.
 class ScreenTextOfFailing : public ZelDataScreenText {
 public:
     ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override
@@ -79,7 +79,7 @@ public:
         *out = item.release();
         return ZelData_Ok;
     }
-    /// Adds @p shown and gives the stored item.
+    /// Adds @p shown and returns the stored item.
     FailingScreenTextItem& added(const Shown& shown)
     {
         EXPECT_EQ(ZelData_Ok, addScreenTextItem(*itemOf(shown)));
@@ -111,7 +111,7 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
     EXPECT_CODE(second, ZelData_WarnTiming, second.isValid(true));
 }
 
-// The order is looked at first, so an item is asked for its start a second time.
+// The check looks for disorder first, so it then reads the start of an item a second time.
 
 TEST(StoredScreenText, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {

@@ -31,7 +31,7 @@ template <class Item>
 using Delivering = std::function<Code(const Item&, std::string&)>;
 
 struct CaptionMemory : CaptionKind {
-    /// An item lets exhausted memory through.
+    /// An item throws std::bad_alloc.
     static constexpr bool letsThrough = true;
 
     static Values held() { return {1000, 2000, {{"de", longText}, {"en", longText}}, 0x22}; }
@@ -113,7 +113,7 @@ protected:
     using Data = typename Kind::Data;
     using Item = typename Kind::Item;
 
-    /// A caller's classes: copies of them take every step.
+    /// A caller's classes, which a copy reads through the interface.
     class CallersItem : public Kind::OwnItem {};
     class CallersCollection : public Kind::Own {};
 
@@ -133,8 +133,8 @@ protected:
         EXPECT_EQ(Kind::items(), valuesOf<Kind>(data));
     };
 
-    /// Sweeps an operation of an item. Where the item must let exhausted memory through, that counts
-    /// as the code, and the code itself is refused.
+    /// Sweeps an operation of an item. If the item must throw std::bad_alloc, expects the exception in
+    /// place of the code.
     template <class Create, class Operation, class Check>
     static void sweepItem(const Create& create, Code finalCode, const Operation& operation,
                           const Check& check)

@@ -27,8 +27,8 @@ using Texts = std::map<std::string, std::string>;
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// What a kind has besides: collections that make other items and that hand out a null pointer, and a
-/// text that marks an item.
+/// What each kind adds: collections that make other items or hand out a null pointer, and a text that
+/// marks an item.
 template <class Kind>
 struct TextByLanguage : Kind {
     using typename Kind::Item;
@@ -45,7 +45,7 @@ struct TextByLanguage : Kind {
     }
 };
 
-/// A function that makes an item, which a collection may be given.
+/// A function that makes the items of a collection.
 template <class Item>
 using Maker = std::function<ZelDataResult_tags(Item**)>;
 
@@ -55,7 +55,7 @@ struct Captions : TextByLanguage<CaptionKind> {
     static constexpr auto ofLanguage = &Data::getCaptionItemsForLanguage;
 
     static Values item(long long start, const Texts& texts) { return {start, 1000, texts}; }
-    /// Something that clearing the items leaves.
+    /// Sets something that clearing the items keeps.
     static void mark(Data& captions) { EXPECT_EQ(ZelData_Ok, captions.setFontSize(30)); }
     static bool isMarked(const Data& captions) { return styleOf(captions).fontSize == 30; }
 
@@ -66,7 +66,7 @@ struct Captions : TextByLanguage<CaptionKind> {
         {
             return maker ? maker(out) : Own::createCaptionItem(out);
         }
-        /// Sets a rate that no setter would take.
+        /// Sets a rate that every setter refuses.
         void forceRate(unsigned long rate) { style_.frameRate.value = rate; }
     };
 
@@ -102,7 +102,7 @@ struct Toc : TextByLanguage<TocKind> {
         {
             return maker ? maker(out) : Own::createTocItem(out);
         }
-        /// Sets a rate that no setter would take.
+        /// Sets a rate that every setter refuses.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
@@ -123,7 +123,7 @@ struct ScreenText : ScreenTextKind {
         {
             return maker ? maker(out) : Own::createScreenTextItem(out);
         }
-        /// Sets a rate that no setter would take.
+        /// Sets a rate that every setter refuses.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
@@ -148,7 +148,7 @@ struct ScreenText : ScreenTextKind {
     }
 };
 
-/// An item whose start is what a test wants it to be, and which knows how many of it live.
+/// An item whose start a test chooses, and which counts the living objects of its class.
 template <class Kind>
 class OddItem : public Kind::OwnItem {
 public:
@@ -176,7 +176,7 @@ private:
     std::function<ZelDataResult_tags(long long&)> start_;
 };
 
-/// An item that cannot be filled: its start fails with one code and its last error is another.
+/// An item that cannot be filled: setting its start returns one code and stores another.
 template <class Kind>
 class UnfillableItem : public OddItem<Kind> {
 public:
@@ -239,7 +239,7 @@ protected:
         return Owned(out);
     }
 
-    /// From now on the collection makes good items, and at call @p nth one that cannot be filled.
+    /// Makes the collection create good items from now on, and one that cannot be filled at call @p nth.
     void makeUnfillable(int nth)
     {
         collection_.maker = [nth](Item** out) mutable {
@@ -497,9 +497,9 @@ TYPED_TEST(ItemCollection, WhenOneCopyFailsTheOthersAreDestroyedAndTheVectorIsEm
     }
 }
 
-// Items that change their collection while it looks at them
+// Items that change their collection while it reads them
 
-/// Three items, the first of which changes its collection when it is first asked for its start.
+/// Three items, the first of which changes its collection when its start is first read.
 template <class Kind>
 class Meddled {
 public:
@@ -637,8 +637,8 @@ TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)
 
 // Order
 
-/// The expected order, computed step by step: each place in turn takes every smaller start that comes
-/// after it.
+/// The expected order, computed step by step: each place in turn swaps with every later place whose
+/// start is smaller.
 void exchangeSort(std::vector<Timed>& items)
 {
     for (std::size_t i = 0; i + 1 < items.size(); ++i)
@@ -753,7 +753,7 @@ TYPED_TEST(ItemCollection, AFrameRateOutOfRangeIsRepairedToTheStandardRateAndAny
     }
 }
 
-/// A copy of a table of contents does not ask for the rate.
+/// A copy of a table of contents does not read the rate.
 TYPED_TEST(ItemCollection, AFrameRateOutOfRangeEndsACopyThatReadsIt)
 {
     this->add(this->three_);

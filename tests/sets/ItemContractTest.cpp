@@ -1,6 +1,6 @@
 /// @file
-/// What the items of all kinds have in common: their start, their assignment and, where they have
-/// texts by language, those.
+/// What the items of all kinds have in common: their start, their assignment and their texts by
+/// language, if they have any.
 
 #include "captions/Captions.h"
 #include "screentext/Items.h"

@@ -108,7 +108,7 @@ TEST(LanguageTexts, MatchMapsUnderRandomChangesOfSharingCopies)
         const std::string& id = ids[random() % ids.size()];
         switch (random() % 4) {
         case 0: {
-            // Now and then a text that is too long to be packed.
+            // Sometimes a text that is too long to be packed.
             const std::size_t length = random() % 8 == 0 ? 9000 : random() % 40;
             const std::string text(length, static_cast<char>('a' + random() % 26));
             const bool replaces = map.count(id) != 0;

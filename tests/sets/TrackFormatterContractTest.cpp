@@ -52,7 +52,7 @@ protected:
     {
         EXPECT_CODE(*formatter_, ZelData_Ok, set(*newCollection<Kind>(items)));
     }
-    /// What is written in the place of "replaced".
+    /// What the formatter writes, in place of "replaced".
     std::string written(bool flag = true)
     {
         std::string out = "replaced";

@@ -121,7 +121,7 @@ TEST(DescribeFinding, CollectionsAreNamedIfNoItemIs)
     EXPECT_EQ("screen texts: frame rate out of range (0, at least 1)", rate(screenText, 0, 1));
 }
 
-// No search gives such findings, but anybody may make them.
+// findProblems() never makes such findings, but callers can.
 TEST(DescribeFinding, AValueAtItsLimitIsDescribedAsAtMostTheLimit)
 {
     EXPECT_EQ("captions: frame rate out of range (7, at most 7)",

@@ -1,5 +1,5 @@
 /// @file
-/// The codes, the two tests on them, and the last error.
+/// The codes, their two predicates, and the last error.
 
 #include "support/Checks.h"
 
@@ -15,7 +15,7 @@ public:
     ZelDataResult_tags takeFrom(const i_ZelDataResult& other) { return storeFrom(other); }
 };
 
-/// An object that always says the same.
+/// An object whose last error is always the same.
 class Stubborn : public OwnObject {
 public:
     ZelDataResult_tags getLastError() const override { return ZelData_NoData; }

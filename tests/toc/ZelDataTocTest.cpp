@@ -96,7 +96,7 @@ TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
 
 // Stored entries that fail
 
-/// A table whose entries are those of the tests, so that stored ones can fail.
+/// A table that stores a test's entries, which can fail.
 class TocOfFailing : public ZelDataToc {
 public:
     ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
@@ -106,7 +106,7 @@ public:
         *out = item.release();
         return ZelData_Ok;
     }
-    /// Adds @p entry and gives the stored one.
+    /// Adds @p entry and returns the stored one.
     FailingTocItem& added(const Entry& entry)
     {
         EXPECT_EQ(ZelData_Ok, addTocItem(*itemOf(entry)));
@@ -148,7 +148,7 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-// The order is looked at first, so an entry is asked for its start a second time.
+// The check looks for disorder first, so it then reads the start of an entry a second time.
 
 TEST(StoredEntry, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {

@@ -23,7 +23,7 @@ std::string track(const std::string& image, const std::string& markers)
            "</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>";
 }
 
-/// A marker without thumbnail.
+/// A marker without a thumbnail.
 std::string marker(const std::string& name, const std::string& start)
 {
     return R"(<rdf:li><rdf:Description xmpDM:name=")" + name + R"(" xmpDM:startTime=")" + start +
@@ -33,7 +33,7 @@ std::string marker(const std::string& name, const std::string& start)
 
 class TocFormatter : public testing::Test {
 protected:
-    /// Hands @p entries and @p image over.
+    /// Sets a table with @p entries and @p image.
     void give(const std::vector<Entry>& entries, const std::string& image = "")
     {
         const auto toc = tocOf(entries);

@@ -1,5 +1,5 @@
 /// @file
-/// Values that are shared until one of their owners changes its own.
+/// Values that owners share until one of them changes its own.
 
 #include "util/CopyOnWrite.h"
 

@@ -15,7 +15,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-// The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus.
+// POSIX gives zones east of Greenwich a negative sign.
 const char* const utc = "UTC0";
 const char* const twoHoursEast = "EET-2";
 const char* const fiveHoursWest = "EST5";
@@ -89,8 +89,8 @@ TEST(GetDateString, IsEmptyIfUtcHasNoDate)
     EXPECT_EQ(dateIn(utc, -67768040609740801), "");
     EXPECT_EQ(dateIn(utc, LONG_MAX), "");
     EXPECT_EQ(dateIn(utc, LONG_MIN), "");
-    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "the local date alone exists";
-    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "the local date alone exists";
+    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "only the local date exists";
+    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "only the local date exists";
 }
 
 TEST(GetDateString, IsEmptyIfTheZoneHasNoDate)
@@ -111,7 +111,7 @@ TEST(GetDateString, UsesTheCurrentTimeForNull)
         found = now == ZelDataUtilities::getDateString(&argument);
     }
     EXPECT_TRUE(found) << now;
-    EXPECT_GT(before, march5) << "set the clock: this test needs it";
+    EXPECT_GT(before, march5) << "this test needs a set clock";
 }
 
 TEST(GetDateString, LeavesTheArgumentAlone)

@@ -1,5 +1,5 @@
 /// @file
-/// The language catalogue against a copy of its names that was made apart from it.
+/// Compares the language catalogue with an independent copy of its names.
 
 #include "util/LanguageCatalogue.h"
 

@@ -1,5 +1,5 @@
 /// @file
-/// Text on its way into markup, against the two utilities that define it.
+/// Compares text written into markup with the two utilities that define it.
 
 #include "support/TextRules.h"
 #include "util/TextUtilities.h"

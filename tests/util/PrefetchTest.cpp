@@ -5,7 +5,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// The sanitizers see what is done with the addresses.
+/// The sanitizers notice an access to the addresses.
 TEST(Prefetch, AcceptsUnreadableAddresses)
 {
     const int value = 7;

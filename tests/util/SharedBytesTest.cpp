@@ -54,7 +54,7 @@ TEST(SharedBytes, MovingLeavesNone)
 {
     SharedBytes from = bytesOf("abc");
     const SharedBytes to(std::move(from));
-    EXPECT_EQ(nullptr, from.data()); // NOLINT(bugprone-use-after-move): this is what is asked
+    EXPECT_EQ(nullptr, from.data()); // NOLINT(bugprone-use-after-move): this is what is tested
     EXPECT_EQ("abc", textOf(to, 3));
 }
 

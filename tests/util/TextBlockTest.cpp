@@ -17,7 +17,7 @@ TEST(TextBlock, AppendsThePiecesToTheStringWhenFlushed)
     TextBlock block(text);
     block.append("ab");
     block.append("");
-    block.append(std::string_view()); // points nowhere
+    block.append(std::string_view()); // a null view
     block.append("c");
     EXPECT_EQ(3U, block.position());
     block.flush();

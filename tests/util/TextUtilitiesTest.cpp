@@ -251,7 +251,7 @@ TEST(HtmlTagsFromText, RestoresEscapedTextThatOtherTextFollows)
     EXPECT_EQ(unescape(escape(text)), text);
 }
 
-/// One step of decoding at a "&", told byte by byte: where the scan goes on is left in @p at.
+/// Decodes one "&", byte by byte, and sets @p at to where the scan continues.
 std::string decodedAt(const std::string& text, std::size_t& at)
 {
     const auto byte = [&text](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
@@ -289,7 +289,7 @@ std::string expectedDecoding(const std::string& text)
     return result;
 }
 
-/// Compares all texts that continue @p text by up to @p pieces of the pieces of entities.
+/// Compares the decoding of all texts that extend @p text by up to @p pieces pieces of entities.
 void expectDecoding(const std::string& text, int pieces)
 {
     static const std::vector<std::string> all = {

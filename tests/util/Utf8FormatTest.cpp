@@ -1,5 +1,5 @@
 /// @file
-/// The check of UTF-8 sequences against a statement of the encoding in bits.
+/// Compares the check of UTF-8 sequences with a model of the encoding in bits.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "support/FailingAllocation.h"
@@ -41,7 +41,7 @@ bool agrees(const std::string& text, bool bmpOnly)
     return ZelDataUtilities::verifyUtf8Format(text, bmpOnly) == utf8Code(text, bmpOnly);
 }
 
-/// Goes over all texts that replace the last @p free bytes of @p text.
+/// Compares the results for all texts with other values in the last @p free bytes of @p text.
 void expectAgreement(std::string& text, std::size_t free, bool bmpOnly)
 {
     if (free == 0) {

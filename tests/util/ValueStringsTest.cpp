@@ -20,7 +20,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// What a default stream of the classic locale writes.
+/// Writes numbers as a default stream of the classic locale does.
 class ClassicStream {
 public:
     ClassicStream() { stream_.imbue(std::locale::classic()); }
@@ -201,7 +201,7 @@ TEST(GetVersionString, JoinsMajorMinorAndPatch)
     EXPECT_EQ(ZelDataUtilities::getVersionString(0), "0.0.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x00020103), "2.1.3");
     EXPECT_EQ(ZelDataUtilities::getVersionString(66048), "1.2.0");
-    EXPECT_EQ(ZelDataUtilities::getVersionString(10200), "0.39.216"); // packed in another way
+    EXPECT_EQ(ZelDataUtilities::getVersionString(10200), "0.39.216"); // packed differently
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x010A00FF), "266.0.255");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x0000FF00), "0.255.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0xFFFFFFFF), "65535.255.255");
@@ -215,7 +215,7 @@ TEST(GetVersionString, TakesAllHigherBitsAsMajor)
 
 // Locales
 
-/// Groups digits by twos with blanks and writes a comma before the decimals.
+/// Separates pairs of digits with blanks and uses a decimal comma.
 class OddPunctuation : public std::numpunct<char> {
 protected:
     char do_decimal_point() const override { return ','; }
@@ -243,7 +243,7 @@ TEST(ValueStrings, DependOnNoLocale)
     const OddLocale odd;
     std::ostringstream stream;
     stream << 12345.5;
-    ASSERT_EQ(stream.str(), "1 23 45,5") << "the locale must show in a stream";
+    ASSERT_EQ(stream.str(), "1 23 45,5") << "the locale must affect streams";
     EXPECT_EQ(ofFloat(12345.5F), "12345.5");
     EXPECT_EQ(getValueString(-1234567L), "-1234567");
     EXPECT_EQ(ZelDataUtilities::getValueString(1234567UL), "1234567");

@@ -18,13 +18,11 @@ namespace {
 /// Too long for any string to hold it without an allocation.
 const char* const longName = "a-name-that-is-too-long-to-be-kept-inside-a-string-object";
 
-/// Lets @p verb run out of memory at each of its allocations in turn, each time on a new tree that
-/// holds one "first", and hands the tree and its text before that to @p check afterwards. The number
-/// of failures.
+/// Makes each allocation of @p verb fail in turn, each time on a new tree with a child "first", then
+/// passes the tree and its earlier text to @p check. Returns the number of failures.
 ///
-/// A tree takes its memory from pieces and asks for another one when a piece is used up. The name of
-/// an attribute uses up more and more of the first piece, so that its end comes at each place where
-/// the verb needs memory.
+/// A tree allocates its memory in pieces. The name of an attribute fills more and more of the first
+/// piece, so that the piece runs out at each place where the verb needs memory.
 template <class Verb, class Check>
 std::size_t failAtEachAllocation(const Verb& verb, const Check& check)
 {
@@ -40,7 +38,7 @@ std::size_t failAtEachAllocation(const Verb& verb, const Check& check)
             ++failures;
             check(*tree, text);
             tree.reset();
-            EXPECT_EQ(liveAllocations() - 1, before) << "the text alone is left";
+            EXPECT_EQ(liveAllocations() - 1, before) << "only the text is left";
         }
     }
     return failures;

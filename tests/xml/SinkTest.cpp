@@ -1,5 +1,5 @@
 /// @file
-/// The node that replaces one that is missing.
+/// The node that replaces a missing one.
 
 #include "xml/Sink.h"
 

@@ -19,7 +19,7 @@ namespace {
 static_assert(!std::is_polymorphic_v<ZelDataXmlAttributeValue>);
 static_assert(!std::is_copy_constructible_v<ZelDataXmlAttributeValue>);
 
-/// The value after it was set to @p given.
+/// The value after setting it to @p given.
 template <class Given>
 std::string valueOf(const Given& given)
 {

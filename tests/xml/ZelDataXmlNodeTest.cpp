@@ -151,7 +151,7 @@ TEST(ZelDataXmlNode, NamesAreComparedByteForByte)
     EXPECT_EQ(root.getXml(false), "<a></a><A></A><a ></a >");
 }
 
-/// A path on an empty root; the texts have a mark at the element that the last call returned.
+/// A path on an empty root; the texts mark the element that the last call returned.
 struct EmptySteps {
     const char* path;
     const char* once;
