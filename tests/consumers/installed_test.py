@@ -201,7 +201,7 @@ class RebuiltLibrary(unittest.TestCase):
             (self.folder / name / RELEASE_LIBRARY).symlink_to(library)
 
     def written_with(self, library_folder):
-        """The libraries that the loader lists for the program, and the packet that the program writes."""
+        """The libraries that the loader lists for the program, and the packet that it writes."""
         environment = dict(os.environ, LD_LIBRARY_PATH=str(library_folder))
         loaded = run(self.folder / "program", env=dict(environment, LD_TRACE_LOADED_OBJECTS="1"))
         run(self.folder / "program", cwd=self.folder, env=environment)

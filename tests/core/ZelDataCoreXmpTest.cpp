@@ -117,7 +117,7 @@ TEST_F(ZelDataCoreXmpTest, LanguagesThatCannotBeClearedReturnTheHeadersLastError
     expectFailure(ZelData_InvalidItem);
 }
 
-TEST_F(ZelDataCoreXmpTest, WithoutCaptionsTheLanguageIsAmericanEnglishAlone)
+TEST_F(ZelDataCoreXmpTest, WithoutCaptionsTheOnlyLanguageIsAmericanEnglish)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataToc(*sampleToc()));
@@ -125,7 +125,7 @@ TEST_F(ZelDataCoreXmpTest, WithoutCaptionsTheLanguageIsAmericanEnglishAlone)
     EXPECT_EQ(Languages{"en-US"}, languages());
 }
 
-TEST_F(ZelDataCoreXmpTest, CaptionsWithoutLanguagesGiveAmericanEnglishAlone)
+TEST_F(ZelDataCoreXmpTest, CaptionsWithoutLanguagesGiveOnlyAmericanEnglish)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*make(&ZelDataUtilities::createCaptionData)));

@@ -44,11 +44,10 @@ class Names(unittest.TestCase):
         self.assertEqual(sorted(named - defined_tests()), [])
 
     def test_every_named_file_exists(self):
-        for path in DOCUMENTS:
-            for word in code_words(path):
-                if PROJECT_PATH.fullmatch(word):
-                    with self.subTest(document=path.name, file=word):
-                        self.assertTrue((ROOT / word).exists())
+        named = {word for path in DOCUMENTS for word in code_words(path)
+                 if PROJECT_PATH.fullmatch(word)}
+        self.assertGreater(len(named), 40)
+        self.assertEqual([word for word in sorted(named) if not (ROOT / word).exists()], [])
 
     def test_every_field_of_the_packet_names_its_test(self):
         rows = rows_of("## What is escaped, stripped or written as given")

@@ -128,19 +128,19 @@ const Words wholeValues{"",    "-",     "--", "-x",    "--creator", "[a,b]", "[a
                         "a b", " a ",   "=",  "a=b",   "==",        "@file", "/x", "\\",
                         "\\n", "a;b",   "#x", "$HOME", "*",         "true",  "0"};
 
-TEST(OptionValues, AreTakenWholeAfterABlank)
+TEST(OptionValues, AreNotSplitAfterABlank)
 {
     for (const std::string& value : wholeValues)
         EXPECT_EQ(parse({"--title", value}).title, value);
 }
 
-TEST(OptionValues, AreTakenWholeAfterAnEqualsSign)
+TEST(OptionValues, AreNotSplitAfterAnEqualsSign)
 {
     for (const std::string& value : wholeValues)
         EXPECT_EQ(parse({"--title=" + value}).title, value);
 }
 
-TEST(OptionValues, AreTakenWholeByRepeatedOptions)
+TEST(OptionValues, AreNotSplitByRepeatedOptions)
 {
     for (const std::string& value : wholeValues) {
         const Options options = parse(
@@ -150,7 +150,7 @@ TEST(OptionValues, AreTakenWholeByRepeatedOptions)
     }
 }
 
-TEST(OptionValues, AreTakenWholeAsFileNames)
+TEST(OptionValues, AreNotSplitAsFileNames)
 {
     for (const std::string& value : wholeValues) {
         EXPECT_EQ(parse({"en=" + value}).captions.at(0).path, value);
@@ -158,7 +158,7 @@ TEST(OptionValues, AreTakenWholeAsFileNames)
     }
 }
 
-TEST(OptionValues, LongValueIsTakenWhole)
+TEST(OptionValues, LongValueIsNotCutOff)
 {
     const std::string value(1'000'000, ',');
     EXPECT_EQ(parse({"--title=" + value}).title, value);

@@ -70,7 +70,7 @@ TEST_F(UsageTest, ValueMayBeginWithAHyphen)
     EXPECT_THAT(packet(), HasSubstr(" dc:title=\"-x\" "));
 }
 
-TEST_F(UsageTest, ValueIsTakenWhole)
+TEST_F(UsageTest, ValueIsNotSplit)
 {
     publish({"--title", "[a,b]", "--keyword", "c,[d]", "--content", "'e',{f}"});
     EXPECT_THAT(packet(), HasSubstr(" dc:title=\"[a,b]\" "));

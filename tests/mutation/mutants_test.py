@@ -1,4 +1,4 @@
-"""Tests the mutants of made-up sources, and checks the list of equivalent ones against the real sources.
+"""Tests the mutants of made-up sources, and compares the list of equivalent ones with the sources.
 
 The environment names ROOT, the project's folder."""
 

@@ -61,7 +61,7 @@ TEST_F(ScreenTextFormatter, WritesTextTimesImageAndGroup)
               written());
 }
 
-TEST_F(ScreenTextFormatter, StatesTheCollectionsOwnFrameRate)
+TEST_F(ScreenTextFormatter, WritesTheFrameRateOfTheCollection)
 {
     give({{1, 2, "a"}}, 25);
     EXPECT_EQ(track("f25", marker("a", "1", "2")), written());

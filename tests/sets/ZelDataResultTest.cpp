@@ -117,14 +117,14 @@ TEST(ZelDataResult, AFailingConstOperationLeavesItsCodeInAConstObject)
     EXPECT_CODE(constHeader, ZelData_InvalidArgument, constHeader.isValid());
 }
 
-TEST(ZelDataResult, AnotherObjectsLastErrorIsTakenThroughItsOwnOperation)
+TEST(ZelDataResult, AnotherObjectsLastErrorIsReadThroughItsOwnOperation)
 {
     OwnObject object;
     const Stubborn stubborn;
     EXPECT_CODE(object, ZelData_NoData, object.takeFrom(stubborn));
 }
 
-TEST(ZelDataResult, AnotherObjectsSuccessIsTakenAsItIs)
+TEST(ZelDataResult, AnotherObjectsSuccessIsTakenOver)
 {
     OwnObject object;
     EXPECT_CODE(object, ZelData_Ok, object.takeFrom(OwnObject()));

@@ -75,7 +75,7 @@ TEST_F(TocFormatter, WritesEntriesInTheOrderOfTheirStarts)
     EXPECT_EQ(track("", marker("a", "9") + marker("b", "100") + marker("c", "500")), written());
 }
 
-TEST_F(TocFormatter, StatesTheStandardFrameRateWhateverTheTableHas)
+TEST_F(TocFormatter, WritesTheStandardFrameRateWhateverTheTableHas)
 {
     const auto toc = tocOf({{1, {{"en", "a"}}}});
     EXPECT_EQ(ZelData_Ok, toc->setFrameRate(30));

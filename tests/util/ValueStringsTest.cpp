@@ -207,7 +207,7 @@ TEST(GetVersionString, JoinsMajorMinorAndPatch)
     EXPECT_EQ(ZelDataUtilities::getVersionString(0xFFFFFFFF), "65535.255.255");
 }
 
-TEST(GetVersionString, TakesAllHigherBitsAsMajor)
+TEST(GetVersionString, UsesAllHigherBitsAsMajor)
 {
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x100000000), "65536.0.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(ULONG_MAX), "281474976710655.255.255");

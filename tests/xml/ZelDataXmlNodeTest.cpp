@@ -109,7 +109,7 @@ TEST(ZelDataXmlNode, AskingThreeTimesForANameNestsThreeElements)
     EXPECT_EQ(root.getXml(false), R"(<a><a><a last="yes" ></a></a></a>)");
 }
 
-TEST(ZelDataXmlNode, ARepeatedPathNestsItsLastStepAlone)
+TEST(ZelDataXmlNode, ARepeatedPathNestsOnlyItsLastStep)
 {
     ZelDataXmlStream root;
     root < "a/b";

@@ -57,7 +57,7 @@ TEST(ZelDataXmlStream, NeverWritesItsOwnTagsAttributesAndText)
     EXPECT_EQ(stream.getXml(false), "<a></a>");
 }
 
-TEST(ZelDataXmlStream, TakesANumberAsItsTextAndNeverWritesIt)
+TEST(ZelDataXmlStream, AcceptsANumberAsItsTextAndNeverWritesIt)
 {
     ZelDataXmlStream stream;
     (stream = 5L) < "lost";
