@@ -1,5 +1,5 @@
 /// @file
-/// Captions in one line, and the contents of a caption and of a collection in one value.
+/// Makes captions in one line, and shows the contents of a caption or a collection as one value.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_CAPTIONS_CAPTIONS_H
 #define ZELINTERCHANGEDATA_TESTS_CAPTIONS_CAPTIONS_H

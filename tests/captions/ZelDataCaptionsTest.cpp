@@ -48,7 +48,7 @@ TEST(ZelDataCaptions, ANewOneIsValid)
 
 // Styling
 
-TEST(ZelDataCaptionsStyling, KeepsAnyFontFamilyButNone)
+TEST(ZelDataCaptionsStyling, KeepsAnyFontFamilyExceptAnEmptyOne)
 {
     ZelDataCaptions captions;
     for (const std::string& family : {std::string("A & B"), std::string("\xFF\0", 2)}) {
@@ -68,7 +68,7 @@ TEST(ZelDataCaptionsStyling, KeepsAFontSizeFromOneToFiveHundred)
     }
 }
 
-TEST(ZelDataCaptionsStyling, RefusesAFontSizeOutsideAndKeepsTheOldOne)
+TEST(ZelDataCaptionsStyling, RefusesAFontSizeOutOfRangeAndKeepsTheOldOne)
 {
     ZelDataCaptions captions;
     EXPECT_EQ(ZelData_Ok, captions.setFontSize(30));
@@ -100,7 +100,7 @@ protected:
     ZelDataCaptions captions_;
 };
 
-TEST_P(ZelDataCaptionsColor, TakesComponentsFromZeroToOne)
+TEST_P(ZelDataCaptionsColor, AcceptsComponentsFromZeroToOne)
 {
     for (const float value : inside) {
         EXPECT_CODE(captions_, ZelData_Ok, set(value, 0.25F, 0.75F));
@@ -108,7 +108,7 @@ TEST_P(ZelDataCaptionsColor, TakesComponentsFromZeroToOne)
     }
 }
 
-TEST_P(ZelDataCaptionsColor, RefusesEachComponentOutsideAndKeepsAllThree)
+TEST_P(ZelDataCaptionsColor, RefusesEachComponentOutOfRangeAndKeepsAllThree)
 {
     EXPECT_EQ(ZelData_Ok, set(0.25F, 0.5F, 0.75F));
     for (const float value : outside) {
@@ -119,7 +119,7 @@ TEST_P(ZelDataCaptionsColor, RefusesEachComponentOutsideAndKeepsAllThree)
     EXPECT_EQ((std::array<float, 3>{0.25F, 0.5F, 0.75F}), get());
 }
 
-TEST_P(ZelDataCaptionsColor, DoesNotRejectANan)
+TEST_P(ZelDataCaptionsColor, AcceptsANan)
 {
     EXPECT_CODE(captions_, ZelData_Ok, set(nan, nan, nan));
     for (const float component : get())
@@ -151,7 +151,7 @@ TEST(ZelDataCaptionsStyling, KeepsAnOpacityFromZeroToOne)
     }
 }
 
-TEST(ZelDataCaptionsStyling, RefusesAnOpacityOutsideAndKeepsTheOldOne)
+TEST(ZelDataCaptionsStyling, RefusesAnOpacityOutOfRangeAndKeepsTheOldOne)
 {
     ZelDataCaptions captions;
     for (const float value : outside)
@@ -159,7 +159,7 @@ TEST(ZelDataCaptionsStyling, RefusesAnOpacityOutsideAndKeepsTheOldOne)
     EXPECT_EQ(0.6F, styleOf(captions).opacity);
 }
 
-TEST(ZelDataCaptionsStyling, StoresAnOpacityThatIsNoNumber)
+TEST(ZelDataCaptionsStyling, StoresANanAsTheOpacity)
 {
     ZelDataCaptions captions;
     EXPECT_CODE(captions, ZelData_Ok, captions.setBackgroundOpacity(nan));
@@ -178,9 +178,7 @@ TEST(ZelDataCaptionsStyling, ItsGettersStoreSuccess)
     EXPECT_CODE(captions, ZelData_Ok, captions.getBackgroundOpacity(fraction));
 }
 
-// Languages
-
-// Handing in
+// Adding
 
 TEST(ZelDataCaptionsAddCaptionItem, RefusesAnItemWithoutLength)
 {
@@ -199,7 +197,7 @@ TEST(ZelDataCaptionsAddCaptionItem, RefusesAnItemWhoseEndWraps)
     EXPECT_EQ(0U, countOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, GivesTheLastErrorOfAForeignItem)
+TEST(ZelDataCaptionsAddCaptionItem, ReturnsTheLastErrorOfAForeignItem)
 {
     ZelDataCaptions captions;
     FailingCaptionItem item;
@@ -210,7 +208,7 @@ TEST(ZelDataCaptionsAddCaptionItem, GivesTheLastErrorOfAForeignItem)
     EXPECT_EQ(IDs{}, languagesOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, TakesAForeignLastErrorOfZeroForSuccess)
+TEST(ZelDataCaptionsAddCaptionItem, TreatsAForeignLastErrorOfZeroAsSuccess)
 {
     ZelDataCaptions captions;
     FailingCaptionItem item;
@@ -230,7 +228,7 @@ TEST(ZelDataCaptionsAddCaptionItem, DestroysItsCopyWhenTheCopyingFails)
     EXPECT_EQ(0U, countOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, GivesTheCodeOfAFailingCreation)
+TEST(ZelDataCaptionsAddCaptionItem, ReturnsTheCodeOfAFailingCreation)
 {
     FailingCaptions captions;
     captions.failAt("createCaptionItem", returnedCode, returnedCode);
@@ -239,9 +237,9 @@ TEST(ZelDataCaptionsAddCaptionItem, GivesTheCodeOfAFailingCreation)
     EXPECT_TRUE(itemsOf(captions).empty());
 }
 
-// Handing out
+// Getting copies
 
-/// Two items, the second of which fails when it is copied out for the first time.
+/// Adds two items, the second of which fails when it is first copied out.
 void fillWithABrokenSecondItem(FailingCaptions& captions)
 {
     add(captions, {{1, 2}});
@@ -251,7 +249,7 @@ void fillWithABrokenSecondItem(FailingCaptions& captions)
     captions.prepareItems({});
 }
 
-TEST(ZelDataCaptionsGetCaptionItemAt, GivesTheCodeOfACopyThatFails)
+TEST(ZelDataCaptionsGetCaptionItemAt, ReturnsTheCodeOfACopyThatFails)
 {
     FailingCaptions captions;
     fillWithABrokenSecondItem(captions);
@@ -271,8 +269,6 @@ TEST(ZelDataCaptionsGetCaptionItems, LeavesTheVectorEmptyWhenACopyFails)
     EXPECT_TRUE(items.empty());
     EXPECT_EQ(2, FailingCaptionItem::alive());
 }
-
-// Removing
 
 } // namespace
 } // namespace ZelInterchangeData

@@ -1,7 +1,7 @@
 /// @file
-/// Copies between objects of exactly our own classes take a short road, all others go through the
-/// interfaces. Here both roads are gone with the same random contents, and must lead to the same
-/// place: codes, last errors on both sides, what the target holds, and the track that is written.
+/// Copies between objects of exactly our own classes take a short cut; all others go through the
+/// interfaces. With the same random contents, both must have the same results: codes, last errors of
+/// both sides, the contents of the target, and the written track.
 
 #include "captions/ZelDataCaptionItem.h"
 #include "captions/ZelDataCaptions.h"
@@ -71,7 +71,7 @@ Value got(const Object& object, ZelDataResult_tags (Interface::*get)(Value&) con
     return value;
 }
 
-/// Languages that no item has, another order, and now and then an identical one twice.
+/// Adds languages that no item has, changes the order, and sometimes lists a language twice.
 template <class Collection>
 void stirLanguages(Collection& collection, Dice& dice)
 {
@@ -275,7 +275,7 @@ struct ScreenTextKind {
     }
 };
 
-/// Anything derived from an own class is no own class: whatever it overrides must be called.
+/// A class derived from one of ours is not ours: a copy must call whatever it overrides.
 template <class Own>
 struct Derived : Own {
 };

@@ -1,5 +1,5 @@
 /// @file
-/// What the program says about its work.
+/// The report that the program prints.
 
 #include "examples/ProgramRunner.h"
 
@@ -64,7 +64,7 @@ TEST_F(ReportTest, EveryReasonIsGiven)
                           "many lines (5 in en), overlap with the caption at 1998 ms\n"));
 }
 
-TEST_F(ReportTest, OverlapIsLookedForInOrderOfStart)
+TEST_F(ReportTest, OverlapIsCheckedInOrderOfStart)
 {
     const std::string en = write("en.srt", "00:05.000 --> 00:06.000\na\n\n"
                                            "00:01.000 --> 00:05.001\nb\n");

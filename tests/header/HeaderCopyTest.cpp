@@ -1,5 +1,5 @@
 /// @file
-/// Copying a header: the order of the steps, and each of them going wrong.
+/// Copying a header: the order of the steps, and the failure of each.
 
 #include "header/Headers.h"
 #include "header/ScriptedHeader.h"
@@ -33,21 +33,21 @@ const Texts& copySteps()
     return steps;
 }
 
-/// What the target of the copies holds before.
+/// What the target holds before the copy.
 HeaderValues oldValues()
 {
     return {"Old app", "0.9", "Old", "Old creator", "Old text",  {"old"}, true,
             1,         2,     3,     {"fr"},        {"old.mp4"}, true};
 }
 
-/// Fills a header without a trace in its script.
+/// Fills a header without logging its calls.
 void fillQuietly(ScriptedHeader& header, const HeaderValues& values, Texts& log)
 {
     fill(header, values);
     header.script.logTo(log);
 }
 
-/// What a target holds when the first @p count steps were done.
+/// What a target holds after the first @p count steps.
 Described stateAfter(std::size_t count)
 {
     Described state = described(oldValues());
@@ -117,7 +117,7 @@ TEST_F(HeaderCopy, ReproducesAllFieldsInTheStatedOrder)
     EXPECT_EQ(described(sampleValues()), targetState());
 }
 
-TEST_F(HeaderCopy, LeavesTheSourceAsItWasButForTheCodeOfItsGetters)
+TEST_F(HeaderCopy, ChangesOnlyTheLastErrorOfTheSource)
 {
     source_.ZelDataHeader::setLastError(ZelData_NoData);
     EXPECT_EQ(ZelData_Ok, target().copyFrom(source_));
@@ -172,7 +172,7 @@ TEST_F(HeaderCopy, ADuplicateLanguageEndsItWithAWarning)
     EXPECT_EQ(described(expected), targetState());
 }
 
-/// The last error is taken as it is, so the copy says success though it stopped.
+/// The copy takes over the last error, so it returns success although it stopped.
 TEST_F(HeaderCopy, AFieldThatFailsWhileTheSourceKeptSuccessEndsItWithSuccess)
 {
     source_.script.failAt("getTitle");
@@ -182,7 +182,7 @@ TEST_F(HeaderCopy, AFieldThatFailsWhileTheSourceKeptSuccessEndsItWithSuccess)
     EXPECT_EQ("getTitle", log_.back());
 }
 
-/// A language list that was not read but "succeeded" does not stop the copy of the header.
+/// A language list that cannot be read but "succeeds" does not stop the copy of the header.
 TEST_F(HeaderCopy, LanguagesThatFailWhileTheSourceKeptSuccessAreLeftOut)
 {
     source_.script.failAt("getOrderedLanguageIDs");
@@ -193,7 +193,7 @@ TEST_F(HeaderCopy, LanguagesThatFailWhileTheSourceKeptSuccessAreLeftOut)
     EXPECT_EQ(described(expected), targetState());
 }
 
-/// A header that knows its content names twice, as only a caller's own can.
+/// A header with duplicate content names, which only a caller's own header can have.
 class RepeatingHeader : public ScriptedHeader {
 public:
     ZelDataResult_tags getContentNames(Texts& names) const override
@@ -203,7 +203,7 @@ public:
     }
 };
 
-TEST_F(HeaderCopy, AContentNameThatStandsTwiceEndsItWithAWarning)
+TEST_F(HeaderCopy, ADuplicateContentNameEndsItWithAWarning)
 {
     RepeatingHeader source;
     fill(source, sampleValues());

@@ -12,8 +12,8 @@
 
 namespace ZelInterchangeData {
 
-/// A header with all operations that a copy calls put under a script. A failing getter delivers its
-/// value all the same; a failing setter does not store.
+/// A header in which all operations that a copy calls follow a script. A failing getter delivers its
+/// value nevertheless; a failing setter does not store.
 class ScriptedHeader : public ScriptedLanguages<ZelDataHeader> {
 public:
     using Code = ZelDataResult_tags;

@@ -1,5 +1,5 @@
 /// @file
-/// Screen-text items in one line, and the contents of an item in one value.
+/// Makes screen-text items in one line, and shows the contents of an item as one value.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
 #define ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H

@@ -1,5 +1,5 @@
 /// @file
-/// What is found in screen texts.
+/// The findings in screen texts.
 
 #include "screentext/Items.h"
 #include "support/Dice.h"
@@ -68,7 +68,7 @@ private:
     unsigned long rate_;
 };
 
-TEST(ScreenTextFindings, FrameRateAndTextAreLookedAt)
+TEST(ScreenTextFindings, FrameRateAndTextAreChecked)
 {
     EXPECT_EQ((Lines{"screen texts: frame rate out of range (0, at least 1)",
                      "screen text 0 at 0: the text is not UTF-8"}),
@@ -80,7 +80,7 @@ TEST(ScreenTextFindings, FrameRateAndTextAreLookedAt)
     EXPECT_EQ(1U, linesOf(ToldScreenText(10000)).size());
 }
 
-/// Screen texts that hand out the failing items that they are given.
+/// Screen texts that hand out a test's failing items.
 class HandingScreenText : public Failing<ZelDataScreenText> {
 public:
     ZelDataResult_tags getFrameRate(unsigned long& rate) const override
@@ -92,7 +92,7 @@ public:
     {
         auto item = std::make_unique<FailingScreenTextItem>();
         if (prepare) prepare(*item);
-        items.push_back(item.release()); // handed out even where the call fails
+        items.push_back(item.release()); // handed out even if the call fails
         return run("getScreenTextItems", [] { return ZelData_Ok; });
     }
 
@@ -124,7 +124,7 @@ TEST(ScreenTextFindings, ExhaustedMemoryIsReportedAndNothingLeaks)
     expectMemoryFailuresPass(*screenTextOf({{2, 1, std::string(50, 'x')}, {1, 1, "a"}}));
 }
 
-/// What must be found in items that start at @p starts, by the definition.
+/// The expected findings in items that start at @p starts, by the definition.
 Findings expectedOf(const std::vector<Shown>& items)
 {
     Findings expected;

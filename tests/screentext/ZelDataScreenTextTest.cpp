@@ -58,7 +58,7 @@ TEST_F(ScreenText, EqualStartsAndOverlapsPass)
     EXPECT_EQ(items, itemsOf(*texts_));
 }
 
-TEST(ScreenTextOrder, ComparesStartsAlone)
+TEST(ScreenTextOrder, ComparesOnlyStarts)
 {
     ZelDataScreenText texts;
     add(texts, {{5, 9, "z", "", 0, 0, 9}, {5, 1, "a", "", 0, 0, 1}, {3}});
@@ -69,7 +69,7 @@ TEST(ScreenTextOrder, ComparesStartsAlone)
 
 // Stored items that fail
 
-/// A collection whose items are those of the tests, so that stored ones can fail.
+/// A collection that stores a test's items, which can fail.
 class ScreenTextOfFailing : public ZelDataScreenText {
 public:
     ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override
@@ -79,7 +79,7 @@ public:
         *out = item.release();
         return ZelData_Ok;
     }
-    /// Adds @p shown and gives the stored item.
+    /// Adds @p shown and returns the stored item.
     FailingScreenTextItem& added(const Shown& shown)
     {
         EXPECT_EQ(ZelData_Ok, addScreenTextItem(*itemOf(shown)));
@@ -90,7 +90,7 @@ private:
     mutable FailingScreenTextItem* last_ = nullptr;
 };
 
-TEST(StoredScreenText, IsAskedForItsValidityOnlyByADeepCheck)
+TEST(StoredScreenText, IsValidatedOnlyByADeepCheck)
 {
     ScreenTextOfFailing texts;
     texts.added({1}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
@@ -111,9 +111,9 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
     EXPECT_CODE(second, ZelData_WarnTiming, second.isValid(true));
 }
 
-// The order is looked at first, so an item is asked for its start a second time.
+// The check looks for disorder first, so it then reads the start of an item a second time.
 
-TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
+TEST(StoredScreenText, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {
     ScreenTextOfFailing texts;
     texts.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
@@ -128,7 +128,7 @@ TEST(StoredScreenText, AStartThatItDoesNotSetCountsAsZero)
     EXPECT_CODE(texts, ZelData_Ok, texts.isValid(false));
 }
 
-TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsChecked)
 {
     ScreenTextOfFailing texts;
     texts.added({100});

@@ -27,8 +27,8 @@ using Texts = std::map<std::string, std::string>;
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// What a kind has besides: collections that make other items and that hand out a null pointer, and a
-/// text that marks an item.
+/// What each kind adds: collections that make other items or hand out a null pointer, and a text that
+/// marks an item.
 template <class Kind>
 struct TextByLanguage : Kind {
     using typename Kind::Item;
@@ -45,7 +45,7 @@ struct TextByLanguage : Kind {
     }
 };
 
-/// A function that makes an item, which a collection may be given.
+/// A function that makes the items of a collection.
 template <class Item>
 using Maker = std::function<ZelDataResult_tags(Item**)>;
 
@@ -55,7 +55,7 @@ struct Captions : TextByLanguage<CaptionKind> {
     static constexpr auto ofLanguage = &Data::getCaptionItemsForLanguage;
 
     static Values item(long long start, const Texts& texts) { return {start, 1000, texts}; }
-    /// Something that clearing the items leaves.
+    /// Sets something that clearing the items keeps.
     static void mark(Data& captions) { EXPECT_EQ(ZelData_Ok, captions.setFontSize(30)); }
     static bool isMarked(const Data& captions) { return styleOf(captions).fontSize == 30; }
 
@@ -66,7 +66,7 @@ struct Captions : TextByLanguage<CaptionKind> {
         {
             return maker ? maker(out) : Own::createCaptionItem(out);
         }
-        /// Sets a rate that no setter would take.
+        /// Sets a rate that every setter refuses.
         void forceRate(unsigned long rate) { style_.frameRate.value = rate; }
     };
 
@@ -102,7 +102,7 @@ struct Toc : TextByLanguage<TocKind> {
         {
             return maker ? maker(out) : Own::createTocItem(out);
         }
-        /// Sets a rate that no setter would take.
+        /// Sets a rate that every setter refuses.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
@@ -123,7 +123,7 @@ struct ScreenText : ScreenTextKind {
         {
             return maker ? maker(out) : Own::createScreenTextItem(out);
         }
-        /// Sets a rate that no setter would take.
+        /// Sets a rate that every setter refuses.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
@@ -148,7 +148,7 @@ struct ScreenText : ScreenTextKind {
     }
 };
 
-/// An item whose start is what a test wants it to be, and which knows how many of it live.
+/// An item whose start a test chooses, and which counts the living objects of its class.
 template <class Kind>
 class OddItem : public Kind::OwnItem {
 public:
@@ -176,7 +176,7 @@ private:
     std::function<ZelDataResult_tags(long long&)> start_;
 };
 
-/// An item that cannot be filled: its start fails with one code and its last error is another.
+/// An item that cannot be filled: setting its start returns one code and stores another.
 template <class Kind>
 class UnfillableItem : public OddItem<Kind> {
 public:
@@ -239,7 +239,7 @@ protected:
         return Owned(out);
     }
 
-    /// From now on the collection makes good items, and at call @p nth one that cannot be filled.
+    /// Makes the collection create good items from now on, and one that cannot be filled at call @p nth.
     void makeUnfillable(int nth)
     {
         collection_.maker = [nth](Item** out) mutable {
@@ -264,7 +264,7 @@ TYPED_TEST(ItemCollection, StartsEmpty)
     EXPECT_TRUE(this->contents().empty());
 }
 
-TYPED_TEST(ItemCollection, AMadeItemBelongsToTheCallerAndIsNotAdded)
+TYPED_TEST(ItemCollection, ANewItemBelongsToTheCallerAndIsNotAdded)
 {
     typename TypeParam::Item* out = nullptr;
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::create)(&out));
@@ -285,7 +285,7 @@ TYPED_TEST(ItemCollection, AnItemIsMadeOnlyIntoAnEmptyPointer)
                 (this->collection_.*TypeParam::create)(nullptr));
 }
 
-TYPED_TEST(ItemCollection, KeepsItemsInTheOrderOfTheirAddition)
+TYPED_TEST(ItemCollection, KeepsItemsInOrderOfAddition)
 {
     this->add(this->three_);
     EXPECT_EQ(3UL, this->count());
@@ -294,7 +294,7 @@ TYPED_TEST(ItemCollection, KeepsItemsInTheOrderOfTheirAddition)
         EXPECT_EQ(this->three_[i], this->contentsOf(*this->itemAt(i)));
 }
 
-TYPED_TEST(ItemCollection, StoresACopyOfWhatIsAdded)
+TYPED_TEST(ItemCollection, StoresACopyOfTheItem)
 {
     typename TypeParam::OwnItem item;
     this->fill(item, {1, "a"});
@@ -336,7 +336,7 @@ TYPED_TEST(ItemCollection, HandsOutOnlyIntoAnEmptyPointerAndBelowTheCount)
     EXPECT_EQ(nullptr, empty);
 }
 
-TYPED_TEST(ItemCollection, HandingAllOutReplacesTheVectorAndDestroysNothingOfIt)
+TYPED_TEST(ItemCollection, GettingAllItemsReplacesTheVectorWithoutDestroyingItsItems)
 {
     this->add({{1, "a"}});
     typename TypeParam::OwnItem mine;
@@ -348,7 +348,7 @@ TYPED_TEST(ItemCollection, HandingAllOutReplacesTheVectorAndDestroysNothingOfIt)
     EXPECT_CODE(mine, ZelData_Ok, mine.setStart(5));
 }
 
-TYPED_TEST(ItemCollection, HandingOutNothingEmptiesTheVector)
+TYPED_TEST(ItemCollection, GettingNoItemsEmptiesTheVector)
 {
     std::vector<typename TypeParam::Item*> items{nullptr};
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::all)(items));
@@ -384,7 +384,7 @@ TYPED_TEST(ItemCollection, ClearingRemovesAllItems)
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::clear)());
 }
 
-TYPED_TEST(ItemCollection, DestroysItsItemsWhenTheyAreRemovedClearedOrItEndsItself)
+TYPED_TEST(ItemCollection, DestroysItsItemsWhenRemovedClearedOrDestroyed)
 {
     using Counted = OddItem<TypeParam>;
     const long before = Counted::alive();
@@ -483,7 +483,7 @@ TYPED_TEST(ItemCollection, ACopyThatCannotBeFilledIsDestroyedAndItsLastErrorTake
     EXPECT_EQ(before, OddItem<TypeParam>::alive());
 }
 
-TYPED_TEST(ItemCollection, WhenOneOfAllCopiesFailsTheOthersAreDestroyedAndTheVectorIsEmpty)
+TYPED_TEST(ItemCollection, WhenOneCopyFailsTheOthersAreDestroyedAndTheVectorIsEmpty)
 {
     this->add(this->three_);
     const long before = OddItem<TypeParam>::alive();
@@ -497,9 +497,9 @@ TYPED_TEST(ItemCollection, WhenOneOfAllCopiesFailsTheOthersAreDestroyedAndTheVec
     }
 }
 
-// Items that change their collection while it looks at them
+// Items that change their collection while it reads them
 
-/// Three items, the first of which changes its collection when it is first asked for its start.
+/// Three items, the first of which changes its collection when its start is first read.
 template <class Kind>
 class Meddled {
 public:
@@ -553,7 +553,7 @@ void clearAll(typename Kind::Made& collection)
     EXPECT_EQ(ZelData_Ok, (collection.*Kind::clear)());
 }
 
-TYPED_TEST(ItemCollection, AnItemMayChangeItsCollectionWhileThatIsRead)
+TYPED_TEST(ItemCollection, AnItemMayChangeItsCollectionDuringARead)
 {
     for (const auto& [change, left] :
          {std::pair(&addMany<TypeParam>, 103UL), std::pair(&clearAll<TypeParam>, 0UL)}) {
@@ -593,7 +593,7 @@ TYPED_TEST(ItemCollection, AnItemThatChangesItsCollectionStopsTheOrdering)
 
 // Copies of whole collections
 
-TYPED_TEST(ItemCollection, ACopyOfTheCollectionHoldsCopiesOfTheItemsAlone)
+TYPED_TEST(ItemCollection, ACopyOfTheCollectionReplacesTheItemsWithCopies)
 {
     this->add({{9, "old"}});
     typename TypeParam::Own source;
@@ -637,8 +637,8 @@ TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)
 
 // Order
 
-/// The expected order, computed step by step: each place in turn takes every smaller start that comes
-/// after it.
+/// The expected order, computed step by step: each place in turn swaps with every later place whose
+/// start is smaller.
 void exchangeSort(std::vector<Timed>& items)
 {
     for (std::size_t i = 0; i + 1 < items.size(); ++i)
@@ -646,7 +646,7 @@ void exchangeSort(std::vector<Timed>& items)
             if (items[j].first < items[i].first) std::swap(items[i], items[j]);
 }
 
-TYPED_TEST(ItemCollection, EqualStartsMayChangePlacesWhenASmallerOnePasses)
+TYPED_TEST(ItemCollection, EqualStartsMaySwapPlacesWhenASmallerOnePasses)
 {
     this->add({{5, "first"}, {5, "second"}, {3, "early"}});
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::order)());
@@ -677,7 +677,7 @@ TYPED_TEST(ItemCollection, OrdersNothingAndOneItem)
     EXPECT_EQ((std::vector<Timed>{{1, "a"}}), this->contents());
 }
 
-TYPED_TEST(ItemCollection, ThousandsOfRandomOrdersAreThoseOfTheExchangeSort)
+TYPED_TEST(ItemCollection, RandomOrdersMatchTheExchangeSort)
 {
     std::mt19937 random(20090305);
     for (int round = 0; round < 3000; ++round) {
@@ -753,8 +753,8 @@ TYPED_TEST(ItemCollection, AFrameRateOutOfRangeIsRepairedToTheStandardRateAndAny
     }
 }
 
-/// A copy of a table of contents does not ask for the rate.
-TYPED_TEST(ItemCollection, AFrameRateOutOfRangeEndsACopyThatTakesIt)
+/// A copy of a table of contents does not read the rate.
+TYPED_TEST(ItemCollection, AFrameRateOutOfRangeEndsACopyThatReadsIt)
 {
     this->add(this->three_);
     this->collection_.forceRate(0);
@@ -794,7 +794,7 @@ TYPED_TEST(ItemLanguages, AreListedInByteOrderAfterTheListedOnes)
     EXPECT_EQ((IDs{"fr", "EN", "de", "en", "cs"}), languagesOf(*this->collection_));
 }
 
-TYPED_TEST(ItemLanguages, ThatAreListedAlreadyDoNotWarn)
+TYPED_TEST(ItemLanguages, ThatAreAlreadyListedDoNotWarn)
 {
     EXPECT_EQ(ZelData_Ok, this->collection_->addLanguage("en"));
     const auto item = newItem<TypeParam>(this->item(0, {{"en", ""}}));
@@ -813,7 +813,7 @@ TYPED_TEST(ItemLanguages, StayInTheItemsWhenTheyAreRemovedFromTheList)
     EXPECT_EQ(std::vector{item}, this->items());
 }
 
-TYPED_TEST(ItemLanguages, ThatAreNotListedAreNeitherMissedNorFilledIn)
+TYPED_TEST(ItemLanguages, ThatAreNotListedAreNeitherReportedMissingNorFilledIn)
 {
     const std::vector items{this->item(0, {{"de", "d"}, {"en", "e"}}),
                             this->item(1000, {{"en", "f"}})};
@@ -887,14 +887,14 @@ TYPED_TEST(ItemLanguages, LoseTheirTextsInItemsOfEveryClass)
     }
 }
 
-TYPED_TEST(ItemLanguages, AreNotMissedInACollectionWithoutItems)
+TYPED_TEST(ItemLanguages, AreNotReportedMissingWithoutItems)
 {
     for (const char* id : {"fr", "xx"})
         EXPECT_CODE(*this->collection_, ZelData_Ok,
                     ((*this->collection_).*TypeParam::removeLanguage)(id));
 }
 
-TYPED_TEST(ItemLanguages, HandOutNoItems)
+TYPED_TEST(ItemLanguages, CannotBeUsedToGetItems)
 {
     typename TypeParam::OwnItem kept;
     std::vector<typename TypeParam::Item*> items{&kept};
@@ -919,7 +919,7 @@ TYPED_TEST(ItemLanguages, ThatAreRefusedKeepTheItemOutAndTheEarlierOnesIn)
     EXPECT_EQ(IDs{"de"}, languagesOf(collection));
 }
 
-TYPED_TEST(ItemLanguages, AreNotFilledInWhereMemoryForAskingRunsOut)
+TYPED_TEST(ItemLanguages, AreNotFilledInWhenLookingForThemRunsOutOfMemory)
 {
     using FakeItem = typename TypeParam::FakeItem;
     const auto returns = [](FakeItem& item) {

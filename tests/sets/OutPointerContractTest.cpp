@@ -111,7 +111,7 @@ protected:
 
 TYPED_TEST_SUITE(OutPointer, AllMakers, );
 
-TYPED_TEST(OutPointer, NoPointerIsRefused)
+TYPED_TEST(OutPointer, AMissingPointerIsRefused)
 {
     EXPECT_EQ(ZelData_InvalidArgument, this->maker_.create(nullptr));
     this->maker_.expectLastError(ZelData_InvalidArgument);
@@ -139,7 +139,7 @@ TYPED_TEST(OutPointer, ANewObjectReportsSuccess)
     EXPECT_EQ(ZelData_Ok, this->created()->getLastError());
 }
 
-TYPED_TEST(OutPointer, EveryCallMakesAnObjectOfItsOwn)
+TYPED_TEST(OutPointer, EveryCallMakesANewObject)
 {
     const auto first = this->created();
     const auto second = this->created();

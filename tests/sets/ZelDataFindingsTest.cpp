@@ -109,7 +109,7 @@ TEST(DescribeFinding, OrderAndOverlapNameTheLaterItem)
         describe(withLater(limited(ZelDataFinding_OutOfOrder, entry, 1, 2000, 1000), 2, 1000)));
 }
 
-TEST(DescribeFinding, CollectionsAreNamedWhereNoItemIs)
+TEST(DescribeFinding, CollectionsAreNamedIfNoItemIs)
 {
     const auto rate = [](ZelDataFindingSubject_tags subject, long long value, long long limit) {
         return describe(limited(ZelDataFinding_FrameRateOutOfRange, subject, ZelDataFinding::noItem,
@@ -121,8 +121,8 @@ TEST(DescribeFinding, CollectionsAreNamedWhereNoItemIs)
     EXPECT_EQ("screen texts: frame rate out of range (0, at least 1)", rate(screenText, 0, 1));
 }
 
-// No search gives such findings, but anybody may make them.
-TEST(DescribeFinding, AValueAtItsLimitIsSaidToBeAtMostThat)
+// findProblems() never makes such findings, but callers can.
+TEST(DescribeFinding, AValueAtItsLimitIsDescribedAsAtMostTheLimit)
 {
     EXPECT_EQ("captions: frame rate out of range (7, at most 7)",
               describe(limited(ZelDataFinding_FrameRateOutOfRange, caption, ZelDataFinding::noItem,
@@ -155,7 +155,7 @@ TEST(DescribeFinding, ALanguageStaysOnItsLine)
     EXPECT_EQ("entry 0 at 0: no text in en-\\xFC", line("en-\xFC"));
 }
 
-TEST(DescribeFinding, ExtremesAreWhole)
+TEST(DescribeFinding, ExtremesAreWrittenInFull)
 {
     constexpr auto most = std::numeric_limits<long long>::max();
     constexpr auto least = std::numeric_limits<long long>::min();
@@ -166,7 +166,7 @@ TEST(DescribeFinding, ExtremesAreWhole)
               describe(finding));
 }
 
-TEST(DescribeFinding, WhatIsNoKindIsUnknown)
+TEST(DescribeFinding, AnUndefinedKindIsUnknown)
 {
     EXPECT_EQ("collection: unknown finding", describe(ZelDataFinding()));
     EXPECT_EQ("item 3 at 5: unknown finding",

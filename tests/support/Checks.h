@@ -23,9 +23,8 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
 
 } // namespace ZelInterchangeData
 
-/// Expects that @p call, an operation of @p object, gives @p expected and stores it. The last error
-/// is set to a value that no operation produces first, so that an operation that stores nothing is
-/// noticed.
+/// Expects that @p call, an operation of @p object, returns @p expected and stores it. First sets the
+/// last error to a value that no operation produces, to catch an operation that stores nothing.
 #define EXPECT_CODE(object, expected, call)                                                        \
     do {                                                                                           \
         const auto& checkedObject_ = (object);                                                     \
@@ -36,10 +35,10 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
         EXPECT_EQ(expectedCode_, checkedObject_.getLastError()) << "last error of " #object;       \
     } while (false)
 
-/// Takes the code of a call that an object may refuse: what it then holds is a part of the test.
+/// Ignores the code of a call that the object may refuse; the test checks what the object then holds.
 inline void mayRefuse(::ZelInterchangeData::ZelDataResult_tags /*code*/) {}
 
-/// A new object from @p create, a factory that takes an out-pointer.
+/// Makes an object with @p create, a factory that takes an out-pointer.
 template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(Interface**))
 {
@@ -48,7 +47,7 @@ std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*creat
     return std::unique_ptr<Interface>(made);
 }
 
-/// A new formatter from @p create.
+/// Makes a formatter with @p create.
 template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(
     Interface**, ::ZelInterchangeData::ZelDataFormatType_tags))

@@ -1,5 +1,5 @@
 /// @file
-/// What findProblems() gives, for comparisons, and its ways to fail.
+/// Compares what findProblems() finds, and makes it fail.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
@@ -65,7 +65,7 @@ inline ZelDataFinding inLanguage(ZelDataFinding finding, const std::string& lang
     return finding;
 }
 
-/// @p finding with the later item that its value is measured by.
+/// @p finding with the later item that its value refers to.
 inline ZelDataFinding withLater(ZelDataFinding finding, unsigned long item, long long start)
 {
     finding.laterItem = item;
@@ -85,7 +85,7 @@ inline ZelDataFinding outOfOrder(ZelDataFindingSubject_tags subject, unsigned lo
 template <class Collection>
 Findings findingsOf(const Collection& collection)
 {
-    Findings findings(1); // what was there before must go
+    Findings findings(1); // must be replaced
     EXPECT_EQ(ZelData_Ok, findProblems(collection, findings));
     return findings;
 }
@@ -124,13 +124,13 @@ inline ZelDataResult_tags codeFor(ZelDataFinding_tags kind)
     return ZelData_NotImplemented;
 }
 
-/// The code that isValid(true) must give where @p findings are all there are.
+/// The code that isValid(true) must return for @p findings.
 inline ZelDataResult_tags codeFor(const Findings& findings)
 {
     return findings.empty() ? ZelData_Ok : codeFor(findings.front().kind);
 }
 
-/// Expects that @p code is what findProblems() gives for @p collection, and nothing is found.
+/// Expects that findProblems() returns @p code for @p collection and finds nothing.
 template <class Collection>
 void expectNoAnswer(ZelDataResult_tags code, const Collection& collection)
 {
@@ -157,7 +157,7 @@ void expectFailuresPass(const Collection& collection, const std::string& operati
     expectNoAnswer(ZelData_InternalError, collection);
 }
 
-/// Expects that findProblems() of @p collection copes with each of its allocations failing in turn.
+/// Makes each allocation of findProblems() fail in turn, and expects that it reports each failure.
 template <class Collection>
 void expectMemoryFailuresPass(const Collection& collection)
 {

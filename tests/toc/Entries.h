@@ -1,5 +1,5 @@
 /// @file
-/// Entries in one line, and the contents of an entry in one value.
+/// Makes entries in one line, and shows the contents of an entry as one value.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_TOC_ENTRIES_H
 #define ZELINTERCHANGEDATA_TESTS_TOC_ENTRIES_H

@@ -1,5 +1,5 @@
 /// @file
-/// What is found in a table of contents.
+/// The findings in a table of contents.
 
 #include "support/Dice.h"
 #include "support/Findings.h"
@@ -91,7 +91,7 @@ private:
     unsigned long rate_;
 };
 
-TEST(TocFindings, FrameRateTextsAndLanguagesAreLookedAt)
+TEST(TocFindings, FrameRateTextsAndLanguagesAreChecked)
 {
     EXPECT_EQ((Lines{"table of contents: frame rate out of range (10001, at most 10000)",
                      "entry 0 at 0: the text in en is not UTF-8",
@@ -102,7 +102,7 @@ TEST(TocFindings, FrameRateTextsAndLanguagesAreLookedAt)
     EXPECT_EQ(2U, linesOf(ToldToc(1)).size());
 }
 
-/// A table that hands out the failing entries that it is given.
+/// A table that hands out a test's failing entries.
 class HandingToc : public Failing<ZelDataToc> {
 public:
     ZelDataResult_tags getFrameRate(unsigned long& rate) const override
@@ -118,7 +118,7 @@ public:
         auto item = std::make_unique<FailingTocItem>();
         EXPECT_EQ(ZelData_Ok, item->setTextForLanguage("a", "en"));
         if (prepare) prepare(*item);
-        items.push_back(item.release()); // handed out even where the call fails
+        items.push_back(item.release()); // handed out even if the call fails
         return run("getTocItems", [] { return ZelData_Ok; });
     }
 
@@ -151,7 +151,7 @@ TEST(TocFindings, ExhaustedMemoryIsReportedAndNothingLeaks)
         *tocOf({{2, {{"en", std::string(50, 'x')}}, "i"}, {1, {{"de", "a"}}}}));
 }
 
-/// What must be found in @p entries where @p listed are to have titles, by the definition.
+/// The expected findings in @p entries if @p listed must have titles, by the definition.
 Findings expectedOf(const std::vector<Entry>& entries, const std::vector<std::string>& listed)
 {
     Findings expected;

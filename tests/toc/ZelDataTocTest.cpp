@@ -74,7 +74,7 @@ TEST_F(Toc, AMissingTextIsAnErrorUntilTheTableIsMadeConsistent)
     EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(false));
 }
 
-TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsChecked)
 {
     add(*toc_, {{100, {{"en", "a"}}}, {100}, {50, {{"en", "c"}}}});
     EXPECT_CODE(*toc_, ZelData_WarnTiming, toc_->isValid(false));
@@ -96,7 +96,7 @@ TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
 
 // Stored entries that fail
 
-/// A table whose entries are those of the tests, so that stored ones can fail.
+/// A table that stores a test's entries, which can fail.
 class TocOfFailing : public ZelDataToc {
 public:
     ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
@@ -106,7 +106,7 @@ public:
         *out = item.release();
         return ZelData_Ok;
     }
-    /// Adds @p entry and gives the stored one.
+    /// Adds @p entry and returns the stored one.
     FailingTocItem& added(const Entry& entry)
     {
         EXPECT_EQ(ZelData_Ok, addTocItem(*itemOf(entry)));
@@ -117,7 +117,7 @@ private:
     mutable FailingTocItem* last_ = nullptr;
 };
 
-TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
+TEST(StoredEntry, IsValidatedOnlyByADeepCheck)
 {
     TocOfFailing toc;
     toc.added({0, {{"en", "a"}}}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
@@ -125,7 +125,7 @@ TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
     EXPECT_CODE(toc, ZelData_NotFound, toc.isValid(true));
 }
 
-TEST(StoredEntry, AWarningOfItsValidityCountsAsFinding)
+TEST(StoredEntry, AWarningWhenItIsValidatedFailsTheCheck)
 {
     TocOfFailing toc;
     toc.added({}).failAt("isValid", ZelData_WarnItemGuidelines, ZelData_WarnItemGuidelines);
@@ -148,9 +148,9 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-// The order is looked at first, so an entry is asked for its start a second time.
+// The check looks for disorder first, so it then reads the start of an entry a second time.
 
-TEST(StoredEntry, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
+TEST(StoredEntry, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {
     TocOfFailing toc;
     toc.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);

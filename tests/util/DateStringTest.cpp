@@ -15,7 +15,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-// The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus.
+// POSIX gives zones east of Greenwich a negative sign.
 const char* const utc = "UTC0";
 const char* const twoHoursEast = "EET-2";
 const char* const fiveHoursWest = "EST5";
@@ -36,14 +36,14 @@ TEST(GetDateString, WritesTheUtcDateAndTheLocalHours)
     EXPECT_EQ(dateIn(fiveHoursWest, march5), "2009-03-05T14:07:09-5:00");
 }
 
-TEST(GetDateString, WritesAMinusWhereTheHoursAgree)
+TEST(GetDateString, WritesAMinusIfTheHoursAreEqual)
 {
     EXPECT_EQ(dateIn(utc, march5), "2009-03-05T14:07:09-0:00");
     EXPECT_EQ(dateIn("HALF-0:30", march5), "2009-03-05T14:07:09-0:00");
     EXPECT_EQ(dateIn(utc, 0), "1970-01-01T00:00:00-0:00");
 }
 
-TEST(GetDateString, TakesNoMinutesIntoTheOffset)
+TEST(GetDateString, LeavesMinutesOutOfTheOffset)
 {
     EXPECT_EQ(dateIn(fiveAndAHalfHoursEast, march5), "2009-03-05T14:07:09+5:00");
     EXPECT_EQ(dateIn(fiveAndAHalfHoursEast, 1236264300), "2009-03-05T14:45:00+6:00");
@@ -63,7 +63,7 @@ TEST(GetDateString, FollowsSummerTime)
     EXPECT_EQ(dateIn(centralEurope, 1246406400), "2009-07-01T00:00:00+2:00");
 }
 
-TEST(GetDateString, FillsTheFieldsWithZeros)
+TEST(GetDateString, PadsTheFieldsWithZeros)
 {
     EXPECT_EQ(dateIn(utc, 951782400), "2000-02-29T00:00:00-0:00");
     EXPECT_EQ(dateIn(utc, -1), "1969-12-31T23:59:59-0:00");
@@ -83,23 +83,23 @@ TEST(GetDateString, WritesTheFirstAndTheLastDateOfTheCalendar)
     EXPECT_EQ(dateIn(utc, -67768040609740800), "-2147481748-01-01T00:00:00-0:00");
 }
 
-TEST(GetDateString, IsEmptyWhereUtcHasNoDate)
+TEST(GetDateString, IsEmptyIfUtcHasNoDate)
 {
     EXPECT_EQ(dateIn(utc, 67768036191676800), "");
     EXPECT_EQ(dateIn(utc, -67768040609740801), "");
     EXPECT_EQ(dateIn(utc, LONG_MAX), "");
     EXPECT_EQ(dateIn(utc, LONG_MIN), "");
-    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "the local date alone exists";
-    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "the local date alone exists";
+    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "only the local date exists";
+    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "only the local date exists";
 }
 
-TEST(GetDateString, IsEmptyWhereTheZoneHasNoDate)
+TEST(GetDateString, IsEmptyIfTheZoneHasNoDate)
 {
     EXPECT_EQ(dateIn(twoHoursEast, 67768036191676799), "");
     EXPECT_EQ(dateIn(fiveHoursWest, -67768040609740800), "");
 }
 
-TEST(GetDateString, TakesTheCurrentTimeForNull)
+TEST(GetDateString, UsesTheCurrentTimeForNull)
 {
     const TimeZone timeZone(twoHoursEast);
     const long before = std::time(nullptr);
@@ -111,7 +111,7 @@ TEST(GetDateString, TakesTheCurrentTimeForNull)
         found = now == ZelDataUtilities::getDateString(&argument);
     }
     EXPECT_TRUE(found) << now;
-    EXPECT_GT(before, march5) << "set the clock: this test needs it";
+    EXPECT_GT(before, march5) << "this test needs a set clock";
 }
 
 TEST(GetDateString, LeavesTheArgumentAlone)
@@ -121,7 +121,7 @@ TEST(GetDateString, LeavesTheArgumentAlone)
     EXPECT_EQ(seconds, march5);
 }
 
-TEST(GetDateString, LetsExhaustedMemoryThrough)
+TEST(GetDateString, PropagatesExhaustedMemory)
 {
     long seconds = march5;
     bool thrown = false;

@@ -1,5 +1,5 @@
 /// @file
-/// The language catalogue against a copy of its names that was made apart from it.
+/// Compares the language catalogue with an independent copy of its names.
 
 #include "util/LanguageCatalogue.h"
 
@@ -140,7 +140,7 @@ TEST(LanguageTable, HasOneEmptyNativeNameAndNoEmptyEnglishName)
 
 // The lookup
 
-TEST(FindLanguage, FindsExactlyTheCataloguedPairsOfBytesInAnyLetterCase)
+TEST(FindLanguage, FindsOnlyTheCataloguedPairsOfBytesInAnyLetterCase)
 {
     std::set<std::string> known;
     for (const NamesInHex& names : allNames)
@@ -171,7 +171,7 @@ TEST(FindLanguage, IgnoresEverythingAfterTheHyphen)
     }
 }
 
-TEST(FindLanguage, RefusesEveryThirdByteButTheHyphen)
+TEST(FindLanguage, RefusesEveryThirdByteExceptTheHyphen)
 {
     for (int byte = 0; byte < 256; ++byte) {
         const char third = static_cast<char>(byte);
@@ -215,7 +215,7 @@ TEST(IntForISO6391Code, JoinsTwoBlanksAndTheLowerCaseLetters)
     EXPECT_EQ(key, 0x20207A68);
 }
 
-TEST(IntForISO6391Code, RefusesWhatHasNotTwoBytesAndLeavesTheKeyAlone)
+TEST(IntForISO6391Code, RefusesCodesOfAnotherLengthAndLeavesTheKeyAlone)
 {
     for (const char* const code : {"", "z", "zho", "zh-", "zh-CN"}) {
         int key = 4711;
@@ -224,7 +224,7 @@ TEST(IntForISO6391Code, RefusesWhatHasNotTwoBytesAndLeavesTheKeyAlone)
     }
 }
 
-TEST(IntForISO6391Code, TakesAnyTwoBytesAsUnsignedAndChangesAsciiLettersOnly)
+TEST(IntForISO6391Code, TreatsAnyTwoBytesAsUnsignedAndLowersOnlyAsciiLetters)
 {
     for (unsigned pair = 0; pair < 0x10000U; ++pair) {
         const unsigned bytes[] = {pair >> 8U, pair & 0xFFU};
@@ -241,7 +241,7 @@ TEST(IntForISO6391Code, TakesAnyTwoBytesAsUnsignedAndChangesAsciiLettersOnly)
 
 // Copies of entries
 
-TEST(LanguageInfoISOCode, GivesEveryEntryInAnyLetterCase)
+TEST(LanguageInfoISOCode, ReturnsEveryEntryInAnyLetterCase)
 {
     for (const NamesInHex& names : allNames) {
         expectEntry(languageInfoISOCode(names.code), names);
@@ -249,7 +249,7 @@ TEST(LanguageInfoISOCode, GivesEveryEntryInAnyLetterCase)
     }
 }
 
-TEST(LanguageInfoISOCode, GivesNoEntryForWhatIsNoCodeOfTwoBytes)
+TEST(LanguageInfoISOCode, ReturnsNoEntryForOtherCodes)
 {
     for (const char* const code : malformedIds)
         expectNoEntry(languageInfoISOCode(code));
@@ -259,7 +259,7 @@ TEST(LanguageInfoISOCode, GivesNoEntryForWhatIsNoCodeOfTwoBytes)
     expectNoEntry(languageInfoISOCode("en-US"));
 }
 
-TEST(LanguagefromID, GivesEveryEntryWithAndWithoutARegion)
+TEST(LanguagefromID, ReturnsEveryEntryWithAndWithoutARegion)
 {
     for (const NamesInHex& names : allNames) {
         const std::string code = names.code;
@@ -269,7 +269,7 @@ TEST(LanguagefromID, GivesEveryEntryWithAndWithoutARegion)
     }
 }
 
-TEST(LanguagefromID, GivesTheCodeOfTheCatalogueAndNotTheCallersLetterCase)
+TEST(LanguagefromID, ReturnsTheCodeInTheLetterCaseOfTheCatalogue)
 {
     for (const char* const id : {"de", "DE", "dE", "De-AT", "de-", "de-anything"}) {
         EXPECT_EQ(languagefromID(id).code, "de") << id;
@@ -277,7 +277,7 @@ TEST(LanguagefromID, GivesTheCodeOfTheCatalogueAndNotTheCallersLetterCase)
     }
 }
 
-TEST(LanguagefromID, GivesNoEntryForMalformedAndUnknownIds)
+TEST(LanguagefromID, ReturnsNoEntryForMalformedAndUnknownIds)
 {
     expectNoEntry(languagefromID("deu"));
     expectNoEntry(languagefromID("d"));
@@ -290,7 +290,7 @@ TEST(LanguagefromID, GivesNoEntryForMalformedAndUnknownIds)
 
 // The public names
 
-TEST(EnglishNameForLanguage, GivesEveryName)
+TEST(EnglishNameForLanguage, ReturnsEveryName)
 {
     for (const NamesInHex& names : allNames) {
         EXPECT_EQ(englishName(names.code), bytesOf(names.englishName));
@@ -317,7 +317,7 @@ TEST(EnglishNameForLanguage, RefusesOtherIdsAndLeavesTheNameAlone)
     EXPECT_EQ(name, "before");
 }
 
-TEST(EnglishNameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
+TEST(EnglishNameForLanguage, ReportsExhaustedMemoryAndLeavesTheNameAlone)
 {
     const std::string id = "cu"; // its English name is too long for a string's own buffer
     std::string name = "before";
@@ -330,14 +330,14 @@ TEST(EnglishNameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
     EXPECT_EQ(name, "before");
 }
 
-TEST(EnglishNameForLanguage, MayReplaceTheIdItself)
+TEST(EnglishNameForLanguage, CanOverwriteTheId)
 {
     std::string text = "fr-CA";
     EXPECT_EQ(ZelDataUtilities::englishNameForLanguage(text, text), ZelData_Ok);
     EXPECT_EQ(text, "French");
 }
 
-TEST(NativeNameForLanguage, GivesEveryName)
+TEST(NativeNameForLanguage, ReturnsEveryName)
 {
     for (const NamesInHex& names : allNames) {
         EXPECT_EQ(nativeName(names.code), bytesOf(names.nativeName));
@@ -345,7 +345,7 @@ TEST(NativeNameForLanguage, GivesEveryName)
     }
 }
 
-TEST(NativeNameForLanguage, EmptiesTheNameForLu)
+TEST(NativeNameForLanguage, ReturnsAnEmptyNameForLu)
 {
     EXPECT_EQ(nativeName("lu"), "");
 }
@@ -369,7 +369,7 @@ TEST(NativeNameForLanguage, RefusesOtherIdsAndLeavesTheNameAlone)
     EXPECT_EQ(name, "before");
 }
 
-TEST(NativeNameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
+TEST(NativeNameForLanguage, ReportsExhaustedMemoryAndLeavesTheNameAlone)
 {
     const std::string id = "ko";
     std::string name = "before";
@@ -405,7 +405,7 @@ TEST(IsValidLanguage, RefusesOtherIds)
     }
 }
 
-TEST(IsValidLanguage, KnowsALanguageWithoutNativeName)
+TEST(IsValidLanguage, AcceptsALanguageWithoutANativeName)
 {
     EXPECT_EQ(ZelDataUtilities::isValidLanguage("lu"), ZelData_Ok);
 }

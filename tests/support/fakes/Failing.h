@@ -28,8 +28,8 @@ public:
     Failing& operator=(const Failing&) = delete;
     ~Failing() override { --alive(); }
 
-    /// Makes call number @p nth of @p operation do nothing but return @p returned; from then on the
-    /// last error reads @p lastError.
+    /// Makes call number @p nth of @p operation only return @p returned; from then on the last error
+    /// is @p lastError.
     void failAt(std::string operation, ZelDataResult_tags returned, ZelDataResult_tags lastError,
                 int nth = 1)
     {
@@ -57,10 +57,10 @@ public:
         return tripped_ ? lastError_ : Base::getLastError();
     }
 
-    /// What the library stored, whatever getLastError() was made to read.
+    /// The code that the library stored, whatever getLastError() returns.
     ZelDataResult_tags storedError() const { return Base::getLastError(); }
 
-    /// Hands a list of items out before the operation fails.
+    /// Makes an operation hand out its list of items before it fails.
     void handOutBeforeFailing() { handsOut_ = true; }
 
     /// The operations that were called so far, in order.
@@ -82,7 +82,7 @@ protected:
         if (name != operation_ || --remaining_ != 0) return operation();
         return action_();
     }
-    /// Hands a list of items out with @p operation; before a failure too where a test asks for it.
+    /// Hands out a list of items with @p operation, also before a failure if a test asks for it.
     template <class Operation>
     ZelDataResult_tags runHandingOut(const char* name, Operation&& operation) const
     {

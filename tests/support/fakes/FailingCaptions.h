@@ -28,12 +28,12 @@ public:
     }
 };
 
-/// Captions, each operation of which that a copy uses can fail. Their items are failing ones too.
+/// Captions; the operations that a copy uses can fail, and so can their items.
 class FailingCaptions : public FailingLanguages<FailingCollection<ZelDataCaptions>> {
     using Text = const std::string&;
 
 public:
-    /// Every item that is made from now on is handed to @p prepare first.
+    /// Calls @p prepare with every item that is made from now on.
     void prepareItems(std::function<void(FailingCaptionItem&)> prepare)
     {
         prepare_ = std::move(prepare);

@@ -34,7 +34,7 @@ public:
     }
 };
 
-/// A collection, whose operations that others call can fail.
+/// A collection; the operations that other classes call can fail.
 class FailingScreenText : public FailingCollection<ZelDataScreenText> {
 public:
     ZelDataResult_tags clearScreenTextItems() override

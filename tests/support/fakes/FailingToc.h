@@ -16,7 +16,7 @@ namespace ZelInterchangeData {
 /// An entry, each operation of which can fail.
 class FailingTocItem : public FailingTexts<FailingImage<FailingItem<ZelDataTocItem>>> {};
 
-/// A table, whose operations that others call can fail.
+/// A table; the operations that other classes call can fail.
 class FailingToc : public FailingLanguages<FailingCollection<ZelDataToc>> {
 public:
     ZelDataResult_tags setImageFile(const std::string& name) override

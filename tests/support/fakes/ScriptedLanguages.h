@@ -11,7 +11,7 @@
 
 namespace ZelInterchangeData {
 
-/// @p Base with the operations that a copy of its languages calls put under a script.
+/// A @p Base in which the operations that copy its languages follow a script.
 template <class Base>
 class ScriptedLanguages : public Base {
 public:
@@ -35,7 +35,7 @@ public:
     {
         return script.run("addLanguage", [&] { return Base::addLanguage(id); });
     }
-    /// A failing call hands the list out all the same.
+    /// A failing call delivers the list nevertheless.
     ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const override
     {
         const auto code = Base::getOrderedLanguageIDs(ids);
