@@ -67,6 +67,15 @@ TEST(ExchangeOrder, TiesThatASmallerStartJumpsOverAreRotated)
     EXPECT_EQ((Places{1, 0}), exchangeOrder({2, 1}));
 }
 
+TEST(ExchangeOrder, EveryBitOfTheDistanceBetweenStartsCounts)
+{
+    for (int bit = 0; bit < 63; ++bit) {
+        const long long distance = 1LL << bit;
+        EXPECT_EQ((Places{2, 1, 0}), exchangeOrder({distance, distance - 1, distance - 2})) << bit;
+        EXPECT_EQ((Places{2, 0, 1}), exchangeOrder({distance - 1, distance, -1})) << bit;
+    }
+}
+
 TEST(ExchangeOrder, MatchesTheExchangeSortForRandomStarts)
 {
     std::mt19937 random(20);

@@ -26,6 +26,15 @@ Map mapOf(const LanguageTexts& texts)
     return map;
 }
 
+TEST(LanguageTexts, CanHaveAnyCharactersInTheIDAndInTheText)
+{
+    const std::string smile = "\U0001F600";
+    EXPECT_EQ(ZelData_Ok, LanguageTexts::check(smile, "en-" + smile));
+    EXPECT_EQ(ZelData_InvalidItem, LanguageTexts::check(smile, "en-\x80"));
+    EXPECT_EQ(ZelData_InvalidItem, LanguageTexts::check("\x80", "en"));
+    EXPECT_EQ(ZelData_InvalidItem, LanguageTexts::check(smile, smile));
+}
+
 TEST(LanguageTexts, NewOnesAreEmptyAndTakeNoMemory)
 {
     const FailingAllocation failing(0);

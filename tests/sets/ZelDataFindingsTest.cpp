@@ -152,7 +152,8 @@ TEST(DescribeFinding, ALanguageStaysOnItsLine)
     EXPECT_EQ("entry 0 at 0: no text in en-\\x0A\\x1F\\x7F~ ", line("en-\n\x1F\x7F~ "));
     EXPECT_EQ("entry 0 at 0: no text in en-\\x00", line(std::string("en-\0", 4)));
     EXPECT_EQ("entry 0 at 0: no text in en-\u00fc", line("en-\u00fc"));
-    EXPECT_EQ("entry 0 at 0: no text in en-\\xFC", line("en-\xFC"));
+    EXPECT_EQ("entry 0 at 0: no text in en-\U0001F600", line("en-\U0001F600"));
+    EXPECT_EQ("entry 0 at 0: no text in en-\\x80\\xFC", line("en-\x80\xFC"));
 }
 
 TEST(DescribeFinding, ExtremesAreWrittenInFull)
