@@ -87,6 +87,51 @@ public:
     TempFile file;
 };
 
+/// What an operation is called with for an argument in the list of operations: for a pointer to a
+/// member of @p outs the place to deliver in, for a function what it gives, else the value itself.
+/// @{
+template <class Value>
+const Value& argument(Outs& /*outs*/, const Value& value)
+{
+    return value;
+}
+
+template <class Value>
+Value& argument(Outs& /*outs*/, Value& (*given)())
+{
+    return given();
+}
+
+template <class Value>
+Value& argument(Outs& outs, Value Outs::*place)
+{
+    return outs.*place;
+}
+
+template <class Interface>
+Interface** argument(Outs& outs, HandedOut<Interface> Outs::*place)
+{
+    return &(outs.*place).object;
+}
+
+template <class Interface>
+std::vector<Interface*>& argument(Outs& outs, AllHandedOut<Interface> Outs::*place)
+{
+    return (outs.*place).objects;
+}
+
+template <class Interface>
+Interface& argument(Outs& outs, std::unique_ptr<Interface> Outs::*target)
+{
+    return *(outs.*target);
+}
+
+inline const std::string& argument(Outs& outs, TempFile Outs::*file)
+{
+    return (outs.*file).path();
+}
+/// @}
+
 } // namespace ZelInterchangeData
 
 #endif
