@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "core/SampleSets.h"
 #include "support/Checks.h"
+#include "support/DateMask.h"
 
 #include <memory>
 #include <string>
@@ -36,9 +37,6 @@ std::string packetOf(const i_ZelDataToc& toc);
 std::string packetOf(const i_ZelDataScreenTextItem& item);
 std::string packetOf(const i_ZelDataScreenText& screenText);
 /// @}
-
-/// @p packet without the moment of its writing.
-std::string dateMasked(std::string packet);
 
 /// @p text with @p to in each place of @p from.
 std::string replaced(const std::string& text, const std::string& from, const std::string& to);

@@ -4,7 +4,6 @@
 #include "hostile/StringParameter.h"
 
 #include "hostile/HostileTexts.h"
-#include "hostile/ParameterName.h"
 
 #include <gtest/gtest.h>
 
@@ -13,20 +12,15 @@
 
 namespace ZelInterchangeData {
 
+namespace {
+
 const StringParameters& allStringParameters()
 {
-    static const StringParameters parameters = [] {
-        StringParameters list;
-        for (const auto add : {addHeaderStrings, addCaptionStrings, addTocStrings,
-                               addScreenTextStrings, addFormatterStrings, addUtilityStrings}) {
-            add(list);
-        }
-        return list;
-    }();
+    static const auto parameters =
+        collected<StringParameters>({addHeaderStrings, addCaptionStrings, addTocStrings,
+                                     addScreenTextStrings, addFormatterStrings, addUtilityStrings});
     return parameters;
 }
-
-namespace {
 
 class EachStringParameter : public ::testing::TestWithParam<StringParameter> {};
 

@@ -6,6 +6,7 @@
 #include "robustness/Contents.h"
 #include "robustness/Subjects.h"
 #include "robustness/Writes.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -26,28 +27,6 @@ namespace ZelInterchangeData {
 namespace {
 
 constexpr auto xmp = ZelDataFormat_Xmp;
-
-/// A folder that is removed with all that is in it.
-class TempFolder {
-public:
-    TempFolder() { std::filesystem::create_directory(place_.path()); }
-    ~TempFolder()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(place_.path(), ignored);
-    }
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    std::string path(const std::string& name = "") const
-    {
-        return name.empty() ? place_.path() : place_.path() + "/" + name;
-    }
-    bool isEmpty() const { return std::filesystem::is_empty(place_.path()); }
-
-private:
-    TempFile place_;
-};
 
 /// Both documents are written; the plain one hands over to the other one.
 template <class Document>
@@ -99,7 +78,7 @@ TYPED_TEST_SUITE(Storage, Documents, );
 
 TYPED_TEST(Storage, ADirectoryCannotBeOpened)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     this->expectNotOpened(folder.path());
     this->expectNotOpened(folder.path() + "/");
     EXPECT_TRUE(folder.isEmpty());
@@ -107,8 +86,8 @@ TYPED_TEST(Storage, ADirectoryCannotBeOpened)
 
 TYPED_TEST(Storage, AFileInAMissingFolderCannotBeOpened)
 {
-    const TempFolder folder;
-    this->expectNotOpened(folder.path("missing/file"));
+    const ScratchFolder folder;
+    this->expectNotOpened(folder.pathOf("missing/file"));
     EXPECT_TRUE(folder.isEmpty());
 }
 
@@ -122,17 +101,17 @@ TYPED_TEST(Storage, AFileIsNoFolder)
 
 TYPED_TEST(Storage, ANameCanBeTooLong)
 {
-    const TempFolder folder;
-    this->expectNotOpened(folder.path(std::string(300, 'n')));
-    this->expectNotOpened(folder.path(std::string(100000, 'n')));
+    const ScratchFolder folder;
+    this->expectNotOpened(folder.pathOf(std::string(300, 'n')));
+    this->expectNotOpened(folder.pathOf(std::string(100000, 'n')));
     EXPECT_TRUE(folder.isEmpty());
 }
 
 TYPED_TEST(Storage, ALinkToItselfLeadsNowhere)
 {
-    const TempFolder folder;
-    std::filesystem::create_symlink("loop", folder.path("loop"));
-    this->expectNotOpened(folder.path("loop"));
+    const ScratchFolder folder;
+    std::filesystem::create_symlink("loop", folder.pathOf("loop"));
+    this->expectNotOpened(folder.pathOf("loop"));
 }
 
 TYPED_TEST(Storage, AnEmptyPathIsNoFile)
@@ -142,11 +121,11 @@ TYPED_TEST(Storage, AnEmptyPathIsNoFile)
 
 TYPED_TEST(Storage, APathWithAZeroByteTouchesNoFile)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     const TempFile file;
     file.fill("kept");
     this->expectNotOpened(file.path() + std::string("\0.xmp", 5));
-    this->expectNotOpened(folder.path("new") + std::string(1, '\0'));
+    this->expectNotOpened(folder.pathOf("new") + std::string(1, '\0'));
     this->expectNotOpened(std::string(1, '\0') + file.path());
     EXPECT_EQ("kept", file.bytes());
     EXPECT_TRUE(folder.isEmpty());
@@ -175,11 +154,11 @@ TYPED_TEST(Storage, AFileThatIsReadOnlyCannotBeOpened)
 
 TYPED_TEST(Storage, AFolderThatIsReadOnlyTakesNoFile)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     ASSERT_EQ(0, chmod(folder.path().c_str(), 0555));
     expectFine(inChild([&]() -> std::string {
         if (!becomeNobody()) return refusal("another user");
-        const auto code = this->write(folder.path("new"));
+        const auto code = this->write(folder.pathOf("new"));
         return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
     }));
     EXPECT_TRUE(folder.isEmpty());
@@ -255,15 +234,15 @@ std::string judged(ZelDataResult_tags code, const std::string& bytes, const std:
 
 TYPED_TEST(Storage, AFullFileSystemIsNotReported)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     const auto whole = this->whole();
     for (const std::size_t left : {0U, 4096U}) {
         expectFine(inChild([&]() -> std::string {
             if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty())
                 return refused;
             fillUp(folder.path(), left);
-            const auto code = this->write(folder.path("packet"));
-            return judged(code, bytesOf(folder.path("packet")), whole, left);
+            const auto code = this->write(folder.pathOf("packet"));
+            return judged(code, bytesOf(folder.pathOf("packet")), whole, left);
         }));
     }
     EXPECT_TRUE(folder.isEmpty());
@@ -271,12 +250,12 @@ TYPED_TEST(Storage, AFullFileSystemIsNotReported)
 
 TYPED_TEST(Storage, AFileSystemThatIsReadOnlyTakesNoFile)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     expectFine(inChild([&]() -> std::string {
         if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty()) return refused;
         if (mount("none", folder.path().c_str(), "none", MS_REMOUNT | MS_RDONLY, nullptr) != 0)
             return refusal("a read-only mount");
-        const auto code = this->write(folder.path("packet"));
+        const auto code = this->write(folder.pathOf("packet"));
         return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
     }));
 }
@@ -361,11 +340,11 @@ void expectNoFileTouched(const i_ZelInterchangeDataCore& document, ZelDataFormat
                          ZelDataResult_tags code)
 {
     const TempFile file;
-    const TempFolder folder;
+    const ScratchFolder folder;
     file.fill("kept");
     const Writes writes;
     EXPECT_EQ(code, document.writeFile(file.path(), format, false));
-    EXPECT_EQ(code, document.writeFile(folder.path("new"), format, false));
+    EXPECT_EQ(code, document.writeFile(folder.pathOf("new"), format, false));
     EXPECT_EQ("kept", file.bytes());
     EXPECT_TRUE(folder.isEmpty());
     EXPECT_EQ(0U, writes.count());
