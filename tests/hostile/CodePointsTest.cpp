@@ -52,6 +52,16 @@ void expectOfAll(const Agrees& agrees)
         ASSERT_TRUE(agrees(point)) << "U+" << std::hex << std::uppercase << point;
 }
 
+/// Expects @p function to make of every code point what @p expected gives, alone and between letters.
+void expectOfAll(std::string (*function)(const std::string&),
+                 std::string (*expected)(std::uint32_t))
+{
+    expectOfAll([&](std::uint32_t point) {
+        return function(encoded(point)) == expected(point) &&
+               function("a" + encoded(point) + "b") == "a" + expected(point) + "b";
+    });
+}
+
 TEST(EveryCodePoint, PassesTheCheckOfItsForm)
 {
     expectOfAll([](std::uint32_t point) {
@@ -65,19 +75,12 @@ TEST(EveryCodePoint, PassesTheCheckOfItsForm)
 
 TEST(EveryCodePoint, IsEscapedWhenItIsMarkupAndOnlyThen)
 {
-    expectOfAll([](std::uint32_t point) {
-        return U::htmlTagsToText(encoded(point)) == escaped(point) &&
-               U::htmlTagsToText("a" + encoded(point) + "b") == "a" + escaped(point) + "b";
-    });
+    expectOfAll(U::htmlTagsToText, escaped);
 }
 
 TEST(EveryCodePoint, IsStrippedWhenItIsAControlCharacterBelowTheBlank)
 {
-    expectOfAll([](std::uint32_t point) {
-        return U::stripUnsupportedCharacters(encoded(point)) == stripped(point) &&
-               U::stripUnsupportedCharacters("a" + encoded(point) + "b") ==
-                   "a" + stripped(point) + "b";
-    });
+    expectOfAll(U::stripUnsupportedCharacters, stripped);
 }
 
 TEST(EveryCodePoint, StandsForItselfWhereNoEntityBegins)

@@ -3,6 +3,7 @@
 /// the operation obtained is released, and all objects can be used as if it had not been called.
 
 #include "core/TempFile.h"
+#include "robustness/ChildProcess.h"
 #include "robustness/Contents.h"
 #include "robustness/Subjects.h"
 #include "support/FailingAllocation.h"
@@ -19,7 +20,6 @@
 
 #include <atomic>
 #include <cstddef>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
@@ -103,12 +103,6 @@ private:
     bool joined_ = false;
     long long liveBlocks_ = 0;
 };
-
-std::size_t openDescriptors()
-{
-    const std::filesystem::directory_iterator all("/proc/self/fd");
-    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
-}
 
 // A caller's objects
 

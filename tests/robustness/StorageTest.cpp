@@ -50,6 +50,12 @@ protected:
         EXPECT_EQ(ZelData_Ok, write(file.path()));
         return dateMasked(file.bytes());
     }
+    /// What a child says that could not open a file: "fine", or the code of writing it.
+    std::string notOpened(const std::string& path) const
+    {
+        const auto code = write(path);
+        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+    }
     void expectNotOpened(const std::string& path) const
     {
         const Writes writes;
@@ -146,8 +152,7 @@ TYPED_TEST(Storage, AFileThatIsReadOnlyCannotBeOpened)
     ASSERT_EQ(0, chmod(file.path().c_str(), S_IRUSR | S_IRGRP | S_IROTH));
     expectFine(inChild([&]() -> std::string {
         if (!becomeNobody()) return refusal("another user");
-        const auto code = this->write(file.path());
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(file.path());
     }));
     EXPECT_EQ("kept", file.bytes());
 }
@@ -158,8 +163,7 @@ TYPED_TEST(Storage, AFolderThatIsReadOnlyTakesNoFile)
     ASSERT_EQ(0, chmod(folder.path().c_str(), 0555));
     expectFine(inChild([&]() -> std::string {
         if (!becomeNobody()) return refusal("another user");
-        const auto code = this->write(folder.pathOf("new"));
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(folder.pathOf("new"));
     }));
     EXPECT_TRUE(folder.isEmpty());
 }
@@ -172,8 +176,7 @@ TYPED_TEST(Storage, WithoutAFreeDescriptorNoFileIsTouched)
         this->whole(); // a sanitizer needs descriptors to look at an object for the first time
         const rlimit none = {0, 0};
         if (setrlimit(RLIMIT_NOFILE, &none) != 0) return refusal("a limit of descriptors");
-        const auto code = this->write(file.path());
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(file.path());
     }));
     EXPECT_EQ("kept", file.bytes());
 }
@@ -255,8 +258,7 @@ TYPED_TEST(Storage, AFileSystemThatIsReadOnlyTakesNoFile)
         if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty()) return refused;
         if (mount("none", folder.path().c_str(), "none", MS_REMOUNT | MS_RDONLY, nullptr) != 0)
             return refusal("a read-only mount");
-        const auto code = this->write(folder.pathOf("packet"));
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(folder.pathOf("packet"));
     }));
 }
 

@@ -10,11 +10,15 @@
 #include "core/ZelDataCoreXmp.h"
 #include "support/Checks.h"
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
+
+/// Expects all @p codes to be success.
+void expectOk(std::initializer_list<ZelDataResult_tags> codes);
 
 extern const std::string longText;
 extern const std::string otherText;
@@ -49,20 +53,35 @@ std::unique_ptr<i_ZelDataScreenTextItem> filledScreenTextItem();
 /// Two texts, the later one first.
 std::unique_ptr<i_ZelDataScreenText> filledScreenText();
 
-std::unique_ptr<i_ZelDataHeaderFormatter> filledHeaderFormatter();
-std::unique_ptr<i_ZelDataCaptionFormatter> filledCaptionFormatter();
-std::unique_ptr<i_ZelDataTocFormatter> filledTocFormatter();
-std::unique_ptr<i_ZelDataScreenTextFormatter> filledScreenTextFormatter();
+/// A formatter from @p create that has been given, by @p set, what @p fill fills.
+template <auto create, auto set, auto fill>
+auto filledFormatter()
+{
+    auto formatter = make(create);
+    expectOk({((*formatter).*set)(*fill())});
+    return formatter;
+}
+
+constexpr auto filledHeaderFormatter =
+    filledFormatter<&ZelDataUtilities::createHeaderFormatter, &i_ZelDataHeaderFormatter::setHeader,
+                    filledHeader>;
+constexpr auto filledCaptionFormatter =
+    filledFormatter<&ZelDataUtilities::createCaptionFormatter,
+                    &i_ZelDataCaptionFormatter::setCaptions, filledCaptions>;
+constexpr auto filledTocFormatter = filledFormatter<&ZelDataUtilities::createTocFormatter,
+                                                    &i_ZelDataTocFormatter::setToc, filledToc>;
+constexpr auto filledScreenTextFormatter =
+    filledFormatter<&ZelDataUtilities::createScreenTextFormatter,
+                    &i_ZelDataScreenTextFormatter::setScreenText, filledScreenText>;
 
 /// A document of the class @p Document with all four sets.
 template <class Document>
 std::unique_ptr<i_ZelInterchangeDataCore> filledDocument()
 {
     auto document = std::make_unique<Document>();
-    EXPECT_EQ(ZelData_Ok, document->setDataHeader(*filledHeader()));
-    EXPECT_EQ(ZelData_Ok, document->setDataCaptions(*filledCaptions()));
-    EXPECT_EQ(ZelData_Ok, document->setDataToc(*filledToc()));
-    EXPECT_EQ(ZelData_Ok, document->setDataScreenText(*filledScreenText()));
+    expectOk({document->setDataHeader(*filledHeader()),
+              document->setDataCaptions(*filledCaptions()), document->setDataToc(*filledToc()),
+              document->setDataScreenText(*filledScreenText())});
     return document;
 }
 

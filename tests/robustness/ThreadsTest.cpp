@@ -5,6 +5,7 @@
 #include "core/TempFile.h"
 #include "robustness/Contents.h"
 #include "robustness/Operation.h"
+#include "robustness/Subjects.h"
 #include "support/Checks.h"
 
 #include <gtest/gtest.h>
@@ -57,39 +58,29 @@ void race(const std::function<void(std::size_t)>& work)
         thread.join();
 }
 
-/// Whether all @p codes are success.
-bool allOk(std::initializer_list<ZelDataResult_tags> codes)
-{
-    for (const auto code : codes) {
-        if (code != ZelData_Ok) return false;
-    }
-    return true;
-}
-
 std::string ownText(std::size_t number)
 {
     return "the <text> of the thread with the number " + std::to_string(number);
 }
 
-bool addItems(i_ZelDataCaptions& captions, i_ZelDataToc& toc, i_ZelDataScreenText& screenText,
+void addItems(i_ZelDataCaptions& captions, i_ZelDataToc& toc, i_ZelDataScreenText& screenText,
               std::size_t number)
 {
     const auto caption = make(&ZelDataUtilities::createCaptionItemData);
     const auto entry = make(&ZelDataUtilities::createTocItemData);
     const auto shown = make(&ZelDataUtilities::createScreenTextItemData);
     const auto text = ownText(number);
-    return allOk({caption->setTextForLanguage(text, "de"), caption->setTextForLanguage(text, "cu"),
-                  caption->setDuration(2000), captions.addCaptionItem(*caption),
-                  entry->setTextForLanguage(text, "en"), toc.addTocItem(*entry),
-                  shown->setText(text), shown->setDuration(5),
-                  screenText.addScreenTextItem(*shown)});
+    expectOk({caption->setTextForLanguage(text, "de"), caption->setTextForLanguage(text, "cu"),
+              caption->setDuration(2000), captions.addCaptionItem(*caption),
+              entry->setTextForLanguage(text, "en"), toc.addTocItem(*entry), shown->setText(text),
+              shown->setDuration(5), screenText.addScreenTextItem(*shown)});
 }
 
 std::unique_ptr<i_ZelDataHeader> ownHeader(std::size_t number)
 {
     auto header = make(&ZelDataUtilities::createHeaderData);
-    EXPECT_TRUE(allOk({header->setTitle(ownText(number)), header->setVideoLength(1000 + number),
-                       header->setVideoWidth(640), header->setVideoHeight(480)}));
+    expectOk({header->setTitle(ownText(number)), header->setVideoLength(1000 + number),
+              header->setVideoWidth(640), header->setVideoHeight(480)});
     return header;
 }
 
@@ -99,11 +90,10 @@ std::unique_ptr<i_ZelInterchangeDataCore> ownDocument(std::size_t number)
     const auto captions = make(&ZelDataUtilities::createCaptionData);
     const auto toc = make(&ZelDataUtilities::createTocData);
     const auto screenText = make(&ZelDataUtilities::createScreenTextData);
-    EXPECT_TRUE(addItems(*captions, *toc, *screenText, number));
+    addItems(*captions, *toc, *screenText, number);
     std::unique_ptr<i_ZelInterchangeDataCore> document(ZELDataCreator::createInterchangeData());
-    EXPECT_TRUE(
-        allOk({document->setDataHeader(*ownHeader(number)), document->setDataCaptions(*captions),
-               document->setDataToc(*toc), document->setDataScreenText(*screenText)}));
+    expectOk({document->setDataHeader(*ownHeader(number)), document->setDataCaptions(*captions),
+              document->setDataToc(*toc), document->setDataScreenText(*screenText)});
     return document;
 }
 
@@ -181,12 +171,11 @@ struct Sets {
 std::vector<Sets> copiesOfOneSet()
 {
     const Sets original;
-    EXPECT_TRUE(addItems(*original.captions, *original.toc, *original.text, threadCount));
+    addItems(*original.captions, *original.toc, *original.text, threadCount);
     std::vector<Sets> copies(threadCount);
     for (Sets& copy : copies) {
-        EXPECT_TRUE(
-            allOk({copy.captions->copyFrom(*original.captions), copy.toc->copyFrom(*original.toc),
-                   copy.text->copyFrom(*original.text)}));
+        expectOk({copy.captions->copyFrom(*original.captions), copy.toc->copyFrom(*original.toc),
+                  copy.text->copyFrom(*original.text)});
     }
     return copies;
 }
@@ -194,15 +183,15 @@ std::vector<Sets> copiesOfOneSet()
 /// Replaces the item that is there by the thread's own.
 void change(const Sets& sets, std::size_t number)
 {
-    EXPECT_TRUE(addItems(*sets.captions, *sets.toc, *sets.text, number));
-    EXPECT_TRUE(allOk({sets.captions->removeCaptionItemAt(0), sets.toc->removeTocItemAt(0),
-                       sets.text->removeScreenTextItemAt(0)}));
+    addItems(*sets.captions, *sets.toc, *sets.text, number);
+    expectOk({sets.captions->removeCaptionItemAt(0), sets.toc->removeTocItemAt(0),
+              sets.text->removeScreenTextItemAt(0)});
 }
 
-bool hand(i_ZelInterchangeDataCore& document, const Sets& sets)
+void hand(i_ZelInterchangeDataCore& document, const Sets& sets)
 {
-    return allOk({document.setDataCaptions(*sets.captions), document.setDataToc(*sets.toc),
-                  document.setDataScreenText(*sets.text)});
+    expectOk({document.setDataCaptions(*sets.captions), document.setDataToc(*sets.toc),
+              document.setDataScreenText(*sets.text)});
 }
 
 TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
@@ -212,10 +201,10 @@ TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
     race([&](std::size_t number) {
         const Sets& own = copies[number];
         const auto document = ownDocument(number);
-        EXPECT_TRUE(hand(*document, own));
+        hand(*document, own);
         EXPECT_NE(std::string::npos, writtenAsString(*document).find("the number 16<"));
         change(own, number);
-        EXPECT_TRUE(hand(*document, own));
+        hand(*document, own);
         packets[number] = writtenOften(*document);
     });
     expectAsAlone(packets);
