@@ -16,35 +16,26 @@ namespace ZelInterchangeData {
 
 using Document = i_ZelInterchangeDataCore;
 
-/// A way to make a formatter from @p create that @p set gave what @p source makes.
-template <class Formatter, class Set, class Source>
-Make<Formatter> filledFormatter(ZelDataResult_tags (*create)(Formatter**, ZelDataFormatType_tags),
-                                Set set, Source source)
-{
-    return [=] {
-        auto formatter = make(create);
-        EXPECT_EQ(ZelData_Ok, ((*formatter).*set)(*source()));
-        return formatter;
-    };
-}
-
-/// Calls @p add with each class of formatters, as it begins the names of operations, and with a way to
-/// make an object.
+/// Calls @p add with the class of each formatter, as the names of its operations begin, and a function
+/// that makes one.
 template <class Add>
 void forEachFormatter(const Add& add)
 {
     using U = ZelDataUtilities;
+    using Header = i_ZelDataHeaderFormatter;
+    using Captions = i_ZelDataCaptionFormatter;
+    using Toc = i_ZelDataTocFormatter;
+    using Text = i_ZelDataScreenTextFormatter;
     add("ZelDataXmpHeaderFormatter::",
-        filledFormatter(U::createHeaderFormatter, &i_ZelDataHeaderFormatter::setHeader,
-                        plainHeader));
+        Make<Header>(filledFormatter<&U::createHeaderFormatter, &Header::setHeader, plainHeader>));
     add("ZelDataXmpCaptionFormatter::",
-        filledFormatter(U::createCaptionFormatter, &i_ZelDataCaptionFormatter::setCaptions,
-                        captionsWithItem));
+        Make<Captions>(
+            filledFormatter<&U::createCaptionFormatter, &Captions::setCaptions, captionsWithItem>));
     add("ZelDataXmpTocFormatter::",
-        filledFormatter(U::createTocFormatter, &i_ZelDataTocFormatter::setToc, tocWithEntry));
+        Make<Toc>(filledFormatter<&U::createTocFormatter, &Toc::setToc, tocWithEntry>));
     add("ZelDataXmpScreenTextFormatter::",
-        filledFormatter(U::createScreenTextFormatter, &i_ZelDataScreenTextFormatter::setScreenText,
-                        screenTextWithItem));
+        Make<Text>(filledFormatter<&U::createScreenTextFormatter, &Text::setScreenText,
+                                   screenTextWithItem>));
 }
 
 /// A document of the class @p Made with a header and one track.
@@ -57,7 +48,7 @@ std::unique_ptr<Document> documentOf()
     return document;
 }
 
-/// The same with both classes of documents.
+/// Calls @p add with the class of each document and a function that makes one, as forEachFormatter().
 template <class Add>
 void forEachDocument(const Add& add)
 {

@@ -1,5 +1,5 @@
 /// @file
-/// Objects that hold something everywhere, in texts too long for any string to hold without an
+/// Objects with a value in every field. Their texts are too long for a string to hold without an
 /// allocation.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_SUBJECTS_H
@@ -22,21 +22,21 @@ void expectOk(std::initializer_list<ZelDataResult_tags> codes);
 
 extern const std::string longText;
 extern const std::string otherText;
-/// Languages that the objects below know, in ascending order, and one that they do not know.
+/// Two languages of the objects below, in ascending order, and one that they do not have.
 extern const std::string firstID;
 extern const std::string secondID;
 extern const std::string otherID;
-/// One of the names of the header's contents.
+/// One of the header's content names.
 extern const std::string contentName;
 extern const std::vector<std::string> otherList;
-/// The languages of the objects, the other way round.
+/// The languages of the objects, in reverse order.
 extern const std::vector<std::string> reversedIDs;
 
 std::unique_ptr<i_ZelDataHeader> filledHeader();
 std::unique_ptr<i_ZelDataCaptionItem> filledCaption();
-/// A caption in two languages that filledCaptions() do not list.
+/// A caption in two languages that filledCaptions() does not list.
 std::unique_ptr<i_ZelDataCaptionItem> captionWithOtherLanguages();
-/// Two captions, the later one first. Each lacks the language of the other one.
+/// Two captions, the later one first. Each lacks the other's language.
 std::unique_ptr<i_ZelDataCaptions> filledCaptions();
 /// Three captions in the same two languages.
 std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages();
@@ -45,22 +45,13 @@ std::unique_ptr<i_ZelDataCaptions> captionsWithLongTexts();
 std::unique_ptr<i_ZelDataTocItem> filledEntry();
 /// An entry in two languages that filledToc() does not list.
 std::unique_ptr<i_ZelDataTocItem> entryWithOtherLanguages();
-/// Two entries, the later one first. Each lacks the language of the other one.
+/// Two entries, the later one first. Each lacks the other's language.
 std::unique_ptr<i_ZelDataToc> filledToc();
 /// Three entries in the same two languages.
 std::unique_ptr<i_ZelDataToc> tocInBothLanguages();
 std::unique_ptr<i_ZelDataScreenTextItem> filledScreenTextItem();
 /// Two texts, the later one first.
 std::unique_ptr<i_ZelDataScreenText> filledScreenText();
-
-/// A formatter from @p create that has been given, by @p set, what @p fill fills.
-template <auto create, auto set, auto fill>
-auto filledFormatter()
-{
-    auto formatter = make(create);
-    expectOk({((*formatter).*set)(*fill())});
-    return formatter;
-}
 
 constexpr auto filledHeaderFormatter =
     filledFormatter<&ZelDataUtilities::createHeaderFormatter, &i_ZelDataHeaderFormatter::setHeader,
