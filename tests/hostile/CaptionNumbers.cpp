@@ -40,13 +40,13 @@ void addItemNumbers(NumberParameters& list)
                                         ZelAlignTop | ZelAlignRight, writtenAlignment});
 }
 
-/// A NaN is neither below nor above.
+/// A NaN passes: it is neither below nor above the limits.
 bool isFraction(float number)
 {
     return std::isnan(number) || (number >= 0 && number <= 1);
 }
 
-/// The place of component @p index in the packet. The other components are 0.5.
+/// What the packet holds for component @p index. The other components are 0.5.
 template <std::size_t index>
 std::string writtenComponent(float number)
 {

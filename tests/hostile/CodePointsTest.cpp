@@ -52,7 +52,7 @@ void expectOfAll(const Agrees& agrees)
         ASSERT_TRUE(agrees(point)) << "U+" << std::hex << std::uppercase << point;
 }
 
-/// Expects @p function to make of every code point what @p expected gives, alone and between letters.
+/// Expects @p function to turn every code point, alone and between letters, into @p expected.
 void expectOfAll(std::string (*function)(const std::string&),
                  std::string (*expected)(std::uint32_t))
 {
@@ -83,7 +83,7 @@ TEST(EveryCodePoint, IsStrippedWhenItIsAControlCharacterBelowTheBlank)
     expectOfAll(U::stripUnsupportedCharacters, stripped);
 }
 
-TEST(EveryCodePoint, StandsForItselfWhereNoEntityBegins)
+TEST(EveryCodePoint, StaysAsItIsWhereNoEntityBegins)
 {
     expectOfAll([](std::uint32_t point) {
         // An ampersand before a letter that begins no entity takes the letter along.

@@ -8,7 +8,7 @@ namespace {
 
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// Adds what is never read.
+/// Adds the arguments of reading, which is not supported.
 template <class Writer>
 void addReads(StringParameters& list, const std::string& of, const Make<Writer>& make)
 {
@@ -32,7 +32,7 @@ std::string writtenBy(const Formatter& formatter)
     return text;
 }
 
-/// Adds what a formatter takes: it replaces a text and writes no file.
+/// Adds the arguments of a formatter, which replaces a text and writes no file.
 template <class Formatter>
 void addFormatter(StringParameters& list, const std::string& of, const Make<Formatter>& make)
 {

@@ -1,5 +1,5 @@
 /// @file
-/// The texts by language of captions and of entries, of one and of all.
+/// The texts by language of one caption or entry and of a whole collection.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_ITEMSTRINGS_H
 #define ZELINTERCHANGEDATA_TESTS_HOSTILE_ITEMSTRINGS_H
@@ -8,7 +8,7 @@
 
 namespace ZelInterchangeData {
 
-/// The English text, when there is one.
+/// The English text, if there is one.
 template <class Item>
 Texts englishTextOf(const Item& item)
 {
@@ -17,7 +17,7 @@ Texts englishTextOf(const Item& item)
     return {text};
 }
 
-/// Adds what an item takes that has texts by language. @p make gives one without any.
+/// Adds the arguments of an item that has texts by language. @p make gives one without any.
 template <class Item>
 void addItemStrings(StringParameters& list, const std::string& of, const Make<Item>& make,
                     Treatment ofText, Treatment ofLanguage)
@@ -57,7 +57,7 @@ void addItemsByLanguage(StringParameters& list, const std::string& of, const std
 {
     using Data = typename Kind::Data;
     using Item = typename Kind::Item;
-    // The only item has a text in one language.
+    // Makes the only item one with a text in the language.
     const auto put = [makeItem](Data& data, const std::string& id) {
         EXPECT_EQ(ZelData_Ok, (data.*Kind::clear)());
         const auto item = makeItem();

@@ -1,5 +1,5 @@
 /// @file
-/// The texts that a language list takes, for every class that has one.
+/// The arguments of a language list, for every class that has one.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_LANGUAGESTRINGS_H
 #define ZELINTERCHANGEDATA_TESTS_HOSTILE_LANGUAGESTRINGS_H
@@ -36,7 +36,7 @@ void addLanguageLookups(StringParameters& list, const std::string& of,
                       {reorder, {ZelData_InvalidArgument}, {ZelData_Ok}, lastFirst});
 }
 
-/// Adds all that a list of languages takes. @p make gives an object without languages.
+/// Adds the arguments of a language list. @p make gives an object without languages.
 template <class Object>
 void addLanguageStrings(StringParameters& list, const std::string& of, const Make<Object>& make,
                         ZelDataResult_tags codeForAbsent)

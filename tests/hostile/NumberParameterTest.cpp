@@ -21,7 +21,7 @@ const NumberParameters& allNumberParameters()
 
 class EachNumberParameter : public ::testing::TestWithParam<NumberParameter> {};
 
-TEST_P(EachNumberParameter, TakesExtremesByItsRule)
+TEST_P(EachNumberParameter, FollowsItsRuleForExtremes)
 {
     GetParam().tryWith();
 }

@@ -17,7 +17,7 @@ struct Field {
     std::function<void(PacketModel&, const std::string&)> put;
     bool isEscaped;
     bool isStripped;
-    /// Whether its setter refuses what has not the form of UTF-8.
+    /// Whether its setter refuses what does not have the form of UTF-8.
     bool isChecked;
 };
 
@@ -115,7 +115,7 @@ TEST(PromiseConditions, WhatIsWrittenAsGivenMustHoldNoMarkup)
     expectWellFormed([](const Field& field) { return field.isEscaped; }, {"\"", "&", "<"});
 }
 
-/// They are part of the condition, so that a caller who escapes need not choose.
+/// The condition forbids these two as well, so that callers can escape all five characters.
 TEST(PromiseConditions, ApostropheAndGreaterThanSignDoNoHarmInAnAttribute)
 {
     expectWellFormed(always, {"'", ">"});
@@ -134,7 +134,7 @@ TEST(PromiseConditions, EveryStringMustBeStrictUtf8)
 }
 
 /// Only fields without a check accept these forms.
-TEST(PromiseConditions, StringsThatNobodyChecksMustHaveTheFormOfUtf8)
+TEST(PromiseConditions, UncheckedStringsMustHaveTheFormOfUtf8)
 {
     for (const char* text : {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE2\x82",
                              "\xF0\x9F\x98", "\xFE", "\xFF"}) {
@@ -145,7 +145,7 @@ TEST(PromiseConditions, StringsThatNobodyChecksMustHaveTheFormOfUtf8)
     }
 }
 
-TEST(PromiseConditions, NoStringMayHoldTheTwoLastCharactersOfTheFirstPlane)
+TEST(PromiseConditions, NoStringMayHoldTheLastTwoCharactersOfTheFirstPlane)
 {
     expectWellFormed(never, {"\xEF\xBF\xBE", "\xEF\xBF\xBF"});
     // U+FDD0 is no character either.

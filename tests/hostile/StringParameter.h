@@ -205,8 +205,8 @@ inline void fill(Texts& out, const std::string& text)
     out = {text, text, text};
 }
 
-/// Adds an argument that @p get delivers in: @p expected takes the place of what was there, a text or
-/// a list of texts.
+/// Adds an argument that @p get delivers to, a text or a list of texts. @p expected replaces what was
+/// there.
 template <class Object, class Get, class Value>
 void addOut(StringParameters& list, const std::string& name, const Make<Object>& make, Get get,
             const Value& expected)

@@ -24,7 +24,7 @@ const StringParameters& allStringParameters()
 
 class EachStringParameter : public ::testing::TestWithParam<StringParameter> {};
 
-TEST_P(EachStringParameter, TakesHostileTextsByItsRule)
+TEST_P(EachStringParameter, FollowsItsRuleForHostileTexts)
 {
     for (const HostileText& text : hostileTexts()) {
         SCOPED_TRACE(text.name);
@@ -44,7 +44,7 @@ TEST(StringParameters, AreAllThatTheOperationsHave)
     EXPECT_EQ(expected, namesOf(allStringParameters()));
 }
 
-/// What the expectations about language IDs are built on.
+/// The expectations about language IDs rely on this.
 TEST(HostileTexts, BeginWithNoLanguage)
 {
     for (const HostileText& text : hostileTexts()) {

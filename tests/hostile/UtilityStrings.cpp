@@ -13,14 +13,15 @@ using U = ZelDataUtilities;
 
 const std::string of = "ZelDataUtilities::";
 
-/// One entity: what it stands for, and how many bytes after the ampersand choose it.
+/// One entity with its character, and how many bytes after the ampersand select it.
 struct Entity {
     std::string name;
     char character;
     std::size_t selectors;
 };
 
-/// The entity that the bytes after the ampersand at @p at choose; one without a name if none.
+/// The entity that the bytes after the ampersand at @p at select; one without a name if they select
+/// none.
 Entity chosenAt(const std::string& text, std::size_t at)
 {
     for (const Entity& entity :
@@ -32,7 +33,7 @@ Entity chosenAt(const std::string& text, std::size_t at)
     return {"", '\0', text.compare(at, 2, "&a") == 0 ? std::size_t{2} : std::size_t{1}};
 }
 
-/// The text without its entities, by the steps that are documented.
+/// The text without its entities, by the documented steps.
 std::string unescaped(const std::string& text)
 {
     std::string result;

@@ -26,7 +26,7 @@ struct Subject {
 
 /// One entry of the list. When memory runs out, the operation returns and stores
 /// #ZelData_OutOfMemory and leaves its object and its arguments as they were, unless the entry says
-/// otherwise. What an operation reads besides is made once in each thread.
+/// otherwise. Other objects that it reads are made once in each thread.
 struct Operation {
     /// Class and operation, with the types of the arguments where the name alone would not do.
     /// The part after a bar distinguishes several entries for one operation.
@@ -139,15 +139,15 @@ constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 void forgetLastError(const Subject& subject);
 /// The last error of @p subject; a function has none.
 ZelDataResult_tags lastErrorOf(const Subject& subject);
-/// All that shows of an operation of @p subject that gave @p code and was called with @p outs.
+/// All that a call of @p subject shows: its @p code, what the object holds, and @p outs.
 std::string outcome(ZelDataResult_tags code, const Subject& subject, const Outs& outs);
 
-/// Calls what it is given, with something set up around it.
+/// Calls its argument with something set up around the call.
 using Around = std::function<void(const std::function<void()>&)>;
 
-/// Calls with nothing around.
+/// Sets nothing up.
 void callPlainly(const std::function<void()>& call);
-/// What @p operation gives and leaves on a new object; @p around calls it. All else happens as always.
+/// What @p operation returns and leaves when @p around calls it on a new object.
 std::string outcomeOf(const Operation& operation, const Around& around = callPlainly);
 
 /// All operations.

@@ -39,7 +39,7 @@ struct AllHandedOut {
     std::vector<Interface*> objects;
 };
 
-/// Arguments for an operation to deliver in. They begin with values that no operation delivers.
+/// Arguments for an operation to deliver its results to. They begin with values that none delivers.
 class Outs {
 public:
     Outs();
@@ -87,8 +87,8 @@ public:
     TempFile file;
 };
 
-/// What an operation is called with for an argument in the list of operations: for a pointer to a
-/// member of @p outs the place to deliver in, for a function what it gives, else the value itself.
+/// What an operation is called with for an argument of its entry. A pointer to a member of Outs becomes
+/// that member of @p outs, a function becomes what it returns, and any other value stays as it is.
 /// @{
 template <class Value>
 const Value& argument(Outs& /*outs*/, const Value& value)

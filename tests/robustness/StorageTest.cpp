@@ -1,5 +1,5 @@
 /// @file
-/// Documents written to places that do not take them.
+/// Documents written to places that cannot take them.
 
 #include "core/TempFile.h"
 #include "robustness/ChildProcess.h"
@@ -28,13 +28,13 @@ namespace {
 
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// Both documents are written; the plain one hands over to the other one.
+/// Both classes of documents; the plain one lets the other one write.
 template <class Document>
 class Storage : public ::testing::Test {
 protected:
     Storage() : document_(filledDocument<Document>())
     {
-        // More than a buffer of the stream holds.
+        // More than the buffer of the stream holds.
         EXPECT_EQ(ZelData_Ok, document_->setDataCaptions(*manyCaptions()));
     }
     ~Storage() override { EXPECT_EQ(descriptors_, openDescriptors()); }
@@ -50,7 +50,7 @@ protected:
         EXPECT_EQ(ZelData_Ok, write(file.path()));
         return dateMasked(file.bytes());
     }
-    /// What a child says that could not open a file: "fine", or the code of writing it.
+    /// What a child reports that must not be able to open the file: "fine", or the code of writing it.
     std::string notOpened(const std::string& path) const
     {
         const auto code = write(path);
@@ -97,7 +97,7 @@ TYPED_TEST(Storage, AFileInAMissingFolderCannotBeOpened)
     EXPECT_TRUE(folder.isEmpty());
 }
 
-TYPED_TEST(Storage, AFileIsNoFolder)
+TYPED_TEST(Storage, AFileIsNotAFolder)
 {
     const TempFile file;
     file.fill("kept");
@@ -120,7 +120,7 @@ TYPED_TEST(Storage, ALinkToItselfLeadsNowhere)
     this->expectNotOpened(folder.pathOf("loop"));
 }
 
-TYPED_TEST(Storage, AnEmptyPathIsNoFile)
+TYPED_TEST(Storage, AnEmptyPathIsNotAFile)
 {
     this->expectNotOpened("");
 }
@@ -137,7 +137,7 @@ TYPED_TEST(Storage, APathWithAZeroByteTouchesNoFile)
     EXPECT_TRUE(folder.isEmpty());
 }
 
-/// Makes this process one of a user without rights. Whether it is one.
+/// Makes this process run as a user without rights. Returns whether it does.
 bool becomeNobody()
 {
     constexpr uid_t nobody = 65534;
@@ -181,7 +181,7 @@ TYPED_TEST(Storage, WithoutAFreeDescriptorNoFileIsTouched)
     EXPECT_EQ("kept", file.bytes());
 }
 
-// Files that are opened and then do not take all
+// Files that can be opened but cannot take everything
 
 TYPED_TEST(Storage, AFullDeviceIsNotReported)
 {
@@ -195,7 +195,7 @@ void put(const std::string& path, const std::string& bytes)
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-/// Keeps user and group of this process in its new user name space.
+/// Keeps the user and the group of this process in its new user namespace.
 void mapUser(uid_t user, gid_t group)
 {
     put("/proc/self/setgroups", "deny");
@@ -203,7 +203,8 @@ void mapUser(uid_t user, gid_t group)
     put("/proc/self/gid_map", std::to_string(group) + " " + std::to_string(group) + " 1");
 }
 
-/// Gives this process a file system of its own at @p folder that holds 16 KiB. Empty, or a refusal.
+/// Gives this process a file system of its own at @p folder that holds 16 KiB. Returns
+/// nothing, or a refusal.
 std::string mountSmallFileSystem(const std::string& folder)
 {
     const uid_t user = geteuid();
@@ -218,14 +219,14 @@ std::string mountSmallFileSystem(const std::string& folder)
     return "";
 }
 
-/// Takes all of the room at @p folder but for @p left bytes.
+/// Fills the file system at @p folder but for @p left bytes.
 void fillUp(const std::string& folder, std::size_t left)
 {
     put(folder + "/filler", std::string(16384 - left, 'f'));
 }
 
-/// What is to be said when writing gave @p code, and the file holds @p bytes, where @p size bytes of
-/// @p whole, in which the date is masked, had room.
+/// What a child reports when writing gave @p code and the file holds @p bytes: "fine" if they are the
+/// first @p size bytes of @p whole, in which the date is masked.
 std::string judged(ZelDataResult_tags code, const std::string& bytes, const std::string& whole,
                    std::size_t size)
 {
@@ -288,7 +289,7 @@ TYPED_TEST(Storage, EachWriteThatFailsIsNotReported)
             hit = writes.troubled() != 0;
         }
         EXPECT_GT(index, 4U);
-        EXPECT_EQ(whole, dateMasked(file.bytes())) << "the last one met no trouble";
+        EXPECT_EQ(whole, dateMasked(file.bytes())) << "the last time nothing failed";
     }
 }
 
@@ -301,7 +302,7 @@ TYPED_TEST(Storage, WritesThatAllFailAreNotReported)
     EXPECT_EQ("", file.bytes());
 }
 
-TYPED_TEST(Storage, ShortWritesAreGoneOnWith)
+TYPED_TEST(Storage, ShortWritesAreContinued)
 {
     const auto whole = this->whole();
     for (const int taken : {1, 7, 4095}) {
@@ -313,7 +314,7 @@ TYPED_TEST(Storage, ShortWritesAreGoneOnWith)
     }
 }
 
-TYPED_TEST(Storage, InterruptedWritesAreMadeAgain)
+TYPED_TEST(Storage, InterruptedWritesAreRepeated)
 {
     const auto whole = this->whole();
     const TempFile file;

@@ -1,6 +1,6 @@
 /// @file
-/// Distinct documents in many threads. Each test runs in a process of its own, so that the first
-/// use of everything falls into the race; nothing of the library is used before the threads start.
+/// Distinct documents in many threads. Each test runs in a process of its own and does not use the
+/// library before its threads start, so that they race for the first use of everything.
 
 #include "core/TempFile.h"
 #include "robustness/Contents.h"
@@ -27,7 +27,7 @@ constexpr std::size_t writeCount = 10000;
 constexpr std::size_t writesPerThread = writeCount / threadCount;
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// Lets no thread through before all have arrived.
+/// Lets no thread through until all have arrived.
 class Barrier {
 public:
     void wait()
@@ -114,7 +114,7 @@ std::string writtenAsFile(const i_ZelInterchangeDataCore& document)
     return dateMasked(bytes.substr(declaration.size()));
 }
 
-/// Writes @p document often; each time must give the same. What it gave.
+/// Writes @p document often, expects the same each time, and returns it.
 std::string writtenOften(const i_ZelInterchangeDataCore& document)
 {
     std::string first = writtenAsString(document);
@@ -127,7 +127,7 @@ std::string writtenOften(const i_ZelInterchangeDataCore& document)
     return first;
 }
 
-/// What the threads wrote must be what one thread alone writes.
+/// Expects that the threads wrote what one thread alone writes.
 void expectAsAlone(const std::vector<std::string>& packets)
 {
     for (std::size_t number = 0; number < threadCount; ++number) {
@@ -143,7 +143,7 @@ TEST(Threads, EachMakesAndWritesItsOwnDocument)
     expectAsAlone(packets);
 }
 
-/// What @p operation gives and leaves in each thread, called in all of them at once.
+/// What @p operation returns and leaves in each thread when all of them call it at once.
 std::vector<std::string> outcomesInThreads(const Operation& operation)
 {
     std::vector<std::string> outcomes(threadCount);
@@ -166,8 +166,8 @@ struct Sets {
     std::unique_ptr<i_ZelDataScreenText> text = make(&ZelDataUtilities::createScreenTextData);
 };
 
-/// Copies that share their items with each other and with nobody else, so that one of the threads
-/// lets go of the last share.
+/// Copies that share their items only with each other, so that one of the threads releases the last
+/// share.
 std::vector<Sets> copiesOfOneSet()
 {
     const Sets original;
@@ -180,7 +180,7 @@ std::vector<Sets> copiesOfOneSet()
     return copies;
 }
 
-/// Replaces the item that is there by the thread's own.
+/// Replaces the item of each set with the thread's own.
 void change(const Sets& sets, std::size_t number)
 {
     addItems(*sets.captions, *sets.toc, *sets.text, number);
