@@ -58,4 +58,13 @@ std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*creat
     return std::unique_ptr<Interface>(made);
 }
 
+/// A formatter that @p create makes and that @p set gives what @p source makes.
+template <auto create, auto set, auto source>
+auto filledFormatter()
+{
+    auto formatter = make(create);
+    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, ((*formatter).*set)(*source()));
+    return formatter;
+}
+
 #endif
