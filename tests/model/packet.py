@@ -172,10 +172,10 @@ def captions_text(c):
         (b"xmpDM:trackName", b"Captioning"),
         (b"stFnt:fontFamily", c.font_family),
         (b"zelDM:fontSize", texts.decimal(c.font_size)),
-        (b"zelDM:bgOpacity", texts.value_of_float(c.opacity)),
+        (b"zelDM:bgOpacity", texts.value_of_float(c.background_opacity)),
     )
     markers = [caption_marker(c.languages, item) for item in c.items]
-    colours = colour(b"zel:fgColor", c.foreground), colour(b"zel:bgColor", c.background)
+    colours = colour(b"zel:fgColor", c.foreground_color), colour(b"zel:bgColor", c.background_color)
     return track(attributes, markers, *colours)
 
 
@@ -241,7 +241,6 @@ class Formatter(Result):
             self.held = type(self).new_set()
         ends_for(self.held, getattr(self.held, self.clear)())
         ends_for(self.held, self.held.copyFrom(source))
-        return OK
 
     @operation
     def refuse(self, _target):
@@ -279,7 +278,6 @@ class HeaderFormatter(Formatter):
     def writeString(self, out, kind, _flag):
         self.check(kind)
         out.value = header_text(self.held)
-        return OK
 
     @operation
     def writeFile(self, _file, kind, _flag):
@@ -301,7 +299,6 @@ class TrackFormatter(Formatter):
             # The items are read as copies, and a copy of a half-filled item fails.
             ends_for(self.held, self.held.item_at(Ref(None), index))
         out.value = type(self).write_track(self.held)
-        return OK
 
 
 class CaptionFormatter(TrackFormatter):
@@ -373,7 +370,6 @@ def set_operation(kind):
         teller = self.held.get("Captions", held) if kind == "Header" else held
         ends_for(teller, getattr(held, SETS[kind][1])())
         ends_for(teller, held.copyFrom(source))
-        return OK
 
     return operation(body)
 
@@ -385,7 +381,6 @@ def get_operation(kind):
             return NO_DATA
         ends_for(target, getattr(target, SETS[kind][1])())
         ends_for(target, target.copyFrom(held))
-        return OK
 
     return operation(body)
 
@@ -484,7 +479,6 @@ class XmpDocument(Document):
         tracks = b"".join(self.part(FORMATTERS[name], kind, name) for name in present)
         text = self.joined(frame, tracks) if tracks else frame
         out.value = out.value + text if append else text
-        return OK
 
     def writeFile(self, file, kind, _flag):
         text = Ref(b"")
