@@ -16,20 +16,17 @@
 
 namespace model {
 
-/// Operations on the four data sets and their items.
-void addLanguageOperations(Operations& operations);
-void addHeaderOperations(Operations& operations);
-void addCaptionOperations(Operations& operations);
-void addTocOperations(Operations& operations);
-void addScreenTextOperations(Operations& operations);
-/// Operations on formatters and documents.
-void addDocumentOperations(Operations& operations);
+/// The operations of objects, from the list of the model.
+void addMemberOperations(Operations& operations);
 /// The static functions.
 void addFunctionOperations(Operations& operations);
 /// Operations on an element tree.
 void addTreeOperations(Operations& operations);
 /// Making and destroying objects, and the script of a fake.
 void addObjectOperations(Operations& operations);
+
+/// Writes a file of the kind that the script wants, and answers with what it holds then.
+void writeFile(Session& session);
 
 /// The code that @p call gives as eight digits, or the kind of exception that it throws, or "ended"
 /// where it ends its thread.
@@ -84,6 +81,20 @@ Session::Operation copying()
 {
     return member(
         static_cast<ZelInterchangeData::ZelDataResult_tags (I::*)(const I&)>(&I::copyFrom));
+}
+
+/// The operation that assigns one @p Item to another.
+template <class Item>
+Session::Operation assigning()
+{
+    return [](Session& session) {
+        auto& target = session.object<Item>(session.script().read<int>());
+        const auto& source = session.object<Item>(session.script().read<int>());
+        target = source;
+        session.answer("-");
+        session.answer(lastError(target));
+        session.answer("e" + lastError(source));
+    };
 }
 
 inline std::string resultWord(const std::string& result)

@@ -14,12 +14,7 @@ namespace {
 model::Operations allOperations()
 {
     model::Operations operations;
-    model::addLanguageOperations(operations);
-    model::addHeaderOperations(operations);
-    model::addCaptionOperations(operations);
-    model::addTocOperations(operations);
-    model::addScreenTextOperations(operations);
-    model::addDocumentOperations(operations);
+    model::addMemberOperations(operations);
     model::addFunctionOperations(operations);
     model::addTreeOperations(operations);
     model::addObjectOperations(operations);
