@@ -87,6 +87,15 @@ struct CaptionKind {
     static constexpr auto order = &Own::orderCaptions;
     static constexpr auto makeConsistent = &Data::makeCaptionsConsistent;
     static constexpr auto setData = &Formatter::setCaptions;
+
+    /// A collection that makes its items with the given function, if there is one.
+    struct Made : Own {
+        Maker<Item> maker;
+        ZelDataResult_tags createCaptionItem(Item** out) const override
+        {
+            return maker ? maker(out) : Own::createCaptionItem(out);
+        }
+    };
 };
 
 inline std::unique_ptr<i_ZelDataCaptionItem> itemOf(const Caption& caption)

@@ -179,6 +179,7 @@ TEST_F(HeaderCopy, AFieldThatFailsWhileTheSourceKeptSuccessEndsItWithSuccess)
     source_.script.keep(ZelData_Ok);
     EXPECT_EQ(ZelData_Ok, target().copyFrom(source_));
     EXPECT_EQ(ZelData_Ok, target_.storedCode());
+    ASSERT_FALSE(log_.empty());
     EXPECT_EQ("getTitle", log_.back());
 }
 

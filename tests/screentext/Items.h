@@ -89,6 +89,15 @@ struct ScreenTextKind {
     static constexpr auto order = &Own::orderScreenTextItems;
     static constexpr auto makeConsistent = &Data::makeScreenTextConsistent;
     static constexpr auto setData = &Formatter::setScreenText;
+
+    /// A collection that makes its items with the given function, if there is one.
+    struct Made : Own {
+        Maker<Item> maker;
+        ZelDataResult_tags createScreenTextItem(Item** out) const override
+        {
+            return maker ? maker(out) : Own::createScreenTextItem(out);
+        }
+    };
 };
 
 inline std::unique_ptr<i_ZelDataScreenTextItem> itemOf(const Shown& shown)

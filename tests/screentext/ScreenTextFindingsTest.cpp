@@ -74,7 +74,7 @@ TEST(ScreenTextFindings, FrameRateAndTextAreLookedAt)
                      "screen text 0 at 0: the text is not UTF-8"}),
               linesOf(ToldScreenText(0)));
     EXPECT_EQ("screen texts: frame rate out of range (10001, at most 10000)",
-              linesOf(ToldScreenText(10001))[0]);
+              linesOf(ToldScreenText(10001)).at(0));
     EXPECT_EQ(Findings{findingAt(ZelDataFinding_BadText, subject, 0, 0)},
               findingsOf(ToldScreenText(1)));
     EXPECT_EQ(1U, linesOf(ToldScreenText(10000)).size());

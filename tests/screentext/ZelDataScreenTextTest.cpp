@@ -69,26 +69,7 @@ TEST(ScreenTextOrder, ComparesStartsAlone)
 
 // Stored items that fail
 
-/// A collection whose items are those of the tests, so that stored ones can fail.
-class ScreenTextOfFailing : public ZelDataScreenText {
-public:
-    ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override
-    {
-        auto item = std::make_unique<FailingScreenTextItem>();
-        last_ = item.get();
-        *out = item.release();
-        return ZelData_Ok;
-    }
-    /// Adds @p shown and gives the stored item.
-    FailingScreenTextItem& added(const Shown& shown)
-    {
-        EXPECT_EQ(ZelData_Ok, addScreenTextItem(*itemOf(shown)));
-        return *last_;
-    }
-
-private:
-    mutable FailingScreenTextItem* last_ = nullptr;
-};
+using ScreenTextOfFailing = CollectionOfFailing<ScreenTextKind, FailingScreenTextItem>;
 
 TEST(StoredScreenText, IsAskedForItsValidityOnlyByADeepCheck)
 {

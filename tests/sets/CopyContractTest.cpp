@@ -670,14 +670,14 @@ TYPED_TEST(CopiedLanguages, FollowTheNewOrderOfTheItems)
     EXPECT_CODE(source, ZelData_Ok, (source.*TypeParam::order)());
     EXPECT_CODE(*this->target_, ZelData_Ok,
                 this->target_->copyFrom(static_cast<const typename TypeParam::Data&>(source)));
-    EXPECT_EQ("de", languagesOf(*this->target_).front());
+    EXPECT_EQ("de", languagesOf(*this->target_).at(0));
 }
 
 TYPED_TEST(CopiedLanguages, DoNotIncludeOneWhoseTextsWereRemoved)
 {
     const auto source = newCollection<TypeParam>();
     TypeParam::fillTarget(*source); // one item with one language
-    const std::string id = languagesOf(*source).front();
+    const std::string id = languagesOf(*source).at(0);
     EXPECT_EQ(ZelData_Ok, ((*source).*TypeParam::removeLanguage)(id));
     EXPECT_EQ(IDs{id}, languagesOf(*source)) << "the source goes on listing it";
     EXPECT_CODE(*this->target_, ZelData_Ok, this->target_->copyFrom(*source));

@@ -45,10 +45,6 @@ struct TextByLanguage : Kind {
     }
 };
 
-/// A function that makes an item, which a collection may be given.
-template <class Item>
-using Maker = std::function<ZelDataResult_tags(Item**)>;
-
 struct Captions : TextByLanguage<CaptionKind> {
     using Fake = FailingCaptions;
     using FakeItem = FailingCaptionItem;
@@ -59,13 +55,7 @@ struct Captions : TextByLanguage<CaptionKind> {
     static void mark(Data& captions) { EXPECT_EQ(ZelData_Ok, captions.setFontSize(30)); }
     static bool isMarked(const Data& captions) { return styleOf(captions).fontSize == 30; }
 
-    /// A collection that makes its items with the given function, if there is one.
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createCaptionItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createCaptionItem(out);
-        }
+    struct Made : CaptionKind::Made {
         /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { style_.frameRate.value = rate; }
     };
@@ -96,12 +86,7 @@ struct Toc : TextByLanguage<TocKind> {
     static void mark(Data& toc) { EXPECT_EQ(ZelData_Ok, toc.setImageFile("t.png")); }
     static bool isMarked(const Data& toc) { return imageOf(toc) == "t.png"; }
 
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createTocItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createTocItem(out);
-        }
+    struct Made : TocKind::Made {
         /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
@@ -117,12 +102,7 @@ struct Toc : TextByLanguage<TocKind> {
 };
 
 struct ScreenText : ScreenTextKind {
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createScreenTextItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createScreenTextItem(out);
-        }
+    struct Made : ScreenTextKind::Made {
         /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
@@ -234,9 +214,10 @@ protected:
 
     Owned itemAt(unsigned long index)
     {
-        Item* out = nullptr;
-        EXPECT_CODE(collection_, ZelData_Ok, (collection_.*Kind::at)(&out, index));
-        return Owned(out);
+        return created<Item>([&](Item** out) {
+            EXPECT_CODE(collection_, ZelData_Ok, (collection_.*Kind::at)(out, index));
+            return collection_.getLastError();
+        });
     }
 
     /// From now on the collection makes good items, and at call @p nth one that cannot be filled.

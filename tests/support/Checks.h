@@ -11,6 +11,7 @@
 #include <iomanip>
 #include <memory>
 #include <ostream>
+#include <stdexcept>
 
 namespace ZelInterchangeData {
 
@@ -39,13 +40,21 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
 /// Takes the code of a call that an object may refuse: what it then holds is a part of the test.
 inline void mayRefuse(::ZelInterchangeData::ZelDataResult_tags /*code*/) {}
 
+/// The object that @p create puts into an out-pointer. Without one the test ends here, with a failure.
+template <class Interface, class Create>
+std::unique_ptr<Interface> created(const Create& create)
+{
+    Interface* made = nullptr;
+    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, create(&made));
+    if (made == nullptr) throw std::runtime_error("no object was made");
+    return std::unique_ptr<Interface>(made);
+}
+
 /// A new object from @p create, a factory that takes an out-pointer.
 template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(Interface**))
 {
-    Interface* made = nullptr;
-    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, create(&made));
-    return std::unique_ptr<Interface>(made);
+    return created<Interface>(create);
 }
 
 /// A new formatter from @p create.
@@ -53,10 +62,8 @@ template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(
     Interface**, ::ZelInterchangeData::ZelDataFormatType_tags))
 {
-    Interface* made = nullptr;
-    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok,
-              create(&made, ::ZelInterchangeData::ZelDataFormat_Xmp));
-    return std::unique_ptr<Interface>(made);
+    return created<Interface>(
+        [create](Interface** out) { return create(out, ::ZelInterchangeData::ZelDataFormat_Xmp); });
 }
 
 #endif

@@ -85,6 +85,15 @@ struct TocKind {
     static constexpr auto order = &Own::orderTocItems;
     static constexpr auto makeConsistent = &Data::makeTocConsistent;
     static constexpr auto setData = &Formatter::setToc;
+
+    /// A collection that makes its items with the given function, if there is one.
+    struct Made : Own {
+        Maker<Item> maker;
+        ZelDataResult_tags createTocItem(Item** out) const override
+        {
+            return maker ? maker(out) : Own::createTocItem(out);
+        }
+    };
 };
 
 inline std::unique_ptr<i_ZelDataTocItem> itemOf(const Entry& entry)

@@ -97,7 +97,8 @@ TEST(TocFindings, FrameRateTextsAndLanguagesAreLookedAt)
                      "entry 0 at 0: the text in en is not UTF-8",
                      "entry 0 at 0: the language zz is not known"}),
               linesOf(ToldToc(10001)));
-    EXPECT_EQ("table of contents: frame rate out of range (0, at least 1)", linesOf(ToldToc(0))[0]);
+    EXPECT_EQ("table of contents: frame rate out of range (0, at least 1)",
+              linesOf(ToldToc(0)).at(0));
     EXPECT_EQ(2U, linesOf(ToldToc(10000)).size());
     EXPECT_EQ(2U, linesOf(ToldToc(1)).size());
 }

@@ -96,26 +96,7 @@ TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
 
 // Stored entries that fail
 
-/// A table whose entries are those of the tests, so that stored ones can fail.
-class TocOfFailing : public ZelDataToc {
-public:
-    ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
-    {
-        auto item = std::make_unique<FailingTocItem>();
-        last_ = item.get();
-        *out = item.release();
-        return ZelData_Ok;
-    }
-    /// Adds @p entry and gives the stored one.
-    FailingTocItem& added(const Entry& entry)
-    {
-        EXPECT_EQ(ZelData_Ok, addTocItem(*itemOf(entry)));
-        return *last_;
-    }
-
-private:
-    mutable FailingTocItem* last_ = nullptr;
-};
+using TocOfFailing = CollectionOfFailing<TocKind, FailingTocItem>;
 
 TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
 {

@@ -121,7 +121,7 @@ TEST(LanguageTable, BeginsOneNativeNameWithATabAndHasNoOtherControlCharacter)
             const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20; };
             if (std::none_of(name.begin(), name.end(), isControl)) continue;
             EXPECT_EQ(std::count_if(name.begin(), name.end(), isControl), 1);
-            EXPECT_EQ(name.front(), '\t');
+            EXPECT_EQ(name.substr(0, 1), "\t");
             codes.append(entry.code).append(" ");
         }
     }
@@ -353,7 +353,7 @@ TEST(NativeNameForLanguage, EmptiesTheNameForLu)
 TEST(NativeNameForLanguage, BeginsUgWithATabAndEndsItWithALeftToRightMark)
 {
     const std::string name = nativeName("ug");
-    EXPECT_EQ(name.front(), '\t');
+    EXPECT_EQ(name.substr(0, 1), "\t");
     EXPECT_TRUE(endsWith(name, leftToRightMark));
 }
 
