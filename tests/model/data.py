@@ -1,9 +1,9 @@
 """The data sets and their items, operation by operation.
 
 Every operation returns its code and keeps it as the last error; a body that returns none has
-succeeded. Values are delivered through `Ref` objects, so a test sees whether one was left alone. The
-interface classes hold the copies, which call only the operations of both objects; the classes behind
-them hold everything else.
+succeeded. Values are delivered through `Ref` objects, so a test sees whether one was left alone.
+The interface classes hold the copies, which call only the operations of both objects; the classes
+behind them hold everything else.
 """
 
 import functools
@@ -141,8 +141,8 @@ def is_time(value):
 
 
 def properties(wrap=operation, **accepts):
-    """A base class with a setter and a getter for each name. The setter asks the name's function
-    whether it accepts the value."""
+    """A base class with a setter and a getter for each name. The setter refuses what the function
+    beside the name does not accept."""
     members = {}
     for name, accepted in accepts.items():
         members["set" + name] = setter(field_of(name), accepted, wrap)
@@ -164,7 +164,7 @@ def copy_fields(target, source, names):
 
 
 def copy_texts(target, source):
-    """Replaces the texts of one item by those of another."""
+    """Replaces the texts of one item with those of another."""
     ids = Ref([])
     ends_for(source, source.getLanguageIDs(ids))
     ends_for(target, target.clearText())
@@ -202,7 +202,7 @@ class LanguageInterface(Result):
 
 
 class LanguageList(LanguageInterface):
-    """The list operations; `absent` is the answer to the removal of what is not listed."""
+    """The list operations. `absent` is the code for removing a language that is not listed."""
 
     absent = NOT_FOUND
 
@@ -281,7 +281,7 @@ class HeaderInterface(LanguageInterface):
         self.copy_one(other, "ShowSearchBar")
 
     def copy_one(self, other, name):
-        """A failing setter of a header is answered with its code, not with the last error."""
+        """If a setter of the header fails, the copy ends with its code, not with the last error."""
         ends(getattr(self, "set" + name)(*get_field(other, name)))
 
 
@@ -355,7 +355,7 @@ class Header(
 
 
 def in_catalogue_and_utf8(content, language):
-    """What makes a text with its language acceptable to an item."""
+    """Whether an item accepts the text in the language."""
     known = texts.is_utf8(language) and not failed(texts.is_language(language))
     return known and texts.is_utf8(content)
 
@@ -398,7 +398,7 @@ def text_operations(wrap):
 
 
 def span(wrap, accepts_duration):
-    """A base class with the operations on a start, a duration and the end that follows from them."""
+    """A base class with the operations on start, duration and the end that follows from them."""
 
     class Span(properties(wrap, Start=is_time, Duration=accepts_duration)):
         @wrap
@@ -608,7 +608,7 @@ class ItemList(Result, properties(FrameRate=lambda rate: 1 <= rate <= 10000)):
 
     @operation
     def order(self):
-        """Exchange sort by start, in exactly this order of exchanges."""
+        """Exchange sort by start, with the exchanges in exactly this order."""
         for i in range(len(self.items)):
             for j in range(i + 1, len(self.items)):
                 if self.items[j].start < self.items[i].start:

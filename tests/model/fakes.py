@@ -1,7 +1,6 @@
 """Implementations of the interfaces as a caller might write them: they check nothing.
 
-They note each call. A script makes one of them, the n-th, fail or throw. The driver has the same
-classes.
+They note each call. A script can make one call fail or throw. The driver has the same classes.
 """
 
 from codes import INVALID_ARGUMENT, NOT_IMPLEMENTED, OK, failed
@@ -36,13 +35,13 @@ def shown(value):
 
 
 class Script:
-    """What the n-th call does; 0 for nothing.
+    """What call number `at` does instead of its work; 0 for no call.
 
     c: fails; d: does its work, then fails; h: hands out half of the items, then fails;
-    b, x: throws exhausted memory, something else; B, X: the same after handing out half of the
-    items; l, m: fails, and from then on the last error's getter throws exhausted memory, something
-    else; e, k: ends its thread, which exits or is cancelled; E: exits after handing out half of the
-    items; n: fails, and from then on the last error's getter ends its thread.
+    b, x: throws BadAlloc, ForeignException; B, X: the same after handing out half of the items;
+    l, m: fails, and from then on getLastError throws BadAlloc, ForeignException; e, k: ends its
+    thread, which exits or is cancelled; E: exits after handing out half of the items; n: fails, and
+    from then on getLastError ends its thread.
     """
 
     def __init__(self, at=0, mode="c", code=OK, last=OK):
@@ -142,8 +141,8 @@ class Fake:
 
 
 def holding(interface, **values):
-    """Decorates a fake of the interface: each name gets a field with the value to begin with, a
-    setter and a getter. copyFrom is the interface's own."""
+    """Decorates a fake of the interface: each name becomes a field with a first value, a setter and
+    a getter. copyFrom is the interface's."""
 
     def decorated(cls):
         cls.VALUES = {**cls.VALUES, **{field_of(name): value for name, value in values.items()}}
@@ -254,7 +253,7 @@ class FakeHeader(FakeLanguageOperations, HeaderInterface):
 
 
 class FakeItem(Fake):
-    """An item that can be copied with all it holds, its script included."""
+    """An item that can be cloned with all that it holds, its script included."""
 
     def clone(self, name, log):
         copy = type(self)().begin(name, log)
@@ -324,8 +323,8 @@ class FakeScreenTextItem(FakeItem, ScreenTextItemInterface):
 
 
 class FakeItemList(Fake):
-    """The items of a collection. What it hands out are clones, which note their calls too. Each
-    operation is given its name first."""
+    """The items of a collection. It hands out clones, which note their calls too. The first
+    argument of each operation is its name."""
 
     VALUES = {"items": []}
     new_item = None

@@ -1,7 +1,7 @@
-"""The formatters and the documents: what is written, and what each step answers.
+"""The formatters and the documents: what they write, and the code of each step.
 
-The texts are put together literally, element by element, without the element tree, so that an error
-of the tree cannot hide here.
+The texts are put together element by element, without the element tree, so a mistake in the tree
+shows.
 """
 
 import text as texts
@@ -32,7 +32,7 @@ from data import (
 )
 from xmltree import DECLARATION
 
-# Stands for the moment of writing until the comparison.
+# The place of the moment of writing, which only the comparison fills.
 DATE = b"<the moment of writing>"
 
 NAMESPACES = (
@@ -247,7 +247,7 @@ class Formatter(Result):
         return NOT_IMPLEMENTED
 
     def check(self, kind):
-        """Nothing is written in another format, and nothing before a set was given."""
+        """Refuses another format, and refuses to write before a set was given."""
         if kind != XMP:
             raise Stop(INTERNAL_ERROR)
         if self.held is None:
@@ -281,7 +281,7 @@ class HeaderFormatter(Formatter):
 
     @operation
     def writeFile(self, _file, kind, _flag):
-        """Never writes a string first, unlike the others."""
+        """Unlike the others, never writes a string first."""
         return NOT_IMPLEMENTED if kind == XMP else INTERNAL_ERROR
 
 
@@ -296,7 +296,7 @@ class TrackFormatter(Formatter):
             return OK
         ends_for(self.held, getattr(self.held, self.make_consistent)())
         for index in range(len(self.held.items)):
-            # The items are read as copies, and a copy of a half-filled item fails.
+            # The formatter reads copies of the items, and a half-filled item cannot be copied.
             ends_for(self.held, self.held.item_at(Ref(None), index))
         out.value = type(self).write_track(self.held)
 
@@ -353,7 +353,7 @@ SETS = {
 
 
 class File:
-    """A path of the scratch folder and what stands there. `openable` is false where none can be."""
+    """A path in the scratch folder, whether it can be opened, and the contents of its file."""
 
     def __init__(self, openable, content):
         self.openable = openable
@@ -366,7 +366,7 @@ def set_operation(kind):
         if held is None:
             held = self.held[kind] = SETS[kind][0]()
             self.store(OK)
-        # A header's failure is told by the captions, where there are any.
+        # If the header fails and there are captions, the code is their last error.
         teller = self.held.get("Captions", held) if kind == "Header" else held
         ends_for(teller, getattr(held, SETS[kind][1])())
         ends_for(teller, held.copyFrom(source))
@@ -415,7 +415,7 @@ class Document(Result):
         return NOT_IMPLEMENTED
 
     def through_copy(self, kind, write):
-        """Writes through a temporary document. Its final code is returned but not stored."""
+        """Writes through a temporary document. Returns its final code but does not store it."""
         if kind != XMP:
             return self.store(UNSUPPORTED_FORMAT)
         copy = XmpDocument()
@@ -440,7 +440,7 @@ FORMATTERS = {
 
 class XmpDocument(Document):
     def take_languages(self, header):
-        """The header's languages become those of the captions, or en-US alone."""
+        """Gives the header the languages of the captions, or en-US alone."""
         ends_for(header, header.clearLanguages())
         ids = Ref([])
         captions = self.held.get("Captions")

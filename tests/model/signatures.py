@@ -1,11 +1,11 @@
 """Every operation that a script can name, with the kinds of its arguments.
 
 By value: s text, v list of texts, u unsigned long, q long long, o unsigned long long, l long,
-b bool, f float, t format, a alignment. Capital letters: by reference, with the value from before the
+b bool, f float, t format, a alignment. Capital letters: by reference, with the value before the
 call; I is an int. c:X and m:X: an object of X that is read or changed. p:X: an out-pointer.
 i:X: a vector of item pointers. D: pointer to a time. k: a kind of file.
 
-Called with a path, it writes a C++ file there, in which the driver finds the operations of objects.
+To write the C++ file with which the driver knows the operations of objects, call it with a path.
 """
 
 import sys

@@ -18,16 +18,16 @@
 
 namespace model {
 
-/// Something to which a fake item can be added as it is.
+/// A collection that accepts a fake item as it is.
 class FakeItemHolder {
 public:
     virtual ~FakeItemHolder() = default;
-    /// Whether @p item is of the right kind; a clone of it is kept.
+    /// Keeps a clone of @p item, if that is of the right kind, and returns whether it is.
     virtual bool addClone(const FakeControl& item) = 0;
 };
 
-/// What all fake collections have in common, on top of @p Base. They hand out clones of their items,
-/// which note their calls too.
+/// What all fake collections have in common, on top of @p Base. They hand out clones of their
+/// items, which note their calls too.
 template <class Interface, class Base, class ItemInterface, class Item>
 class FakeCollection : public Base, public FakeItemHolder {
 public:

@@ -90,7 +90,7 @@ private:
     Offset offset_ = 0;
 };
 
-/// Something to which raw texts can be given.
+/// An item that accepts raw texts.
 class FakeTexts {
 public:
     virtual ~FakeTexts() = default;

@@ -1,5 +1,5 @@
 /// @file
-/// The operations that a script can name, and how a member or a static function becomes one.
+/// The operations that a script can name, made from members and static functions.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
 #define ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
@@ -22,14 +22,14 @@ void addMemberOperations(Operations& operations);
 void addFunctionOperations(Operations& operations);
 /// Operations on an element tree.
 void addTreeOperations(Operations& operations);
-/// Making and destroying objects, and the script of a fake.
+/// Operations that make and destroy objects and prepare fakes.
 void addObjectOperations(Operations& operations);
 
-/// Writes a file of the kind that the script wants, and answers with what it holds then.
+/// Writes the kind of file that the script wants, and answers with its contents.
 void writeFile(Session& session);
 
-/// The code that @p call gives as eight digits, or the kind of exception that it throws, or "ended"
-/// where it ends its thread.
+/// The code that @p call returns, as eight digits; "bad_alloc" or "exception" if it throws, "ended"
+/// if it ends its thread.
 template <class Call>
 std::string codeOf(Call&& call)
 {
@@ -60,7 +60,7 @@ void callMember(Session& session, Method method)
     std::apply([&](auto&... argument) { (argument.report(session), ...); }, arguments);
 }
 
-/// The operation that calls @p method on an object: its number first, then the arguments.
+/// The operation that calls @p method. The script names the object, then the arguments.
 template <class I, class... Args>
 Session::Operation member(ZelInterchangeData::ZelDataResult_tags (I::*method)(Args...))
 {
@@ -106,7 +106,7 @@ inline std::string resultWord(unsigned long result)
     return hexadecimal(result);
 }
 
-/// The operation that calls a static function with the arguments.
+/// The operation that calls a static function.
 template <class Result, class... Args>
 Session::Operation function(Result (*body)(Args...))
 {

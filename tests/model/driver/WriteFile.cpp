@@ -9,7 +9,7 @@
 namespace model {
 namespace {
 
-/// A path of the wanted kind: "file", whose file has a content already, or one that cannot be opened.
+/// A path of the wanted kind: "file", a file that exists, or a path that cannot be opened.
 std::string pathOf(const std::string& where, const std::string& folder)
 {
     if (where == "empty") return "";
@@ -20,7 +20,7 @@ std::string pathOf(const std::string& where, const std::string& folder)
     return path;
 }
 
-/// The contents of @p path now; of a path with a zero byte, those of the part before it.
+/// The contents of the file at @p path, which ends at its first zero byte.
 std::string contentOf(const std::string& path)
 {
     std::ifstream in(path.c_str(), std::ios::binary);
