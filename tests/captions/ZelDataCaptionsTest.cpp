@@ -272,7 +272,5 @@ TEST(ZelDataCaptionsGetCaptionItems, LeavesTheVectorEmptyWhenACopyFails)
     EXPECT_EQ(2, FailingCaptionItem::alive());
 }
 
-// Removing
-
 } // namespace
 } // namespace ZelInterchangeData

@@ -80,20 +80,20 @@ TEST(ScreenTextFindings, FrameRateAndTextAreLookedAt)
     EXPECT_EQ(1U, linesOf(ToldScreenText(10000)).size());
 }
 
-/// Screen texts that hand out the failing items that they are given.
-class HandingScreenText : public Failing<ZelDataScreenText> {
+/// Screen text with one item, which is handed out as a failing one.
+class HandingScreenText : public FailingScreenText {
 public:
-    ZelDataResult_tags getFrameRate(unsigned long& rate) const override
+    HandingScreenText()
     {
-        return run("getFrameRate", [&] { return ZelDataScreenText::getFrameRate(rate); });
+        ZelInterchangeData::add(*this, {{0, 1, "a"}});
+        handOutBeforeFailing();
     }
-    ZelDataResult_tags
-    getScreenTextItems(std::vector<i_ZelDataScreenTextItem*>& items) const override
+    ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override
     {
         auto item = std::make_unique<FailingScreenTextItem>();
         if (prepare) prepare(*item);
-        items.push_back(item.release()); // handed out even where the call fails
-        return run("getScreenTextItems", [] { return ZelData_Ok; });
+        *out = item.release();
+        return ZelData_Ok;
     }
 
     std::function<void(FailingScreenTextItem&)> prepare;
@@ -103,9 +103,10 @@ TEST(ScreenTextFindings, AFailingCollectionEndsTheSearch)
 {
     for (const std::string operation : {"getFrameRate", "getScreenTextItems"}) {
         HandingScreenText screenText;
-        expectFailuresPass<HandingScreenText, Failing<ZelDataScreenText>>(
+        const long alive = FailingScreenTextItem::alive();
+        expectFailuresPass<HandingScreenText, FailingScreenText>(
             screenText, operation, 1, [&](const auto& arm) { arm(screenText); });
-        EXPECT_EQ(0, FailingScreenTextItem::alive()) << operation;
+        EXPECT_EQ(alive, FailingScreenTextItem::alive()) << operation;
     }
 }
 
@@ -113,9 +114,10 @@ TEST(ScreenTextFindings, AFailingItemEndsTheSearch)
 {
     for (const std::string operation : {"getStart", "getText"}) {
         HandingScreenText screenText;
+        const long alive = FailingScreenTextItem::alive();
         expectFailuresPass<HandingScreenText, FailingScreenTextItem>(
             screenText, operation, 1, [&](const auto& arm) { screenText.prepare = arm; });
-        EXPECT_EQ(0, FailingScreenTextItem::alive()) << operation;
+        EXPECT_EQ(alive, FailingScreenTextItem::alive()) << operation;
     }
 }
 
