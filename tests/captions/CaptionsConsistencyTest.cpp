@@ -44,7 +44,7 @@ const Spoil spoiledStyles[] = {
     [](CaptionStyle& style) { style.backgroundOpacity = 1.1F; },
 };
 
-/// What makeCaptionsConsistent() makes of a styling that @p spoil spoiled.
+/// What makeCaptionsConsistent() makes of a styling that @p spoil has put out of range.
 Style repaired(const Spoil& spoil)
 {
     AnyStyle captions;

@@ -1,5 +1,5 @@
 /// @file
-/// Screen-text items in one line, and the contents of an item in one value.
+/// Screen-text items from plain values, and back.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
 #define ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
@@ -40,7 +40,7 @@ inline void PrintTo(const Shown& item, std::ostream* out)
          << " group " << item.group;
 }
 
-/// Makes @p item hold @p shown.
+/// Fills @p item with @p shown.
 inline void fill(i_ZelDataScreenTextItem& item, const Shown& shown)
 {
     EXPECT_EQ(ZelData_Ok, item.setText(shown.text));

@@ -92,7 +92,7 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
     EXPECT_CODE(second, ZelData_WarnTiming, second.isValid(true));
 }
 
-// The order is looked at first, so an item is asked for its start a second time.
+// The check of the order asks for each start before, so these fail at the second call.
 
 TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
 {

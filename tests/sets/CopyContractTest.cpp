@@ -364,8 +364,8 @@ protected:
         return target.copyFrom(source);
     }
 
-    /// Copies from a source that @p prepare has made fail, for each step of the source, onto an object
-    /// of our own, and expects @p code.
+    /// For each step of the source: copies from one that @p prepare has made fail to an object of our
+    /// own, and expects @p code.
     template <class Prepare>
     static void failEachGetter(ZelDataResult_tags code, const Prepare& prepare)
     {
@@ -404,7 +404,7 @@ protected:
     }
 
 private:
-    /// The code of the copy; exhausted memory has its code also where it must be let through.
+    /// The code of the copy. Exhausted memory that it must let through counts as that code.
     static ZelDataResult_tags outcome(Interface& target, const Interface& source)
     {
         if constexpr (!Copies::letsThrough) return copy(target, source);

@@ -27,8 +27,8 @@ using Texts = std::map<std::string, std::string>;
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// What a kind has besides: collections that make other items and that hand out a null pointer, and a
-/// text that marks an item.
+/// More about a kind: collections that make other items or hand out a null pointer, and a text that
+/// marks an item.
 template <class Kind>
 struct TextByLanguage : Kind {
     using typename Kind::Item;
@@ -128,7 +128,7 @@ struct ScreenText : ScreenTextKind {
     }
 };
 
-/// An item whose start is what a test wants it to be, and which knows how many of it live.
+/// An item that takes its start from the test and counts the living objects of its class.
 template <class Kind>
 class OddItem : public Kind::OwnItem {
 public:
@@ -618,8 +618,8 @@ TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)
 
 // Order
 
-/// The expected order, computed step by step: each place in turn takes every smaller start that comes
-/// after it.
+/// The expected order, step by step: each place in turn is exchanged with every smaller start after
+/// it.
 void exchangeSort(std::vector<Timed>& items)
 {
     for (std::size_t i = 0; i + 1 < items.size(); ++i)

@@ -37,10 +37,10 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
         EXPECT_EQ(expectedCode_, checkedObject_.getLastError()) << "last error of " #object;       \
     } while (false)
 
-/// Takes the code of a call that an object may refuse: what it then holds is a part of the test.
+/// Ignores the code of a call that an object may refuse: the test looks at what it then holds.
 inline void mayRefuse(::ZelInterchangeData::ZelDataResult_tags /*code*/) {}
 
-/// The object that @p create puts into an out-pointer. Without one the test ends here, with a failure.
+/// The object that @p create puts into an out-pointer. If it puts none, the test fails and ends.
 template <class Interface, class Create>
 std::unique_ptr<Interface> created(const Create& create)
 {

@@ -61,7 +61,7 @@ std::vector<typename Kind::Values> valuesOf(const typename Kind::Data& collectio
     return values;
 }
 
-/// A collection of failing items, to which a test has access.
+/// A collection of failing items that a test can reach.
 template <class Kind, class FailingItem>
 class CollectionOfFailing : public Kind::Made {
 public:
@@ -72,7 +72,7 @@ public:
             return ZelData_Ok;
         };
     }
-    /// Adds an item of @p values and gives the stored one.
+    /// Adds an item of @p values and returns the stored one.
     FailingItem& added(const typename Kind::Values& values)
     {
         if (failed((this->*Kind::add)(*newItem<Kind>(values))))

@@ -1,5 +1,5 @@
 /// @file
-/// Entries in one line, and the contents of an entry in one value.
+/// Entries from plain values, and back.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_TOC_ENTRIES_H
 #define ZELINTERCHANGEDATA_TESTS_TOC_ENTRIES_H
@@ -38,7 +38,7 @@ inline void PrintTo(const Entry& entry, std::ostream* out)
          << entry.image << "' index " << entry.index << " offset " << entry.offset;
 }
 
-/// Makes @p item hold @p entry.
+/// Fills @p item with @p entry.
 inline void fill(i_ZelDataTocItem& item, const Entry& entry)
 {
     for (const auto& [id, title] : entry.titles)

@@ -129,7 +129,7 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-// The order is looked at first, so an entry is asked for its start a second time.
+// The check of the order asks for each start before, so these fail at the second call.
 
 TEST(StoredEntry, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
 {

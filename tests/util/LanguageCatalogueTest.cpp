@@ -1,5 +1,5 @@
 /// @file
-/// The language catalogue against a copy of its names that was made apart from it.
+/// Compares the language catalogue with a separate copy of its names.
 
 #include "util/LanguageCatalogue.h"
 
@@ -68,7 +68,7 @@ void expectNoEntry(const LanguageInfo& info)
     EXPECT_EQ(info.nativeName, "");
 }
 
-/// What is no language: malformed IDs, then unknown ones.
+/// IDs of no language: malformed ones, then unknown ones.
 const char* const otherIds[] = {"",   "e",  "eng",  "engl", "en_US", "en US", "-en",
                                 "e-", "-",  "en\n", "qq",   "QQ-US", "xX",    "zz",
                                 "--", "e1", "1e",   "@a",   "[a",    "`a",    "{a"};

@@ -1,6 +1,6 @@
 /// @file
-/// Overrides of operations in a fake. Each passes the operation of the class `Own` through run(), and a
-/// getter through runGetter(), of the fake.
+/// Overrides of operations in a fake. Each passes the operation of the class `Own` through run() of the
+/// fake, or through runGetter() if it is a getter.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_OVERRIDES_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_OVERRIDES_H

@@ -27,7 +27,7 @@ public:
     {
         return script.lastErrorOr(Base::getLastError());
     }
-    /// The last error in the field of the base class, whatever getLastError() says.
+    /// The last error in the field of the base class, whatever getLastError() returns.
     ZelDataResult_tags storedCode() const { return Base::getLastError(); }
 
     OVERRIDE_ACTION(clearLanguages)
