@@ -44,7 +44,7 @@ const Spoil spoiledStyles[] = {
     [](CaptionStyle& style) { style.backgroundOpacity = 1.1F; },
 };
 
-/// The styling that makeCaptionsConsistent() leaves after @p spoil changed it.
+/// What makeCaptionsConsistent() makes of a styling that @p spoil has put out of range.
 Style repaired(const Spoil& spoil)
 {
     AnyStyle captions;
@@ -110,7 +110,7 @@ TEST(ZelDataCaptionsIsValid, AnItemWithoutTextInAListedLanguageIsABadArgumentUnt
     EXPECT_CODE(*captions, ZelData_InvalidArgument, captions->isValid(false));
     EXPECT_CODE(*captions, ZelData_Ok, captions->makeCaptionsConsistent());
     EXPECT_CODE(*captions, ZelData_Ok, captions->isValid(true));
-    EXPECT_EQ((Texts{{"de", ""}, {"en", "a"}}), itemsOf(*captions)[0].texts);
+    EXPECT_EQ((Texts{{"de", ""}, {"en", "a"}}), itemsOf(*captions).at(0).texts);
 }
 
 TEST(ZelDataCaptionsIsValid, ALanguageThatIsNotListedMayHaveTexts)
@@ -348,8 +348,8 @@ TEST(ZelDataCaptionsMakeConsistent, FillsTheMissingTextsOfItemsOfAnotherClass)
     FailingCaptions captions;
     add(captions, {{0, 1, {{"en", "e"}}}, {5, 1, {{"de", "d"}}}});
     EXPECT_CODE(captions, ZelData_Ok, captions.makeCaptionsConsistent());
-    EXPECT_EQ((Texts{{"de", ""}, {"en", "e"}}), itemsOf(captions)[0].texts);
-    EXPECT_EQ((Texts{{"de", "d"}, {"en", ""}}), itemsOf(captions)[1].texts);
+    EXPECT_EQ((Texts{{"de", ""}, {"en", "e"}}), itemsOf(captions).at(0).texts);
+    EXPECT_EQ((Texts{{"de", "d"}, {"en", ""}}), itemsOf(captions).at(1).texts);
 }
 
 TEST(ZelDataCaptionsMakeConsistent, ReturnsTheLastErrorOfAnItemThatCannotBeFilled)
@@ -361,7 +361,7 @@ TEST(ZelDataCaptionsMakeConsistent, ReturnsTheLastErrorOfAnItemThatCannotBeFille
     EXPECT_EQ(ZelData_Ok, captions.addLanguage("en"));
     add(captions, {{9, 1}, {0, 1}});
     EXPECT_CODE(captions, keptCode, captions.makeCaptionsConsistent());
-    EXPECT_EQ(0, itemsOf(captions)[0].start) << "the items are sorted first";
+    EXPECT_EQ(0, itemsOf(captions).at(0).start) << "the items are sorted before";
 }
 
 TEST(ZelDataCaptionsMakeConsistent, AForeignExceptionIsAnInternalError)

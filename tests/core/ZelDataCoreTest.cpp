@@ -1,5 +1,6 @@
 #include "core/ZelDataCore.h"
 
+#include "captions/Captions.h"
 #include "core/SampleSets.h"
 #include "core/TempFile.h"
 #include "core/WatchedDocument.h"
@@ -264,12 +265,7 @@ TEST_F(Document, WritingLeavesTheOrderOfItsOwnItemsAsItWas)
     EXPECT_EQ(ZelData_Ok, document_.writeString(out, xmp, false));
     const auto captions = make(&ZelDataUtilities::createCaptionData);
     EXPECT_EQ(ZelData_Ok, document_.getDataCaptions(*captions));
-    i_ZelDataCaptionItem* item = nullptr;
-    ASSERT_EQ(ZelData_Ok, captions->getCaptionItemAt(&item, 0));
-    const std::unique_ptr<i_ZelDataCaptionItem> owned(item);
-    long long start = 0;
-    EXPECT_EQ(ZelData_Ok, owned->getStart(start));
-    EXPECT_EQ(4000, start);
+    EXPECT_EQ(4000, itemsOf(*captions).at(0).start);
 }
 
 } // namespace

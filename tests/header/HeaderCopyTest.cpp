@@ -40,7 +40,7 @@ HeaderValues oldValues()
             1,         2,     3,     {"fr"},        {"old.mp4"}, true};
 }
 
-/// Fills a header without logging its calls.
+/// Fills a header before its script starts to log.
 void fillQuietly(ScriptedHeader& header, const HeaderValues& values, Texts& log)
 {
     fill(header, values);
@@ -79,7 +79,7 @@ bool isGetter(const std::string& step)
     return step.compare(0, 3, "get") == 0;
 }
 
-/// The source's last error for a getter, the target's for a language; a setter's own code else.
+/// The source's last error for a getter, the target's for a language; otherwise the setter's code.
 ZelDataResult_tags codeOf(const std::string& step, Misdeed misdeed)
 {
     if (misdeed == Misdeed::ThrowsBadAlloc) return ZelData_OutOfMemory;
@@ -172,17 +172,18 @@ TEST_F(HeaderCopy, ADuplicateLanguageEndsItWithAWarning)
     EXPECT_EQ(described(expected), targetState());
 }
 
-/// The copy takes over the last error, so it returns success although it stopped.
+/// The copy returns the last error as it is: here, success, although the copy stopped.
 TEST_F(HeaderCopy, AFieldThatFailsWhileTheSourceKeptSuccessEndsItWithSuccess)
 {
     source_.script.failAt("getTitle");
     source_.script.keep(ZelData_Ok);
     EXPECT_EQ(ZelData_Ok, target().copyFrom(source_));
     EXPECT_EQ(ZelData_Ok, target_.storedCode());
+    ASSERT_FALSE(log_.empty());
     EXPECT_EQ("getTitle", log_.back());
 }
 
-/// A language list that cannot be read but "succeeds" does not stop the copy of the header.
+/// A language list that fails while its last error is success does not stop the copy.
 TEST_F(HeaderCopy, LanguagesThatFailWhileTheSourceKeptSuccessAreLeftOut)
 {
     source_.script.failAt("getOrderedLanguageIDs");
@@ -193,7 +194,7 @@ TEST_F(HeaderCopy, LanguagesThatFailWhileTheSourceKeptSuccessAreLeftOut)
     EXPECT_EQ(described(expected), targetState());
 }
 
-/// A header with duplicate content names, which only a caller's own header can have.
+/// A header that lists a content name twice, as only a caller's own class can.
 class RepeatingHeader : public ScriptedHeader {
 public:
     ZelDataResult_tags getContentNames(Texts& names) const override
@@ -203,7 +204,7 @@ public:
     }
 };
 
-TEST_F(HeaderCopy, ADuplicateContentNameEndsItWithAWarning)
+TEST_F(HeaderCopy, AContentNameListedTwiceEndsItWithAWarning)
 {
     RepeatingHeader source;
     fill(source, sampleValues());

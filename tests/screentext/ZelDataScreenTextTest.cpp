@@ -69,26 +69,7 @@ TEST(ScreenTextOrder, ComparesOnlyStarts)
 
 // Stored items that fail
 
-/// A collection that stores a test's items, which can fail.
-class ScreenTextOfFailing : public ZelDataScreenText {
-public:
-    ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override
-    {
-        auto item = std::make_unique<FailingScreenTextItem>();
-        last_ = item.get();
-        *out = item.release();
-        return ZelData_Ok;
-    }
-    /// Adds @p shown and returns the stored item.
-    FailingScreenTextItem& added(const Shown& shown)
-    {
-        EXPECT_EQ(ZelData_Ok, addScreenTextItem(*itemOf(shown)));
-        return *last_;
-    }
-
-private:
-    mutable FailingScreenTextItem* last_ = nullptr;
-};
+using ScreenTextOfFailing = CollectionOfFailing<ScreenTextKind, FailingScreenTextItem>;
 
 TEST(StoredScreenText, IsValidatedOnlyByADeepCheck)
 {
@@ -111,7 +92,7 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
     EXPECT_CODE(second, ZelData_WarnTiming, second.isValid(true));
 }
 
-// The check looks for disorder first, so it then reads the start of an item a second time.
+// The check of the order asks for each start before, so these fail at the second call.
 
 TEST(StoredScreenText, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {

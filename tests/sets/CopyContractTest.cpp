@@ -364,8 +364,8 @@ protected:
         return target.copyFrom(source);
     }
 
-    /// For each step of the source, copies from a source that @p prepare makes fail onto an object of
-    /// our own, and expects @p code.
+    /// For each step of the source: copies from one that @p prepare has made fail to an object of our
+    /// own, and expects @p code.
     template <class Prepare>
     static void failEachGetter(ZelDataResult_tags code, const Prepare& prepare)
     {
@@ -404,7 +404,7 @@ protected:
     }
 
 private:
-    /// The code of the copy, or ZelData_OutOfMemory if it must throw std::bad_alloc and does.
+    /// The code of the copy. Exhausted memory that it must let through counts as that code.
     static ZelDataResult_tags outcome(Interface& target, const Interface& source)
     {
         if constexpr (!Copies::letsThrough) return copy(target, source);
@@ -670,14 +670,14 @@ TYPED_TEST(CopiedLanguages, FollowTheNewOrderOfTheItems)
     EXPECT_CODE(source, ZelData_Ok, (source.*TypeParam::order)());
     EXPECT_CODE(*this->target_, ZelData_Ok,
                 this->target_->copyFrom(static_cast<const typename TypeParam::Data&>(source)));
-    EXPECT_EQ("de", languagesOf(*this->target_).front());
+    EXPECT_EQ("de", languagesOf(*this->target_).at(0));
 }
 
 TYPED_TEST(CopiedLanguages, DoNotIncludeOneWhoseTextsWereRemoved)
 {
     const auto source = newCollection<TypeParam>();
     TypeParam::fillTarget(*source); // one item with one language
-    const std::string id = languagesOf(*source).front();
+    const std::string id = languagesOf(*source).at(0);
     EXPECT_EQ(ZelData_Ok, ((*source).*TypeParam::removeLanguage)(id));
     EXPECT_EQ(IDs{id}, languagesOf(*source)) << "the source still lists it";
     EXPECT_CODE(*this->target_, ZelData_Ok, this->target_->copyFrom(*source));

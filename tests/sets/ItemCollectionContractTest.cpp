@@ -27,7 +27,7 @@ using Texts = std::map<std::string, std::string>;
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// What each kind adds: collections that make other items or hand out a null pointer, and a text that
+/// More about a kind: collections that make other items or hand out a null pointer, and a text that
 /// marks an item.
 template <class Kind>
 struct TextByLanguage : Kind {
@@ -45,10 +45,6 @@ struct TextByLanguage : Kind {
     }
 };
 
-/// A function that makes the items of a collection.
-template <class Item>
-using Maker = std::function<ZelDataResult_tags(Item**)>;
-
 struct Captions : TextByLanguage<CaptionKind> {
     using Fake = FailingCaptions;
     using FakeItem = FailingCaptionItem;
@@ -59,14 +55,8 @@ struct Captions : TextByLanguage<CaptionKind> {
     static void mark(Data& captions) { EXPECT_EQ(ZelData_Ok, captions.setFontSize(30)); }
     static bool isMarked(const Data& captions) { return styleOf(captions).fontSize == 30; }
 
-    /// A collection that makes its items with the given function, if there is one.
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createCaptionItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createCaptionItem(out);
-        }
-        /// Sets a rate that every setter refuses.
+    struct Made : CaptionKind::Made {
+        /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { style_.frameRate.value = rate; }
     };
 
@@ -96,13 +86,8 @@ struct Toc : TextByLanguage<TocKind> {
     static void mark(Data& toc) { EXPECT_EQ(ZelData_Ok, toc.setImageFile("t.png")); }
     static bool isMarked(const Data& toc) { return imageOf(toc) == "t.png"; }
 
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createTocItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createTocItem(out);
-        }
-        /// Sets a rate that every setter refuses.
+    struct Made : TocKind::Made {
+        /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
@@ -117,13 +102,8 @@ struct Toc : TextByLanguage<TocKind> {
 };
 
 struct ScreenText : ScreenTextKind {
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createScreenTextItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createScreenTextItem(out);
-        }
-        /// Sets a rate that every setter refuses.
+    struct Made : ScreenTextKind::Made {
+        /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
 
@@ -148,7 +128,7 @@ struct ScreenText : ScreenTextKind {
     }
 };
 
-/// An item whose start a test chooses, and which counts the living objects of its class.
+/// An item that takes its start from the test and counts the living objects of its class.
 template <class Kind>
 class OddItem : public Kind::OwnItem {
 public:
@@ -234,9 +214,10 @@ protected:
 
     Owned itemAt(unsigned long index)
     {
-        Item* out = nullptr;
-        EXPECT_CODE(collection_, ZelData_Ok, (collection_.*Kind::at)(&out, index));
-        return Owned(out);
+        return created<Item>([&](Item** out) {
+            EXPECT_CODE(collection_, ZelData_Ok, (collection_.*Kind::at)(out, index));
+            return collection_.getLastError();
+        });
     }
 
     /// Makes the collection create good items from now on, and one that cannot be filled at call @p nth.
@@ -637,8 +618,8 @@ TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)
 
 // Order
 
-/// The expected order, computed step by step: each place in turn swaps with every later place whose
-/// start is smaller.
+/// The expected order, step by step: each place in turn is exchanged with every smaller start after
+/// it.
 void exchangeSort(std::vector<Timed>& items)
 {
     for (std::size_t i = 0; i + 1 < items.size(); ++i)

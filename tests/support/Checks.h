@@ -11,6 +11,7 @@
 #include <iomanip>
 #include <memory>
 #include <ostream>
+#include <stdexcept>
 
 namespace ZelInterchangeData {
 
@@ -35,16 +36,24 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
         EXPECT_EQ(expectedCode_, checkedObject_.getLastError()) << "last error of " #object;       \
     } while (false)
 
-/// Ignores the code of a call that the object may refuse; the test checks what the object then holds.
+/// Ignores the code of a call that an object may refuse: the test looks at what it then holds.
 inline void mayRefuse(::ZelInterchangeData::ZelDataResult_tags /*code*/) {}
 
-/// Makes an object with @p create, a factory that takes an out-pointer.
-template <class Interface>
-std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(Interface**))
+/// The object that @p create puts into an out-pointer. If it puts none, the test fails and ends.
+template <class Interface, class Create>
+std::unique_ptr<Interface> created(const Create& create)
 {
     Interface* made = nullptr;
     EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, create(&made));
+    if (made == nullptr) throw std::runtime_error("no object was made");
     return std::unique_ptr<Interface>(made);
+}
+
+/// A new object from @p create, a factory that takes an out-pointer.
+template <class Interface>
+std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(Interface**))
+{
+    return created<Interface>(create);
 }
 
 /// Makes a formatter with @p create.
@@ -52,10 +61,8 @@ template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(
     Interface**, ::ZelInterchangeData::ZelDataFormatType_tags))
 {
-    Interface* made = nullptr;
-    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok,
-              create(&made, ::ZelInterchangeData::ZelDataFormat_Xmp));
-    return std::unique_ptr<Interface>(made);
+    return created<Interface>(
+        [create](Interface** out) { return create(out, ::ZelInterchangeData::ZelDataFormat_Xmp); });
 }
 
 /// A formatter that @p create makes and that @p set gives what @p source makes.

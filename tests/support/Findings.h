@@ -130,7 +130,26 @@ inline ZelDataResult_tags codeFor(const Findings& findings)
     return findings.empty() ? ZelData_Ok : codeFor(findings.front().kind);
 }
 
-/// Expects that findProblems() returns @p code for @p collection and finds nothing.
+/// Expects of many random collections that findProblems() finds what must be found and agrees with
+/// isValid(true). @p next returns a collection and what must be found in it. At least a tenth of the
+/// collections are valid, and less than @p mostValid of them.
+template <class Next>
+void expectAgreement(double mostValid, const Next& next)
+{
+    constexpr int rounds = 100000;
+    int valid = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const auto [collection, expected] = next();
+        const Findings findings = findingsOf(*collection);
+        ASSERT_EQ(expected, findings) << "round " << round;
+        ASSERT_EQ(collection->isValid(true), codeFor(findings)) << "round " << round;
+        valid += findings.empty() ? 1 : 0;
+    }
+    EXPECT_GT(valid, rounds / 10);
+    EXPECT_LT(valid, rounds * mostValid);
+}
+
+/// Expects that @p code is what findProblems() gives for @p collection, and nothing is found.
 template <class Collection>
 void expectNoAnswer(ZelDataResult_tags code, const Collection& collection)
 {

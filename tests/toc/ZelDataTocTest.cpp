@@ -96,26 +96,7 @@ TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
 
 // Stored entries that fail
 
-/// A table that stores a test's entries, which can fail.
-class TocOfFailing : public ZelDataToc {
-public:
-    ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
-    {
-        auto item = std::make_unique<FailingTocItem>();
-        last_ = item.get();
-        *out = item.release();
-        return ZelData_Ok;
-    }
-    /// Adds @p entry and returns the stored one.
-    FailingTocItem& added(const Entry& entry)
-    {
-        EXPECT_EQ(ZelData_Ok, addTocItem(*itemOf(entry)));
-        return *last_;
-    }
-
-private:
-    mutable FailingTocItem* last_ = nullptr;
-};
+using TocOfFailing = CollectionOfFailing<TocKind, FailingTocItem>;
 
 TEST(StoredEntry, IsValidatedOnlyByADeepCheck)
 {
@@ -148,7 +129,7 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-// The check looks for disorder first, so it then reads the start of an entry a second time.
+// The check of the order asks for each start before, so these fail at the second call.
 
 TEST(StoredEntry, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {

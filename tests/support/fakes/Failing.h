@@ -16,8 +16,8 @@ namespace ZelInterchangeData {
 /// Called before each operation of every such object in this thread, unless it is empty.
 inline thread_local std::function<void()> beforeEachCall;
 
-/// A @p Base that fails where a test asks for it. A class that derives from it overrides operations
-/// and passes each through run(). It counts the objects of its kind that are alive.
+/// A @p Base that fails where a test wants it. A class that derives from it overrides operations and
+/// passes each through run(). It counts the living objects of its kind.
 template <class Base>
 class Failing : public Base {
 public:
@@ -60,7 +60,7 @@ public:
     /// The code that the library stored, whatever getLastError() returns.
     ZelDataResult_tags storedError() const { return Base::getLastError(); }
 
-    /// Makes an operation hand out its list of items before it fails.
+    /// From now on a getter delivers its value before it fails.
     void handOutBeforeFailing() { handsOut_ = true; }
 
     /// The operations that were called so far, in order.
@@ -82,13 +82,11 @@ protected:
         if (name != operation_ || --remaining_ != 0) return operation();
         return action_();
     }
-    /// Hands out a list of items with @p operation, also before a failure if a test asks for it.
     template <class Operation>
-    ZelDataResult_tags runHandingOut(const char* name, Operation&& operation) const
+    ZelDataResult_tags runGetter(const char* name, Operation&& operation) const
     {
         if (!handsOut_) return run(name, operation);
-        static_cast<void>(operation());
-        return run(name, [] { return ZelData_Ok; });
+        return run(name, [code = operation()] { return code; });
     }
 
 private:
