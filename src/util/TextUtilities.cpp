@@ -75,7 +75,7 @@ public:
         return ((high ^ lead ^ expected) | neverLead) == 0; // the other high bytes continue
     }
 
-    /// Whether a sequence is incomplete at the end of the last block.
+    /// Whether a sequence is incomplete at the end of the block added last.
     bool isOpen() const noexcept { return open_ != 0; }
 
 private:
@@ -94,8 +94,8 @@ inline bool isWellFormed(std::string_view text) noexcept
         if (highBits(block) == 0 && !sequences.isOpen()) continue;
         if (!sequences.addBlock(block)) return false;
     }
-    return sequences.addBlock(lastBytes(text, static_cast<std::size_t>(end - position))) &&
-           !sequences.isOpen();
+    // It ends with a zero byte, which completes no sequence.
+    return sequences.addBlock(lastBytes(text, static_cast<std::size_t>(end - position)));
 }
 
 /// The control characters below the space, most of which XML forbids, except the line feed.

@@ -239,7 +239,7 @@ TEST(CaptionFindings, ACaptionThatEndsBeforeItStartsCanBeOutOfOrder)
 TEST(CaptionFindings, TextsAndLanguagesAreCheckedSeparately)
 {
     ToldCaptions captions;
-    captions.items = {{0, 1000, 1000, {{"en", "\xFF"}, {"zz", "a"}, {"yy", "\xFF"}}}};
+    captions.items = {{0, 1000, 1000, {{"en", "\xFF"}, {"zz", "\U0001F600"}, {"yy", "\xFF"}}}};
     EXPECT_EQ((Lines{"caption 0 at 0 ms: the language zz is not known",
                      "caption 0 at 0 ms: the text in yy is not UTF-8",
                      "caption 0 at 0 ms: the language yy is not known",
@@ -379,6 +379,20 @@ TEST(CaptionFindings, AFailingItemEndsTheSearch)
             captions, operation, nth, [&](const auto& arm) { captions.prepareItems(arm); });
         EXPECT_EQ(alive, FailingCaptionItem::alive()) << operation;
     }
+}
+
+TEST(CaptionFindings, ATimeThatAnItemDoesNotSetCountsAsZero)
+{
+    const auto linesWithout = [](const std::string& getter) {
+        FailingCaptions captions;
+        add(captions, {{0, 1000, {{"en", "a"}}}, {0, 1000, {{"en", "b"}}}});
+        captions.prepareItems(
+            [&](FailingCaptionItem& item) { item.failAt(getter, ZelData_Ok, ZelData_Ok); });
+        return linesOf(captions);
+    };
+    EXPECT_EQ(Lines{}, linesWithout("getEnd"));
+    EXPECT_EQ("caption 0 at 0 ms: no duration (0 ms, at least 1 ms)",
+              linesWithout("getDuration").at(0));
 }
 
 /// Captions that hand out a null pointer.

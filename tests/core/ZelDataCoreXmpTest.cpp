@@ -161,10 +161,11 @@ TEST_F(ZelDataCoreXmpTest, ExhaustedMemoryOfTheCaptionsIsNotIgnored)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
-    captions().on("getOrderedLanguageIDs", answering(ZelData_OutOfMemory, ZelData_OutOfMemory));
-    expectFailure(ZelData_OutOfMemory);
-    captions().on("getOrderedLanguageIDs", throwing(std::bad_alloc()));
-    expectFailure(ZelData_OutOfMemory);
+    for (const Act& act :
+         {answering(ZelData_OutOfMemory, ZelData_OutOfMemory), throwing(std::bad_alloc())}) {
+        captions().on("getOrderedLanguageIDs", atCall(1, act));
+        expectFailure(ZelData_OutOfMemory);
+    }
 }
 
 TEST_F(ZelDataCoreXmpTest, AnExceptionOfTheCaptionsIsAnInternalError)
@@ -198,6 +199,15 @@ TEST_F(ZelDataCoreXmpTest, LanguagesThatCannotBeCountedReturnTheHeadersLastError
     setHeader(*sampleHeader());
     header().on("getLanguageCount", answering(ZelData_WarnTiming, ZelData_InvalidItem));
     expectFailure(ZelData_InvalidItem);
+}
+
+TEST_F(ZelDataCoreXmpTest, ANumberOfLanguagesThatTheHeaderDoesNotSetCountsAsZero)
+{
+    setHeader(*sampleHeader());
+    EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
+    header().on("getLanguageCount", answering(ZelData_Ok, ZelData_Ok));
+    expectSuccess();
+    EXPECT_EQ("en-US", languages().back());
 }
 
 TEST_F(ZelDataCoreXmpTest, AmericanEnglishThatTheHeaderRefusesReturnsItsLastError)

@@ -25,6 +25,11 @@ TEST(ScreenTextFindings, NoDurationOverlapAndEmptyTextAreFine)
     EXPECT_EQ(Lines{}, linesOf(*screenTextOf({{5, 0}, {5, 9000}, {6, 1}})));
 }
 
+TEST(ScreenTextFindings, AnyCharacterIsFine)
+{
+    EXPECT_EQ(Lines{}, linesOf(*screenTextOf({{0, 1, "\U0001F600"}})));
+}
+
 TEST(ScreenTextFindings, AnEndThatWrapsIsFine)
 {
     constexpr auto most = std::numeric_limits<long long>::max();

@@ -79,6 +79,13 @@ TEST(StoredScreenText, IsValidatedOnlyByADeepCheck)
     EXPECT_CODE(texts, ZelData_NotFound, texts.isValid(true));
 }
 
+TEST(StoredScreenText, IsValidatedStrictly)
+{
+    CollectionOfFailing<ScreenTextKind, StrictlyChecked<ZelDataScreenTextItem>> texts;
+    texts.added({1});
+    EXPECT_CODE(texts, ZelData_WarnItemGuidelines, texts.isValid(true));
+}
+
 TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierOne)
 {
     ScreenTextOfFailing first;

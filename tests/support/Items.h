@@ -84,6 +84,17 @@ private:
     FailingItem* last_ = nullptr;
 };
 
+/// An item in which only a strict check finds something.
+template <class Item>
+class StrictlyChecked : public Item {
+public:
+    ZelDataResult_tags isValid(bool strict) const override
+    {
+        this->setLastError(strict ? ZelData_WarnItemGuidelines : ZelData_Ok);
+        return this->getLastError();
+    }
+};
+
 /// The texts of @p item by language.
 template <class Item>
 std::map<std::string, std::string> textsOf(const Item& item)

@@ -106,6 +106,13 @@ TEST(StoredEntry, IsValidatedOnlyByADeepCheck)
     EXPECT_CODE(toc, ZelData_NotFound, toc.isValid(true));
 }
 
+TEST(StoredEntry, IsValidatedStrictly)
+{
+    CollectionOfFailing<TocKind, StrictlyChecked<ZelDataTocItem>> toc;
+    toc.added({});
+    EXPECT_CODE(toc, ZelData_WarnItemGuidelines, toc.isValid(true));
+}
+
 TEST(StoredEntry, AWarningWhenItIsValidatedFailsTheCheck)
 {
     TocOfFailing toc;

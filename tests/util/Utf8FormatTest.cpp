@@ -234,6 +234,21 @@ TEST(VerifyUtf8Format, ChecksEveryContinuationByteOfTheLongForms)
     });
 }
 
+TEST(VerifyUtf8Format, RefusesASequenceWithOtherCharactersInside)
+{
+    forEachLongLead([](std::size_t length, const std::string& lead) {
+        for (std::size_t before = 0; before < 16; ++before) {
+            for (std::size_t inside = 1; inside <= 24; ++inside) {
+                const std::string begun = std::string(before, 'a') + lead;
+                const std::string rest(length - 1, '\x9F');
+                EXPECT_EQ(check(begun + rest + "b"), ZelData_Ok);
+                EXPECT_EQ(check(begun + std::string(inside, 'i') + rest + "b"), ZelData_InvalidUtf8)
+                    << before << ' ' << inside;
+            }
+        }
+    });
+}
+
 TEST(VerifyUtf8Format, AcceptsOverlongFormsOfThreeAndFourBytes)
 {
     EXPECT_EQ(check("\xE0\x80\x80"), ZelData_Ok);
