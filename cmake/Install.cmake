@@ -7,7 +7,16 @@ set(zel_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/ZelInterchangeData)
 set(zel_runtime ZelInterchangeData_Runtime)
 set(zel_development ZelInterchangeData_Development)
 
-install(TARGETS ZelInterchangeData ZelInterchangeDataStatic EXPORT ZelInterchangeDataTargets
+set(zel_targets ZelInterchangeDataStatic)
+get_target_property(zel_kind ZelInterchangeData TYPE)
+if(zel_kind STREQUAL SHARED_LIBRARY)
+    list(APPEND zel_targets ZelInterchangeData)
+else()
+    set(zel_pc_static_flag " -DZELINTERCHANGEDATA_STATIC")
+endif()
+
+install(TARGETS ${zel_targets} EXPORT ZelInterchangeDataTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${zel_runtime}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         COMPONENT ${zel_runtime} NAMELINK_COMPONENT ${zel_development}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${zel_development}

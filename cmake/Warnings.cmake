@@ -3,6 +3,11 @@
 # without them.
 
 function(zel_warnings target)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE
+            $<$<BOOL:${ZELINTERCHANGEDATA_WARNINGS}>:/W4> $<$<BOOL:${ZELINTERCHANGEDATA_WERROR}>:/WX>)
+        return()
+    endif()
     if(ZELINTERCHANGEDATA_WARNINGS)
         target_compile_options(${target} PRIVATE
             -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast

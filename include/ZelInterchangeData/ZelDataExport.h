@@ -7,13 +7,20 @@
 
 /// @def ZELINTERCHANGEDATA_API
 /// Marks what the shared library exports. Empty if ZELINTERCHANGEDATA_STATIC is defined, as it
-/// is for the static library, which exports nothing from the program that links it.
+/// is for the static library, which exports nothing from the program that links it. On Windows, it
+/// exports if ZELINTERCHANGEDATA_EXPORTS is defined, as it is while the shared library is compiled,
+/// and otherwise imports: a program that links the static library there must define
+/// ZELINTERCHANGEDATA_STATIC.
 
 // Deliberate: the static form is empty, not "hidden"; with hidden interfaces g++ would warn about
 // every class of the program that has a pointer to one. The static library itself is compiled with
 // hidden visibility, which decides at link time.
 #if defined(ZELINTERCHANGEDATA_STATIC)
 #define ZELINTERCHANGEDATA_API
+#elif defined(_WIN32) && defined(ZELINTERCHANGEDATA_EXPORTS)
+#define ZELINTERCHANGEDATA_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define ZELINTERCHANGEDATA_API __declspec(dllimport)
 #elif defined(__GNUC__)
 #define ZELINTERCHANGEDATA_API __attribute__((visibility("default")))
 #else
@@ -23,7 +30,7 @@
 /// @def ZELINTERCHANGEDATA_INLINE
 /// Marks what a header defines. It is compiled into the program or shared library that includes the
 /// header and is invisible to every other one in the process.
-#if defined(__GNUC__)
+#if defined(__GNUC__) && !defined(_WIN32)
 #define ZELINTERCHANGEDATA_INLINE [[gnu::visibility("hidden")]]
 #else
 #define ZELINTERCHANGEDATA_INLINE

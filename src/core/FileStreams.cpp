@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cwchar>
+#ifdef _WIN32
+#include <filesystem>
+#endif
 #include <locale>
 #include <type_traits>
 
@@ -104,6 +107,31 @@ std::locale byteLocale()
     return withFacet<ByteConversion>(withFacet<ByteCharacters>(std::locale::classic()));
 }
 
+#ifdef _WIN32
+
+/// Opens the file at @p path, which is UTF-8; any other text names no file.
+template <class Stream>
+void openFile(Stream& stream, const std::string& path)
+{
+    std::filesystem::path systemPath;
+    try {
+        systemPath = std::filesystem::u8path(path);
+    } catch (const std::system_error&) {
+        return;
+    }
+    stream.open(systemPath, std::ios::binary);
+}
+
+#else
+
+template <class Stream>
+void openFile(Stream& stream, const std::string& path)
+{
+    stream.open(path, std::ios::binary);
+}
+
+#endif
+
 /// A base class, so that it outlives the stream, which is built after it.
 struct StreamBuffer {
     std::array<wchar_t, 4096> buffer{};
@@ -119,7 +147,7 @@ public:
         this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
         this->imbue(byteLocale());
         // The system ends a path at its first zero byte, so it would open another file.
-        if (path.find('\0') == std::string::npos) this->open(path);
+        if (path.find('\0') == std::string::npos) openFile<Stream>(*this, path);
     }
 
     /// Discards what a failed or cancelled write has left: a full pipe would block the thread

@@ -186,7 +186,7 @@ ZelDataResult_tags ZelDataHeader::removeContentName(const std::string& name)
 
 ZelDataResult_tags ZelDataHeader::getContentNameCount(unsigned long& count) const
 {
-    count = contentNames_.texts().size();
+    count = static_cast<unsigned long>(contentNames_.texts().size());
     return store(ZelData_Ok);
 }
 

@@ -68,7 +68,7 @@ void FindingList::addLater(long long bound, std::size_t later, long long laterSt
     ZelDataFinding& finding = add(outOfOrder ? ZelDataFinding_OutOfOrder : ZelDataFinding_Overlap);
     finding.value = outOfOrder ? start_ : bound;
     finding.limit = laterStart;
-    finding.laterItem = later;
+    finding.laterItem = static_cast<unsigned long>(later);
     finding.laterStart = laterStart;
 }
 

@@ -21,7 +21,7 @@ public:
     /// The findings that follow are about the item at @p item, which starts at @p start.
     void setItem(std::size_t item, long long start) noexcept
     {
-        item_ = item;
+        item_ = static_cast<unsigned long>(item);
         start_ = start;
     }
 

@@ -53,7 +53,10 @@ public:
         return *this;
     }
 
-    unsigned long count() const noexcept { return slots_.read().size(); }
+    unsigned long count() const noexcept
+    {
+        return static_cast<unsigned long>(slots_.read().size());
+    }
 
     void clear()
     {

@@ -70,7 +70,7 @@ ZelDataResult_tags removeOwnTexts(ItemList<Item, Own>& items, const std::string&
             code = ZelData_NotFound;
         }
     }
-    for (std::size_t i = 0; i < prepared.size(); ++i)
+    for (unsigned long i = 0; i < prepared.size(); ++i)
         items.changeState(i).changeTexts().finishRemoval(languageID, std::move(prepared[i]));
     return code;
 }

@@ -53,7 +53,7 @@ public:
 
     ZelDataResult_tags getLanguageCount(unsigned long& count) const override
     {
-        count = languages_.ids().size();
+        count = static_cast<unsigned long>(languages_.ids().size());
         return this->store(ZelData_Ok);
     }
 

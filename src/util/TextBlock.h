@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace ZelInterchangeData {
 
@@ -35,6 +36,7 @@ public:
     template <class Number>
     void appendNumber(Number number)
     {
+        static_assert(std::is_integral_v<Number>);
         constexpr std::size_t most = 24;
         if (block_.size() - size_ < most) flush();
         char* const begin = block_.data() + size_;

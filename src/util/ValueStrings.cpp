@@ -7,9 +7,21 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <type_traits>
+
+#ifdef _WIN32
+#include "util/UtcCalendar.h"
+#endif
+
+#ifndef __cpp_lib_to_chars
+#include <cfenv>
+#include <locale>
+#include <sstream>
+#endif
 
 namespace ZelInterchangeData {
 
@@ -22,11 +34,36 @@ using NumberBuffer = std::array<char, 32>;
 template <class Number, class... Format>
 std::string numberText(Number value, Format... format)
 {
+    static_assert(std::is_integral_v<Number> || sizeof...(Format) != 0);
     NumberBuffer buffer;
     char* const begin = buffer.data();
     const auto result = std::to_chars(begin, begin + buffer.size(), value, format...);
     return std::string(begin, result.ptr);
 }
+
+#ifdef __cpp_lib_to_chars
+
+std::string finiteText(double value)
+{
+    constexpr int significantDigits = 6;
+    return numberText(value, std::chars_format::general, significantDigits);
+}
+
+#else
+
+// Without the macro std::to_chars may take no floating-point number, or only on newer systems.
+std::string finiteText(double value)
+{
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    const int rounding = std::fegetround();
+    std::fesetround(FE_TONEAREST);
+    stream << value;
+    std::fesetround(rounding);
+    return stream.str();
+}
+
+#endif
 
 /// The calendar date and the time of day; the year in 64 bits, because it may exceed an int.
 std::string dateAndTime(const std::tm& utc)
@@ -37,6 +74,33 @@ std::string dateAndTime(const std::tm& utc)
         utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
     return {buffer.data(), static_cast<std::size_t>(length)};
 }
+
+#ifdef _WIN32
+
+bool utcTime(long long instant, std::tm& utc)
+{
+    return utcCalendar(instant, utc);
+}
+
+bool localTime(long long instant, std::tm& local)
+{
+    const __time64_t seconds = instant;
+    return _localtime64_s(&local, &seconds) == 0;
+}
+
+#else
+
+bool utcTime(std::time_t instant, std::tm& utc)
+{
+    return gmtime_r(&instant, &utc) != nullptr;
+}
+
+bool localTime(std::time_t instant, std::tm& local)
+{
+    return localtime_r(&instant, &local) != nullptr;
+}
+
+#endif
 
 /// The zone offset of a date, from the hour fields alone.
 std::string hourOffset(int utcHour, int localHour)
@@ -65,8 +129,9 @@ std::string decimalText(unsigned long long value)
 
 std::string generalText(double value)
 {
-    constexpr int significantDigits = 6;
-    return numberText(value, std::chars_format::general, significantDigits);
+    if (std::isfinite(value)) return finiteText(value);
+    // Here and there std::to_chars writes "-nan(ind)".
+    return std::string(std::signbit(value) ? "-" : "").append(std::isnan(value) ? "nan" : "inf");
 }
 
 std::string ZelDataUtilities::getValueString(float value)
@@ -107,7 +172,7 @@ std::string ZelDataUtilities::getDateString(long* seconds)
     const std::time_t instant = seconds == nullptr ? std::time(nullptr) : *seconds;
     std::tm utc{};
     std::tm local{};
-    if (gmtime_r(&instant, &utc) == nullptr || localtime_r(&instant, &local) == nullptr) return {};
+    if (!utcTime(instant, utc) || !localTime(instant, local)) return {};
     // Deliberate: the date is in UTC but has the local offset; local fields would shift it by that
     // offset.
     return dateAndTime(utc) + hourOffset(utc.tm_hour, local.tm_hour);

@@ -7,7 +7,7 @@
 
 namespace ZelInterchangeData {
 
-ZelDataXmlAttribute::ZelDataXmlAttribute(ZelDataXmlNode* owner, std::pmr::memory_resource* memory)
+ZelDataXmlAttribute::ZelDataXmlAttribute(ZelDataXmlNode* owner, TreeMemory* memory)
     : name_(memory), owner_(owner)
 {
 }

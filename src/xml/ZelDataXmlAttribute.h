@@ -4,9 +4,10 @@
 #ifndef ZELINTERCHANGEDATA_XML_ZELDATAXMLATTRIBUTE_H
 #define ZELINTERCHANGEDATA_XML_ZELDATAXMLATTRIBUTE_H
 
+#include "xml/TreeMemory.h"
 #include "xml/ZelDataXmlAttributeValue.h"
 
-#include <memory_resource>
+#include <cstddef>
 #include <string>
 
 namespace ZelInterchangeData {
@@ -17,9 +18,8 @@ class ZelDataXmlNode;
 class ZelDataXmlAttribute {
 public:
     /// An attribute of @p owner with an empty name and value. The owner does not list it. Its name
-    /// uses @p memory.
-    explicit ZelDataXmlAttribute(
-        ZelDataXmlNode* owner, std::pmr::memory_resource* memory = std::pmr::new_delete_resource());
+    /// uses @p memory, or the heap if that is null.
+    explicit ZelDataXmlAttribute(ZelDataXmlNode* owner, TreeMemory* memory = nullptr);
 
     /// Replaces the name; null is an empty name. Returns the value, which leads back to the owner.
     ZelDataXmlAttributeValue& operator<(const char* name);
@@ -33,7 +33,7 @@ public:
     ZelDataXmlAttribute& operator=(const ZelDataXmlAttribute&) = delete;
 
 private:
-    std::pmr::string name_;
+    TreeString name_;
     ZelDataXmlAttributeValue value_;
     ZelDataXmlNode* owner_;
 };

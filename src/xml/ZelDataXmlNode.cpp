@@ -34,9 +34,8 @@ struct OpenElement {
 // A node without a parent, or that is its own parent, is a root.
 ZelDataXmlNode::ZelDataXmlNode(ZelDataXmlNode* parent)
     : ownMemory_(parent == nullptr || parent == this ? std::make_unique<TreeMemory>() : nullptr),
-      memory_(ownMemory_ != nullptr ? ownMemory_->resource() : parent->memory_),
-      currentGroup_(memory_), children_(memory_), name_(memory_), attributes_(memory_),
-      parent_(parent)
+      memory_(ownMemory_ != nullptr ? ownMemory_.get() : parent->memory_), currentGroup_(memory_),
+      children_(memory_), name_(memory_), attributes_(memory_), parent_(parent)
 {
 }
 
@@ -165,9 +164,9 @@ ZelDataXmlNode* ZelDataXmlNode::findChild(std::string_view name) const
 ZelDataXmlNode& ZelDataXmlNode::addChild(std::string_view name)
 {
     makeRoom(children_);
-    std::pmr::string ownName(name, memory_);
+    TreeString ownName(name, memory_);
     ChildGroup entry(memory_);
-    ZelDataXmlNode*& entered = entry.emplace(name, nullptr).first->second;
+    ZelDataXmlNode*& entered = entry.emplace(ownName, nullptr).first->second;
     entered = make<ZelDataXmlNode>(this);
     // Nothing below can fail, so a child is in both places or in neither.
     entered->name_ = std::move(ownName);

@@ -11,9 +11,9 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <memory_resource>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -96,7 +96,10 @@ protected:
 
 private:
     /// Transparent, to look up a step of a path without copying it.
-    using ChildGroup = std::pmr::map<std::pmr::string, ZelDataXmlNode*, std::less<>>;
+    using ChildGroup = std::map<TreeString, ZelDataXmlNode*, std::less<>,
+                                TreeAllocator<std::pair<const TreeString, ZelDataXmlNode*>>>;
+    template <class Type>
+    using List = std::vector<Type, TreeAllocator<Type>>;
 
     template <class Object, class... Arguments>
     Object* make(Arguments&&... arguments);
@@ -107,12 +110,12 @@ private:
     void writeEndTag(std::string& out) const;
 
     std::unique_ptr<TreeMemory> ownMemory_; // of a root, for the whole tree
-    std::pmr::memory_resource* memory_;
+    TreeMemory* memory_;
     ChildGroup currentGroup_; // children of earlier groups are never looked up
-    std::pmr::vector<ZelDataXmlNode*> children_;
-    std::pmr::string name_;
+    List<ZelDataXmlNode*> children_;
+    TreeString name_;
     ZelDataXmlValue text_;
-    std::pmr::vector<ZelDataXmlAttribute*> attributes_;
+    List<ZelDataXmlAttribute*> attributes_;
     ZelDataXmlNode* parent_;
 };
 

@@ -2,6 +2,7 @@
 /// A captions collection: its styling, its languages and its items.
 
 #include "captions/Captions.h"
+#include "support/LongNumbers.h"
 #include "support/fakes/FailingCaptions.h"
 
 #include <cmath>
@@ -72,7 +73,7 @@ TEST(ZelDataCaptionsStyling, RefusesAFontSizeOutOfRangeAndKeepsTheOldOne)
 {
     ZelDataCaptions captions;
     EXPECT_EQ(ZelData_Ok, captions.setFontSize(30));
-    for (const unsigned long size : {0UL, 501UL, 0x100000001UL})
+    for (const unsigned long size : {0UL, 501UL, above32Bits(1)})
         EXPECT_CODE(captions, ZelData_InvalidArgument, captions.setFontSize(size));
     EXPECT_EQ(30U, styleOf(captions).fontSize);
 }

@@ -3,7 +3,9 @@
 
 #include "header/Headers.h"
 #include "support/Checks.h"
+#include "support/LongNumbers.h"
 
+#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
@@ -98,7 +100,7 @@ TEST_F(ZelDataHeaderTest, ZeroIsRefusedAsASizeAndTheEarlierValueStays)
           {&Header::setVideoWidth, &Header::getVideoWidth},
           {&Header::setVideoHeight, &Header::getVideoHeight}}) {
         // The last one does not fit into 32 bits and is not truncated.
-        for (const unsigned long value : {1UL, 4294967295UL, 0x100000000UL}) {
+        for (const unsigned long value : {1UL, 4294967295UL, above32Bits(0)}) {
             unsigned long read = 0;
             EXPECT_CODE(*header_, ZelData_Ok, (*header_.*set)(value));
             EXPECT_CODE(*header_, ZelData_InvalidArgument, (*header_.*set)(0));

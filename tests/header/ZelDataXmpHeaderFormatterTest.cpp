@@ -4,8 +4,10 @@
 #include "header/Headers.h"
 #include "header/ScriptedHeader.h"
 #include "support/Checks.h"
+#include "support/LongNumbers.h"
 
 #include <chrono>
+#include <limits>
 #include <memory>
 #include <regex>
 #include <string>
@@ -212,13 +214,13 @@ TEST_F(HeaderFormatter, WritesTheFlagsAsWords)
 TEST_F(HeaderFormatter, TruncatesNoNumber)
 {
     HeaderValues values = plainValues();
-    values.videoLength = 4294967296;
-    values.videoWidth = 4294967297;
-    values.videoHeight = 18446744073709551615UL;
+    values.videoLength = above32Bits(0);
+    values.videoWidth = above32Bits(1);
+    values.videoHeight = std::numeric_limits<unsigned long>::max();
     const std::string packet = written(values);
-    EXPECT_EQ("4294967296", attribute(packet, "xmpDM:value"));
-    EXPECT_EQ("4294967297", attribute(packet, "stDim:w"));
-    EXPECT_EQ("18446744073709551615", attribute(packet, "stDim:h"));
+    EXPECT_EQ(std::to_string(values.videoLength), attribute(packet, "xmpDM:value"));
+    EXPECT_EQ(std::to_string(values.videoWidth), attribute(packet, "stDim:w"));
+    EXPECT_EQ(std::to_string(values.videoHeight), attribute(packet, "stDim:h"));
 }
 
 TEST_F(HeaderFormatter, WritesLanguageIDsAsStoredInListOrder)

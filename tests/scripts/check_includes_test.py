@@ -101,6 +101,40 @@ class CheckIncludes(unittest.TestCase):
         self.assert_refused('examples/a.cpp:1: "util/Text.h" is internal; an example may '
                             "include only public headers")
 
+    def test_a_header_that_is_too_new_is_refused(self):
+        self.write("src/xml/A.h", "#include <memory_resource>\n")
+        self.assert_refused("src/xml/A.h:1: <memory_resource> is not in every macOS")
+
+    def test_names_that_are_too_new_are_refused(self):
+        self.write("src/xml/A.cpp", "std::pmr::string name; // std::pmr\n")
+        self.assert_refused("src/xml/A.cpp:1: std::pmr is not in every macOS")
+        self.write("src/xml/A.cpp", "")
+        self.write("include/ZelInterchangeData/B.h", "inline auto f = std :: chars_format::fixed;\n")
+        self.assert_refused("include/ZelInterchangeData/B.h:1: std::chars_format is not in every macOS")
+
+    def test_a_feature_macro_allows_its_names_and_no_others(self):
+        self.write("src/util/A.cpp", "#ifdef __cpp_lib_to_chars\n#if X\nstd::chars_format a;\n"
+                                     "#else\nstd::chars_format b;\n#endif\n#endif\n")
+        self.assert_accepted()
+        self.write("src/util/A.cpp", "#ifdef __cpp_lib_to_chars\nstd::pmr::string a;\n#endif\n")
+        self.assert_refused("src/util/A.cpp:2: std::pmr is not in every macOS")
+        for guard in ("#ifdef OTHER\n", "#ifndef __cpp_lib_to_chars\n",
+                      "#ifdef __cpp_lib_to_chars\n#else\n",
+                      "#ifdef __cpp_lib_to_chars\n#endif\n#ifdef OTHER\n"):
+            with self.subTest(guard=guard):
+                self.write("src/util/A.cpp", guard + "std::chars_format a;\n#endif\n")
+                self.assert_refused(f"src/util/A.cpp:{guard.count(chr(10)) + 1}: "
+                                    "std::chars_format is not in every macOS")
+
+    def test_conversions_of_numbers_are_left_to_two_files(self):
+        for name in ("to_chars", "from_chars"):
+            self.write("src/util/TextBlock.h", f"std::{name}(a, b, number);\n")
+            self.write("src/util/A.h", "")
+            self.assert_accepted()
+            self.write("src/util/A.h", f"std::{name}(a, b, number);\n")
+            self.assert_refused(f"src/util/A.h:1: std::{name} is left to "
+                                "src/util/TextBlock.h and src/util/ValueStrings.cpp")
+
     def test_an_empty_tree_is_refused(self):
         (self.root / "include/ZelInterchangeData/Thing.h").unlink()
         self.assert_refused("check-includes: no C++ file found")

@@ -4,6 +4,7 @@
 
 #include "captions/Captions.h"
 #include "screentext/Items.h"
+#include "support/LongNumbers.h"
 #include "support/fakes/FailingCaptions.h"
 #include "support/fakes/FailingToc.h"
 #include "toc/Entries.h"
@@ -694,7 +695,7 @@ TYPED_TEST(ItemCollection, AcceptsFrameRatesFrom1To10000)
 TYPED_TEST(ItemCollection, RefusesOtherFrameRatesAndKeepsTheEarlierOne)
 {
     EXPECT_CODE(this->collection_, ZelData_Ok, this->collection_.setFrameRate(25));
-    for (const unsigned long rate : {0UL, 10001UL, 0x100000001UL})
+    for (const unsigned long rate : {0UL, 10001UL, above32Bits(1)})
         EXPECT_CODE(this->collection_, ZelData_InvalidArgument,
                     this->collection_.setFrameRate(rate));
     EXPECT_EQ(25UL, frameRateOf(this->collection_));

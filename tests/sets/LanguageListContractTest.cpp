@@ -54,7 +54,7 @@ public:
     }
     ZelDataResult_tags getLanguageCount(unsigned long& count) const override
     {
-        count = ids_.size();
+        count = static_cast<unsigned long>(ids_.size());
         return store(ZelData_Ok);
     }
     ZelDataResult_tags getLanguageDisplayNames(IDs& names) const override

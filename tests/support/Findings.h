@@ -42,12 +42,12 @@ inline void PrintTo(const ZelDataFinding& finding, std::ostream* out)
 
 /// A finding of @p kind about the item at @p item, which starts at @p start.
 inline ZelDataFinding findingAt(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject,
-                                unsigned long item, long long start)
+                                std::size_t item, long long start)
 {
     ZelDataFinding finding;
     finding.kind = kind;
     finding.subject = subject;
-    finding.item = item;
+    finding.item = static_cast<unsigned long>(item);
     finding.start = start;
     return finding;
 }
@@ -66,16 +66,16 @@ inline ZelDataFinding inLanguage(ZelDataFinding finding, const std::string& lang
 }
 
 /// @p finding with the later item that its value refers to.
-inline ZelDataFinding withLater(ZelDataFinding finding, unsigned long item, long long start)
+inline ZelDataFinding withLater(ZelDataFinding finding, std::size_t item, long long start)
 {
-    finding.laterItem = item;
+    finding.laterItem = static_cast<unsigned long>(item);
     finding.laterStart = start;
     return limited(finding, finding.value, start);
 }
 
 /// An item that is stored before one that starts earlier.
-inline ZelDataFinding outOfOrder(ZelDataFindingSubject_tags subject, unsigned long item,
-                                 long long start, unsigned long later, long long laterStart)
+inline ZelDataFinding outOfOrder(ZelDataFindingSubject_tags subject, std::size_t item,
+                                 long long start, std::size_t later, long long laterStart)
 {
     const auto finding = findingAt(ZelDataFinding_OutOfOrder, subject, item, start);
     return withLater(limited(finding, start, laterStart), later, laterStart);

@@ -15,7 +15,7 @@ using Lines = std::vector<std::string>;
 
 constexpr auto subject = ZelDataFindingSubject_TocEntry;
 
-ZelDataFinding missing(unsigned long item, long long start, const std::string& language)
+ZelDataFinding missing(std::size_t item, long long start, const std::string& language)
 {
     ZelDataFinding finding = findingAt(ZelDataFinding_MissingText, subject, item, start);
     finding.language = language;

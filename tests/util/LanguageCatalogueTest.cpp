@@ -312,6 +312,8 @@ TEST_P(NameForLanguage, RefusesOtherIdsAndLeavesTheNameAlone)
 TEST_P(NameForLanguage, AnswersExhaustedMemoryAndLeavesTheNameAlone)
 {
     const std::string id = GetParam().longNamed;
+    if (nameBy(GetParam(), id).size() <= std::string().capacity())
+        GTEST_SKIP() << "a string needs no memory for it";
     std::string name = "before";
     ZelDataResult_tags code = ZelData_Ok;
     {

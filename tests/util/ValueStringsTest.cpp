@@ -4,6 +4,7 @@
 #include "util/ValueStrings.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "support/LongNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -163,8 +164,8 @@ TEST(GetValueStringOfLong, WritesAMinusBeforeNegativeValues)
 
 TEST(GetValueStringOfLong, TruncatesNoValue)
 {
-    EXPECT_EQ(getValueString(9223372036854775807L), "9223372036854775807");
-    EXPECT_EQ(getValueString(LONG_MIN), "-9223372036854775808");
+    EXPECT_EQ(getValueString(LONG_MAX), hasLongNumbers ? "9223372036854775807" : "2147483647");
+    EXPECT_EQ(getValueString(LONG_MIN), hasLongNumbers ? "-9223372036854775808" : "-2147483648");
 }
 
 TEST(GetValueStringOfUnsignedLongLong, WritesPlainDecimal)
@@ -182,8 +183,10 @@ TEST(GetValueStringOfUnsignedLong, WritesPlainDecimal)
 
 TEST(GetValueStringOfUnsignedLong, TruncatesNoValue)
 {
-    EXPECT_EQ(ZelDataUtilities::getValueString(4294967296UL), "4294967296");
-    EXPECT_EQ(ZelDataUtilities::getValueString(ULONG_MAX), "18446744073709551615");
+    EXPECT_EQ(ZelDataUtilities::getValueString(above32Bits(0)),
+              hasLongNumbers ? "4294967296" : "4294967295");
+    EXPECT_EQ(ZelDataUtilities::getValueString(ULONG_MAX),
+              hasLongNumbers ? "18446744073709551615" : "4294967295");
 }
 
 // Rates and versions
@@ -193,7 +196,8 @@ TEST(GetRateString, PutsAnFBeforeTheRate)
     EXPECT_EQ(ZelDataUtilities::getRateString(0), "f0");
     EXPECT_EQ(ZelDataUtilities::getRateString(30), "f30");
     EXPECT_EQ(ZelDataUtilities::getRateString(1000), "f1000");
-    EXPECT_EQ(ZelDataUtilities::getRateString(4294967296UL), "f4294967296");
+    EXPECT_EQ(ZelDataUtilities::getRateString(above32Bits(0)),
+              hasLongNumbers ? "f4294967296" : "f4294967295");
 }
 
 TEST(GetVersionString, JoinsMajorMinorAndPatch)
@@ -209,8 +213,10 @@ TEST(GetVersionString, JoinsMajorMinorAndPatch)
 
 TEST(GetVersionString, UsesAllHigherBitsAsMajor)
 {
-    EXPECT_EQ(ZelDataUtilities::getVersionString(0x100000000), "65536.0.0");
-    EXPECT_EQ(ZelDataUtilities::getVersionString(ULONG_MAX), "281474976710655.255.255");
+    EXPECT_EQ(ZelDataUtilities::getVersionString(above32Bits(0)),
+              hasLongNumbers ? "65536.0.0" : "65535.255.255");
+    EXPECT_EQ(ZelDataUtilities::getVersionString(ULONG_MAX),
+              hasLongNumbers ? "281474976710655.255.255" : "65535.255.255");
 }
 
 // Locales

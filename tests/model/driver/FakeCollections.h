@@ -71,7 +71,8 @@ protected:
     }
     Code count(const std::string& operation, unsigned long& count) const
     {
-        return this->call(operation, this->doing([&] { count = items_.size(); }));
+        return this->call(operation,
+                          this->doing([&] { count = static_cast<unsigned long>(items_.size()); }));
     }
     Code at(const std::string& operation, ItemInterface** out, unsigned long index) const
     {

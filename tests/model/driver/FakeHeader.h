@@ -62,7 +62,8 @@ public:
     }
     Code getContentNameCount(Number& count) const override
     {
-        return call("getContentNameCount", doing([&] { count = names_.size(); }));
+        return call("getContentNameCount",
+                    doing([&] { count = static_cast<Number>(names_.size()); }));
     }
     Code getContentNames(Texts& v) const override { return fetch("getContentNames", names_, v); }
     Code doesContentNameExist(Text& name, bool& exists) const override

@@ -57,7 +57,9 @@ public:
     }
     ZelDataResult_tags getLanguageCount(unsigned long& count) const override
     {
-        return this->call("getLanguageCount", this->doing([&] { count = languages_.size(); }));
+        return this->call("getLanguageCount", this->doing([&] {
+            count = static_cast<unsigned long>(languages_.size());
+        }));
     }
     ZelDataResult_tags getLanguageDisplayNames(Texts& names) const override
     {

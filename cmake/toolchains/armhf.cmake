@@ -1,0 +1,4 @@
+# Linux on 32-bit ARM.
+set(zel_triple arm-linux-gnueabihf)
+set(zel_processor arm)
+include(${CMAKE_CURRENT_LIST_DIR}/parts/linux.cmake)

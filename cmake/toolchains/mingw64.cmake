@@ -1,0 +1,3 @@
+# Windows on x86-64.
+set(zel_triple x86_64-w64-mingw32)
+include(${CMAKE_CURRENT_LIST_DIR}/parts/mingw.cmake)

@@ -1,0 +1,80 @@
+/// @file
+/// The memory of one element tree.
+
+#include "xml/TreeMemory.h"
+
+#include "support/FailingAllocation.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+namespace ZelInterchangeData {
+namespace {
+
+TEST(TreeMemory, HandsOutAlignedMemoryThatOverlapsNothing)
+{
+    TreeMemory memory;
+    std::vector<std::pair<char*, std::size_t>> places;
+    for (std::size_t i = 0; i < 3000; ++i) {
+        const std::size_t size = i * 7919 % 257;
+        const std::size_t alignment = std::size_t{1} << (i % 4);
+        auto* const place = static_cast<char*>(memory.allocate(size, alignment));
+        ASSERT_EQ(reinterpret_cast<std::uintptr_t>(place) % alignment, 0U) << i;
+        std::memset(place, static_cast<int>(i % 251), size);
+        places.emplace_back(place, size);
+    }
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const std::vector<char> expected(places[i].second, static_cast<char>(i % 251));
+        ASSERT_EQ(std::memcmp(places[i].first, expected.data(), expected.size()), 0) << i;
+    }
+}
+
+TEST(TreeMemory, HandsOutWhatIsLargerThanAPiece)
+{
+    TreeMemory memory;
+    for (const std::size_t size : {100000U, 1U, 200000U})
+        std::memset(memory.allocate(size, 8), 1, size);
+}
+
+/// The number of allocations that @p count places of 128 bytes take.
+std::size_t allocationsFor(int count)
+{
+    const FailingAllocation watch;
+    TreeMemory memory;
+    for (int i = 0; i < count; ++i)
+        memory.allocate(128, 8);
+    return watch.count();
+}
+
+TEST(TreeMemory, TakesLargePiecesThatGrow)
+{
+    EXPECT_EQ(allocationsFor(0), 0U);
+    EXPECT_EQ(allocationsFor(32), 1U);
+    EXPECT_EQ(allocationsFor(33), 2U);
+    EXPECT_EQ(allocationsFor(32768), 16U); // 4096 bytes, half as much again each time
+}
+
+TEST(TreeMemory, HandsOutMoreAfterARefusal)
+{
+    TreeMemory memory;
+    EXPECT_TRUE(runsOutOfMemory(0, [&] { memory.allocate(100, 8); }));
+    std::memset(memory.allocate(100, 8), 1, 100);
+}
+
+TEST(TreeAllocator, EqualsThoseOfTheSameTree)
+{
+    TreeMemory one;
+    TreeMemory other;
+    EXPECT_TRUE(TreeAllocator<char>(&one) == TreeAllocator<char>(&one));
+    EXPECT_FALSE(TreeAllocator<char>(&one) != TreeAllocator<char>(&one));
+    EXPECT_TRUE(TreeAllocator<char>(&one) != TreeAllocator<char>(&other));
+    EXPECT_FALSE(TreeAllocator<char>(&one) == TreeAllocator<char>(&other));
+}
+
+} // namespace
+} // namespace ZelInterchangeData
