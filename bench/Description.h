@@ -11,7 +11,7 @@
 
 namespace ZelInterchangeData::bench {
 
-/// Converts numbers to text without allocating, for writers that take texts alone.
+/// Converts numbers to text without allocating, for writers that only accept texts.
 class Digits {
 public:
     template <class Number>
@@ -27,7 +27,7 @@ private:
 };
 
 /// Describes a document to a @p Writer, which has open(name), attribute(name, text or number),
-/// text(text) and close(). Each peer does its own escaping, so the texts are passed as they are.
+/// text(text) and close(). Each writer escapes the texts itself.
 template <class Writer>
 class Description {
 public:

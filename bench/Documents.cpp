@@ -33,7 +33,8 @@ const std::array<Words, 3>& wordLists()
 
 constexpr std::array<std::string_view, 4> specialWords = {"<i>Bo</i>", "\"Yes\"", "you & I",
                                                           "don't"};
-/// Heavily tied: this many different starts whatever the size, so that the ties grow with it.
+/// The number of different starts with heavy ties. It is independent of the size, so the ties grow
+/// with it.
 constexpr unsigned distinctTiedStarts = 16;
 
 /// Random numbers that are the same with every standard library, unlike the libraries' own
@@ -70,7 +71,7 @@ std::string makeText(Dice& dice, const Words& words, std::size_t length, bool li
     return text;
 }
 
-/// A text of @p list as long as a line or two on the screen; every sixth has special characters.
+/// A text of @p list as long as one or two lines on the screen; every sixth has special characters.
 std::string captionText(Dice& dice, std::size_t list)
 {
     const std::size_t length = 36 + dice.below(40);
@@ -78,7 +79,7 @@ std::string captionText(Dice& dice, std::size_t list)
     return makeText(dice, wordLists()[list], length, twoLines, dice.below(6) == 0);
 }
 
-/// One line of @p list: it goes into an attribute, where writers differ over line feeds.
+/// One line of @p list: it becomes an attribute, in which writers treat line feeds differently.
 std::string titleText(Dice& dice, std::size_t list)
 {
     const std::size_t length = 24 + dice.below(32);

@@ -1,5 +1,5 @@
 /// @file
-/// The side data of made-up videos that all benchmarks write.
+/// The invented side data that all benchmarks write.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_DOCUMENTS_H
 #define ZELINTERCHANGEDATA_BENCH_DOCUMENTS_H
@@ -69,7 +69,7 @@ struct Header {
 struct Document {
     Header header;
     std::string tocImage;
-    /// In the order in which they are listed, which is that of their bytes.
+    /// In the order in which they are listed: ascending by bytes.
     Texts languages;
     std::vector<Caption> captions;
     std::vector<Entry> entries;
@@ -86,8 +86,8 @@ Document inWrittenOrder(const Document& document);
 /// @p count short texts: 0 English, 1 German with umlauts, 2 Japanese.
 std::vector<std::string> makeTexts(std::size_t count, int alphabet, bool withSpecialCharacters);
 
-/// Enough room for the packet of @p document; all writers that can reserve memory reserve this
-/// much.
+/// A size that is large enough for the packet of @p document; all writers that can reserve memory
+/// reserve it.
 std::size_t roomFor(const Document& document);
 
 } // namespace ZelInterchangeData::bench

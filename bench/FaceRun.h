@@ -1,5 +1,5 @@
 /// @file
-/// Does what LibraryRun.h does, through the face.
+/// Does the same as LibraryRun.h through the face.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_FACERUN_H
 #define ZELINTERCHANGEDATA_BENCH_FACERUN_H
@@ -10,9 +10,8 @@
 
 namespace ZelInterchangeData::bench {
 
-/// The packet of @p document: makes data objects, fills them, passes them to a document object and
-/// writes that, with the operations that fill(), set() and write() call, in the same order, through
-/// the checked views.
+/// Returns the packet of @p document. Calls the operations that fill(), set() and write() call, in
+/// the same order, through the checked views.
 std::string publishThroughFace(const Document& document);
 
 } // namespace ZelInterchangeData::bench

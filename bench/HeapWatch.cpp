@@ -1,6 +1,6 @@
 /// @file
-/// The replaced allocation functions. The rarer forms that are missing (aligned and non-throwing at
-/// once) end here too, because the standard library's versions call these.
+/// The replaced allocation functions. The missing forms (aligned and non-throwing) are counted too,
+/// because the standard library's versions call these.
 
 #include "bench/HeapWatch.h"
 

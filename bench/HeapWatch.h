@@ -11,13 +11,13 @@ namespace ZelInterchangeData::bench {
 struct HeapUse {
     /// Calls of operator new, of any form.
     std::size_t allocations = 0;
-    /// The most bytes held at one time beyond those held at the start, counted in the sizes that
-    /// the allocator really provided.
+    /// The most bytes held at one time in addition to those at the start, in the sizes that the
+    /// allocator provided.
     std::size_t peak = 0;
 };
 
-/// Watches from construction on; one at a time, and while no other thread allocates. Linking this
-/// replaces operator new for the whole program; without a watch, that costs one test of a flag.
+/// Counts from its construction on. Use one at a time, while no other thread allocates. Linking
+/// this replaces operator new for the whole program; without a watch, each call only tests a flag.
 class HeapWatch {
 public:
     HeapWatch();

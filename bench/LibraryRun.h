@@ -20,9 +20,9 @@ struct Sets {
     std::unique_ptr<i_ZelDataScreenText> screenText;
 };
 
-// Each of these throws std::runtime_error when an operation does not succeed.
+// Each of these throws std::runtime_error if an operation fails.
 
-/// Makes data objects that hold @p document, as an application does.
+/// Creates data objects that hold @p document, as an application does.
 Sets fill(const Document& document);
 
 /// Passes @p sets to a new document object.
@@ -31,7 +31,7 @@ std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
 /// The packet of @p core, in a new string.
 std::string write(const i_ZelInterchangeDataCore& core);
 
-/// A set of screen texts that start at @p starts, in this order.
+/// Screen texts that start at @p starts, in this order.
 std::unique_ptr<i_ZelDataScreenText> screenTextAt(const std::vector<long long>& starts);
 
 } // namespace ZelInterchangeData::bench

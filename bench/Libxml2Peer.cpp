@@ -26,7 +26,7 @@ public:
           writer_(xmlNewTextWriterMemory(buffer_.get(), 0), &xmlFreeTextWriter)
     {
         if (!buffer_ || !writer_) throw std::bad_alloc();
-        // When the room is not enough, doubling is faster than growing in small steps.
+        // If the buffer is too small, doubling is faster than growing in small steps.
         xmlBufferSetAllocationScheme(buffer_.get(), XML_BUFFER_ALLOC_DOUBLEIT);
     }
 

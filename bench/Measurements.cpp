@@ -24,20 +24,20 @@ std::size_t repeatsOf(std::size_t size, const Effort& effort)
     return std::max<std::size_t>(1, effort.captionsInTurn / size);
 }
 
-/// Short turns and more of them, where the document allows it: a disturbance then spoils fewer.
+/// More and shorter turns for small documents, so that a disturbance spoils fewer of them.
 int roundsOf(std::size_t size, const Effort& effort)
 {
     return effort.rounds * static_cast<int>(std::clamp<std::size_t>(20000 / size, 1, 5));
 }
 
-/// Elapsed time in seconds: what counts when threads work side by side.
+/// Elapsed time in seconds, for threads that work in parallel.
 double wallSeconds()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return std::chrono::duration<double>(now).count();
 }
 
-/// The processor time of this thread in seconds: excludes what other programs take meanwhile.
+/// The processor time of this thread in seconds: excludes the time that other programs take.
 double workSeconds()
 {
     timespec time{};
@@ -83,7 +83,7 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// The samples of all rounds; their position says what they are.
+/// The samples of all rounds; the position in a round says what was measured.
 template <std::size_t Count>
 struct Samples {
     void add(const std::array<double, Count>& round)
@@ -153,7 +153,7 @@ Round measureRound(const Document& document, const Document& written, std::size_
     return round;
 }
 
-/// Watches one write, its output included.
+/// Watches one write, including its output.
 void measureHeap(Case& result, const Document& document, const Document& written)
 {
     const Sets sets = fill(document);
@@ -182,7 +182,7 @@ template <class Library, class Plain>
 TextSpeed measureText(const TextSample& sample, const Effort& effort, Library&& library,
                       Plain&& plain)
 {
-    // Many short turns: a disturbance of some milliseconds then spoils few of them.
+    // Many short turns, so that a disturbance of some milliseconds spoils few of them.
     constexpr int passes = 10;
     const int turns = 20 * effort.rounds;
     std::size_t ours = 0;
@@ -198,7 +198,7 @@ TextSpeed measureText(const TextSample& sample, const Effort& effort, Library&& 
                              theirs += plain();
                      })});
     }
-    if (ours != theirs) throw std::runtime_error("the plain loop has another result");
+    if (ours != theirs) throw std::runtime_error("the plain loop returns another result");
     const auto [own, loop] = samples.medians();
     return {sample.name, static_cast<double>(sample.bytes) * passes / own, loop / own};
 }
@@ -224,7 +224,7 @@ Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
 ThreadGains measureThreads(const Effort& effort)
 {
     constexpr std::size_t size = 1000;
-    // More than for one thread, so that starting the threads does not show.
+    // More than for one thread, so that the time to start the threads does not matter.
     const std::size_t writes = 10 * repeatsOf(size, effort);
     const std::array<Document, 2> documents = {makeDocument(size, Order::shuffled, Pair::enDe),
                                                makeDocument(size, Order::shuffled, Pair::enJa)};
@@ -240,7 +240,8 @@ ThreadGains measureThreads(const Effort& effort)
     };
     Samples<6> samples;
     for (int round = 0; round < effort.rounds; ++round) {
-        // On its own, each document has its turn in a thread too, so that only the company differs.
+        // Writes the documents one by one in a thread, too, so that only the second thread makes a
+        // difference.
         samples.add({wallSecondsOf([&] { inThreads(1, library); }),
                      wallSecondsOf([&] { inThreads(1, [&](std::size_t) { library(1); }); }),
                      wallSecondsOf([&] { inThreads(2, library); }),

@@ -1,5 +1,5 @@
 /// @file
-/// What is measured for the table of ratios.
+/// The measurements for the table of ratios.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_MEASUREMENTS_H
 #define ZELINTERCHANGEDATA_BENCH_MEASUREMENTS_H
@@ -12,17 +12,18 @@
 
 namespace ZelInterchangeData::bench {
 
-/// How much work one figure takes.
+/// How much work to do for each figure.
 struct Effort {
-    /// The medians of the rounds count. Small documents have up to five times as many.
+    /// The number of rounds, of which the median counts; up to five times as many for small
+    /// documents.
     int rounds = 9;
-    /// Small documents are written several times in a turn, until they make this many captions, so
-    /// that the resolution of the clock does not show.
+    /// A turn writes a small document repeatedly, until it has written this many captions, so that
+    /// the resolution of the clock does not matter.
     std::size_t captionsInTurn = 4000;
 };
 
-/// Medians over the rounds, in seconds for one document. Each includes releasing what was made in
-/// it; `release` is for the caller's sets and the document object.
+/// Medians over the rounds, in seconds for one document. Each includes releasing what it created,
+/// except for the caller's sets and the document object: `release` is for those.
 struct Times {
     double fill = 0;
     double set = 0;
@@ -44,12 +45,12 @@ struct Case {
     HeapUse heap;
 };
 
-/// Library and peers take turns within each round. Throws std::runtime_error when library and
-/// appender differ in size.
+/// Library and peers take turns in each round. Throws std::runtime_error if the packets of library
+/// and appender differ in size.
 Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort);
 
-/// How many times the work of one thread two threads do in the same time, each with its own
-/// document.
+/// How much work two threads do, each with its own document, as a multiple of one thread's in the
+/// same time.
 struct ThreadGains {
     double library = 0;
     double appender = 0;

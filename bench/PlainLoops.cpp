@@ -1,5 +1,5 @@
 /// @file
-/// The loops that are the unit of the micro-benchmarks.
+/// The loops that the benchmarks compare with.
 
 #include "bench/PlainLoops.h"
 
@@ -7,7 +7,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// The number of continuation bytes that follow @p lead; -1 when it is not a lead byte.
+/// The number of continuation bytes that follow @p lead; -1 if it is not a lead byte.
 int followers(unsigned char lead)
 {
     if (lead < 0x80) return 0;

@@ -1,5 +1,5 @@
 /// @file
-/// The plainest way to do what the library's text functions do: one byte after another.
+/// The library's text functions as plain loops, one byte at a time.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_PLAINLOOPS_H
 #define ZELINTERCHANGEDATA_BENCH_PLAINLOOPS_H

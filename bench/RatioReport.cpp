@@ -1,5 +1,5 @@
 /// @file
-/// Computes the figures that count from the measurements: always the worst case.
+/// Computes the figures from the measurements, always for the worst case.
 
 #include "bench/RatioReport.h"
 
@@ -90,7 +90,7 @@ double exponent(const Case& small, const Case& large)
            std::log(static_cast<double>(large.size) / static_cast<double>(small.size));
 }
 
-/// From 1,000 captions to 100,000; a run without one of them says nothing about growth.
+/// From 1,000 captions to 100,000; without one of these sizes, the growth is not measured.
 Row growthRow(const std::vector<Case>& cases, Order order)
 {
     const std::string measure =
@@ -123,7 +123,8 @@ struct TextLimits {
     /// GB/s.
     double must;
     double goal;
-    /// As a multiple of the plain loop's speed; `must` divided by the loop's GB/s where it was set.
+    /// As a multiple of the plain loop's speed: `must` divided by the loop's GB/s on the machine
+    /// where it was set.
     double multiple;
 };
 
@@ -133,7 +134,7 @@ constexpr std::array<TextLimits, 5> textLimits = {{
     {"UTF-8 check, short Latin texts", 1, 2, 1.5},
     {"UTF-8 check, short CJK texts", 0.75, 2, 1.5},
     {"escape and strip, caption-length texts", 1.2, 2, 3.4},
-    {"escape, a text of nothing but \"&\", output", 0.4, 1, 1},
+    {"escape, a text of only \"&\", output", 0.4, 1, 1},
 }};
 
 void addTextRows(std::vector<Row>& rows, const std::vector<TextSpeed>& texts)

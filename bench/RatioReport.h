@@ -15,7 +15,7 @@ namespace ZelInterchangeData::bench {
 /// Everything that one run measured.
 struct Results {
     std::vector<Case> cases;
-    /// Empty on a machine with one processor only.
+    /// Empty on a machine with only one processor.
     std::optional<ThreadGains> threads;
     std::vector<TextSpeed> texts;
 };
@@ -23,9 +23,9 @@ struct Results {
 enum class Verdict {
     met,
     missed,
-    /// The run did not measure it, which a check does not accept.
+    /// Not measured in this run; a check fails.
     notMeasured,
-    /// Given for information: an absolute figure depends on the machine.
+    /// For information only: an absolute figure depends on the machine.
     shown
 };
 
@@ -40,9 +40,9 @@ struct Row {
 
 std::vector<Row> ratioRows(const Results& results);
 
-/// As Markdown; `\n` after each line.
+/// The table in Markdown; `\n` ends each line.
 std::string ratioTable(const std::vector<Row>& rows);
-/// One line for each case, as Markdown.
+/// The table of all cases in Markdown, one line each.
 std::string caseTable(const std::vector<Case>& cases);
 
 } // namespace ZelInterchangeData::bench

@@ -12,7 +12,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// What happens to a byte: harmless, dropped, or the entity of this number.
+/// How a byte is written: as it is, not at all, or as an entity.
 enum Kind : std::uint8_t { harmless, dropped, quote, ampersand, apostrophe, less, greater };
 
 constexpr std::array<std::string_view, 7> replacements = {"",       "",     "&quot;", "&amp;",
@@ -32,7 +32,7 @@ constexpr std::array<std::uint8_t, 256> makeKinds(Kind control)
     return kinds;
 }
 
-/// Texts of items lose their control characters; all others keep them.
+/// Drops the control characters of item texts; all other texts keep them.
 constexpr auto itemKinds = makeKinds(dropped);
 constexpr auto plainKinds = makeKinds(harmless);
 
@@ -189,7 +189,7 @@ private:
         openLanguage(language);
         const std::size_t before = out_.size();
         itemText(value);
-        // What the library writes in place of an empty text.
+        // The library writes this in place of an empty text.
         if (out_.size() == before) out_ += "{\\rtf1 }";
         out_ += "</rdf:li>";
     }

@@ -1,5 +1,5 @@
 /// @file
-/// What a program would do that had to write only this one packet.
+/// What a program that only had to write this packet would do.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_STRAIGHTAPPENDER_H
 #define ZELINTERCHANGEDATA_BENCH_STRAIGHTAPPENDER_H
@@ -10,8 +10,8 @@
 
 namespace ZelInterchangeData::bench {
 
-/// The packet of @p document, byte for byte the library's, apart from the date, which is the time
-/// of the call. Writes the items in their stored order and checks nothing.
+/// Returns the same packet of @p document as the library, byte for byte except for the date, the
+/// time of the call. Writes the items in their stored order and checks nothing.
 std::string appendPacket(const Document& document);
 
 } // namespace ZelInterchangeData::bench

@@ -1,5 +1,5 @@
 /// @file
-/// The short texts of the text benchmarks, and the library's functions, each under one name.
+/// The texts of the text benchmarks, and passes over them with the library's functions.
 
 #ifndef ZELINTERCHANGEDATA_BENCH_TEXTSAMPLES_H
 #define ZELINTERCHANGEDATA_BENCH_TEXTSAMPLES_H
@@ -21,11 +21,11 @@ struct TextSample {
 std::array<TextSample, 3> utf8Samples();
 /// Texts of caption length in all three, every sixth with special characters.
 TextSample captionSample();
-/// One long text that consists of characters that become entities; its bytes are those of the
+/// One long text of characters that all become entities; the number of bytes is that of the
 /// entities.
 TextSample entitySample();
 
-/// A pass over all texts; use the result, so that the compiler cannot leave out a call.
+/// A pass over all texts. Use the result, so that the compiler cannot remove a call.
 std::size_t countValid(const TextSample& sample);
 std::size_t countValidPlainly(const TextSample& sample);
 

@@ -21,7 +21,7 @@ public:
     void text(const char* value) { printer_.PushText(value); }
     void attribute(const char* name, const char* value) { printer_.PushAttribute(name, value); }
 
-    /// Bypasses the printer's own function for numbers, which formats with printf and takes longer.
+    /// Bypasses the printer's own function for numbers, which uses printf and takes longer.
     template <class Number, std::enable_if_t<std::is_integral_v<Number>, int> = 0>
     void attribute(const char* name, Number value)
     {
@@ -41,7 +41,7 @@ std::size_t writeWithTinyxml2(const Document& document, std::string* copy)
     Printer printer;
     Description(document, printer).describe();
     if (copy != nullptr) *copy = printer.printed().CStr();
-    // The size includes the final zero.
+    // The size includes the terminating zero.
     return static_cast<std::size_t>(printer.printed().CStrSize()) - 1;
 }
 

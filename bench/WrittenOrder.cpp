@@ -1,5 +1,5 @@
 /// @file
-/// The closed form of the exchange sort.
+/// Computes the order of the exchange sort directly.
 
 #include "bench/WrittenOrder.h"
 

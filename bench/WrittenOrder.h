@@ -10,7 +10,7 @@
 namespace ZelInterchangeData::bench {
 
 /// The indices of @p starts in the order that an exchange sort leaves, ties included, without its
-/// quadratic time; for preparing benchmarks, not fast itself.
+/// quadratic time. It prepares benchmarks and is not fast itself.
 std::vector<std::size_t> writtenOrder(const std::vector<long long>& starts);
 
 } // namespace ZelInterchangeData::bench

@@ -55,8 +55,8 @@ void probeTexts()
     section("escape.plain", [&] { return escapeAllPlainly(sample, out); });
 }
 
-/// What @p publish returns in ten rounds. The state in which the first round finds the heap then
-/// counts little.
+/// What @p publish returns in ten rounds. With ten rounds, the initial state of the heap matters
+/// little.
 template <class Publish>
 std::size_t tenRounds(Publish&& publish)
 {
@@ -77,8 +77,8 @@ void probeFace()
     section("face", [&] { return tenRounds(throughFace); });
 }
 
-/// Finds problems in captions in order, where the search for a later one that starts too early
-/// examines all of them.
+/// Finds problems in captions that are in order, so that the search for a later one that starts too
+/// early examines all of them.
 void probeFindings(std::size_t size)
 {
     const Sets sets = fill(makeDocument(size, Order::ascending, Pair::enDe));
@@ -98,7 +98,7 @@ void probeLanguages(std::size_t size)
 {
     const auto item = createCaptionItem();
     checked(*item).setDuration(1000);
-    const std::string text(1000, 'x'); // many of them are more than is packed
+    const std::string text(1000, 'x'); // many of them are too much to be packed
     section("texts." + std::to_string(size), [&] {
         for (std::size_t i = 0; i < size; ++i)
             checked(*item).setTextForLanguage(text, languageID(i * 7919 % size));

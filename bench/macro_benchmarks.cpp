@@ -56,7 +56,7 @@ void runAll(benchmark::State& state, const Document& document)
     count(state, document, bytes);
 }
 
-/// A peer, which gets the items in the order in which they are written.
+/// A peer, which receives the items in the order in which they are written.
 template <class Write>
 Run peer(Write writeOnce)
 {

@@ -54,7 +54,7 @@ std::vector<long long> startsOf(std::size_t count, Order order)
     return starts;
 }
 
-/// The set is made anew outside the measured time, because ordering it again would find it in
+/// Creates the set outside the measured time for each run, because a second run would find it in
 /// order.
 void orderByLibrary(benchmark::State& state, const std::vector<long long>& starts)
 {
@@ -68,7 +68,7 @@ void orderByLibrary(benchmark::State& state, const std::vector<long long>& start
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(starts.size()));
 }
 
-/// Items behind pointers, as a collection holds them.
+/// Items that are reached through pointers.
 std::vector<std::unique_ptr<Caption>> itemsAt(const std::vector<long long>& starts)
 {
     std::vector<std::unique_ptr<Caption>> items;

@@ -19,16 +19,15 @@ constexpr const char* usage =
     "Usage: ratio_table [--sizes N,N...] [--orders ORDER,ORDER...] [--rounds N] [--quick] "
     "[--check]\n"
     "\n"
-    "Measures in interleaved rounds and prints two Markdown tables: the ratios that count, each "
-    "in\n"
-    "its worst case, and all cases, with times as multiples of the straight appender's.\n"
-    "  --sizes   captions in a document (default 100,1000,10000,100000)\n"
+    "Measures in interleaved rounds and prints two Markdown tables: each ratio in its worst case,\n"
+    "and all cases, with times as multiples of the straight appender's.\n"
+    "  --sizes   numbers of captions in a document (default 100,1000,10000,100000)\n"
     "  --orders  ascending, reversed, shuffled, tied (default all)\n"
     "  --rounds  number of rounds; their medians count (default 9; small sizes have up to five "
     "times as many)\n"
-    "  --quick   the same as --sizes 100,1000 --rounds 1, with less in a round: figures not to "
-    "be quoted\n"
-    "  --check   exit status 1 when a ratio breaks its limit or was not measured\n";
+    "  --quick   as --sizes 100,1000 --rounds 1, with less work in a round; do not quote the "
+    "figures\n"
+    "  --check   exit with status 1 if a ratio misses its limit or was not measured\n";
 
 struct Options {
     std::vector<std::size_t> sizes = {100, 1000, 10000, 100000};
@@ -122,7 +121,7 @@ Results measure(const Options& options)
     return results;
 }
 
-/// Prints what is missed to standard error; returns true when nothing is.
+/// Prints the limits that are missed to standard error; returns true if there are none.
 bool passes(const std::vector<Row>& rows)
 {
     bool pass = true;

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes the seeds of the fuzz targets: the same files every time.
 
-Targets that read numbers from their input get sequences of random bytes, some of them with the
-texts and plans that matter made likely; targets that read a text get texts."""
+Targets that read numbers from their input get random bytes, in some of which useful texts and plans
+are likely; targets that read a text get texts."""
 
 import argparse
 import random
@@ -53,7 +53,7 @@ def argument_bytes(rng):
 
 
 def calls(rng, number):
-    """Calls, each with a plan; in half of the files nothing fails before the second half."""
+    """Calls, each with a plan; in half of the files, nothing fails at first."""
     sequence = b""
     for call in range(10 + 4 * number):
         fails = number % 2 == 0 or call > 2 * number
@@ -73,7 +73,7 @@ def structured(rng, number):
 
 
 def foreign(rng, number):
-    """One file for each kind of object and road, and each way to go wrong."""
+    """One input, for a kind of object, a road and a way to fail."""
     kind, road = number % 7, number // 7
     return bytes([kind, road, rng.randrange(12), number % 10, rng.randrange(7), 1, 0,
                   rng.randrange(2)]) + filled(rng, 12)
@@ -124,7 +124,7 @@ def write():
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--check", action="store_true",
-                        help="write nothing; exit status 1 when a seed differs")
+                        help="write nothing; exit with status 1 if a seed differs")
     if not parser.parse_args().check:
         write()
         return 0

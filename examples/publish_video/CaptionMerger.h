@@ -16,7 +16,7 @@ struct LanguageText {
     std::string text;
 };
 
-/// A caption, as it is put together.
+/// A caption under construction.
 struct MergedCaption {
     long long start = 0;
     long long end = 0;
@@ -24,9 +24,9 @@ struct MergedCaption {
     std::vector<LanguageText> texts;
 };
 
-/// Makes captions from the cues of @p files, in that order and in file order: a cue joins the first
-/// caption made so far with the same start and end and no text in its language yet, else it makes a
-/// new one.
+/// Makes captions from the cues of @p files, file by file: a cue joins the first caption so far
+/// that has the same start and end and no text in its language; if there is none, it starts a new
+/// caption.
 std::vector<MergedCaption> mergeCaptions(const std::vector<CueFile>& files);
 
 } // namespace publish

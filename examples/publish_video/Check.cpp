@@ -13,7 +13,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// Describes the codes that this program can meet.
+/// Describes the codes that the program can receive.
 std::string wordsFor(ZelDataResult_tags code)
 {
     switch (code) {

@@ -1,5 +1,5 @@
 /// @file
-/// How the program treats the library's result codes and the objects that it hands out.
+/// Turns the library's result codes into exceptions and owns the objects that it returns.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_CHECK_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_CHECK_H
@@ -12,14 +12,14 @@
 
 namespace publish {
 
-/// Throws PublishError, which names @p what, when @p code is an error or a warning.
+/// Throws a PublishError that names @p what if @p code is an error or a warning.
 void check(ZelInterchangeData::ZelDataResult_tags code, const std::string& what);
 
-/// Throws PublishError, which names @p what, when @p code is an error. For calls that may end with
-/// a warning.
+/// Throws a PublishError that names @p what if @p code is an error. For calls that may end with a
+/// warning.
 void checkError(ZelInterchangeData::ZelDataResult_tags code, const std::string& what);
 
-/// Returns the object that a `create...` operation of @p maker hands out, owned at once.
+/// Returns the object that a `create...` operation of @p maker creates.
 template <class Maker, class Made>
 std::unique_ptr<Made> make(const Maker& maker,
                            ZelInterchangeData::ZelDataResult_tags (Maker::*create)(Made**) const)

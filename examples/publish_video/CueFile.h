@@ -23,9 +23,9 @@ struct CueFile {
     std::vector<Cue> cues;
     std::size_t malformed = 0;
     std::size_t withoutLength = 0;
-    /// Cues that contain nothing but blanks; they are among the cues unless empty ones are skipped.
+    /// Cues that contain only blanks; they are among the cues unless empty ones are skipped.
     std::size_t empty = 0;
-    /// The largest end of a cue, skipped ones included; `std::nullopt` without any.
+    /// The latest end of a cue, including skipped ones; `std::nullopt` without cues.
     std::optional<long long> lastEnd;
 };
 
@@ -36,14 +36,14 @@ struct CueFiles {
     std::optional<CueFile> screenText;
 };
 
-/// Makes a file's cues from its contents; throws PublishError when they are not UTF-8.
+/// Makes a file's cues from its contents; throws PublishError if they are not UTF-8.
 CueFile makeCueFile(const std::string& name, const std::string& bytes, const Options& options);
 
-/// Reads every file that @p options name, removes markup and skips empty cues where they ask for
-/// it; throws PublishError.
+/// Reads every file that @p options name, and removes markup and skips empty cues if they say so;
+/// throws PublishError.
 CueFiles readCueFiles(const Options& options);
 
-/// The largest end of a cue in all files; `std::nullopt` without any.
+/// The latest end of a cue in all files; `std::nullopt` without cues.
 std::optional<long long> lastEnd(const CueFiles& files);
 
 } // namespace publish

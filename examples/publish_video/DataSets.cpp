@@ -35,7 +35,7 @@ void setFont(i_ZelDataCaptions& captions, const Options& options)
 void addCaption(i_ZelDataCaptions& captions, const MergedCaption& caption)
 {
     const auto item = make(captions, &i_ZelDataCaptions::createCaptionItem);
-    // The start comes first: an end is only accepted when it is after the start.
+    // The start comes first: an end is only accepted if it is after the start.
     check(item->setStart(caption.start), "a caption's start");
     check(item->setEnd(caption.end), "a caption's end");
     for (const LanguageText& text : caption.texts)
@@ -74,7 +74,7 @@ std::vector<long long> entryStarts(const std::optional<CueFile>& toc)
     return starts;
 }
 
-/// The number of the last entry that starts at or before @p start; 0 when there is none.
+/// The number of the last entry that starts at or before @p start; 0 if there is none.
 unsigned long entryAt(const std::vector<long long>& starts, long long start)
 {
     const auto next = std::upper_bound(starts.begin(), starts.end(), start);
@@ -97,7 +97,7 @@ std::unique_ptr<i_ZelDataHeader> makeHeader(const i_ZelInterchangeDataCore& docu
     check(header->setVideoLength(videoLength(options, files)), "--length");
     check(header->setVideoWidth(options.width), "--size");
     check(header->setVideoHeight(options.height), "--size");
-    // A name that is given twice is added once; the second time gives a warning.
+    // Adds a name that is given twice only once; the second time, the library returns a warning.
     for (const std::string& name : options.contentNames)
         checkError(header->addContentName(name), "--content");
     return header;

@@ -14,8 +14,8 @@
 
 namespace publish {
 
-/// The header: the texts, the frame size and the video's length, which comes from the options or
-/// else is the end of the last cue. Throws PublishError when there is neither.
+/// The header: the texts, the frame size and the video's length, which is that of the options,
+/// otherwise the end of the last cue. Throws PublishError if there is neither.
 std::unique_ptr<ZelInterchangeData::i_ZelDataHeader>
 makeHeader(const ZelInterchangeData::i_ZelInterchangeDataCore& document, const Options& options,
            const CueFiles& files);

@@ -41,8 +41,8 @@ bool isRepeatable(const std::string& key)
     return key == "keyword" || key == "content";
 }
 
-/// Every option takes one plain text: a list would be split at commas, and a flag would accept
-/// "false".
+/// Declares every option as a plain text: cxxopts would split a list at commas and accept "false"
+/// for a flag.
 cxxopts::Options declaredOptions()
 {
     cxxopts::Options declared("publish_video");
@@ -248,26 +248,26 @@ const char* usage()
 Writes the side data of a video as one XMP packet. LANG=FILE is an SRT or WebVTT
 file with the captions of one language, such as en=film.srt or pt-BR=film.vtt.
 
-  -o OUT.xmp             the packet's file
+  -o OUT.xmp             the file to write
   --size WxH             the video's width and height in pixels
   --title TEXT           \
   --creator TEXT          |
-  --description TEXT      | what the packet's header says
+  --description TEXT      | texts of the packet's header
   --app-name TEXT         |
   --app-version TEXT     /
   --keyword TEXT         may be repeated
-  --content NAME         a file of the content; may be repeated
-  --length MS            the video's length in milliseconds; without it the
-                         largest end of a cue in the files
+  --content NAME         a content file; may be repeated
+  --length MS            the video's length in milliseconds (default: the latest
+                         end of a cue in the files)
   --font NAME            the captions' font family
   --font-size N          the captions' font size
-  --toc [LANG=]FILE      the table of contents; English without LANG
-  --screen-text FILE     the texts that the picture shows
-  --plain-text           removes markup from all texts
-  --skip-empty           leaves out cues without text
-  --help                 prints this text
+  --toc [LANG=]FILE      the table of contents (default language: en)
+  --screen-text FILE     the texts that are visible in the picture
+  --plain-text           remove markup from all texts
+  --skip-empty           skip cues without text
+  --help                 print this text
 
-A value that begins with a hyphen is given as in --title=-x.
+To pass a value that begins with a hyphen, write it as in --title=-x.
 )";
 }
 

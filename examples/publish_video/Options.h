@@ -16,8 +16,8 @@ struct LanguageFile {
     std::string path;
 };
 
-/// What the command line asks for. The texts are ready for the packet: see argumentText(). Paths
-/// are as given.
+/// What the command line says. The texts are ready for the packet: see argumentText(). Paths are as
+/// given.
 struct Options {
     bool help = false;
     std::string output;
@@ -40,8 +40,8 @@ struct Options {
     std::vector<LanguageFile> captions;
 };
 
-/// Reads the command line; throws PublishError. With `--help`, checks nothing else. Checks the form
-/// of a language, not whether the library knows it.
+/// Reads the command line; throws PublishError. With `--help`, checks nothing else. Checks only the
+/// form of a language, not whether the library knows it.
 Options parseOptions(int argc, const char* const* argv);
 
 /// Returns the help text.

@@ -42,7 +42,7 @@ bool holdsOpenFiles(const fs::path& folder)
     return folder.native().compare(0, 6, "/proc/") == 0;
 }
 
-/// Follows symbolic links, so that the file they lead to is replaced and not the link.
+/// Follows symbolic links, so that the program replaces the file they lead to, not the link.
 std::optional<fs::path> fileBehindLinks(const std::string& output)
 {
     constexpr int mostLinks = 40;
@@ -73,7 +73,7 @@ mode_t permissionsFor(const fs::path& file)
     return status.st_mode & static_cast<mode_t>(0777);
 }
 
-/// Writes all of @p bytes; false with errno set when that fails.
+/// Writes all of @p bytes; returns false and sets errno if that fails.
 bool writeAll(int descriptor, std::string_view bytes)
 {
     while (!bytes.empty()) {

@@ -12,17 +12,17 @@
 
 namespace publish {
 
-/// Returns the regular file that @p output names, or that a symbolic link there leads to; it need
-/// not exist. `std::nullopt` for anything that must be written in place: a device, a pipe, a file
-/// that is already open (`/dev/stdout`). Throws PublishError for a folder and for a file without
-/// write permission.
+/// Returns the regular file that @p output names, directly or through symbolic links; it need not
+/// exist. `std::nullopt` for anything that must be written in place: a device, a pipe, a file that
+/// is already open (`/dev/stdout`). Throws PublishError for a folder and for a file without write
+/// permission.
 std::optional<std::filesystem::path> replaceableFile(const std::string& output);
 
 /// Appends @p bytes to the existing @p output; throws PublishError.
 void writeDirectly(const std::string& output, std::string_view bytes);
 
-/// A new empty file in the folder of another one, which it can replace. Removed unless it did. All
-/// operations throw PublishError.
+/// A new empty file in the folder of another one, which it can replace; otherwise, its destructor
+/// removes it. All operations throw PublishError.
 class ReplacementFile {
 public:
     /// @p output names the file in messages.
@@ -33,8 +33,8 @@ public:
 
     const std::string& path() const { return path_; }
     std::size_t size() const;
-    /// Takes the place of the other file, with that file's permissions, or those of a new file when
-    /// there is none.
+    /// Replaces the other file and takes over its permissions, or those of a new file if there is
+    /// none.
     void replace();
 
 private:

@@ -11,9 +11,9 @@
 
 namespace publish {
 
-/// Writes the packet of @p document to @p output and returns its size in bytes. An existing regular
-/// file is replaced once the packet is complete, and stays as it was on failure; anything else is
-/// written in place. Throws PublishError.
+/// Writes the packet of @p document to @p output and returns its size in bytes. Replaces an
+/// existing regular file once the packet is complete, and leaves it unchanged on failure; writes
+/// anything else in place. Throws PublishError.
 std::size_t writePacket(const ZelInterchangeData::i_ZelInterchangeDataCore& document,
                         const std::string& output);
 

@@ -36,8 +36,8 @@ const Entity* entityAt(std::string_view text)
     return found != end ? found : nullptr;
 }
 
-/// Finds where markup ends. Looks up the last closing characters once, so that a text with many
-/// openings and no closing is not searched to its end for each of them.
+/// Finds where markup ends. Looks up the last closing characters once, so that it does not search a
+/// text with many openings and no closing to its end for each of them.
 class MarkupFinder {
 public:
     explicit MarkupFinder(std::string_view text)
@@ -45,7 +45,7 @@ public:
     {
     }
 
-    /// The number of characters of the markup at @p at; 0 when there is none.
+    /// The number of characters of the markup at @p at; 0 if there is none.
     std::size_t lengthAt(std::size_t at) const
     {
         if (text_[at] == '<') return lengthUpTo('>', lastAngle_, at);

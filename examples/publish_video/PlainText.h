@@ -19,11 +19,11 @@ constexpr bool isBlank(char character)
 /// @p line without the blanks and tabs at its end.
 std::string_view withoutBlanksAtEnd(std::string_view line);
 
-/// Whether @p text is nothing but blanks, tabs and line feeds.
+/// Whether @p text consists of blanks, tabs and line feeds.
 bool isNothingButBlanks(std::string_view text);
 
 /// Calls @p take with each line of @p text, without its line feed. What follows the last line feed
-/// is a line even when it is empty.
+/// is a line even if it is empty.
 template <class Take>
 void forEachLine(std::string_view text, Take take)
 {

@@ -18,7 +18,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// What is wrong with the captions as the packet has them: in order of start, with a text in every
+/// The problems of the captions as they are in the packet: in order of start, with a text in every
 /// language.
 std::vector<ZelDataFinding> findingsOf(const i_ZelDataCaptions& captions)
 {
@@ -40,8 +40,8 @@ std::string joined(const std::vector<std::string>& parts, const std::string& sep
     return text;
 }
 
-/// Says why the caption breaks a recommendation, without naming the caption: describeCaption()
-/// does. Captions that are in order have no other kinds of findings.
+/// Says which recommendation the caption breaks; describeCaption() names the caption. Captions that
+/// are in order have no other kinds of findings.
 std::string reasonOf(const ZelDataFinding& finding)
 {
     const std::string value = std::to_string(finding.value);
@@ -69,10 +69,10 @@ std::string describeCaption(const std::vector<ZelDataFinding>& findings)
 
 std::string describeFile(const CueFile& file, bool skipEmpty)
 {
-    return file.name + ": " + std::to_string(file.cues.size()) + " cues taken, " +
+    return file.name + ": " + std::to_string(file.cues.size()) + " cues used, " +
            std::to_string(file.malformed) + " malformed, " + std::to_string(file.withoutLength) +
            " without length, " + std::to_string(file.empty) + " empty" +
-           (skipEmpty ? " (left out)" : " (taken)");
+           (skipEmpty ? " (skipped)" : " (used)");
 }
 
 std::vector<std::string> describeCaptions(const i_ZelDataCaptions& captions)
@@ -94,7 +94,7 @@ std::string describeLanguages(const i_ZelDataCaptions& captions)
 {
     std::vector<std::string> languages;
     check(captions.getOrderedLanguageIDs(languages), "reading the languages");
-    // The library lists this one when the captions have none.
+    // The library lists this one if the captions have none.
     if (languages.empty()) languages.emplace_back("en-US");
     return "languages: " + joined(languages, ", ");
 }

@@ -30,7 +30,7 @@ bool isDigit(char character)
     return '0' <= character && character <= '9';
 }
 
-/// Takes tokens from the front of a timing line. What is not there is not taken.
+/// Takes tokens from the front of a timing line, if they are there.
 class LineScanner {
 public:
     explicit LineScanner(std::string_view line) : rest_(line) {}
@@ -92,8 +92,8 @@ std::optional<unsigned long long> milliseconds(std::string_view digits)
     return numberOf(filled);
 }
 
-/// @p hours and @p below, which is less than an hour, in milliseconds; `std::nullopt` when the sum
-/// is too large for a time.
+/// @p hours and @p below, which is less than an hour, in milliseconds; `std::nullopt` if the sum is
+/// too large for a time.
 std::optional<long long> timeOf(unsigned long long hours, unsigned long long below)
 {
     if (hours > (latest - below) / hour) return std::nullopt;

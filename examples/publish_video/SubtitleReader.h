@@ -20,23 +20,23 @@ struct Cue {
     std::string text;
 };
 
-/// What a file holds.
+/// What a file contains.
 struct Subtitles {
     /// Whether the first line says WEBVTT; the file is SRT otherwise.
     bool isWebVtt = false;
     /// In file order.
     std::vector<Cue> cues;
-    /// The lines with an arrow that are not timing lines. They and their text are left out.
+    /// The lines with an arrow that are not timing lines. Skips them and their text.
     std::size_t malformed = 0;
-    /// The cues whose end is not after their start. They are left out.
+    /// The cues whose end is not after their start. Skips them.
     std::size_t withoutLength = 0;
 };
 
-/// Reads the contents of a file; `std::nullopt` when they are not strict UTF-8. Accepts a byte
-/// order mark and line ends of all three kinds, and drops U+FFFE and U+FFFF.
+/// Reads the contents of a file; `std::nullopt` if they are not strict UTF-8. Accepts a byte order
+/// mark and line ends of all three kinds, and drops U+FFFE and U+FFFF.
 ///
-/// A line with an arrow (`-->`) opens a cue whatever precedes it, so numbers, names, notes and
-/// styles need not be understood. A blank line or the next arrow ends its text.
+/// A line with an arrow (`-->`) opens a cue whatever precedes it, so the reader need not understand
+/// numbers, names, notes and styles. A blank line or the next arrow ends its text.
 std::optional<Subtitles> readSubtitles(std::string_view bytes);
 
 } // namespace publish

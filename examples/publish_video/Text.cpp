@@ -47,7 +47,7 @@ const Lead* leadOf(unsigned char byte)
     return found != end ? found : nullptr;
 }
 
-/// The length of the sequence at @p at; 0 when there is none.
+/// The length of the sequence at @p at; 0 if there is none.
 std::size_t sequenceLength(std::string_view text, std::size_t at)
 {
     const Lead* lead = leadOf(byteAt(text, at));
@@ -73,7 +73,7 @@ bool isControl(std::string_view character)
     return first == 0xC2 && byteAt(character, 1) < 0xA0;
 }
 
-/// The character at @p at: one whole sequence, or one byte when there is none.
+/// The character at @p at: one whole sequence, or one byte if there is none.
 std::string_view characterAt(std::string_view text, std::size_t at)
 {
     const std::size_t length = sequenceLength(text, at);

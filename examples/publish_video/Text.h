@@ -10,7 +10,7 @@
 namespace publish {
 
 /// Whether @p text is UTF-8 without surrogates, overlong forms and values above U+10FFFF.
-/// ZelDataUtilities::verifyUtf8Format() lets all three through.
+/// ZelDataUtilities::verifyUtf8Format() accepts all three.
 bool isStrictUtf8(std::string_view text);
 
 /// @p text, which is strict UTF-8, without U+FFFE and U+FFFF.

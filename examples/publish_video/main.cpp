@@ -104,7 +104,7 @@ int run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    // A closed pipe and a file beyond the allowed size then fail the writing instead of ending the
+    // Makes writing to a closed pipe, or beyond the allowed file size, fail instead of ending the
     // program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);

@@ -1,6 +1,5 @@
 /// @file
-/// The arguments of an operation, by their types: read from an input, passed on, and shown
-/// afterwards.
+/// The arguments of an operation, by type: read from an input, passed on, and described afterwards.
 ///
 /// An argument is copied before each use, so that the same operation can be called again.
 
@@ -31,7 +30,7 @@ Value readValue(Input& input)
     } else if constexpr (std::is_same_v<Value, float>) {
         return input.fraction();
     } else if constexpr (std::is_same_v<Value, ZelInterchangeData::ZelDataFormatType_tags>) {
-        // Nearly always the one format: with any other nothing happens.
+        // Nearly always the one format: operations do nothing with any other.
         return static_cast<Value>(input.byte() == 255 ? 2 : 1);
     } else if constexpr (std::is_enum_v<Value>) {
         return static_cast<Value>(input.byte());
@@ -105,7 +104,7 @@ public:
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): no object of the world is const.
         describe(text, *const_cast<std::remove_const_t<Interface>*>(object_));
     }
-    /// Changes to it show when it is compared with its twin.
+    /// A comparison with its twin shows whether it has changed.
     bool isUntouched() const { return true; }
 
 private:
@@ -145,7 +144,7 @@ private:
     Interface* taken_ = nullptr;
 };
 
-/// A list that receives copies of all items. What it held before is not touched.
+/// A list that receives copies of all items. Does not delete what it held before.
 template <class Interface>
 class Argument<std::vector<Interface*>&> {
 public:
@@ -166,7 +165,7 @@ public:
             if (item != nullptr) describe(text, *item);
         }
     }
-    /// Operations that fail leave it empty, or unchanged where they are not supported.
+    /// Operations that fail leave it empty; those that are not supported leave it unchanged.
     bool isUntouched() const
     {
         for (const Interface* item : items_)

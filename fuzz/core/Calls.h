@@ -1,5 +1,5 @@
 /// @file
-/// Operations on the objects of two worlds: in one memory runs out, in the other it does not.
+/// Operations on the objects of two worlds: memory runs out in one of them only.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_CORE_CALLS_H
 #define ZELINTERCHANGEDATA_FUZZ_CORE_CALLS_H
@@ -38,9 +38,9 @@ struct Outcome {
     bool ranShort = false;
 };
 
-/// What is allowed after an operation whose memory ran out.
+/// What is allowed after an operation that ran out of memory.
 struct Traits {
-    /// It is reported by an exception, not by a code.
+    /// An exception reports it, not a code.
     bool throwsIt = false;
     /// The object may be changed: the operation has several steps and stops between them.
     bool mayBePartial = false;
@@ -72,7 +72,7 @@ public:
         return {granted, (choice & 1U) != 0 ? Shortage::Lasting : Shortage::Once};
     }
 
-    /// Requires that both worlds hold the same.
+    /// Requires that both worlds have the same contents.
     void requireTwins();
 
 private:
@@ -106,7 +106,7 @@ Outcome perform(const FailurePlan& plan, Call&& call)
     return outcome;
 }
 
-/// Requires that an operation fails as it must, and its arguments are as they were.
+/// Requires that an operation fails as it must and leaves its arguments unchanged.
 template <class Arguments>
 void requireExhausted(const Outcome& outcome, const Traits& traits, Arguments& arguments)
 {
@@ -130,7 +130,7 @@ std::string shown(const Outcome& outcome, Code lastError, Arguments& arguments)
     return withoutDates(std::move(text));
 }
 
-/// Something to call, with its object.
+/// A call, with its object.
 template <class Interface, class Method, class... Args>
 class MemberCall {
 public:
@@ -180,7 +180,7 @@ public:
     }
 
 private:
-    /// Requires that the operation left @p tested as its twin still is.
+    /// Requires that the operation left @p tested equal to its twin.
     static void requireAsBefore(Interface& tested, Interface& twin, Code lastError)
     {
         tested.setLastError(lastError);
@@ -219,8 +219,8 @@ Operation member(Code (Interface::*method)(Args...) const, Traits traits = {})
     return memberOperation<Interface, Args...>(method, traits);
 }
 
-/// The operation that calls a function: one that returns a code, or one whose text @p body puts
-/// into its first argument.
+/// The operation that calls a function: one that returns a code, or one whose text @p body stores
+/// in its first argument.
 template <class... Args>
 Operation function(std::function<Code(Args...)> body, Traits traits = {})
 {

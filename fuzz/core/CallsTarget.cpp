@@ -1,10 +1,10 @@
 /// @file
-/// Sequences of calls of every operation, where any allocation may fail.
+/// Sequences of calls of every operation, in which any allocation may fail.
 ///
 /// Each operation runs twice: in a world where allocations fail as the input says, and in one where
-/// none does. Where one failed, the operation must report it and leave things as they were. After
-/// that the same operation must return what it returns in the other world. At the end both hold the
-/// same, and nothing is leaked.
+/// none does. If one failed, the operation must report it and change nothing. The same operation,
+/// called again, must return what it returns in the other world. At the end, both worlds have the
+/// same contents and nothing is leaked.
 
 #include "core/Calls.h"
 #include "core/Operations.h"
@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const std::vector<fuzz::Operation> operations = fuzz::allOperations();
     fuzz::require(operations.size() <= 256, "a byte does not reach every operation");
-    static const fuzz::OutputPath folder(0); // stays: made before blocks are counted
+    static const fuzz::OutputPath folder(0); // created before blocks are counted
     const long long blocks = ZelInterchangeData::liveAllocations();
     {
         fuzz::Input input(data, size);

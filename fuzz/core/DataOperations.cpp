@@ -9,7 +9,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// Several steps, of which some may be done when memory runs out.
+/// Several steps, some of which may be done when memory runs out.
 Traits inSteps()
 {
     Traits traits;

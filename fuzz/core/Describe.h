@@ -1,5 +1,5 @@
 /// @file
-/// Everything that is visible of a value or an object, as a text.
+/// Everything that a caller can see of a value or an object, as a text.
 ///
 /// An object is read through its getters and keeps its last error.
 
@@ -14,7 +14,7 @@
 
 namespace fuzz {
 
-/// Appends what is visible of the argument to @p text.
+/// Appends what a caller can see of the argument to @p text.
 /// @{
 void describe(std::string& text, const std::string& value);
 void describe(std::string& text, const std::vector<std::string>& values);
@@ -37,7 +37,7 @@ void describe(std::string& text, ZelInterchangeData::i_ZelDataLanguage& language
 void describe(std::string& text, ZelInterchangeData::i_ZelDataFormatterBase& formatter);
 /// @}
 
-/// Returns what is visible of @p object.
+/// Returns what a caller can see of @p object.
 template <class Object>
 std::string described(Object& object)
 {
@@ -46,7 +46,7 @@ std::string described(Object& object)
     return text;
 }
 
-/// @p text with a mask for the time of writing in each packet.
+/// @p text with the date of each packet masked.
 std::string withoutDates(std::string text);
 
 } // namespace fuzz

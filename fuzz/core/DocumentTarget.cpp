@@ -2,9 +2,9 @@
 /// A filled document: its packet is well-formed, and an independent reader finds every text, time
 /// and number in it.
 ///
-/// The target keeps the rules that callers must keep: strings are strict UTF-8 without U+FFFE and
-/// U+FFFF, those written as given contain none of the five special characters, and those not
-/// stripped contain no control characters but tab, line feed and carriage return.
+/// The target follows the rules for callers: strings are strict UTF-8 without U+FFFE and U+FFFF,
+/// those written as given contain none of the five special characters, and those not stripped
+/// contain no control characters except tab, line feed and carriage return.
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "core/Packet.h"
@@ -78,13 +78,13 @@ std::string languageID(Input& input)
     return input.flag() ? code : code + "-" + givenText(input);
 }
 
-/// What is left of a text that is stripped.
+/// A text after stripping.
 std::string shown(const std::string& text)
 {
     return fuzz::filtered(text, [](auto value) { return value >= 0x20 || value == '\n'; });
 }
 
-/// What an XML reader makes of white space in an attribute.
+/// How an XML reader changes white space in an attribute.
 std::string inAttribute(const std::string& text)
 {
     std::string normal;
@@ -154,7 +154,7 @@ public:
     }
 
 private:
-    /// A start, which other markers may have, too.
+    /// A start, which other markers may share.
     long long start()
     {
         const auto start = input_.number<long long>();
@@ -217,7 +217,7 @@ private:
         expected_.header["length"] = std::to_string(length);
     }
 
-    /// Gives @p item texts; returns what a reader must find of them.
+    /// Sets texts of @p item; returns what a reader must find.
     template <class Item>
     Texts fillTexts(Item& item)
     {
@@ -346,7 +346,7 @@ void checkAttributes(const Element& element, const Attributes& expected)
         requireEqual(value, element.attribute(name), name.c_str());
 }
 
-/// When the captions have no language, the packet has one all the same.
+/// If the captions have no language, the packet still lists one.
 void checkLanguageList(const Element& description, std::vector<std::string> languages)
 {
     if (languages.empty()) languages.emplace_back("en-US");

@@ -18,7 +18,7 @@ void fillTexts(Item& item, Input& input)
     }
 }
 
-/// Usually a time that every implementation accepts.
+/// A time, usually one that every implementation accepts.
 long long timeOf(Input& input)
 {
     return input.flag() ? input.byte() : input.number<long long>();

@@ -1,5 +1,5 @@
 /// @file
-/// Contents for objects of any implementation, through their interfaces alone.
+/// Fills objects of any implementation, only through their interfaces.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_CORE_FOREIGNCONTENTS_H
 #define ZELINTERCHANGEDATA_FUZZ_CORE_FOREIGNCONTENTS_H
@@ -18,11 +18,10 @@ namespace fuzz {
 
 using Code = ZelInterchangeData::ZelDataResult_tags;
 
-/// Ignores the code of a call that an object may refuse: the object then lacks the value.
+/// Ignores the code of a call that an object may refuse; the object then lacks the value.
 inline void mayRefuse(Code /*code*/) {}
 
-/// Gives the argument contents from @p input. An implementation that refuses some of them does
-/// without.
+/// Fills the argument from @p input, except for values that its implementation refuses.
 /// @{
 void fill(ZelInterchangeData::i_ZelDataLanguage& languages, Input& input);
 void fill(ZelInterchangeData::i_ZelDataHeader& header, Input& input);
@@ -114,7 +113,7 @@ inline constexpr bool hasItems = false;
 template <class Kind>
 inline constexpr bool hasItems<Kind, std::void_t<typename Kind::Items>> = true;
 
-/// A caller's object with contents. With @p itemScript, each item that it hands out follows that
+/// A caller's object with contents. With @p itemScript, each item that it returns follows that
 /// script.
 template <class Kind>
 std::unique_ptr<typename Kind::Foreign> makeForeign(Input& input,

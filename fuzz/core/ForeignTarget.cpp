@@ -2,8 +2,8 @@
 /// Objects that a caller wrote, passed to ours and filled by ours. One of their calls fails as the
 /// input says: it returns any code, or throws.
 ///
-/// The operation must end as the failure requires, leave everything usable, and, once nothing fails
-/// any more, return what it returns where nothing ever failed.
+/// The operation must end as the failure requires, leave everything usable, and, when nothing fails
+/// any more, return the same as if nothing had ever failed.
 
 #include "core/Describe.h"
 #include "core/ForeignContents.h"
@@ -56,11 +56,11 @@ Trouble readTrouble(Input& input)
 
 struct Outcome {
     Code code = ZelData_Ok;
-    /// Whether a std::bad_alloc came through.
+    /// Whether the operation threw std::bad_alloc.
     bool wasThrown = false;
-    /// Whether a caller's object failed on the way.
+    /// Whether a caller's object failed during the operation.
     bool wentWrong = false;
-    /// The last error of the object whose operation it was.
+    /// The last error of the object that was called.
     Code lastError = ZelData_Ok;
 };
 
@@ -82,13 +82,13 @@ Outcome perform(const Object& judge, Call&& call)
 // The ways in which the library uses a caller's object. Each has a target, and an operation that
 // can be called again and again, with trouble and without.
 
-/// Copying anything that has languages copies those by another operation, which may end with a code
-/// that lets the copy continue.
+/// Copying a set with languages copies these by another operation, which may end with a code that
+/// lets the copy continue.
 template <class Kind>
 inline constexpr bool isCopiedInOne =
     !std::is_base_of_v<i_ZelDataLanguage, typename Kind::Interface>;
 
-/// Ours is copied from theirs.
+/// Copies our object from theirs.
 template <class Kind>
 class OwnCopies {
 public:
@@ -113,7 +113,7 @@ private:
     std::unique_ptr<typename Kind::Interface> target_;
 };
 
-/// Theirs is copied from ours by the function that it inherits.
+/// Copies their object from ours, with the function that it inherits.
 template <class Kind>
 class ForeignCopies {
     using Interface = typename Kind::Interface;
@@ -140,7 +140,7 @@ private:
     std::unique_ptr<typename Kind::Foreign> target_;
 };
 
-/// Theirs is copied from another one of theirs, which causes trouble.
+/// Copies their object from another one of theirs, which causes trouble.
 template <class Kind>
 class ForeignCopiesForeign {
     using Interface = typename Kind::Interface;
@@ -165,7 +165,7 @@ private:
     std::unique_ptr<typename Kind::Foreign> target_;
 };
 
-/// A collection of ours takes an item of theirs.
+/// Adds their item to our collection.
 template <class Kind>
 class CollectionAdds {
     using ItemKind = typename Kind::Items;
@@ -190,7 +190,7 @@ private:
     std::unique_ptr<typename Kind::Interface> target_;
 };
 
-/// A formatter takes a set of theirs.
+/// Passes their set to a formatter.
 template <class Kind>
 class FormatterHolds {
 public:
@@ -214,7 +214,7 @@ private:
     std::unique_ptr<typename Kind::Formatter> target_;
 };
 
-/// A document takes a set of theirs.
+/// Passes their set to a document.
 template <class Kind>
 class DocumentTakes {
 public:
@@ -243,7 +243,7 @@ private:
     std::unique_ptr<i_ZelInterchangeDataCore> target_;
 };
 
-/// A document fills a set of theirs.
+/// Lets a document fill their set.
 template <class Kind>
 class DocumentGives {
 public:
@@ -310,7 +310,7 @@ bool isRight(const Outcome& outcome, const Trouble& trouble)
     if (outcome.wasThrown) return false;
     // A target with a last error of its own need not know how its inherited functions ended.
     if (Road::isTargetForeign && trouble.script.keepsOwn) return true;
-    // A last error that is not a failure is taken as it is, and the caller continues.
+    // If the last error is not a failure, the caller continues.
     const bool mayGoOn = (!Road::isDirect || trouble.isInItems) && !failed(expected);
     if (mayGoOn || outcome.code == expected) return true;
     // For a header that is copied to, the setter's own code counts.

@@ -13,7 +13,7 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// Functions that return a text let the exception through.
+/// Functions that return a text throw.
 Traits throwing()
 {
     Traits traits;
@@ -21,7 +21,7 @@ Traits throwing()
     return traits;
 }
 
-/// A function that returns a text, as one that puts it into its first argument.
+/// Turns a function that returns a text into one that stores it in its first argument.
 template <class Value>
 Operation textFunction(std::string (*body)(Value))
 {

@@ -12,7 +12,8 @@
 
 namespace fuzz {
 
-/// One element of a packet; the packet must outlive it. Asking for what is not there is a finding.
+/// One element of a packet; the packet must outlive it. To request what does not exist is a
+/// finding.
 class Element {
 public:
     explicit Element(xmlNode* node) : node_(node) {}

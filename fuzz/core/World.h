@@ -44,15 +44,15 @@ auto pairOf(Factory factory)
     return std::array{makeObject(factory), makeObject(factory)};
 }
 
-/// Two objects of each kind of data, two formatters of each kind, and two documents: one as callers
-/// get it, and one of the kind that writes.
+/// Two objects of each kind of data, two formatters of each kind, and two documents: one that
+/// callers get, and one of the class that writes.
 class World {
     using Utilities = ZelInterchangeData::ZelDataUtilities;
     template <class Interface>
     using Pair = std::array<std::unique_ptr<Interface>, 2>;
 
 public:
-    /// The object for @p number. A base class is any of the kinds that derive from it.
+    /// The object for @p number. For a base class, an object of any class derived from it.
     template <class Interface>
     Interface& object(std::size_t number)
     {

@@ -10,7 +10,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// Setting or getting a whole set: it is cleared first, and what follows may be missing.
+/// Setting or getting a whole set, which is cleared first: the rest may be missing.
 Traits inSteps()
 {
     Traits traits;
@@ -56,7 +56,7 @@ void writeFile(Session& session)
     if (outcome.ranShort) {
         require(outcome.code == ZelData_OutOfMemory, "a failed allocation of a writer is ignored");
         require(path.isUntouched(), "a file is touched by a writer without memory");
-        // A document does not store the final code, so that of the failure would stay.
+        // A document does not store its final code, so the code of the failure would stay.
         tested.setLastError(before);
         code = writeTo(tested, path, format);
     }

@@ -48,7 +48,7 @@ std::vector<std::string> linesOf(const std::string& text)
     return lines;
 }
 
-/// The contents of a file as the reader must see them.
+/// The contents of a file, as the reader must see them.
 std::string unified(const std::string& bytes)
 {
     const bool hasMark = bytes.compare(0, 3, "\xEF\xBB\xBF") == 0;
@@ -79,7 +79,8 @@ void checkText(const std::string& text, const std::string& contents)
             "the library refuses the text of a cue");
 }
 
-/// Each line with an arrow is a cue, a malformed one or one without length; no other line is.
+/// Each line with an arrow is a cue, a malformed one or one without length; all other lines are
+/// none of these.
 void checkCounts(const Subtitles& subtitles, const std::vector<std::string>& lines)
 {
     std::size_t arrows = 0;
@@ -101,7 +102,7 @@ std::string timeText(long long time)
     return text.data();
 }
 
-/// The cues as a tidy file holds them.
+/// The cues as a tidy file.
 std::string tidied(const std::vector<Cue>& cues, const char* lineEnd)
 {
     std::string file;

@@ -1,5 +1,5 @@
 /// @file
-/// The bytes of an input as the values that a target asks for.
+/// The bytes of an input, as the values that a target needs.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_SUPPORT_INPUT_H
 #define ZELINTERCHANGEDATA_FUZZ_SUPPORT_INPUT_H
@@ -40,7 +40,7 @@ public:
     /// The bytes that remain.
     std::string rest() { return std::string(take(bytes_.size())); }
 
-    /// A small number, an extreme one or any one.
+    /// A small number, an extreme one or any other.
     template <class Number>
     Number number()
     {
@@ -72,7 +72,7 @@ public:
         return value;
     }
 
-    /// A fraction, a value just outside, or any bits.
+    /// A number from 0 to 1, one just outside, or any bits.
     float fraction()
     {
         const std::uint8_t choice = byte();
@@ -82,7 +82,8 @@ public:
     /// Up to 255 bytes of the input.
     std::string bytes() { return std::string(take(byte())); }
 
-    /// A word that operations know, a text of any bytes, or a text so long that it needs memory.
+    /// A word that operations know, a text of any bytes, or a text that is long enough to need
+    /// memory.
     std::string text()
     {
         static const char* const words[] = {

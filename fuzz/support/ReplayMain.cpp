@@ -3,8 +3,8 @@
 ///
 ///     replay FOLDER [FOLDER…]
 ///
-/// Every file in the folders is one input. A folder that does not exist holds none; no input at all
-/// is a failure, because it would look like a success.
+/// Every file in the folders is one input. A folder that does not exist has none. Without any
+/// input, the program fails; otherwise, that would look like a success.
 
 #include "support/Target.h"
 

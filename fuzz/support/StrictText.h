@@ -1,5 +1,5 @@
 /// @file
-/// Strict UTF-8, stated plainly.
+/// A plain check of strict UTF-8.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_SUPPORT_STRICTTEXT_H
 #define ZELINTERCHANGEDATA_FUZZ_SUPPORT_STRICTTEXT_H
@@ -11,14 +11,13 @@
 
 namespace fuzz {
 
-/// A character of a text: its value and its number of bytes; 0 bytes when there is none.
+/// A character of a text: its value and its number of bytes; 0 bytes if there is none.
 struct Character {
     std::uint32_t value = 0;
     std::size_t size = 0;
 };
 
-/// The number of bytes that the lead of a sequence of up to four bytes announces; 0 when it is not
-/// a lead.
+/// The length of the sequence that begins with @p lead, up to four bytes; 0 if it is not a lead.
 inline std::size_t announced(unsigned char lead)
 {
     if (lead < 0x80) return 1;
@@ -27,8 +26,8 @@ inline std::size_t announced(unsigned char lead)
     return lead >> 3U == 0x1E ? 4 : 0;
 }
 
-/// The first character of @p text, decoded by arithmetic: its value shows whether the form is the
-/// shortest one, not a surrogate and not beyond the last code point.
+/// The first character of @p text, decoded by arithmetic. Its value shows whether the form is the
+/// shortest one, a surrogate or beyond the last code point.
 inline Character firstCharacter(std::string_view text)
 {
     static constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};

@@ -1,5 +1,5 @@
 /// @file
-/// The entry of every target.
+/// The entry point of every target.
 
 #ifndef ZELINTERCHANGEDATA_FUZZ_SUPPORT_TARGET_H
 #define ZELINTERCHANGEDATA_FUZZ_SUPPORT_TARGET_H

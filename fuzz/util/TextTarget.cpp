@@ -1,5 +1,5 @@
 /// @file
-/// The text utilities against plain descriptions of what they do.
+/// Compares the text utilities with plain descriptions of what they do.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "support/Input.h"
@@ -87,7 +87,7 @@ std::string plainStripped(const std::string& text)
     return kept;
 }
 
-/// The number of bytes of @p text from @p at, the place of a `&`, up to the one that is dropped.
+/// The number of bytes of @p text from @p at, the place of a `&`, up to the byte that is dropped.
 std::size_t keptOfBrokenEntity(const std::string& text, std::size_t at)
 {
     return text.compare(at + 1, 1, "a") == 0 ? 2 : 1;

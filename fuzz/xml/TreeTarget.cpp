@@ -1,5 +1,5 @@
 /// @file
-/// The element tree against a plain description of its rules.
+/// Compares the element tree with a plain description of its rules.
 
 #include "support/Input.h"
 #include "support/Require.h"
@@ -82,7 +82,7 @@ public:
     }
 
 private:
-    /// Any bytes, without a zero byte where the tree takes them as a C string.
+    /// Any bytes, but no zero byte where the tree takes a C string.
     std::string word()
     {
         const std::string bytes = input_.text();

@@ -1,5 +1,5 @@
 /// @file
-/// Where a document comes from.
+/// Creates documents.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATACREATOR_H
 #define ZELINTERCHANGEDATA_ZELDATACREATOR_H
@@ -11,13 +11,13 @@ namespace ZelInterchangeData {
 
 class i_ZelInterchangeDataCore;
 
-/// Makes documents.
+/// Creates documents.
 class ZELINTERCHANGEDATA_API ZELDataCreator {
 public:
     ZELDataCreator() = delete;
 
-    /// A new document without any data set; the caller owns it and deletes it. Throws
-    /// ZelDataException ("Out of memory") when no document could be made.
+    /// Returns a new document without data sets, which the caller owns and deletes. Throws
+    /// ZelDataException ("Out of memory") if memory runs out.
     static i_ZelInterchangeDataCore* createInterchangeData();
 };
 

@@ -14,13 +14,13 @@ namespace ZelInterchangeData {
 ///
 /// The two axes are read independently. Any value can be stored; other bits are ignored.
 enum ZelAlignment_tags : std::uint32_t {
-    /// Neither flag of either axis: centred vertically and horizontally.
+    /// No flag: centred vertically and horizontally.
     ZelAlignCenter = 0x00,
-    /// Vertical: bottom. Wins over top when both bits are set.
+    /// Vertical: bottom. Takes precedence over top.
     ZelAlignBottom = 0x01,
     /// Vertical: top.
     ZelAlignTop = 0x02,
-    /// Horizontal: left. Wins over right when both bits are set.
+    /// Horizontal: left. Takes precedence over right.
     ZelAlignLeft = 0x10,
     /// Horizontal: right.
     ZelAlignRight = 0x20

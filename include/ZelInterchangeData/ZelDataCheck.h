@@ -11,14 +11,14 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// Throws ZelDataError, which names @p operation, when @p code is an error or a warning: the
-/// throwing form of failed().
+/// Throws a ZelDataError that names @p operation if @p code is an error or a warning: the throwing
+/// form of failed().
 inline void check(ZelDataResult_tags code, std::string_view operation)
 {
     if (failed(code)) throw ZelDataError(code, operation);
 }
 
-/// Throws ZelDataError, which names @p operation, when @p code is an error: the throwing form of
+/// Throws a ZelDataError that names @p operation if @p code is an error: the throwing form of
 /// isError(). Warnings pass.
 inline void checkError(ZelDataResult_tags code, std::string_view operation)
 {

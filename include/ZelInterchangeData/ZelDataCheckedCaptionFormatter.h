@@ -10,7 +10,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of the formatter of captions that throws where an operation fails.
+/// A view of the formatter of captions that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelDataCaptionFormatter for what an operation does.
 template <class Object>

@@ -13,7 +13,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of a caption that throws where an operation fails.
+/// A view of a caption that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelDataCaptionItem for what an operation does.
 template <class Object>

@@ -16,7 +16,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of a document that throws where an operation fails.
+/// A view of a document that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelInterchangeDataCore for what an operation does.
 template <class Object>

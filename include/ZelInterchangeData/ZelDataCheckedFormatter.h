@@ -29,7 +29,7 @@ public:
     {
         return this->run("writeString", &Interface::writeString, out, format, flag);
     }
-    /// Returns what is written, in a new string.
+    /// Writes to a new string and returns it.
     std::string writeString(ZelDataFormatType_tags format = ZelDataFormat_Xmp) const
     {
         std::string out;

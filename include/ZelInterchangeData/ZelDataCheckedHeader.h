@@ -13,7 +13,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of a header that throws where an operation fails.
+/// A view of a header that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelDataHeader for what an operation does.
 template <class Object>

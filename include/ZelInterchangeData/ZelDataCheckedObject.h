@@ -15,22 +15,20 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of an object: its operations throw ZelDataError where those of the object return the code
-/// of a failure.
+/// A view of an object: its operations throw ZelDataError if those of the object fail.
 ///
 /// To make a view, call checked(). A view offers the same operations as its object:
 /// - An operation without a value returns the view, so calls can be chained:
 ///   `checked(*header).setTitle("Intro").setVideoLength(90500)`.
-/// - A getter returns its value; what is handed out comes in a `std::unique_ptr`.
+/// - A getter returns its value, and an object in a `std::unique_ptr`.
 /// - ZelDataError names the operation. The object is in the state in which the operation left it,
 ///   and its last error is set as always.
 ///
-/// Warnings throw as well, because a copy that meets one has stopped half-way, and because the
-/// library itself stops at them. allowWarnings() lets them pass where they are welcome, for example
-/// where a text is to be replaced.
+/// Warnings throw as well, because the library itself stops at them: a copy that meets one is
+/// incomplete. To let them pass, for example to replace a text, call allowWarnings().
 ///
-/// A view is as small as a pointer and a flag. It owns nothing and must not outlive its object. In
-/// a class of your own keep the object, not a view of it: g++ warns about a view (-Wattributes),
+/// A view consists of a pointer and a flag. It owns nothing and must not outlive its object. In a
+/// class of your own, store the object, not a view of it: g++ warns about a view (-Wattributes),
 /// because views are hidden from other modules.
 /// @tparam Self the view that derives from this class.
 /// @tparam Object the interface, `const` for a view with the const operations only.
@@ -40,7 +38,7 @@ public:
     /// A view of @p object that throws on warnings.
     explicit ZelDataCheckedObject(Object& object) noexcept : object_(&object) {}
 
-    /// The same view, but one that lets warnings pass and throws on errors alone.
+    /// A copy of the view that lets warnings pass and throws only on errors.
     Self allowWarnings() const noexcept
     {
         Self view(self());
@@ -52,22 +50,21 @@ public:
     Object& object() const noexcept { return *object_; }
 
 protected:
-    /// Returns the view when @p code is not a failure of @p operation.
+    /// Returns the view if @p code is not a failure of @p operation; otherwise throws.
     Self done(const char* operation, ZelDataResult_tags code) const
     {
         require(operation, code);
         return self();
     }
 
-    /// Returns the view when the member function @p call of the object with @p arguments does not
-    /// fail.
+    /// Calls the member function @p call of the object with @p arguments and returns the view.
     template <class Call, class... Arguments>
     Self run(const char* operation, Call call, Arguments&&... arguments) const
     {
         return done(operation, (object_->*call)(std::forward<Arguments>(arguments)...));
     }
 
-    /// Returns what the getter @p getter of the object delivers.
+    /// Returns the value of the object's getter @p getter.
     template <class Owner, class Value>
     Value get(const char* operation, ZelDataResult_tags (Owner::*getter)(Value&) const) const
     {
@@ -85,7 +82,7 @@ protected:
         return value;
     }
 
-    /// Returns what the member function @p maker of the object hands out for @p arguments.
+    /// Returns the object that the member function @p maker makes from @p arguments.
     template <class Owner, class Made, class... Parameters, class... Arguments>
     std::unique_ptr<Made> make(const char* operation,
                                ZelDataResult_tags (Owner::*maker)(Made**, Parameters...) const,
@@ -98,8 +95,7 @@ protected:
         return owner;
     }
 
-    /// Returns the items that the member function @p getAll of the object hands out for
-    /// @p arguments.
+    /// Returns the items that the member function @p getAll stores for @p arguments.
     template <class Owner, class Made, class... Parameters, class... Arguments>
     std::vector<std::unique_ptr<Made>>
     makeAll(const char* operation,
@@ -112,7 +108,7 @@ protected:
         return handedOut.owned();
     }
 
-    /// Throws when @p code is a failure of @p operation.
+    /// Throws if @p code is a failure of @p operation.
     void require(const char* operation, ZelDataResult_tags code) const
     {
         if (warningsPass_)
@@ -122,7 +118,7 @@ protected:
     }
 
 private:
-    /// Items that a collection handed out and that no one owns yet; deletes those that are left.
+    /// Items that a collection returned; deletes those that owned() has not passed on.
     template <class Made>
     struct HandedOut {
         HandedOut() = default;

@@ -14,7 +14,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of a collection of screen texts that throws where an operation fails.
+/// A view of a collection of screen texts that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelDataScreenText for what an operation does.
 template <class Object>

@@ -12,7 +12,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of a screen text that throws where an operation fails.
+/// A view of a screen text that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelDataScreenTextItem for what an operation does.
 template <class Object>

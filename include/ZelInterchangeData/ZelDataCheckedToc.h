@@ -15,7 +15,7 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// A view of a table of contents that throws where an operation fails.
+/// A view of a table of contents that throws if an operation fails.
 ///
 /// See ZelDataCheckedObject for views, and i_ZelDataToc for what an operation does.
 template <class Object>

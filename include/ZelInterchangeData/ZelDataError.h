@@ -1,5 +1,5 @@
 /// @file
-/// A failing code as an exception, for callers who want that.
+/// The exception that reports a failure's code, for callers who prefer exceptions.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAERROR_H
 #define ZELINTERCHANGEDATA_ZELDATAERROR_H
@@ -14,12 +14,11 @@
 
 namespace ZelInterchangeData {
 
-/// Says which operation returned which code. The library itself never throws it: it comes from the
-/// functions of the headers that ZelDataFace.h includes, which are compiled into the caller.
+/// Says which operation returned which code. The library itself never throws it: only the headers
+/// that ZelDataFace.h includes do, and these are compiled into the caller.
 ///
-/// The shared library holds its only type description, so it may be thrown in one program or shared
-/// library and caught in another when both use the same one. The fields are part of the binary
-/// interface.
+/// Its only type information is in the shared library, so one module can catch what another throws
+/// if both use the same shared library. The fields are part of the binary interface.
 class ZELINTERCHANGEDATA_API ZelDataError : public std::runtime_error {
 public:
     /// @p operation is copied. The message names the operation, the code and its meaning:

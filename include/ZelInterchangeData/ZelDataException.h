@@ -1,5 +1,5 @@
 /// @file
-/// The one exception of the library.
+/// The exception that ZELDataCreator throws.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAEXCEPTION_H
 #define ZELINTERCHANGEDATA_ZELDATAEXCEPTION_H
@@ -11,8 +11,7 @@
 
 namespace ZelInterchangeData {
 
-/// Thrown by ZELDataCreator::createInterchangeData() alone, when no document could be made. Every
-/// other failure is reported as a result code.
+/// Only ZELDataCreator::createInterchangeData() throws it, if memory runs out.
 class ZELINTERCHANGEDATA_API ZelDataException : public std::exception {
 public:
     /// Keeps a copy of @p message.

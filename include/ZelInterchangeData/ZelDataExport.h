@@ -6,15 +6,15 @@
 #define ZELINTERCHANGEDATA_ZELDATAEXPORT_H
 
 /// @def ZELINTERCHANGEDATA_API
-/// Marks what the shared library exports. Empty where ZELINTERCHANGEDATA_STATIC is defined, as it
-/// is for the static library, which exports nothing from the program that links it. On Windows it
-/// exports where ZELINTERCHANGEDATA_EXPORTS is defined, as it is while the shared library is
-/// compiled, and imports otherwise: a program that links the static library there defines
+/// Marks what the shared library exports. Empty if ZELINTERCHANGEDATA_STATIC is defined, as it
+/// is for the static library, which exports nothing from the program that links it. On Windows, it
+/// exports if ZELINTERCHANGEDATA_EXPORTS is defined, as it is while the shared library is compiled,
+/// and otherwise imports: a program that links the static library there must define
 /// ZELINTERCHANGEDATA_STATIC.
 
 // Deliberate: the static form is empty, not "hidden"; with hidden interfaces g++ would warn about
 // every class of the program that has a pointer to one. The static library itself is compiled with
-// hidden visibility, which is what counts when a program is linked.
+// hidden visibility, which decides at link time.
 #if defined(ZELINTERCHANGEDATA_STATIC)
 #define ZELINTERCHANGEDATA_API
 #elif defined(_WIN32) && defined(ZELINTERCHANGEDATA_EXPORTS)

@@ -1,5 +1,5 @@
 /// @file
-/// Factories that return what they make.
+/// Factories that return the new object.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAFACTORIES_H
 #define ZELINTERCHANGEDATA_ZELDATAFACTORIES_H
@@ -28,8 +28,8 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// Returns what the factory @p create hands out for @p arguments. Never null: throws ZelDataError,
-/// which names @p operation, when the factory fails.
+/// Returns the object that the factory @p create makes from @p arguments, never null. If the
+/// factory fails, throws a ZelDataError that names @p operation.
 template <class Interface, class... Parameters>
 std::unique_ptr<Interface> makeObject(const char* operation,
                                       ZelDataResult_tags (*create)(Interface**, Parameters...),
@@ -41,11 +41,11 @@ std::unique_ptr<Interface> makeObject(const char* operation,
 }
 
 /// @name Documents and data sets
-/// Each makes a new object with its defaults. Never null: a factory that fails throws ZelDataError,
-/// createDocument() ZelDataException.
+/// Each returns a new object with default values, never null. If that fails, createDocument()
+/// throws ZelDataException, the others ZelDataError.
 /// @{
 
-/// A document without any data set. See ZELDataCreator::createInterchangeData().
+/// A document without data sets. See ZELDataCreator::createInterchangeData().
 inline std::unique_ptr<i_ZelInterchangeDataCore> createDocument()
 {
     return std::unique_ptr<i_ZelInterchangeDataCore>(ZELDataCreator::createInterchangeData());
@@ -73,9 +73,9 @@ inline std::unique_ptr<i_ZelDataScreenText> createScreenText()
 /// @}
 
 /// @name Items
-/// Each makes a new item, with its defaults or with the values given. Never null: throws
-/// ZelDataError when the factory or an operation that stores a value fails. A caption item lets
-/// `std::bad_alloc` through as well.
+/// Each returns a new item with default values or with the given ones, never null. If the factory
+/// or an operation that stores a value fails, throws ZelDataError. A caption item may also throw
+/// `std::bad_alloc`.
 /// @{
 
 /// See ZelDataUtilities::createCaptionItemData().
@@ -110,7 +110,7 @@ std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem(long long start, long lo
     return item;
 }
 
-/// An entry that starts at @p start ticks. @p texts as for a caption.
+/// An entry that starts at @p start ticks. @p texts has the same form as for a caption.
 template <class Texts = ZelDataTexts>
 std::unique_ptr<i_ZelDataTocItem> createTocItem(long long start, const Texts& texts)
 {
@@ -133,8 +133,8 @@ inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem(long long s
 /// @}
 
 /// @name Formatters
-/// Each makes a new formatter without data. Never null: throws ZelDataError when the factory fails,
-/// as it does for a format that the library does not write.
+/// Each returns a new formatter without data, never null. If the factory fails, for example because
+/// the library does not write the format, throws ZelDataError.
 /// @{
 
 /// See ZelDataUtilities::createHeaderFormatter().

@@ -35,25 +35,26 @@ struct ZelDataFinding {
     /// The kind of collection that was checked. 0, which is not a kind, in a new finding.
     ZelDataFindingSubject_tags subject = static_cast<ZelDataFindingSubject_tags>(0);
 
-    /// Index of the item, from 0 in stored order; #noItem when the finding is about the collection.
+    /// Index of the item, from 0 in stored order; #noItem if the finding is about the collection.
     unsigned long item = noItem;
     /// The item's start, in milliseconds for captions, else in ticks.
     long long start = 0;
     /// The language ID of the text concerned.
     std::string language;
 
-    /// The colour component out of range: "foreground red", "foreground green", "foreground blue",
-    /// the same with "background", or "background opacity".
+    /// The colour component that is out of range: "foreground red", "foreground green", "foreground
+    /// blue", the same with "background", or "background opacity".
     std::string property;
     /// The value of #property.
     float component = 0.0F;
     /// Any other value: a duration, a start or an end in the unit of #start, a number of lines, a
-    /// frame rate or a font size. A value too large for the type is given as the largest number.
+    /// frame rate or a font size. A value too large for the type is replaced with its largest
+    /// number.
     long long value = 0;
     /// The limit that #value or #component breaks; the limit itself is allowed.
     long long limit = 0;
 
-    /// Index of the first later item concerned; #noItem when there is none.
+    /// Index of the first later item concerned; #noItem if there is none.
     unsigned long laterItem = noItem;
     /// The start of that item, in the unit of #start.
     long long laterStart = 0;

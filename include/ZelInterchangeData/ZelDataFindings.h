@@ -29,15 +29,14 @@ class i_ZelDataToc;
 /// order of the collection's languages, order and overlap. An item has at most one finding of these
 /// last two kinds; it names the first later item concerned.
 ///
-/// Takes n log n steps for n items. The collection is only read, and only through its interface, so
-/// any implementation will do; as with every getter, its last error is set. The functions
-/// themselves store no last error.
-/// - The code that a failing getter of the collection or of an item returns.
-/// - ZelData_InternalError: the collection hands out a null pointer for an item, or an
-///   implementation that the caller wrote throws an exception other than `std::bad_alloc`.
+/// These functions take n log n steps for n items. They only call getters of the collection and its
+/// items, so any implementation works. The getters store a last error, the functions do not.
+/// - The code of a getter of the collection or of an item that fails.
+/// - ZelData_InternalError: the collection returns a null pointer for an item, or the caller's
+///   implementation throws an exception other than `std::bad_alloc`.
 /// - ZelData_OutOfMemory.
 ///
-/// On failure @p findings stays as it was.
+/// On failure, @p findings is unchanged.
 /// @{
 
 /// Checks styling, durations, texts, languages, order and overlap of captions.
@@ -52,11 +51,10 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataScreenText
                                                        std::vector<ZelDataFinding>& findings);
 /// @}
 
-/// Describes @p finding in one line of English without a line feed, such as
-/// "caption 2 at 2000 ms: too short (900 ms, at least 1000 ms)". Items are counted from 0, as
-/// everywhere. Control characters in a language ID are written as in "\x0A", and so are all bytes
-/// beyond ASCII when the ID is not UTF-8. Returns "unknown finding" for a kind that does not exist.
-/// Lets `std::bad_alloc` through.
+/// Describes @p finding in one line of English without a line feed, such as "caption 2 at 2000 ms:
+/// too short (900 ms, at least 1000 ms)". Items are counted from 0. Control characters in a
+/// language ID are escaped as in "\x0A", and so are all non-ASCII bytes if the ID is not UTF-8.
+/// Returns "unknown finding" for a kind that does not exist. May throw `std::bad_alloc`.
 ZELINTERCHANGEDATA_API std::string describe(const ZelDataFinding& finding);
 
 } // namespace ZelInterchangeData

@@ -8,7 +8,7 @@
 
 namespace ZelInterchangeData {
 
-/// An output format. The operations that take one refuse every value but the one listed.
+/// An output format. The operations that take one reject any value that is not listed.
 enum ZelDataFormatType_tags : std::uint32_t {
     /// An XMP packet: RDF/XML in UTF-8.
     ZelDataFormat_Xmp = 1

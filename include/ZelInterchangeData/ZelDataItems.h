@@ -15,9 +15,9 @@
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// @name Items
-/// Copies of all items in stored order, owned by the vector: a change to one does not reach the
-/// collection. For use in loops: `for (const auto& item : items(*captions))`. Throws ZelDataError,
-/// which names the getter, when the collection cannot hand them out.
+/// Copies of all items in stored order, owned by the vector: changing one does not change the
+/// collection. For use in loops: `for (const auto& item : items(*captions))`. If the getter fails,
+/// throws a ZelDataError that names it.
 /// @{
 
 /// See i_ZelDataCaptions::getCaptionItems().

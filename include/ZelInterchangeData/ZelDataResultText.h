@@ -49,11 +49,11 @@ ZELINTERCHANGEDATA_INLINE inline constexpr ZelDataResultText zelDataResultTexts[
     {ZelData_UnsupportedFormat, "ZelData_UnsupportedFormat", "The format is not supported."},
 };
 
-/// The words for every value that is not a code of the library.
+/// The text for every value that is not a code of the library.
 ZELINTERCHANGEDATA_INLINE inline constexpr ZelDataResultText zelDataUnknownResultText = {
     ZelData_Ok, "ZelData_Unknown", "The value is not a result code of this library."};
 
-/// The words for @p code, or #zelDataUnknownResultText for a value that is not a code.
+/// The text for @p code, or #zelDataUnknownResultText for a value that is not a code.
 ZELINTERCHANGEDATA_INLINE constexpr const ZelDataResultText&
 zelDataResultTextOf(ZelDataResult_tags code) noexcept
 {

@@ -14,7 +14,7 @@ namespace ZelInterchangeData {
 ///
 /// The underlying type is fixed, so a value that is not listed passes through unchanged.
 ///
-/// The compiler warns when you drop a code. To drop one on purpose, cast it to `void`.
+/// The compiler warns if you ignore a code. To ignore one on purpose, cast it to `void`.
 enum [[nodiscard]] ZelDataResult_tags : std::uint32_t{
     /// Success.
     ZelData_Ok = 0x00000000,
@@ -60,7 +60,8 @@ ZELINTERCHANGEDATA_INLINE constexpr bool failed(ZelDataResult_tags code) noexcep
     return (code & 0xC0000000U) != 0;
 }
 
-/// Whether @p code is an error; warnings pass. For calls where a warning is expected and harmless.
+/// Whether @p code is an error, not a warning. For calls in which a warning is expected and
+/// harmless.
 ZELINTERCHANGEDATA_INLINE constexpr bool isError(ZelDataResult_tags code) noexcept
 {
     return (code & 0x80000000U) != 0;

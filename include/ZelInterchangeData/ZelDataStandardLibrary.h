@@ -1,5 +1,5 @@
 /// @file
-/// Makes the linker reject a program whose std::string and std::vector are not the library's own.
+/// Makes the linker reject a program whose std::string or std::vector differs from the library's.
 /// Both cross the interface in virtual calls, which no linker checks.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATASTANDARDLIBRARY_H
@@ -12,8 +12,8 @@
 
 namespace ZelInterchangeData {
 
-/// Never called. If the linker does not find this function, the program was compiled with another
-/// standard library than the library, or with settings that change its types: with libc++, with
+/// Never called. If the linker does not find this function, the program was compiled with a
+/// different standard library, or with settings that change its types: with libc++, with
 /// `-D_GLIBCXX_USE_CXX11_ABI=0`, with `-D_GLIBCXX_DEBUG`.
 ZELINTERCHANGEDATA_API void
 library_was_built_with_another_std_string_or_vector(const std::string&,

@@ -26,21 +26,21 @@ class i_ZelDataToc;
 class i_ZelDataTocFormatter;
 class i_ZelDataTocItem;
 
-/// Static functions only. They return codes or values and store no last error anywhere. All of them
-/// may be called from any thread.
+/// Static functions only. They return codes or values and store no last error. You can call them
+/// from any thread.
 class ZELINTERCHANGEDATA_API ZelDataUtilities {
 public:
     ZelDataUtilities() = delete;
 
     /// @name Data factories
-    /// Each stores a new object with its defaults in `*out`; the caller owns it.
-    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
-    /// - #ZelData_OutOfMemory: no object was obtained; `*out` stays null.
+    /// Each stores a new object with default values in `*out`; the caller owns it.
+    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is unchanged.
+    /// - #ZelData_OutOfMemory: `*out` stays null.
     /// @{
 
-    /// A header; it is not valid before length, width and height are set.
+    /// A header; it is not valid until length, width and height are set.
     static ZelDataResult_tags createHeaderData(i_ZelDataHeader** out);
-    /// A caption; it is not valid before it has a duration.
+    /// A caption; it is not valid until it has a duration.
     static ZelDataResult_tags createCaptionItemData(i_ZelDataCaptionItem** out);
     /// Captions without items, in the standard styling.
     static ZelDataResult_tags createCaptionData(i_ZelDataCaptions** out);
@@ -57,9 +57,9 @@ public:
     /// @name Formatter factories
     /// Each stores a new formatter without data in `*out`; the caller owns it. Checked in this
     /// order:
-    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
+    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is unchanged.
     /// - #ZelData_UnsupportedFormat: @p format is not #ZelDataFormat_Xmp; `*out` stays null.
-    /// - #ZelData_OutOfMemory: no object was obtained; `*out` stays null.
+    /// - #ZelData_OutOfMemory: `*out` stays null.
     /// @{
 
     /// Writes the frame of a packet.
@@ -82,19 +82,20 @@ public:
     /// @{
 
     /// Replaces @p name with the English name of the language of @p id.
-    /// - #ZelData_UnknownLanguage: not in the catalogue; @p name is left alone.
-    /// - #ZelData_OutOfMemory: @p name is left alone.
+    /// - #ZelData_UnknownLanguage: not in the catalogue; @p name is unchanged.
+    /// - #ZelData_OutOfMemory: @p name is unchanged.
     static ZelDataResult_tags englishNameForLanguage(const std::string& id, std::string& name);
     /// Replaces @p name with the language's own name in UTF-8, which may be empty ("lu").
-    /// - #ZelData_UnknownLanguage: not in the catalogue; @p name is left alone.
-    /// - #ZelData_OutOfMemory: @p name is left alone.
+    /// - #ZelData_UnknownLanguage: not in the catalogue; @p name is unchanged.
+    /// - #ZelData_OutOfMemory: @p name is unchanged.
     static ZelDataResult_tags nativeNameForLanguage(const std::string& id, std::string& name);
-    /// #ZelData_Ok when the catalogue knows the language of @p id, else #ZelData_UnknownLanguage.
+    /// #ZelData_Ok if the language of @p id is in the catalogue, otherwise
+    /// #ZelData_UnknownLanguage.
     static ZelDataResult_tags isValidLanguage(const std::string& id);
     /// @}
 
     /// @name Text
-    /// The functions that return a string let `std::bad_alloc` through.
+    /// The functions that return a string may throw `std::bad_alloc`.
     /// @{
 
     /// Checks the form of the UTF-8 sequences of @p text. An empty text passes.
@@ -106,8 +107,8 @@ public:
     /// Five- and six-byte forms, overlong forms of three and more bytes, encoded surrogates and
     /// values above U+10FFFF pass.
     static ZelDataResult_tags verifyUtf8Format(const std::string& text, bool bmpOnly);
-    /// The number of line feeds, plus one when there is any and the last byte is not one. 0 for a
-    /// text without any line feed, however long, and for one that is not UTF-8.
+    /// The number of line feeds, plus one if there are any and the text does not end with one. 0
+    /// for a text without line feeds, however long, and for one that is not UTF-8.
     static unsigned long countLinesInUTF8(const std::string& text);
     /// @p text without the bytes 0x00 to 0x1F, except the line feed. Removes tab and carriage
     /// return, too.
@@ -116,19 +117,18 @@ public:
     static std::string htmlTagsToText(const std::string& text);
     /// @p text with the five XML entities decoded, once.
     ///
-    /// An entity that ends at the last byte is not decoded. Where a `&` does not begin an entity,
-    /// the byte that shows this is dropped: the one after `&a`, else the one after `&` ("&nbsp;"
-    /// gives "&bsp;").
+    /// An entity that ends at the last byte is not decoded. If a `&` does not begin an entity, the
+    /// byte after it is dropped, or the byte after `&a` ("&nbsp;" gives "&bsp;").
     static std::string htmlTagsFromText(const std::string& text);
-    /// "bottom", "top" or "center"; bottom wins over top.
+    /// "bottom", "top" or "center"; bottom takes precedence over top.
     static std::string getVerticalAlignment(ZelAlignment_tags alignment);
-    /// "left", "right" or "center"; left wins over right.
+    /// "left", "right" or "center"; left takes precedence over right.
     static std::string getHorizontalAlignment(ZelAlignment_tags alignment);
     /// @}
 
     /// @name Values
-    /// The text forms that the packet uses; they never depend on a locale. They let
-    /// `std::bad_alloc` through.
+    /// The text forms that the packet uses; they never depend on a locale. They may throw
+    /// `std::bad_alloc`.
     /// @{
 
     /// Six significant digits, shortest general notation ("2", "0.1", "1.23457e+06", "nan").
@@ -143,18 +143,18 @@ public:
     /// 66048 gives "1.2.0". #ZELINTERCHANGEDATA_VERSION and libraryVersion() are packed
     /// differently: there, 10200 is version 1.2.0.
     static std::string getVersionString(unsigned long version);
-    /// The date and time of @p seconds since the Unix epoch, or of now when null, in UTC, followed
-    /// by an offset in hours ("2009-03-05T14:07:09+2:00"). Empty when the instant has no calendar
-    /// date.
+    /// The date and time of @p seconds since the Unix epoch, or of now if it is null, in UTC,
+    /// followed by an offset in hours ("2009-03-05T14:07:09+2:00"). Empty if the calendar cannot
+    /// express that moment.
     ///
-    /// The offset is the local hour minus the UTC hour and nothing else: no minutes, no day
-    /// boundary, no leading zero, and "-0:00" where the hours agree. The time zone is the one that
-    /// the process has set; `tzset` is not called.
+    /// The offset is the local hour minus the UTC hour, nothing else: no minutes, no day boundary,
+    /// no leading zero, and "-0:00" if the hours are equal. The function uses the time zone of the
+    /// process without calling `tzset`.
     static std::string getDateString(long* seconds);
     /// @}
 };
 
-/// Plain decimal, with a leading "-" when negative. Lets `std::bad_alloc` through.
+/// Plain decimal, with a leading "-" if negative. May throw `std::bad_alloc`.
 ZELINTERCHANGEDATA_API std::string getValueString(long value);
 
 } // namespace ZelInterchangeData

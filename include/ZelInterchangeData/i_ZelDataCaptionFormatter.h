@@ -13,11 +13,12 @@ class i_ZelDataCaptions;
 /// Holds a copy of captions and writes it as one `rdf:li` of the packet's track list.
 ///
 /// - `writeString` (the flag is not used): #ZelData_InternalError for a format other than
-///   #ZelDataFormat_Xmp; #ZelData_InvalidData when nothing was ever set. A collection without items
-///   gives #ZelData_Ok and leaves the text alone. The held copy is made consistent first.
-/// - `writeFile` writes no file: #ZelData_InternalError for another format, the code of a failing
-///   `writeString`, else #ZelData_NotImplemented.
-/// - `readString`, `readFile`: #ZelData_InternalError for another format, else
+///   #ZelDataFormat_Xmp; #ZelData_InvalidData if nothing was ever set. It makes the held copy
+///   consistent first. For a collection without items, it returns #ZelData_Ok and leaves the text
+///   unchanged.
+/// - `writeFile` writes no file: #ZelData_InternalError for another format, the code of a failed
+///   `writeString`, otherwise #ZelData_NotImplemented.
+/// - `readString`, `readFile`: #ZelData_InternalError for another format, otherwise
 ///   #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelDataCaptionFormatter : public i_ZelDataFormatterBase {
 public:
@@ -25,8 +26,8 @@ public:
     ~i_ZelDataCaptionFormatter() override;
 
     /// Replaces the held copy with a copy of @p captions.
-    /// - The code of the copying (see i_ZelDataCaptions::copyFrom()): the held copy is partly
-    ///   filled.
+    /// - The code of the failed copy (see i_ZelDataCaptions::copyFrom()): the held copy is
+    ///   incomplete.
     virtual ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) = 0;
     /// Not supported: always #ZelData_NotImplemented.
     virtual ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const = 0;

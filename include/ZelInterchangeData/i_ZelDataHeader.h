@@ -21,11 +21,10 @@ public:
     ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataHeader);
     ~i_ZelDataHeader() override;
 
-    /// Whether video length, width and height are all set; nothing else is checked.
+    /// Checks that video length, width and height are set, nothing else.
     /// - #ZelData_InvalidArgument: one of them is 0.
     virtual ZelDataResult_tags isValid() const = 0;
-    /// Puts all fields back to their defaults, languages included. The search-bar flag and the
-    /// content names stay.
+    /// Resets the languages and all fields except the search-bar flag and the content names.
     virtual ZelDataResult_tags clearHeader() = 0;
 
     /// @name Setters
@@ -67,7 +66,7 @@ public:
     virtual ZelDataResult_tags getAppVersion(std::string& version) const = 0;
     /// The title of the whole video.
     virtual ZelDataResult_tags getTitle(std::string& title) const = 0;
-    /// As it was set.
+    /// The creator, as it was set.
     virtual ZelDataResult_tags getCreator(std::string& creator) const = 0;
     /// What the video is about.
     virtual ZelDataResult_tags getDescription(std::string& description) const = 0;
@@ -75,11 +74,11 @@ public:
     virtual ZelDataResult_tags getKeywords(std::vector<std::string>& keywords) const = 0;
     /// Whether the video is marked as explicit.
     virtual ZelDataResult_tags getIPodExplicit(bool& isExplicit) const = 0;
-    /// In milliseconds.
+    /// The length, in milliseconds.
     virtual ZelDataResult_tags getVideoLength(unsigned long& milliseconds) const = 0;
-    /// In pixels.
+    /// The width, in pixels.
     virtual ZelDataResult_tags getVideoWidth(unsigned long& pixels) const = 0;
-    /// In pixels.
+    /// The height, in pixels.
     virtual ZelDataResult_tags getVideoHeight(unsigned long& pixels) const = 0;
     /// @}
 
@@ -101,7 +100,7 @@ public:
     virtual ZelDataResult_tags getContentNameCount(unsigned long& count) const = 0;
     /// Replaces @p names with the list.
     virtual ZelDataResult_tags getContentNames(std::vector<std::string>& names) const = 0;
-    /// Sets @p exists to whether an entry identical to @p name is listed; @p name is only read.
+    /// Sets @p exists to whether an entry identical to @p name is listed; @p name is unchanged.
     virtual ZelDataResult_tags doesContentNameExist(std::string& name, bool& exists) const = 0;
     /// @}
 
@@ -113,9 +112,9 @@ public:
     /// Replaces everything with a copy of @p other: the languages, then the fields in the order of
     /// the setters, then the content names and the search-bar flag.
     /// - #ZelData_InternalError: @p other is this object; nothing changes.
-    /// - #ZelData_InvalidArgument: a length, width or height of @p other is 0. What precedes it in
-    ///   the order was copied; the content names and the flag were not.
-    /// - A failing step's code, warnings included: what was copied before it stays.
+    /// - #ZelData_InvalidArgument: a length, width or height of @p other is 0. What precedes it was
+    ///   copied; the content names and the flag were not.
+    /// - The code of a failed step, even a warning: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataHeader& other);
 };
 

@@ -13,9 +13,9 @@ class i_ZelDataHeader;
 /// Holds a copy of a header and writes it as a complete packet with an empty track list.
 ///
 /// - `writeString` (the flag is not used): #ZelData_InternalError for a format other than
-///   #ZelDataFormat_Xmp; #ZelData_InvalidData when no header was ever set. It does not check
-///   whether the header is valid.
-/// - `readString`, `writeFile`, `readFile`: #ZelData_InternalError for another format, else
+///   #ZelDataFormat_Xmp; #ZelData_InvalidData if no header was ever set. It does not check whether
+///   the header is valid.
+/// - `readString`, `writeFile`, `readFile`: #ZelData_InternalError for another format, otherwise
 ///   #ZelData_NotImplemented. Nothing is read or written.
 class ZELINTERCHANGEDATA_API i_ZelDataHeaderFormatter : public i_ZelDataFormatterBase {
 public:
@@ -23,7 +23,8 @@ public:
     ~i_ZelDataHeaderFormatter() override;
 
     /// Replaces the held copy with a copy of @p header.
-    /// - The code of the copying (see i_ZelDataHeader::copyFrom()): the held copy is partly filled.
+    /// - The code of the failed copy (see i_ZelDataHeader::copyFrom()): the held copy is
+    ///   incomplete.
     virtual ZelDataResult_tags setHeader(const i_ZelDataHeader& header) = 0;
     /// Not supported: always #ZelData_NotImplemented.
     virtual ZelDataResult_tags getHeader(i_ZelDataHeader& header) const = 0;

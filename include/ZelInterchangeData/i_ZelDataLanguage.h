@@ -26,19 +26,19 @@ public:
     virtual ZelDataResult_tags clearLanguages() = 0;
     /// Appends @p id.
     /// - #ZelData_InvalidUtf8: @p id is not UTF-8.
-    /// - #ZelData_UnknownLanguage: the catalogue does not know its language.
-    /// - #ZelData_WarnAlreadyExists: an identical ID is listed; the list stays as it is.
+    /// - #ZelData_UnknownLanguage: its language is not in the catalogue.
+    /// - #ZelData_WarnAlreadyExists: an identical ID is listed; the list is unchanged.
     virtual ZelDataResult_tags addLanguage(const std::string& id) = 0;
     /// Removes the first entry that is identical to @p id.
     /// - #ZelData_WarnNoChange from a header, #ZelData_NotFound from captions and a table of
-    ///   contents: there is none.
+    ///   contents: @p id is not listed.
     virtual ZelDataResult_tags removeLanguage(const std::string& id) = 0;
     /// Puts the list in the order of @p ids.
     /// - #ZelData_InvalidArgument: @p ids and the list differ in the number of entries, or @p ids
-    ///   has one that is not listed.
+    ///   contains one that is not listed.
     ///
-    /// Only count and membership are checked: an ID that occurs twice in @p ids is accepted, and
-    /// another one then disappears. The next copy of such a list stops at the second occurrence.
+    /// This checks only count and membership: if an ID occurs twice in @p ids, another one
+    /// disappears from the list. Copying such a list stops at the second occurrence.
     virtual ZelDataResult_tags setOrderedLanguageIDs(const std::vector<std::string>& ids) = 0;
     /// Replaces @p ids with the list.
     virtual ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const = 0;
@@ -53,11 +53,11 @@ public:
     /// - #ZelData_OutOfMemory: @p names holds those that were found.
     virtual ZelDataResult_tags
     getLanguageNativeDisplayNames(std::vector<std::string>& names) const = 0;
-    /// Sets @p exists to whether an entry identical to @p id is listed; @p id is only read.
+    /// Sets @p exists to whether an entry identical to @p id is listed; @p id is unchanged.
     virtual ZelDataResult_tags doesLanguageExist(std::string& id, bool& exists) const = 0;
     /// Replaces the list with that of @p other, entry by entry through addLanguage().
     /// - #ZelData_InternalError: @p other is this object; nothing changes.
-    /// - A failing step's code, warnings included: the entries added so far remain.
+    /// - The code of a failed step, even a warning: the entries added before it stay.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataLanguage& other);
 };
 

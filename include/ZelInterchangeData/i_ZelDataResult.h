@@ -16,29 +16,26 @@ namespace ZelInterchangeData {
 /// them says so in its own comment.
 /// - An operation returns a code and stores the same code as the object's last error. Const
 ///   operations store it too. Static functions store nothing.
-/// - When an operation ends because another object failed, the code is that object's
-///   getLastError().
-/// - Getters deliver through a reference argument and leave it alone when they fail.
-/// - A failing operation leaves the object as it was. Operations of several steps that stop
-///   part-way (`copyFrom` and others that say so) keep what was done before the failure.
-/// - Data is passed by copy: setters copy in, getters copy out, no object keeps a caller's pointer.
-/// - What is handed out through a pointer argument belongs to the caller, who deletes it. Such an
-///   argument must point to a null pointer, else #ZelData_InvalidArgument.
-/// - When memory runs out the code is #ZelData_OutOfMemory, and the object stays usable. A caption
-///   item lets `std::bad_alloc` through instead.
-/// - When an implementation of an interface that the caller wrote throws, `std::bad_alloc` counts
-///   as exhausted memory and any other exception gives #ZelData_InternalError. None leaves the
-///   library.
+/// - If an operation fails because another object failed, it returns that object's getLastError().
+/// - Getters store their value in a reference argument and leave it unchanged if they fail.
+/// - An operation that fails leaves the object unchanged. Operations of several steps (`copyFrom`
+///   and others that say so) keep what they did before the failure.
+/// - Setters and getters copy data; no object keeps a caller's pointer.
+/// - The caller owns and deletes what an operation returns through a pointer argument. The argument
+///   must point to a null pointer; otherwise, the operation returns #ZelData_InvalidArgument.
+/// - If memory runs out, an operation returns #ZelData_OutOfMemory, and the object stays usable. A
+///   caption item throws `std::bad_alloc` instead.
+/// - If the caller's implementation of an interface throws, the library treats `std::bad_alloc` as
+///   if memory had run out, and returns #ZelData_InternalError for any other exception.
 /// - An item whose class the caller wrote may change the collection that holds it, even while the
-///   collection calls it. An operation that only reads continues with the items that it began with;
-///   one that changes the items returns #ZelData_InternalError, and the item's change stays.
-/// - Distinct objects may be used from distinct threads; one object serves one thread at a time.
+///   collection calls it. An operation that only reads continues with the items that it started
+///   with; one that changes the items returns #ZelData_InternalError, and the item's change stays.
+/// - You can use different objects in different threads. Use one object in one thread at a time.
 /// - With libstdc++ on glibc, a thread may be cancelled (`pthread_cancel`, deferred) or exit
-///   (`pthread_exit`) inside an operation: the stack unwinds, and what the operation obtained is
-///   released. The operation stores no code, its finished steps have stored theirs, and the object
-///   is left as it would be by a failure of the step that did not return. Asynchronous cancellation
-///   is not supported. With another standard library, no cancellation inside an operation is
-///   supported.
+///   (`pthread_exit`) inside an operation: the stack unwinds, and the operation releases what it
+///   acquired. It stores no code; its completed steps have stored theirs. The object is in the same
+///   state as after a failure of the interrupted step. Asynchronous cancellation is not supported.
+///   Neither is any cancellation inside an operation with another standard library.
 ///
 /// The order of the virtual operations of every interface is its binary interface and never
 /// changes.
@@ -67,7 +64,7 @@ protected:
         return code;
     }
 
-    /// Takes over the last error of @p object as it is, even when that is #ZelData_Ok.
+    /// Stores the last error of @p object, even #ZelData_Ok, and returns it.
     [[nodiscard]] ZELINTERCHANGEDATA_INLINE ZelDataResult_tags
     storeFrom(const i_ZelDataResult& object) const
     {

@@ -15,28 +15,27 @@ class i_ZelDataScreenTextItem;
 
 /// Screen-text items in the order in which they were added.
 ///
-/// The collection stores copies of items and hands out copies; the caller owns what it is handed.
+/// The collection stores copies of items and returns copies, which the caller owns.
 class ZELINTERCHANGEDATA_API i_ZelDataScreenText : public i_ZelDataResult {
 public:
     ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataScreenText);
     ~i_ZelDataScreenText() override;
 
-    /// Checks frame rate and order; the first finding is returned. Overlaps pass.
-    /// @param deep whether to check each item by its own `isValid(true)` too.
+    /// Checks frame rate and order; stops at the first problem. Overlaps pass.
+    /// @param deep whether to call `isValid(true)` of each item, too.
     /// - #ZelData_InvalidArgument: the frame rate is out of range.
     /// - #ZelData_WarnTiming: an item starts after a later one. Equal starts pass.
-    /// - An item's code, with @p deep.
+    /// - The code of an item, if @p deep is true.
     virtual ZelDataResult_tags isValid(bool deep) const = 0;
     /// Orders the items by start and sets a frame rate that is out of range to 1000.
     ///
     /// The order is that of an exchange sort: items with equal starts may change places.
     virtual ZelDataResult_tags makeScreenTextConsistent() = 0;
 
-    /// Ticks per second of the items' times, 1 to 10000. Default 1000, which makes them
-    /// milliseconds.
+    /// Ticks per second of the items' times, 1 to 10000. Default 1000: milliseconds.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
-    /// In ticks per second.
+    /// The frame rate, in ticks per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
 
     /// @name Items
@@ -45,10 +44,10 @@ public:
 
     /// Removes all items.
     virtual ZelDataResult_tags clearScreenTextItems() = 0;
-    /// Appends a copy of @p item. Neither order nor times are checked.
+    /// Appends a copy of @p item. Does not check order or times.
     /// - The code of copying the item (see i_ZelDataScreenTextItem::copyFrom()): nothing is added.
     virtual ZelDataResult_tags addScreenTextItem(const i_ZelDataScreenTextItem& item) = 0;
-    /// Hands out a new item with its defaults, which does not belong to the collection.
+    /// Stores a new item with default values in `*out`. It is not part of the collection.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
     virtual ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const = 0;
     /// Removes the item at @p index; later items move up.
@@ -56,20 +55,20 @@ public:
     virtual ZelDataResult_tags removeScreenTextItemAt(unsigned long index) = 0;
     /// The number of items.
     virtual ZelDataResult_tags getScreenTextItemCount(unsigned long& count) = 0;
-    /// Hands out a copy of the item at @p index.
+    /// Stores a copy of the item at @p index in `*out`.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not, or there is no such item.
     virtual ZelDataResult_tags getScreenTextItemAt(i_ZelDataScreenTextItem** out,
                                                    unsigned long index) const = 0;
-    /// Replaces @p items with copies of all items. What the vector pointed to before is not
-    /// deleted.
-    /// - A failing copy's code: @p items is empty.
+    /// Replaces @p items with copies of all items. Does not delete what the vector pointed to
+    /// before.
+    /// - The code of a failed copy: @p items is empty.
     virtual ZelDataResult_tags
     getScreenTextItems(std::vector<i_ZelDataScreenTextItem*>& items) const = 0;
     /// @}
 
     /// Replaces frame rate and items with copies of those of @p source.
     /// - #ZelData_InternalError: @p source is this object; nothing changes.
-    /// - A failing step's code, warnings included: what was copied before it stays.
+    /// - The code of a failed step, even a warning: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataScreenText& source);
 };
 

@@ -16,7 +16,7 @@ class i_ZelDataTocItem;
 /// Entries in the order in which they were added, the file of their thumbnails, and the list of
 /// languages.
 ///
-/// The table stores copies of entries and hands out copies; the caller owns what it is handed.
+/// The table stores copies of entries and returns copies, which the caller owns.
 class ZELINTERCHANGEDATA_API i_ZelDataToc : public i_ZelDataLanguage {
 public:
     using i_ZelDataLanguage::copyFrom;
@@ -24,13 +24,13 @@ public:
     ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataToc);
     ~i_ZelDataToc() override;
 
-    /// Checks frame rate, texts and order; the first finding is returned. The image fields are not
-    /// checked.
-    /// @param deep whether to check each entry by its own `isValid(true)` too.
+    /// Checks frame rate, texts and order; stops at the first problem. Does not check the image
+    /// fields.
+    /// @param deep whether to call `isValid(true)` of each entry, too.
     /// - #ZelData_InvalidArgument: the frame rate is out of range, or an entry has no text for a
     ///   listed language.
     /// - #ZelData_WarnTiming: an entry starts after a later one. Equal starts pass.
-    /// - An entry's code, with @p deep.
+    /// - The code of an entry, if @p deep is true.
     virtual ZelDataResult_tags isValid(bool deep) const = 0;
     /// Orders the entries by start, gives each an empty text for every listed language that it
     /// lacks, and sets a frame rate that is out of range to 1000.
@@ -38,11 +38,11 @@ public:
     /// The order is that of an exchange sort: entries with equal starts may change places.
     virtual ZelDataResult_tags makeTocConsistent() = 0;
 
-    /// Ticks per second of the entries' starts, 1 to 10000. Default 1000. It is never copied, so
-    /// the written table states 1000 whatever is set here.
+    /// Ticks per second of the entries' starts, 1 to 10000. Default 1000. It is never copied, so a
+    /// written table always states 1000.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
-    /// In ticks per second.
+    /// The frame rate, in ticks per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
     /// The file of the thumbnails; stored as given. Default empty.
     virtual ZelDataResult_tags setImageFile(const std::string& name) = 0;
@@ -55,13 +55,13 @@ public:
 
     /// Removes all entries and empties the language list.
     virtual ZelDataResult_tags clearTocItems() = 0;
-    /// Appends a copy of @p item and lists its languages that are not listed, in ascending byte
-    /// order. The order of starts is not checked.
+    /// Appends a copy of @p item and lists those of its languages that are not listed yet, in
+    /// ascending byte order. Does not check the order of starts.
     /// - The code of copying the entry (see i_ZelDataTocItem::copyFrom()): nothing is added.
-    /// - The error from listing a language: the entry is not added; languages that this call
-    ///   listed before the error stay listed, except when memory runs out.
+    /// - The error from listing a language: the entry is not added; languages that this call listed
+    ///   before the error stay listed, unless memory runs out.
     virtual ZelDataResult_tags addTocItem(const i_ZelDataTocItem& item) = 0;
-    /// Hands out a new entry with its defaults, which does not belong to the table.
+    /// Stores a new entry with default values in `*out`. It is not part of the table.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not.
     virtual ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const = 0;
     /// Removes the entry at @p index; later entries move up.
@@ -73,14 +73,14 @@ public:
     virtual ZelDataResult_tags removeTocItemsForLanguage(const std::string& languageID) = 0;
     /// The number of entries.
     virtual ZelDataResult_tags getTocItemCount(unsigned long& count) = 0;
-    /// Hands out a copy of the entry at @p index.
+    /// Stores a copy of the entry at @p index in `*out`.
     /// - #ZelData_InvalidArgument: @p out is null or `*out` is not, or there is no such entry.
     virtual ZelDataResult_tags getTocItemAt(i_ZelDataTocItem** out, unsigned long index) const = 0;
-    /// Replaces @p items with copies of all entries. What the vector pointed to before is not
-    /// deleted.
-    /// - A failing copy's code: @p items is empty.
+    /// Replaces @p items with copies of all entries. Does not delete what the vector pointed to
+    /// before.
+    /// - The code of a failed copy: @p items is empty.
     virtual ZelDataResult_tags getTocItems(std::vector<i_ZelDataTocItem*>& items) const = 0;
-    /// Not supported: always #ZelData_NotImplemented; @p items is left alone.
+    /// Not supported: always #ZelData_NotImplemented; @p items is unchanged.
     virtual ZelDataResult_tags getTocItemsForLanguage(std::vector<i_ZelDataTocItem*>& items,
                                                       const std::string& languageID) const = 0;
     /// @}
@@ -88,9 +88,9 @@ public:
     /// Replaces image file and entries with copies of those of @p source; the frame rate stays.
     ///
     /// The language list is rebuilt from the entries: each contributes its languages in ascending
-    /// byte order. A language that no entry has disappears, and so does an order that you set.
+    /// byte order. A language that no entry has and an order that you set are lost.
     /// - #ZelData_InternalError: @p source is this object; nothing changes.
-    /// - A failing step's code, warnings included: what was copied before it stays.
+    /// - The code of a failed step, even a warning: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataToc& source);
 };
 

@@ -14,25 +14,24 @@ namespace ZelInterchangeData {
 
 /// A start, a reference to a thumbnail, and one title per language.
 ///
-/// The start counts in ticks of the table's frame rate, which are milliseconds as the table is
-/// written.
+/// The start is in ticks of the table's frame rate; in a written table, ticks are milliseconds.
 class ZELINTERCHANGEDATA_API i_ZelDataTocItem : public i_ZelDataResult {
 public:
     ZELINTERCHANGEDATA_INLINE_COPIES(i_ZelDataTocItem);
     ~i_ZelDataTocItem() override;
 
-    /// Checks texts and languages; an entry without any text passes. @p deep changes nothing.
+    /// Checks texts and languages. An entry without texts is valid. @p deep has no effect.
     /// - #ZelData_InvalidItem: a text or language is not valid.
     virtual ZelDataResult_tags isValid(bool deep) const = 0;
     /// Removes the titles of all languages.
     virtual ZelDataResult_tags clearText() = 0;
-    /// Stores @p text, which may be empty, for @p languageID. Mind the order: the text comes first.
+    /// Stores @p text, which may be empty, for @p languageID. Note the order: the text comes first.
     /// - #ZelData_InvalidItem: @p languageID is not UTF-8 or unknown to the catalogue, or @p text
     ///   is not UTF-8.
-    /// - #ZelData_WarnAlreadyExists: done; an earlier text was replaced.
+    /// - #ZelData_WarnAlreadyExists: the text was stored and replaced an earlier one.
     virtual ZelDataResult_tags setTextForLanguage(const std::string& text,
                                                   const std::string& languageID) = 0;
-    /// In ticks, at least 0. Default 0.
+    /// Sets the start in ticks, at least 0. Default 0.
     /// - #ZelData_InvalidArgument: @p start is negative.
     virtual ZelDataResult_tags setStart(long long start) = 0;
     /// The file that holds the thumbnail; stored as given. Default empty.
@@ -46,22 +45,22 @@ public:
     virtual ZelDataResult_tags removeTextForLanguage(const std::string& languageID) = 0;
     /// Replaces @p ids with the languages that have a title, in ascending byte order.
     virtual ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const = 0;
-    /// Copies out the title for @p languageID.
+    /// Replaces @p text with the title for @p languageID.
     /// - #ZelData_InvalidArgument: there is none.
     virtual ZelDataResult_tags getTextForLanguage(std::string& text,
                                                   const std::string& languageID) const = 0;
-    /// In ticks.
+    /// The start, in ticks.
     virtual ZelDataResult_tags getStart(long long& start) const = 0;
     /// The file that holds the thumbnail.
     virtual ZelDataResult_tags getImageFile(std::string& name) const = 0;
     /// The index of the thumbnail in the file.
     virtual ZelDataResult_tags getImageIndex(unsigned long& index) const = 0;
-    /// In bytes.
+    /// The offset of the thumbnail in the file, in bytes.
     virtual ZelDataResult_tags getImageOffset(unsigned long long& offset) const = 0;
     /// Replaces everything with a copy of @p source: the titles, then start, image file, index,
     /// offset.
     /// - #ZelData_InternalError: @p source is this object; nothing changes.
-    /// - A failing step's code, warnings included: what was copied before it stays.
+    /// - The code of a failed step, even a warning: what was copied before it stays.
     virtual ZelDataResult_tags copyFrom(const i_ZelDataTocItem& source);
 };
 

@@ -13,21 +13,21 @@ class i_ZelDataHeader;
 class i_ZelDataScreenText;
 class i_ZelDataToc;
 
-/// Holds a copy of each data set that it was given and writes them as one XMP packet.
+/// Holds copies of the data sets and writes them as one XMP packet.
 ///
-/// - `writeString`: the packet without an XML declaration. With @p flag it appends to the text
-///   instead of replacing it. The text stays as it was on failure.
-/// - `writeFile`: the XML declaration and the packet, with nothing between them; @p flag is not
-///   used. The packet ends at its first zero byte. #ZelData_Ok says that the file was opened: what
-///   fails later (a full device, say) is not reported. On any failure no file is touched.
-/// - Both: #ZelData_UnsupportedFormat for a format other than #ZelDataFormat_Xmp;
-///   #ZelData_InvalidArgument without a header or with one whose length, width or height is 0; the
-///   code of copying a set or of its formatter; #ZelData_FileOpenFailed when the file cannot be
-///   opened, for example because the path is empty or holds a zero byte.
-/// - Both keep this document as it is, and neither stores its final code as the last error: only an
-///   unsupported format and a failure to copy a set are stored.
-/// - The packet's languages are those of the captions, in order, or "en-US" alone without any.
-///   Those of the header are not used.
+/// - `writeString` writes the packet without an XML declaration. If @p flag is true, it appends to
+///   the text instead of replacing it. On failure, the text is unchanged.
+/// - `writeFile` writes the XML declaration and, directly after it, the packet up to its first zero
+///   byte; @p flag is not used. #ZelData_Ok means that the file was opened: later failures, such as
+///   a full disk, are not reported. On failure, no file is changed.
+/// - Both return #ZelData_UnsupportedFormat for a format other than #ZelDataFormat_Xmp;
+///   #ZelData_InvalidArgument without a header, or with one whose length, width or height is 0; the
+///   code of copying a set or of its formatter; #ZelData_FileOpenFailed if the file cannot be
+///   opened, for example because the path is empty or contains a zero byte.
+/// - Neither changes this document. Neither stores its final code as the last error, except an
+///   unsupported format or a failure to copy a set.
+/// - The packet's languages are those of the captions, in order, or only "en-US" if there are none.
+///   Those of the header are ignored.
 /// - `readString`, `readFile`: always #ZelData_NotImplemented.
 class ZELINTERCHANGEDATA_API i_ZelInterchangeDataCore : public i_ZelDataFormatterBase {
 public:
@@ -36,18 +36,18 @@ public:
 
     /// @name Data sets
     /// A getter replaces the contents of @p target with a copy of the document's set.
-    /// - #ZelData_NoData: the document was never given one; @p target is left alone.
-    /// - The code of the copying: @p target is partly filled.
+    /// - #ZelData_NoData: the document has none; @p target is unchanged.
+    /// - The code of the failed copy: @p target is incomplete.
     ///
     /// A setter replaces the document's set with a copy of @p source.
-    /// - The code of the copying: the document's set is partly filled. From setDataHeader() it is
-    ///   the last error of the captions that the document holds, whatever that is, or the header's
-    ///   own where it holds none.
+    /// - The code of the failed copy: the document's set is incomplete. setDataHeader() instead
+    ///   returns the last error of the document's captions, whatever it is, if the document has
+    ///   captions.
     /// @{
 
     /// The header.
     virtual ZelDataResult_tags getDataHeader(i_ZelDataHeader& target) const = 0;
-    /// A packet needs a header. One that is not valid is copied in part only.
+    /// A packet needs a header. A header that is not valid is copied only in part.
     virtual ZelDataResult_tags setDataHeader(const i_ZelDataHeader& source) = 0;
     /// The captions.
     virtual ZelDataResult_tags getDataCaptions(i_ZelDataCaptions& target) const = 0;
@@ -64,8 +64,9 @@ public:
     /// @}
 
     /// @name New data objects
-    /// Each hands out a new object with its defaults; the document keeps no reference to it.
-    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is left alone.
+    /// Each stores a new object with default values in `*out`; the document keeps no reference to
+    /// it.
+    /// - #ZelData_InvalidArgument: @p out is null or `*out` is not; `*out` is unchanged.
     /// @{
 
     /// See ZelDataUtilities::createHeaderData().

@@ -21,7 +21,7 @@ list_steps() {
     for name in "$@"; do printf '  %-13s %s\n' "$name" "${purpose_of[$name]}"; done
 }
 
-# What a step leaves for the end: a line on its results, and a shorter way to repeat what failed.
+# What a step may set for the summary: a line on its results, and a command that repeats only what failed.
 result=
 repeat=
 
@@ -44,8 +44,8 @@ run_tests() {
     return "$status"
 }
 
-# Runs the steps named, or all that are not optional. With stop_at_failure=yes the first that fails is
-# the last.
+# Runs the named steps, or all that are not optional. With stop_at_failure=yes, stops at the first that
+# fails.
 run_steps() {
     local script=$1 name begin failed=() lines=()
     shift

@@ -63,7 +63,7 @@ void addDuration(ZelDataFinding_tags kind, long long duration, long long limit, 
     finding.limit = limit;
 }
 
-/// Does not call a caption without a duration too short as well.
+/// Does not report a caption without a duration as too short as well.
 void checkDuration(long long duration, FindingList& found)
 {
     if (duration < CaptionLimits::shortestDuration) {
@@ -82,7 +82,7 @@ void checkLines(const std::string& text, const std::string& language, FindingLis
     finding.limit = static_cast<long long>(CaptionLimits::recommendedLines);
 }
 
-/// Checks @p item by itself and for texts in the languages @p listed.
+/// Checks @p item itself and whether it has texts in the languages @p listed.
 Ending checkItem(const i_ZelDataCaptionItem& item, const std::vector<std::string>& listed,
                  FindingList& found)
 {
@@ -95,8 +95,8 @@ Ending checkItem(const i_ZelDataCaptionItem& item, const std::vector<std::string
                             });
 }
 
-/// For each item, the time before which no later one may start: its end, or its start where an
-/// implementation that the caller wrote lets it end earlier.
+/// For each item, the time before which no later one may start: its end, or its start if a caller's
+/// implementation lets it end earlier.
 Ending readBounds(const Items& items, const std::vector<long long>& starts,
                   std::vector<long long>& bounds)
 {

@@ -21,7 +21,7 @@ void CaptionStyle::repair()
 {
     frameRate.repair();
     if (fontFamily.empty()) fontFamily = standardFontFamily;
-    // Deliberate: smaller than the standard size; otherwise a repaired size would be 20.
+    // Deliberate: smaller than the standard size; otherwise, a repaired size would be 20.
     if (!isFontSize(fontSize)) fontSize = repairedFontSize;
     repairComponent(foreground.red, 1.0F);
     repairComponent(foreground.green, 1.0F);

@@ -10,7 +10,7 @@
 
 namespace ZelInterchangeData {
 
-/// Whether @p value lies in 0.0 to 1.0. A NaN does: it is neither below nor above.
+/// Whether @p value is not below 0.0 or above 1.0. This is true for NaN.
 constexpr bool isFraction(float value) noexcept
 {
     return !(value < 0.0F || value > 1.0F);
@@ -28,7 +28,7 @@ struct CaptionColor {
     }
 };
 
-/// What all captions of a collection share.
+/// The styling that all captions of a collection share.
 struct CaptionStyle {
     static constexpr unsigned long minimumFontSize = 1;
     static constexpr unsigned long maximumFontSize = 500;
@@ -48,9 +48,9 @@ struct CaptionStyle {
         return size >= minimumFontSize && size <= maximumFontSize;
     }
 
-    /// Whether every value is one that its setter accepts.
+    /// Whether the setters accept all values.
     bool isInRange() const noexcept;
-    /// Brings values that are out of range back into it; a NaN stays.
+    /// Replaces values that are out of range; NaN stays.
     void repair();
 };
 

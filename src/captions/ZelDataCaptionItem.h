@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// What a caption consists of. Copies share the texts.
+/// The data of a caption. Copies share the texts.
 class CaptionState {
 public:
     using Summary = TextSummary;
@@ -33,7 +33,8 @@ private:
     LanguageTexts texts_;
 };
 
-/// The caption item that the library makes. Exhausted memory passes through as `std::bad_alloc`.
+/// The caption item that the library makes. If memory runs out, its operations throw
+/// `std::bad_alloc`.
 class ZelDataCaptionItem : public i_ZelDataCaptionItem {
 public:
     using State = CaptionState;
@@ -41,7 +42,7 @@ public:
     ZelDataCaptionItem() = default;
     explicit ZelDataCaptionItem(CaptionState state) : state_(std::move(state)) {}
     ZelDataCaptionItem(const ZelDataCaptionItem&) = delete;
-    /// Copies all fields but the last error, without checks.
+    /// Copies all fields except the last error, without checks.
     ZelDataCaptionItem& operator=(const ZelDataCaptionItem& other);
 
     ZelDataResult_tags isValid(bool strict) const override;

@@ -19,8 +19,8 @@ bool ZelDataCaptions::canHandOutItems() const
     return true;
 }
 
-/// Returns the finding of one item, which must not overlap a later one; the earliest of those
-/// starts at @p earliestLater.
+/// Checks one item, which must not overlap a later one; the earliest of those starts at @p
+/// earliestLater.
 Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
                                   const std::vector<std::string>& listed, long long earliestLater)
 {
@@ -34,7 +34,7 @@ Ending ZelDataCaptions::checkItem(const i_ZelDataCaptionItem& item, bool strict,
     return {};
 }
 
-/// Returns the first finding of the items, in stored order.
+/// Returns the code of the first problem of the items, in stored order.
 ZelDataResult_tags ZelDataCaptions::checkItems(bool strict) const
 {
     const auto listed = languageIDs(); // a caller's item may change the list
@@ -138,7 +138,7 @@ ZelDataResult_tags ZelDataCaptions::getBackgroundColor(float& red, float& green,
 
 ZelDataResult_tags ZelDataCaptions::setBackgroundOpacity(float opacity)
 {
-    // Deliberate: a NaN passes; otherwise the setter would refuse it with ZelData_InvalidArgument.
+    // Deliberate: NaN passes; otherwise, the setter would reject it with ZelData_InvalidArgument.
     if (!isFraction(opacity)) return store(ZelData_InvalidArgument);
     style_.backgroundOpacity = opacity;
     return store(ZelData_Ok);
@@ -156,7 +156,7 @@ ZelDataResult_tags ZelDataCaptions::clearCaptionItems()
 {
     return store(guarded([&] {
         items_.clear();
-        // Deliberate: clears the languages, too; otherwise languages without a text would stay
+        // Deliberate: clears the languages, too; otherwise, languages without a text would stay
         // listed.
         languages().clear();
         return ZelData_Ok;

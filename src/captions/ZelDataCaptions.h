@@ -50,12 +50,12 @@ public:
     /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the items:
     /// the items and styling of our own collections were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataCaptions& other);
-    /// Whether each item can be copied. One that cannot is a caller's item whose copying stopped
-    /// half-way although its last error was ZelData_Ok.
+    /// Whether each item can be copied. This is false for a copy of a caller's item that stopped
+    /// half-way although that item's last error was ZelData_Ok.
     bool canHandOutItems() const;
     const CaptionStyle& style() const noexcept { return style_; }
     const Items& items() const noexcept { return items_; }
-    /// What is known about all items.
+    /// The summary of all items.
     const TextSummary& summary() const { return items_.summary(); }
     using LanguageListOwner::languageIDs;
 

@@ -16,7 +16,7 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// Deliberate: written in place of an empty text; otherwise its list item would be empty.
+/// Deliberate: written in place of an empty text; otherwise, its list item would be empty.
 constexpr std::string_view emptyCaption = "{\\rtf1 }";
 
 void describeTrack(Track& track, const CaptionStyle& style)
@@ -30,7 +30,7 @@ void describeTrack(Track& track, const CaptionStyle& style)
         .attribute("zelDM:bgOpacity", Utilities::getValueString(style.backgroundOpacity));
 }
 
-/// 0 to 255, truncated, not rounded; a NaN gives 0.
+/// 0 to 255, truncated, not rounded; 0 for NaN.
 long long colorByte(float component)
 {
     return std::isnan(component) ? 0
@@ -93,7 +93,7 @@ void writeMarker(MarkerWriter& markers, const CaptionState& item,
 
 i_ZelDataCaptionFormatter::~i_ZelDataCaptionFormatter() = default;
 
-// Here, so that the document that creates one does not compile the class template again.
+// Defined here so that the document, which creates one, does not compile the class template again.
 ZelDataXmpCaptionFormatter::ZelDataXmpCaptionFormatter() = default;
 ZelDataXmpCaptionFormatter::~ZelDataXmpCaptionFormatter() = default;
 
@@ -141,7 +141,7 @@ Ending ZelDataXmpCaptionFormatter::checkTrack() const
 
 std::optional<std::size_t> ZelDataXmpCaptionFormatter::estimateTrack() const
 {
-    // The texts with some room for entities, and the markup.
+    // The size of the texts, with some space for entities, and of the markup.
     constexpr std::size_t trackMarkup = 700;
     constexpr std::size_t markerMarkup = 210;
     constexpr std::size_t languageMarkup = 40;
@@ -153,7 +153,7 @@ std::optional<std::size_t> ZelDataXmpCaptionFormatter::estimateTrack() const
 }
 
 /// Writes the captions as makeCaptionsConsistent() leaves them: in order, with a text in each
-/// language, with a styling that is in range.
+/// language and a styling that is in range.
 void ZelDataXmpCaptionFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataCaptions& captions = *held();

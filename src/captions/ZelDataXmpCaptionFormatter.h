@@ -17,8 +17,8 @@ namespace ZelInterchangeData {
 class i_ZelDataCaptionItem;
 
 /// Appends the texts of @p item in the languages of @p languageIDs as markup to @p text and skips
-/// languages without text. Returns whether every language had one. Throws `std::bad_alloc` when
-/// memory runs out, also when the item reports that.
+/// languages without a text. Returns whether every language had one. Throws `std::bad_alloc` if
+/// memory runs out, even if the item returns this as a code.
 bool buildCaptionList(std::vector<std::string> languageIDs, const i_ZelDataCaptionItem& item,
                       std::string& text);
 
@@ -33,7 +33,7 @@ public:
     ZelDataResult_tags setCaptions(const i_ZelDataCaptions& captions) override;
     ZelDataResult_tags getCaptions(i_ZelDataCaptions& captions) const override;
 
-    /// Ends when an item cannot be copied.
+    /// Ends if an item cannot be copied.
     Ending checkTrack() const;
     std::optional<std::size_t> estimateTrack() const;
     void appendTrack(std::string& packet) const;

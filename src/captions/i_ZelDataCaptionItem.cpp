@@ -14,7 +14,7 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
 {
     using Item = i_ZelDataCaptionItem;
     if (&other == this) return store(ZelData_InternalError);
-    // Between two of our own items, sharing the texts has the same result as the steps below.
+    // Between two of our own items, sharing the texts gives the same result as the steps below.
     auto* own = exactly<ZelDataCaptionItem>(*this);
     const auto* ownOther = exactly<ZelDataCaptionItem>(other);
     if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);

@@ -53,7 +53,8 @@ i_ZelDataCaptions::~i_ZelDataCaptions() = default;
 ZelDataResult_tags i_ZelDataCaptions::copyFrom(const i_ZelDataCaptions& other)
 {
     if (&other == this) return store(ZelData_InternalError);
-    // Between two of our own collections, sharing the items has the same result as the steps below.
+    // Between two of our own collections, sharing the items gives the same result as the steps
+    // below.
     auto* own = exactly<ZelDataCaptions>(*this);
     const auto* ownOther = exactly<ZelDataCaptions>(other);
     if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
@@ -79,7 +80,7 @@ ZelDataResult_tags ZelDataCaptions::copyOwn(const ZelDataCaptions& other)
         if (failed(listed)) return listed;
         style_ = other.style_;
         if (!other.canHandOutItems()) {
-            other.setLastError(ZelData_InvalidArgument); // it cannot hand out its items
+            other.setLastError(ZelData_InvalidArgument); // its items cannot be copied
             return ZelData_InvalidArgument;
         }
         items_ = other.items_;

@@ -13,8 +13,8 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Widens a narrow character to the number of its byte. The standard facet asks the C library,
-/// whose result for bytes above 0x7F depends on the locale.
+/// Widens a narrow character to the value of its byte. The standard facet asks the C library, whose
+/// result for bytes above 0x7F depends on the locale.
 class ByteCharacters : public std::ctype<wchar_t> {
 public:
     ~ByteCharacters() override = default;
@@ -39,7 +39,7 @@ class ByteConversion : public Conversion {
 public:
     ~ByteConversion() override = default;
 
-    /// From now on, converts no character to a byte.
+    /// From now on, discards all characters.
     void drop() const { isDropping_ = true; }
 
 protected:
@@ -92,7 +92,7 @@ private:
     mutable bool isDropping_ = false; // facets are const; each stream has its own
 };
 
-/// @p base with @p Facet in place of its own. Deletes the facet when the locale cannot be made.
+/// @p base with a @p Facet in place of its own. Deletes the facet if the locale cannot be created.
 template <class Facet>
 std::locale withFacet(const std::locale& base)
 {
@@ -137,8 +137,8 @@ struct StreamBuffer {
     std::array<wchar_t, 4096> buffer{};
 };
 
-/// A file stream that has its buffer and locale before the file is opened: the stream would obtain
-/// its own buffer only after opening, and opening empties the file.
+/// A file stream that has its buffer and locale before it opens the file: a stream allocates its
+/// own buffer only after opening, which empties the file.
 template <class Stream>
 class ByteFileStream : private StreamBuffer, public Stream {
 public:
@@ -146,12 +146,12 @@ public:
     {
         this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
         this->imbue(byteLocale());
-        // For the system a path ends at its first zero byte, so it would name another file.
+        // The system ends a path at its first zero byte, so it would open another file.
         if (path.find('\0') == std::string::npos) openFile<Stream>(*this, path);
     }
 
-    /// Drops what a write that failed, or was cancelled, has left: a full pipe would block the
-    /// thread again.
+    /// Discards what a failed or cancelled write has left: a full pipe would block the thread
+    /// again.
     ~ByteFileStream() override
     {
         if (!this->bad()) return;

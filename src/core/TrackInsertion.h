@@ -11,13 +11,12 @@
 
 namespace ZelInterchangeData {
 
-/// The position for the content of the last empty track list of @p packet; `npos` when there is
-/// none.
+/// The position inside the last empty track list of @p packet; `npos` if there is none.
 std::size_t placeOfTracks(const std::string& packet);
 
-/// Puts tracks into the last empty track list of @p packet: @p append, a callable, appends them to the
-/// string that it is given, about @p size bytes. #ZelData_InternalError, and @p packet is left alone,
-/// when there is no such list.
+/// Inserts tracks into the last empty track list of @p packet: @p append, a callable, appends them,
+/// about @p size bytes, to its argument. If there is no such list, returns #ZelData_InternalError
+/// and leaves @p packet unchanged.
 template <class Append>
 ZelDataResult_tags insertTracks(std::string& packet, std::size_t size, Append&& append)
 {

@@ -16,7 +16,7 @@ ZelDataCore::~ZelDataCore() = default;
 
 // Writing
 
-/// Ends with the last error of @p document when it does not accept one of the sets.
+/// Ends with the last error of @p document if it does not accept one of the sets.
 Ending ZelDataCore::copySetsTo(ZelDataCore& document) const
 {
     if ((header_ && failed(document.setDataHeader(*header_))) ||
@@ -34,7 +34,7 @@ ZelDataResult_tags ZelDataCore::writeCopy(ZelDataFormatType_tags format, Write&&
     if (format != ZelDataFormat_Xmp) return store(ZelData_UnsupportedFormat);
     ZelDataCoreXmp document;
     if (const Ending ending = copySetsTo(document)) return store(*ending);
-    // Deliberate: not stored; otherwise the last error would be that of the writing.
+    // Deliberate: not stored; otherwise, the last error would be that of writing.
     return std::forward<Write>(write)(document);
 }
 
@@ -68,7 +68,7 @@ ZelDataResult_tags ZelDataCore::readFile(const std::string& /*path*/,
 
 // Data sets
 
-/// Makes the set through @p create unless there is one; ends with this document's last error when
+/// Creates the set through @p create unless there is one; ends with this document's last error if
 /// that fails.
 template <class Data>
 Ending ZelDataCore::makeSet(std::unique_ptr<Data>& set,

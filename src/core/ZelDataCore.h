@@ -15,8 +15,8 @@
 
 namespace ZelInterchangeData {
 
-/// Holds the data sets. It writes through a ZelDataCoreXmp that gets copies of them, so changes
-/// made for writing never reach this document.
+/// Holds the data sets. It writes through a ZelDataCoreXmp with copies of them, so writing never
+/// changes this document.
 class ZelDataCore : public i_ZelInterchangeDataCore {
 public:
     ZelDataCore() = default;
@@ -47,12 +47,12 @@ public:
     ZelDataResult_tags createDataScreenText(i_ZelDataScreenText** out) const override;
 
 protected:
-    /// Null as long as there is none, like the other three.
+    /// Null if there is none, like the other three.
     const i_ZelDataHeader* header() const noexcept { return header_.get(); }
     const i_ZelDataCaptions* captions() const noexcept { return captions_.get(); }
     const i_ZelDataToc* toc() const noexcept { return toc_.get(); }
     const i_ZelDataScreenText* screenText() const noexcept { return screenText_.get(); }
-    /// The header, which must exist, for the const operations of writing that replace its languages.
+    /// The header, which must exist. Writing is const but replaces its languages.
     i_ZelDataHeader& mutableHeader() const noexcept { return *header_; }
 
 private:

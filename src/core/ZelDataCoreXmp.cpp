@@ -35,7 +35,7 @@ public:
         return add(screenText_, screenText, &ZelDataXmpScreenTextFormatter::setScreenText);
     }
 
-    /// Puts the tracks into the empty track list of @p packet.
+    /// Inserts the tracks into the empty track list of @p packet.
     ZelDataResult_tags insertInto(std::string& packet) const
     {
         if (!captions_.size && !toc_.size && !screenText_.size) return ZelData_Ok;
@@ -78,7 +78,7 @@ private:
     Track<ZelDataXmpScreenTextFormatter> screenText_;
 };
 
-/// Writes each byte as one wide character, in blocks on the stack: the stream's own insertion of
+/// Writes each byte as one wide character, in blocks on the stack: the stream's own operator for
 /// narrow text would allocate memory after the file was emptied.
 void writeBytes(std::wostream& stream, std::string_view bytes)
 {
@@ -95,7 +95,7 @@ void writeBytes(std::wostream& stream, std::string_view bytes)
 
 } // namespace
 
-// Each of these steps ends with the code that the writing then ends with.
+// If one of these steps ends, writing ends with its code.
 
 Ending ZelDataCoreXmp::checkHeader() const
 {
@@ -110,8 +110,8 @@ Ending ZelDataCoreXmp::copyCaptionLanguages() const
     std::vector<std::string> ids;
     const auto listed = captions()->getOrderedLanguageIDs(ids);
     if (listed == ZelData_OutOfMemory) return captions()->getLastError();
-    // Deliberate: continues; otherwise captions that cannot list their languages would fail the
-    // packet instead of being written under "en-US".
+    // Deliberate: continues; otherwise captions that cannot list their languages would make writing
+    // fail instead of counting as "en-US".
     if (failed(listed)) return {};
     for (const std::string& id : ids) {
         // cppcheck-suppress useStlAlgorithm ; each call changes the object, in this order
@@ -187,7 +187,7 @@ ZelDataResult_tags ZelDataCoreXmp::writeFile(const std::string& path, ZelDataFor
         writeBytes(*stream, xmlDeclaration);
         // Deliberate: ends at the first zero byte; otherwise the file would contain zero bytes.
         writeBytes(*stream, {text.data(), std::strlen(text.c_str())});
-        stream->close(); // failures after the opening are not reported
+        stream->close(); // does not report failures after opening
         return ZelData_Ok;
     }));
 }

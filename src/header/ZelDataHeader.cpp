@@ -18,7 +18,8 @@ ZelDataResult_tags ZelDataHeader::isValid() const
 
 ZelDataResult_tags ZelDataHeader::clearHeader()
 {
-    // Deliberate: search-bar flag and content names stay; otherwise clearing would reset them, too.
+    // Deliberate: search-bar flag and content names stay; otherwise, clearing would reset them,
+    // too.
     iPodExplicit_ = false;
     for (std::string* text : {&appName_, &appVersion_, &title_, &creator_, &description_}) {
         text->clear();
@@ -170,8 +171,8 @@ ZelDataResult_tags ZelDataHeader::addContentName(const std::string& name)
     return store(guarded([&] {
         const auto form = ZelDataUtilities::verifyUtf8Format(name, false);
         if (failed(form)) return form;
-        // Deliberate: not ZelData_WarnAlreadyExists; otherwise the code would be that of a language
-        // that is listed already.
+        // Deliberate: not ZelData_WarnAlreadyExists; otherwise, the code would be that of a
+        // language that is already listed.
         if (contentNames_.contains(name)) return ZelData_WarnNoChange;
         contentNames_.append(name);
         return ZelData_Ok;

@@ -9,7 +9,6 @@
 #include "xml/ZelDataXmlStream.h"
 
 #include <array>
-#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -49,27 +48,26 @@ std::string joined(const std::vector<std::string>& words)
     return text;
 }
 
-/// Builds the items of the language list; ZelData_InternalError when @p ids is empty.
+/// Builds the items of the language list.
 ZelDataResult_tags buildLanguageMarkup(const std::vector<std::string>& ids, std::string& markup)
 {
-    if (ids.empty()) return ZelData_InternalError;
     for (const std::string& id : ids) {
         std::string name;
         const auto found = Utilities::englishNameForLanguage(id, name);
         if (found == ZelData_OutOfMemory) return found;
-        // Deliberate: succeeds without the rest; otherwise an unknown language would fail the
-        // packet.
+        // Deliberate: succeeds without the rest; otherwise, an unknown language would make the
+        // packet fail.
         if (failed(found)) break;
         appendLanguageItem(markup, id, Utilities::htmlTagsToText(name));
     }
     return ZelData_Ok;
 }
 
-/// Builds the items of the content list; ZelData_InternalError when @p names is empty.
-ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std::string& markup)
+/// The items of the content list.
+std::string contentMarkup(const std::vector<std::string>& names)
 {
-    if (names.empty()) return ZelData_InternalError;
     constexpr std::size_t itemMarkup = 80;
+    std::string markup;
     for (std::size_t i = 0; i < names.size(); ++i) {
         markup.reserve(markup.size() + itemMarkup + sizeWithEntities(names[i]));
         markup += "<rdf:li xmpDM:name=\"";
@@ -78,7 +76,7 @@ ZelDataResult_tags buildContentMarkup(const std::vector<std::string>& names, std
         appendEscaped(markup, names[i]);
         markup += "\"></rdf:li>";
     }
-    return ZelData_Ok;
+    return markup;
 }
 
 /// Writes one header, step by step, in the order of the packet. A step that cannot get a value ends
@@ -87,7 +85,7 @@ class PacketFrame {
 public:
     explicit PacketFrame(const i_ZelDataHeader& header) : header_(header), description_(frame()) {}
 
-    /// Puts the whole packet into @p out, which stays as it was on failure.
+    /// Writes the whole packet to @p out, which is unchanged on failure.
     ZelDataResult_tags writeTo(std::string& out)
     {
         using Step = Ending (PacketFrame::*)();
@@ -128,7 +126,7 @@ private:
         std::string creator;
         std::string text;
         if (failed(header_.getCreator(creator))) return header_.getLastError();
-        // Deliberate: the creator alone is not escaped; otherwise one that is escaped already would
+        // Deliberate: only the creator is not escaped; otherwise, one that is already escaped would
         // be escaped twice.
         description_.attribute("dc:creator", creator);
         if (failed(header_.getDescription(text))) return header_.getLastError();
@@ -144,7 +142,7 @@ private:
         if (failed(header_.getAppName(name)) || failed(header_.getAppVersion(version))) {
             return header_.getLastError();
         }
-        // The separator is written even when name and version are empty.
+        // The separator is written even if name and version are empty.
         description_.attribute("dc:source", Utilities::htmlTagsToText(name + " - " + version));
         return {};
     }
@@ -220,12 +218,10 @@ private:
     Ending addContentNames()
     {
         std::vector<std::string> names;
-        std::string markup;
         if (failed(header_.getContentNames(names))) return header_.getLastError();
         if (names.empty()) return {};
-        if (const auto built = buildContentMarkup(names, markup); failed(built)) return built;
         description_.element("zelDM:contentList/rdf:Description/zelDM:files/rdf:Seq")
-            .text(std::move(markup));
+            .text(contentMarkup(names));
         return {};
     }
 
@@ -265,7 +261,7 @@ ZelDataResult_tags ZelDataXmpHeaderFormatter::writeString(std::string& out,
     }));
 }
 
-/// Unlike the formatters of the tracks, does not write a string first.
+/// Does not write a string first, unlike the formatters of the tracks.
 ZelDataResult_tags ZelDataXmpHeaderFormatter::writeFile(const std::string& /*path*/,
                                                         ZelDataFormatType_tags format,
                                                         bool /*flag*/) const

@@ -30,8 +30,8 @@ ZelDataResult_tags i_ZelDataHeader::copyFrom(const i_ZelDataHeader& other)
     return store(guarded([&] {
         if (const auto cleared = clearHeader(); failed(cleared)) return cleared;
         if (const auto copied = i_ZelDataLanguage::copyFrom(other); failed(copied)) return copied;
-        // Copying a header ends with the code that the setter returned; the other sets ask for
-        // their own last error.
+        // Copying a header ends with the code that the setter returned, copying another set with
+        // the set's last error.
         const auto setterCode = [](ZelDataResult_tags code) { return code; };
         FieldCopy fields(other, *this, setterCode);
         fields.field(&Header::getAppName, &Header::setAppName)

@@ -12,7 +12,7 @@ ZelDataResult_tags ZelDataUtilities::createScreenTextData(i_ZelDataScreenText** 
 
 // Checking and repairing
 
-/// Returns the finding of one item; no later one starts before @p earliestLater.
+/// Checks one item; no later one starts before @p earliestLater.
 Ending ZelDataScreenText::checkItem(const i_ZelDataScreenTextItem& item, bool deep,
                                     long long earliestLater)
 {
@@ -23,7 +23,7 @@ Ending ZelDataScreenText::checkItem(const i_ZelDataScreenTextItem& item, bool de
     return {};
 }
 
-/// Returns the first finding of the items, in stored order.
+/// Returns the code of the first problem of the items, in stored order.
 ZelDataResult_tags ZelDataScreenText::checkItems(bool deep) const
 {
     const Ending ending =

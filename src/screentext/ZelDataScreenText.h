@@ -42,7 +42,7 @@ public:
     ZelDataResult_tags copyOwn(const ZelDataScreenText& other);
     const Items& items() const noexcept { return items_; }
     FrameRate frameRate() const noexcept { return frameRate_; }
-    /// What is known about all items.
+    /// The summary of all items.
     const ScreenTextSummary& summary() const { return items_.summary(); }
 
     /// Orders the items by start, as makeScreenTextConsistent() does.

@@ -17,8 +17,8 @@ ZelDataScreenTextItem& ZelDataScreenTextItem::operator=(const ZelDataScreenTextI
     return *this;
 }
 
-/// An item is always valid: its text was checked when it was set. Deliberate: the flag changes
-/// nothing; otherwise a deep check could refuse an item.
+/// An item is always valid: its text was checked when it was set. Deliberate: the flag has no
+/// effect; otherwise, a deep check could reject an item.
 ZelDataResult_tags ZelDataScreenTextItem::isValid(bool /*deep*/) const
 {
     return store(ZelData_Ok);
@@ -82,7 +82,7 @@ ZelDataResult_tags ZelDataScreenTextItem::getEnd(long long& end) const
     return store(ZelData_Ok);
 }
 
-/// Unlike a caption, a screen text may have no length.
+/// A screen text may have a duration of zero, unlike a caption.
 ZelDataResult_tags ZelDataScreenTextItem::setDuration(long long duration)
 {
     if (duration < 0) return store(ZelData_InvalidArgument);

@@ -24,7 +24,7 @@ struct ScreenTextSummary {
     void add(const ScreenTextState& state) noexcept;
 };
 
-/// What a screen text consists of. Copies share text and file name.
+/// The data of a screen text. Copies share text and file name.
 class ScreenTextState {
 public:
     using Summary = ScreenTextSummary;
@@ -65,7 +65,7 @@ public:
     ZelDataScreenTextItem() = default;
     explicit ZelDataScreenTextItem(ScreenTextState state) : state_(std::move(state)) {}
     ZelDataScreenTextItem(const ZelDataScreenTextItem&) = delete;
-    /// Copies all fields but the last error, without checks.
+    /// Copies all fields except the last error, without checks.
     ZelDataScreenTextItem& operator=(const ZelDataScreenTextItem& other);
 
     ZelDataResult_tags isValid(bool deep) const override;

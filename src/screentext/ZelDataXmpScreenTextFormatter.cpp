@@ -30,7 +30,7 @@ void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
 
 i_ZelDataScreenTextFormatter::~i_ZelDataScreenTextFormatter() = default;
 
-// Here, so that the document that creates one does not compile the class template again.
+// Defined here so that the document, which creates one, does not compile the class template again.
 ZelDataXmpScreenTextFormatter::ZelDataXmpScreenTextFormatter() = default;
 ZelDataXmpScreenTextFormatter::~ZelDataXmpScreenTextFormatter() = default;
 
@@ -54,7 +54,7 @@ ZelDataXmpScreenTextFormatter::getScreenText(i_ZelDataScreenText& /*screenText*/
 
 std::optional<std::size_t> ZelDataXmpScreenTextFormatter::estimateTrack() const
 {
-    // The texts with some room for entities, and the markup.
+    // The size of the texts, with some space for entities, and of the markup.
     constexpr std::size_t trackMarkup = 250;
     constexpr std::size_t markerMarkup = 260;
     const ZelDataScreenText& screenText = *held();
@@ -70,7 +70,7 @@ void ZelDataXmpScreenTextFormatter::appendTrack(std::string& packet) const
     FrameRate rate = screenText.frameRate();
     rate.repair();
     Track track;
-    // Deliberate: the rate before the name, and no image; otherwise the attributes would be those
+    // Deliberate: the rate before the name, and no image; otherwise, the attributes would be those
     // of the table of contents.
     track.description()
         .attribute("xmpDM:trackType", "ScreenText")

@@ -14,15 +14,16 @@ i_ZelDataScreenText::~i_ZelDataScreenText() = default;
 ZelDataResult_tags i_ZelDataScreenText::copyFrom(const i_ZelDataScreenText& source)
 {
     if (&source == this) return store(ZelData_InternalError);
-    // Between two of our own collections, sharing the items has the same result as the steps below.
+    // Between two of our own collections, sharing the items gives the same result as the steps
+    // below.
     auto* own = exactly<ZelDataScreenText>(*this);
     const auto* ownSource = exactly<ZelDataScreenText>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
     return store(guarded([&] {
         if (failed(clearScreenTextItems())) return getLastError();
         FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
-        // Deliberate: copied, unlike a table of contents' rate; otherwise every written track would
-        // state f1000.
+        // Deliberate: copied, unlike the rate of a table of contents; otherwise, every written
+        // track would state f1000.
         fields.field(&i_ZelDataScreenText::getFrameRate, &i_ZelDataScreenText::setFrameRate);
         if (const Ending ending = fields.ending()) return *ending;
         ReceivedItems<i_ZelDataScreenTextItem> items;

@@ -13,7 +13,7 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
 {
     using Item = i_ZelDataScreenTextItem;
     if (&source == this) return store(ZelData_InternalError);
-    // Between two of our own items, sharing the strings has the same result as the steps below.
+    // Between two of our own items, sharing the strings gives the same result as the steps below.
     auto* own = exactly<ZelDataScreenTextItem>(*this);
     const auto* ownSource = exactly<ZelDataScreenTextItem>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);
@@ -22,7 +22,7 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
         FieldCopy fields(source, *this, [this](ZelDataResult_tags) { return getLastError(); });
         fields.field(&Item::getText, &Item::setText)
             .field(&Item::getStart, &Item::setStart)
-            // The duration, not the end, so that an item without a length can be copied.
+            // Copies the duration, not the end, because a screen text may have a duration of zero.
             .field(&Item::getDuration, &Item::setDuration)
             .field(&Item::getImageFile, &Item::setImageFile)
             .field(&Item::getImageIndex, &Item::setImageIndex)

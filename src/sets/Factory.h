@@ -20,8 +20,8 @@ bool isEmptyOutPointer(Interface* const* out) noexcept
     return out != nullptr && *out == nullptr;
 }
 
-/// Returns what @p create, a factory that the caller of the library may have written, stores in its
-/// out-pointer, and its code. The object is owned even when the factory stores it and then does not
+/// Returns the object that the factory @p create stores in its out-pointer, and the code. The
+/// factory may be a caller's: the object is owned even if the factory stores it and then does not
 /// return.
 template <class Interface, class Create>
 std::pair<std::unique_ptr<Interface>, ZelDataResult_tags> receive(Create&& create)
@@ -34,8 +34,8 @@ std::pair<std::unique_ptr<Interface>, ZelDataResult_tags> receive(Create&& creat
     return {std::unique_ptr<Interface>(std::exchange(out.object, nullptr)), code};
 }
 
-/// Stores a new @p Object, which the caller owns, in `*out`. #ZelData_InvalidArgument when @p out
-/// cannot accept one, #ZelData_OutOfMemory when none was obtained.
+/// Stores a new @p Object, which the caller owns, in `*out`. #ZelData_InvalidArgument if @p out
+/// cannot accept one, #ZelData_OutOfMemory if memory runs out.
 template <class Object, class Interface>
 ZelDataResult_tags createObject(Interface** out)
 {
@@ -46,8 +46,8 @@ ZelDataResult_tags createObject(Interface** out)
     });
 }
 
-/// As createObject(), with #ZelData_UnsupportedFormat for a format other than XMP. The pointer is
-/// checked first.
+/// As createObject(), but #ZelData_UnsupportedFormat for a format other than XMP. Checks the
+/// pointer first.
 template <class Formatter, class Interface>
 ZelDataResult_tags createFormatter(Interface** out, ZelDataFormatType_tags format)
 {

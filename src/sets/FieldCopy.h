@@ -12,12 +12,13 @@
 namespace ZelInterchangeData {
 
 /// Copies fields one after another between two implementations of @p Interface, through their
-/// virtual operations, until one fails. When a getter fails, ends with the source's last error;
-/// when a setter fails, with the code that the caller chooses.
+/// virtual operations, until one fails. If a getter fails, ends with the source's last error; if a
+/// setter fails, with the code that the caller chooses.
 template <class Interface, class OnSetFailure>
 class FieldCopy {
 public:
-    /// @param onSetFailure returns the code to end with, given the code of the setter that failed.
+    /// @param onSetFailure returns the code to end with; its argument is the code of the setter
+    ///         that failed.
     FieldCopy(const Interface& source, Interface& target, OnSetFailure onSetFailure)
         : source_(source), target_(target), onSetFailure_(std::move(onSetFailure))
     {
@@ -39,7 +40,7 @@ public:
         return *this;
     }
 
-    /// How the copying went so far.
+    /// The result so far.
     [[nodiscard]] Ending ending() const { return ending_; }
 
 private:

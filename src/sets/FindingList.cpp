@@ -10,7 +10,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// @p number, or the largest number that the type holds.
+/// @p number, or the largest number of the type.
 long long saturated(unsigned long number) noexcept
 {
     constexpr auto largest = std::numeric_limits<long long>::max();

@@ -1,5 +1,5 @@
 /// @file
-/// The findings of one collection, as they are collected.
+/// Collects the findings of one collection.
 
 #ifndef ZELINTERCHANGEDATA_SETS_FINDINGLIST_H
 #define ZELINTERCHANGEDATA_SETS_FINDINGLIST_H
@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// Collects findings. Those added after setItem() are about that item, those before about the collection.
+/// Findings that you add after setItem() are about that item, earlier ones about the collection.
 class FindingList {
 public:
     explicit FindingList(ZelDataFindingSubject_tags subject) noexcept : subject_(subject) {}
@@ -25,7 +25,7 @@ public:
         start_ = start;
     }
 
-    /// Adds a finding of @p kind and returns it, to fill the fields that this kind uses.
+    /// Adds a finding of @p kind and returns it; fill the fields that this kind uses.
     ZelDataFinding& add(ZelDataFinding_tags kind);
     /// Adds a finding of @p kind about the text in @p language.
     ZelDataFinding& add(ZelDataFinding_tags kind, const std::string& language);
@@ -38,9 +38,9 @@ public:
     void checkText(const std::string& text, const std::string& language);
     /// Adds a finding for each of @p listed that is not among @p ids.
     void addMissingTexts(std::vector<std::string> ids, const std::vector<std::string>& listed);
-    /// Adds that the item at @p later is the first one after the present one to start before
-    /// @p bound. It starts at @p laterStart: out of order when that is before the present item,
-    /// otherwise an overlap.
+    /// Adds a finding for the item at @p later, the first later one that starts before @p bound:
+    /// out of order if @p laterStart, its start, is before that of the current item, otherwise an
+    /// overlap.
     void addLater(long long bound, std::size_t later, long long laterStart);
 
     /// Replaces @p findings with those collected.

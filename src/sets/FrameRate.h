@@ -21,7 +21,7 @@ struct FrameRate {
 
     constexpr bool isInRange() const noexcept { return isInRange(value); }
 
-    /// Stores @p rate; when it is out of range, returns false and changes nothing.
+    /// Stores @p rate; if it is out of range, returns false and changes nothing.
     constexpr bool set(unsigned long rate) noexcept
     {
         if (!isInRange(rate)) return false;

@@ -1,5 +1,5 @@
 /// @file
-/// Copies of items, and of all that a collection hands out.
+/// Copies of items, and the items that a collection returns.
 
 #ifndef ZELINTERCHANGEDATA_SETS_ITEMCOPIES_H
 #define ZELINTERCHANGEDATA_SETS_ITEMCOPIES_H
@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// A copy of an item; when it is null, the code that making it ended with.
+/// A copy of an item, or null and the code of the failure.
 template <class Item>
 struct ItemCopy {
     std::unique_ptr<Item> item;
@@ -31,8 +31,8 @@ ItemCopy<Item> copyItem(const Item& source, Create&& create)
     return {std::move(copy), ZelData_Ok};
 }
 
-/// The items that a collection hands out through its vector. Deletes them at the end, including
-/// those that a collection handed out before it failed.
+/// The items that a collection stores in a vector; deletes them at the end, even those stored
+/// before the collection failed.
 template <class Item>
 class ReceivedItems {
 public:
@@ -52,8 +52,8 @@ public:
     /// The items, still owned by this object.
     const std::vector<Item*>& items() const noexcept { return items_; }
 
-    /// Adds each item to @p target through @p add. Ends with the target's last error when that
-    /// fails, and with #ZelData_InternalError at a null pointer.
+    /// Adds each item to @p target through @p add. Ends with the target's last error if that fails,
+    /// and with #ZelData_InternalError at a null pointer.
     template <class Collection>
     Ending addTo(Collection& target, ZelDataResult_tags (Collection::*add)(const Item&)) const
     {

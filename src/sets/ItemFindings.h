@@ -1,5 +1,5 @@
 /// @file
-/// The steps of finding problems that the collections share.
+/// The steps that the three findProblems() share.
 
 #ifndef ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
 #define ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
@@ -19,8 +19,8 @@ namespace ZelInterchangeData {
 
 class i_ZelDataLanguage;
 
-/// Replaces @p findings with what @p find, a callable for a FindingList, adds. When @p find ends
-/// early, returns the code it ends with, and @p findings stays as it was.
+/// Replaces @p findings with what @p find, a callable for a FindingList, adds. If @p find ends
+/// early, returns its code and leaves @p findings unchanged.
 template <class Find>
 ZelDataResult_tags collectFindings(ZelDataFindingSubject_tags subject,
                                    std::vector<ZelDataFinding>& findings, Find&& find)
@@ -36,8 +36,8 @@ ZelDataResult_tags collectFindings(ZelDataFindingSubject_tags subject,
 // Deliberate: the steps below end with the code that a getter returned, not with the last error;
 // otherwise an object that fails with a last error of ZelData_Ok would pass as one without problems.
 
-/// Replaces @p ids with the languages that @p languages lists, each once: the list may hold
-/// duplicates.
+/// Replaces @p ids with the languages that @p languages lists, without the duplicates that the list
+/// may contain.
 Ending readLanguages(const i_ZelDataLanguage& languages, std::vector<std::string>& ids);
 
 /// Fills @p items through @p getAll, the getter of all items of @p collection, and @p starts with
@@ -58,8 +58,8 @@ Ending receiveItems(const Collection& collection,
     return {};
 }
 
-/// Checks each item with @p look, a callable that may end the search, and adds a finding where a
-/// later one starts before the item's bound.
+/// Checks each item with @p look, a callable that may end the search, and adds a finding if a later
+/// item starts before the item's bound.
 template <class Item, class Look>
 Ending findItemProblems(const ReceivedItems<Item>& items, const std::vector<long long>& bounds,
                         const std::vector<long long>& starts, FindingList& found, Look&& look)
@@ -73,8 +73,8 @@ Ending findItemProblems(const ReceivedItems<Item>& items, const std::vector<long
     return {};
 }
 
-/// Checks the texts of @p item, and calls @p look, a callable for text and language, for each of
-/// them. Then adds the texts that are missing in the languages of @p listed.
+/// Checks the texts of @p item, and calls @p look with each text and its language. Then adds the
+/// languages of @p listed without a text.
 template <class Item, class Look>
 Ending findTextProblems(const Item& item, const std::vector<std::string>& listed,
                         FindingList& found, Look&& look)

@@ -25,17 +25,17 @@ namespace ZelInterchangeData {
 /// The items of a collection in their stored order.
 ///
 /// An item of our own is stored as its bare state, and a copy of the list shares all states with it
-/// until one of the two changes. Where a collection makes other items, as a derived one may, they
-/// are stored as they are, and copies of its list share them.
+/// until one of the two changes. Other items, which a derived collection may create, are stored as
+/// they are, and copies of the list share them.
 ///
-/// Such an item is a caller's, and any of its operations may change its collection. So each
-/// operation here that calls one keeps its own reference to the items that it works on: a change
-/// makes new ones.
+/// The class of such an item is a caller's, and any of its operations may change its collection. An
+/// operation of the list that calls one therefore holds on to the items that it works on; a change
+/// creates new ones.
 ///
 /// @tparam Item the interface of the items.
-/// @tparam Own our implementation of it. It has a `State` with a `start()`, is made from one, and
-///         returns it from `state()`. The state's `Summary` summarises all states; each is added to
-///         it in stored order.
+/// @tparam Own our implementation of it. It has a `State` with a `start()`, can be constructed from
+///         one, and returns it from `state()`. The state's `Summary` summarises all states, added
+///         in stored order.
 template <class Item, class Own>
 class ItemList {
 public:
@@ -45,7 +45,7 @@ public:
     ItemList() = default;
     ItemList(const ItemList&) = default;
     ~ItemList() = default;
-    /// Items and summary are replaced together: when memory runs out, neither is.
+    /// Replaces items and summary together: if memory runs out, neither.
     ItemList& operator=(ItemList other) noexcept
     {
         slots_ = std::move(other.slots_);
@@ -67,7 +67,7 @@ public:
     /// The state of the item at @p index, which is one of our own.
     const State& state(unsigned long index) const noexcept { return slots_.read()[index].state; }
 
-    /// The state of the item at @p index, which is one of our own, to be changed.
+    /// The same, for changing it.
     State& changeState(unsigned long index)
     {
         summary_.reset();
@@ -96,7 +96,7 @@ public:
 
     void append(std::unique_ptr<Item> item)
     {
-        auto known = std::exchange(summary_, std::nullopt); // restored when the item is in
+        auto known = std::exchange(summary_, std::nullopt); // restored once the item is in
         Slot slot;
         if (const auto* own = exactly<Own>(std::as_const(*item))) {
             slot.state = own->state();
@@ -109,7 +109,7 @@ public:
     }
 
     /// Calls @p changeState with the state of each item that is one of our own, and @p changeItem
-    /// with each other item, until a call ends. #ZelData_InternalError when an item changed this
+    /// with each other item, until a call ends. #ZelData_InternalError if an item changed this
     /// list.
     template <class ChangeState, class ChangeItem>
     Ending changeAll(ChangeState&& changeState, ChangeItem&& changeItem)
@@ -117,7 +117,7 @@ public:
         return rework([&](Slots& slots) { return changeEach(slots, changeState, changeItem); });
     }
 
-    /// The same with the items in the order of order().
+    /// The same in the order that order() would put them in.
     template <class ChangeState, class ChangeItem>
     Ending orderAndChangeAll(ChangeState&& changeState, ChangeItem&& changeItem)
     {
@@ -127,8 +127,7 @@ public:
         });
     }
 
-    /// Calls @p check, which may end the loop, with each item and the earliest start of those after
-    /// it.
+    /// Calls @p check, which may end the loop, with each item and the earliest start after it.
     template <class Check>
     Ending checkAll(Check&& check) const
     {
@@ -154,7 +153,7 @@ public:
                 visit(slot.state);
             return;
         }
-        // The items are scattered in memory: prefetches what a later visit needs.
+        // The items are scattered in memory, so this prefetches what a later visit needs.
         constexpr std::size_t ahead = 8;
         const Slot* const first = &slots[0];
         for (std::size_t i = 0; i < places.size(); ++i) {
@@ -165,7 +164,7 @@ public:
         }
     }
 
-    /// Orders the items by start, as exchangeOrder() does. #ZelData_InternalError when an item
+    /// Orders the items by start, as exchangeOrder() does. #ZelData_InternalError if an item
     /// changed this list.
     Ending order()
     {
@@ -175,7 +174,7 @@ public:
         });
     }
 
-    /// #ZelData_InvalidArgument when there is no item at @p index.
+    /// #ZelData_InvalidArgument if there is no item at @p index.
     ZelDataResult_tags removeAt(unsigned long index)
     {
         if (index >= count()) return ZelData_InvalidArgument;
@@ -184,8 +183,8 @@ public:
         return ZelData_Ok;
     }
 
-    /// Hands out a copy of the item at @p index, made by @p create, a factory, and owned by the
-    /// caller. #ZelData_InvalidArgument when @p out cannot accept one or there is no such item.
+    /// Stores in @p out a copy of the item at @p index, which the factory @p create makes and the
+    /// caller owns. #ZelData_InvalidArgument if @p out cannot accept one or there is no such item.
     template <class Create>
     ZelDataResult_tags copyOut(Item** out, unsigned long index, Create&& create) const
     {
@@ -197,8 +196,8 @@ public:
         return copy.code;
     }
 
-    /// Replaces @p out with copies of all items, made by @p create and owned by the caller; empty
-    /// when one fails.
+    /// Replaces @p out with copies of all items, which @p create makes and the caller owns; empties
+    /// it if one fails.
     template <class Create>
     ZelDataResult_tags copyOutAll(std::vector<Item*>& out, Create&& create) const
     {
@@ -218,7 +217,7 @@ public:
     }
 
 private:
-    /// One item: our own as its state, any other as it is.
+    /// One item: the state of our own, or any other as it is.
     struct Slot {
         long long start() const
         {
@@ -235,8 +234,8 @@ private:
     };
     using Slots = FrontVector<Slot>;
 
-    /// Replaces the slots with what @p change, which may end, makes of a copy. Until then our own
-    /// items are as they were, so when memory runs out nothing has happened to them.
+    /// Applies @p change, which may end, to a copy of the slots and replaces the slots with it. If
+    /// memory runs out before that, our own items are unchanged.
     template <class Change>
     Ending rework(Change&& change)
     {
@@ -290,7 +289,7 @@ private:
     }
 
     CopyOnWrite<Slots> slots_;
-    mutable std::optional<Summary> summary_ = Summary(); // empty while unknown
+    mutable std::optional<Summary> summary_ = Summary(); // empty if unknown
 };
 
 } // namespace ZelInterchangeData

@@ -13,15 +13,14 @@ namespace {
 
 using Places = std::vector<std::size_t>;
 
-/// Counts at places, with sums of all counts before a place (a Fenwick tree).
+/// Counts at places, and the sum of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    /// Makes room for @p size places with nothing counted, and up to the next power of two, so that
-    /// take() stays within bounds.
+    /// Prepares @p size places with counts of zero, and as many more as take() can reach.
     void clear(std::size_t size)
     {
         highestStep_ = 1;
-        while (highestStep_ <= size)
+        while (highestStep_ <= size / 2)
             highestStep_ *= 2;
         sums_.assign(highestStep_ * 2, 0);
     }
@@ -51,13 +50,13 @@ public:
         return sum;
     }
 
-    /// Takes one off the place whose count makes the sum exceed @p count, and returns the place.
+    /// Takes one off the place at which the sum exceeds @p count, and returns the place.
     std::size_t take(std::size_t count)
     {
         std::size_t place = 0;
         for (std::size_t step = highestStep_; step > 0; step /= 2) {
             std::size_t& sum = sums_[place + step];
-            const bool isBelow = sum <= count; // no branch on it: it would be unpredictable
+            const bool isBelow = sum <= count; // not a branch, which would be unpredictable
             count -= isBelow ? sum : 0;
             sum -= isBelow ? 0 : 1;
             place += isBelow ? step : 0;
@@ -72,8 +71,8 @@ private:
     std::size_t highestStep_ = 1;
 };
 
-/// An item's start, counted from the smallest one, and below it the item's place: half of the bits
-/// each.
+/// An item's start, relative to the smallest one, in the upper half of the bits, and its place in
+/// the lower half.
 using Packed = std::uint64_t;
 
 constexpr unsigned placeBits = 32;
@@ -82,7 +81,7 @@ constexpr Packed greatestHalf = 0xFFFFFFFF;
 /// Orders @p items by the byte at @p shift alone; those with equal bytes keep their order.
 void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsigned shift)
 {
-    std::array<std::size_t, 256> next{}; // where the next item with a byte goes
+    std::array<std::size_t, 256> next{}; // where the next item with each byte goes
     for (const Packed item : items) {
         ++next[item >> shift & 0xFF];
     }
@@ -97,7 +96,7 @@ void orderByByte(std::vector<Packed>& items, std::vector<Packed>& scratch, unsig
 }
 
 /// The order of a stable sort for starts that are at most @p range above @p least. It sorts byte by
-/// byte (a radix sort): starts differ in a few bytes, and no comparison has to be predicted.
+/// byte (a radix sort): starts differ in few bytes, and no comparison has to be predicted.
 Places packedOrder(const std::vector<long long>& starts, long long least, Packed range)
 {
     std::vector<Packed> items(starts.size());
@@ -106,7 +105,7 @@ Places packedOrder(const std::vector<long long>& starts, long long least, Packed
         items[i] = above << placeBits | i;
     }
     std::vector<Packed> scratch(starts.size());
-    for (unsigned shift = 0; shift < placeBits && range >> shift != 0; shift += 8) {
+    for (unsigned shift = 0; range >> shift != 0; shift += 8) {
         orderByByte(items, scratch, placeBits + shift);
     }
     Places order(starts.size());
@@ -123,14 +122,14 @@ Places stableOrder(const std::vector<long long>& starts)
     if (range <= greatestHalf && starts.size() <= greatestHalf) {
         return packedOrder(starts, *least, range);
     }
-    Places order(starts.size()); // starts that are weeks apart
+    Places order(starts.size()); // for starts that are weeks apart
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(),
                      [&](std::size_t a, std::size_t b) { return starts[a] < starts[b]; });
     return order;
 }
 
-/// For each item, how many earlier ones have a smaller start. @p order is the stable order.
+/// For each item, how many earlier items have a smaller start. @p order is the stable order.
 Places smallerBefore(const std::vector<long long>& starts, const Places& order)
 {
     Places rank(order.size()); // the number of the item's group of equal starts
@@ -167,7 +166,7 @@ public:
         joinRing();
         const std::size_t size = members_.size();
         const std::size_t head = (head_ + total - counts_[members_.back()]) % size;
-        // The member that joined last is where it joined; the others make room for it.
+        // Places the last member first: the earlier ones make room for it.
         free_.fill(size);
         for (std::size_t i = size; i-- > 0;) {
             const std::size_t place = free_.take(joined_[i]);
@@ -176,7 +175,7 @@ public:
     }
 
 private:
-    /// Notes where in the ring, cut at the first member, each member joins.
+    /// Records where each member joins the ring, counted from the first member.
     void joinRing()
     {
         joined_.assign(members_.size(), 0);
@@ -210,8 +209,9 @@ std::vector<std::size_t> firstLaterStartsBelow(const std::vector<long long>& bou
                                                const std::vector<long long>& starts)
 {
     Places found(starts.size(), starts.size());
-    // The later items that start before all items between here and there, the furthest first, so
-    // with ascending starts. Any other later item has one of these before it that starts no later.
+    // The later items that start before all items between them and the current one, furthest first,
+    // so in ascending order of start. Before any other later item, there is one of these that
+    // starts no later.
     Places candidates;
     for (std::size_t i = starts.size(); i-- > 0;) {
         const auto notBelow =

@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// Ends with the item's last error when @p item has no text for one of @p languageIDs.
+/// Ends with the item's last error if @p item has no text for one of @p languageIDs.
 template <class Item>
 Ending findMissingText(const Item& item, const std::vector<std::string>& languageIDs)
 {
@@ -25,7 +25,7 @@ Ending findMissingText(const Item& item, const std::vector<std::string>& languag
 }
 
 /// Gives @p item an empty text for each of @p languageIDs in which it has none. Ends with the
-/// item's last error when that fails, and when memory runs out, which does not mean that a text is
+/// item's last error if that fails, or if memory runs out, which does not mean that a text is
 /// missing.
 template <class Item>
 Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
@@ -41,8 +41,8 @@ Ending fillMissingTexts(Item& item, const std::vector<std::string>& languageIDs)
 }
 
 /// Orders @p items by start and gives each an empty text for each of @p languageIDs in which it has
-/// none. For our own items the texts are not checked: a collection lists no language that they
-/// would refuse.
+/// none. Does not check the texts of our own items: a collection lists no language that they would
+/// reject.
 template <class Item, class Own>
 Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
                                 const std::vector<std::string>& languageIDs)
@@ -55,7 +55,8 @@ Ending orderAndFillMissingTexts(ItemList<Item, Own>& items,
         [&](Item& item) { return fillMissingTexts(item, languageIDs); });
 }
 
-/// removeTexts() for items that are all our own. All memory is obtained before the first text goes.
+/// removeTexts() for items that are all our own. Allocates all memory before it removes the first
+/// text.
 template <class Item, class Own>
 ZelDataResult_tags removeOwnTexts(ItemList<Item, Own>& items, const std::string& languageID)
 {

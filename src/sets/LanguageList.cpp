@@ -34,8 +34,8 @@ ZelDataResult_tags LanguageList::copyFrom(const LanguageList& other)
 ZelDataResult_tags LanguageList::reorder(const std::vector<std::string>& ids)
 {
     if (ids.size() != ids_.texts().size()) return ZelData_InvalidArgument;
-    // Deliberate: does not check that each listed ID occurs in `ids`; otherwise lists with a
-    // duplicate would be refused.
+    // Deliberate: does not check that each listed ID occurs in `ids`; otherwise, lists with a
+    // duplicate would be rejected.
     const bool allListed =
         std::all_of(ids.begin(), ids.end(), [this](const std::string& id) { return contains(id); });
     if (!allListed) return ZelData_InvalidArgument;

@@ -14,11 +14,11 @@
 
 namespace ZelInterchangeData {
 
-/// Language IDs in the order in which they were added, without duplicates unless reorder() let them
-/// in.
+/// Language IDs in the order in which they were added, without duplicates unless reorder() accepted
+/// some.
 class LanguageList {
 public:
-    /// Looks up one language in the catalogue: stores a name, and returns a code.
+    /// Looks up one language in the catalogue: stores a name and returns a code.
     using NameLookup = ZelDataResult_tags (*)(const std::string& id, std::string& name);
 
     const std::vector<std::string>& ids() const noexcept { return ids_.texts(); }
@@ -28,17 +28,17 @@ public:
     /// The code of the UTF-8 check, #ZelData_UnknownLanguage or #ZelData_WarnAlreadyExists.
     ZelDataResult_tags add(const std::string& id);
     /// As clear() and add() for each entry of @p other, whose entries are already checked: stops at
-    /// an entry that reorder() let in twice, with #ZelData_WarnAlreadyExists.
+    /// a duplicate that reorder() accepted, with #ZelData_WarnAlreadyExists.
     ZelDataResult_tags copyFrom(const LanguageList& other);
     /// Lists @p id, which has already been checked, unless it is listed.
     void addChecked(std::string_view id);
-    /// Removes the first identical entry; false when there is none.
+    /// Removes the first identical entry; returns false if there is none.
     bool remove(const std::string& id) { return ids_.remove(id); }
     /// Removes all entries but the first @p count, if there are that many.
     void truncate(std::size_t count) noexcept { ids_.truncate(count); }
-    /// #ZelData_InvalidArgument when @p ids has a different count or an entry that is not listed.
+    /// #ZelData_InvalidArgument if @p ids has another count or an entry that is not listed.
     ZelDataResult_tags reorder(const std::vector<std::string>& ids);
-    /// Replaces @p names with what @p lookup finds; #ZelData_InternalError when a name is missing.
+    /// Replaces @p names with what @p lookup finds; #ZelData_InternalError if a name is missing.
     ZelDataResult_tags names(std::vector<std::string>& names, NameLookup lookup) const;
 
 private:

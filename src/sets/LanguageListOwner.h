@@ -79,8 +79,8 @@ protected:
     const LanguageList& languages() const noexcept { return languages_; }
     LanguageList& languages() noexcept { return languages_; }
 
-    /// Lists the languages of @p item and then calls @p append, which appends it. When memory runs
-    /// out, no language is listed.
+    /// Lists the languages of @p item and then calls @p append, which appends it. If memory runs
+    /// out, lists none.
     template <class Item, class Append>
     ZelDataResult_tags addWithLanguages(const Item& item, Append&& append)
     {

@@ -8,7 +8,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// The most bytes that a change of packed texts copies.
+/// The maximum number of bytes that a change of packed texts copies.
 constexpr std::size_t mostPackedBytes = 8192;
 
 } // namespace

@@ -19,18 +19,18 @@
 namespace ZelInterchangeData {
 
 /// The texts of an item by language ID, in ascending byte order. Copies share them until one of
-/// them changes. Exhausted memory passes through as `std::bad_alloc` and changes nothing.
+/// them changes. If memory runs out, an operation throws `std::bad_alloc` and changes nothing.
 ///
-/// They are packed while a change copies few bytes, as it does for nearly every item, and kept in a
-/// map beyond that, so that no number and no length of texts makes a change slow.
+/// They are packed as long as a change copies few bytes, as for nearly every item. More or longer
+/// texts are in a map, so that a change stays fast.
 class LanguageTexts {
 public:
-    /// #ZelData_Ok when both are UTF-8 and the catalogue knows the language, else
+    /// #ZelData_Ok if both are UTF-8 and the language is in the catalogue, otherwise
     /// #ZelData_InvalidItem.
     static ZelDataResult_tags check(const std::string& text, const std::string& languageID);
 
     std::size_t count() const noexcept;
-    /// The text for @p languageID, valid until the texts change; none when there is no such text.
+    /// The text for @p languageID, valid until the texts change; none if there is no such text.
     std::optional<std::string_view> find(std::string_view languageID) const
     {
         return many_ ? many_->read().find(languageID) : few_.find(languageID);
@@ -57,19 +57,19 @@ public:
 
     void clear() noexcept;
     /// Stores a copy of @p text. Both must already have passed check(). #ZelData_WarnAlreadyExists
-    /// when it replaced a text.
+    /// if it replaced a text.
     ZelDataResult_tags set(std::string_view text, std::string_view languageID);
     /// Stores an empty text for each of @p languageIDs that has none; all must already have passed
     /// check().
     void addMissing(const std::vector<std::string>& languageIDs);
-    /// #ZelData_InvalidArgument when there is none.
+    /// #ZelData_InvalidArgument if there is none.
     ZelDataResult_tags get(std::string& text, const std::string& languageID) const;
-    /// #ZelData_NotFound when there is none.
+    /// #ZelData_NotFound if there is none.
     ZelDataResult_tags remove(const std::string& languageID);
-    /// Prepares to remove the text for @p languageID, as far as that needs memory, and returns what
-    /// finishRemoval() then needs; none when there is no such text. The texts stay as they are.
+    /// Allocates what finishRemoval() needs to remove the text for @p languageID, and returns it;
+    /// none if there is no such text. The texts are unchanged.
     std::optional<PackedTexts> prepareRemoval(std::string_view languageID);
-    /// Removes the text for @p languageID, which was prepared with the result @p left.
+    /// Removes the text for @p languageID, using @p left, the result of prepareRemoval().
     void finishRemoval(std::string_view languageID, PackedTexts left) noexcept;
     /// Replaces @p ids with the languages that have a text.
     ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const;
@@ -88,8 +88,8 @@ private:
     /// Stores a copy of @p text. Returns whether it replaced one.
     bool replace(std::string_view text, std::string_view languageID);
 
-    PackedTexts few_;                      // empty while there are many
-    std::optional<CopyOnWrite<Map>> many_; // none while there are few
+    PackedTexts few_;                      // empty if there are many
+    std::optional<CopyOnWrite<Map>> many_; // none if there are few
 };
 
 } // namespace ZelInterchangeData

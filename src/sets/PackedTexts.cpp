@@ -6,7 +6,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// How much there is to store.
+/// The size of what is stored.
 struct Size {
     std::size_t entries;
     std::size_t characters; // of all IDs and texts
@@ -17,7 +17,7 @@ std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
     return entry.languageID.size() + entry.text.size();
 }
 
-/// Where an entry's text lies among the characters. Its ID lies between the end of the entry before
+/// Where an entry's text is among the characters. Its ID is between the end of the previous entry
 /// and the text.
 struct Span {
     std::size_t textBegin;
@@ -64,7 +64,7 @@ public:
     }
 
     /// Appends the entries of @p other from @p first up to, not including, @p last; copies their
-    /// characters in one piece.
+    /// characters at once.
     void append(const Layout& other, std::size_t first, std::size_t last)
     {
         if (first == last) return;
@@ -111,7 +111,7 @@ Size sizeAfter(const PackedTexts& texts, const Edit& edit)
     return size;
 }
 
-/// Returns what @p texts, stored in @p bytes, are after @p edit.
+/// Returns @p texts, which are stored in @p bytes, with @p edit applied.
 SharedBytes edited(const PackedTexts& texts, const SharedBytes& bytes, const Edit& edit)
 {
     const Size size = sizeAfter(texts, edit);

@@ -12,11 +12,11 @@
 
 namespace ZelInterchangeData {
 
-/// Texts by language ID, in ascending byte order. Exhausted memory passes through as
+/// Texts by language ID, in ascending byte order. If memory runs out, an operation throws
 /// `std::bad_alloc` and changes nothing.
 ///
-/// All of them are in one block of memory that copies share; a change makes a new one. A copy only
-/// counts a reference, and reading reaches the bytes in one step, but each change copies all texts.
+/// All of them are in one block of memory that copies share; a change allocates a new one. Copying
+/// only increments a count, and reading follows only one pointer, but each change copies all texts.
 class PackedTexts {
 public:
     /// A language ID and its text.
@@ -26,14 +26,13 @@ public:
     };
 
     std::size_t count() const noexcept;
-    /// The entry at @p index, which is below count(). Its views hold until the texts change.
+    /// The entry at @p index, which is below count(). Its views are valid until the texts change.
     Entry operator[](std::size_t index) const noexcept;
-    /// The text for @p languageID; none when there is no such text.
+    /// The text for @p languageID; none if there is no such text.
     std::optional<std::string_view> find(std::string_view languageID) const noexcept;
     /// The number of bytes in all IDs and texts.
     std::size_t characters() const noexcept;
-    /// The number of bytes that a change copies when it adds a text of @p added bytes, its ID
-    /// included.
+    /// The number of bytes that adding a text of @p added bytes, including its ID, copies.
     std::size_t bytesWith(std::size_t added) const noexcept;
 
     /// Prefetches the texts if they are of usual length.

@@ -8,8 +8,8 @@
 
 namespace ZelInterchangeData {
 
-/// Empties @p target through @p clear and copies @p source into it. Returns false when either
-/// fails; the target's last error then says why.
+/// Empties @p target through @p clear and copies @p source into it. Returns false if either fails;
+/// the target's last error says why.
 template <class Data>
 [[nodiscard]] bool replaceContents(Data& target, ZelDataResult_tags (Data::*clear)(),
                                    const Data& source)

@@ -12,15 +12,15 @@
 
 namespace ZelInterchangeData {
 
-/// Summarises all items, so that not every item need be asked.
+/// Summarises all items, so that most operations need not visit each of them.
 struct TextSummary {
     /// The languages of the texts in the order of their first occurrence, those of one item
     /// ascending.
     LanguageList languages;
-    /// The approximate number of bytes that all texts, with their language IDs, take in the packet.
+    /// The approximate number of bytes that all texts and their language IDs take in the packet.
     std::size_t size = 0;
 
-    /// Adds the next item, whose texts @p state has.
+    /// Adds the next item, which has the texts of @p state.
     template <class State>
     void add(const State& state)
     {

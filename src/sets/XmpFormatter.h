@@ -18,7 +18,7 @@
 
 namespace ZelInterchangeData {
 
-/// Holds a copy of the @p Data to write, and does not read. @p Own is the class of the copy.
+/// Holds a copy of the @p Data to write; refuses to read. @p Own is the class of the copy.
 template <class Interface, class Data, class Own>
 class XmpFormatter : public Interface {
 public:
@@ -34,7 +34,7 @@ public:
     }
 
 protected:
-    /// #ZelData_InternalError for a format other than XMP, else #ZelData_NotImplemented.
+    /// #ZelData_InternalError for a format other than XMP, otherwise #ZelData_NotImplemented.
     static ZelDataResult_tags notImplementedIn(ZelDataFormatType_tags format) noexcept
     {
         return format == ZelDataFormat_Xmp ? ZelData_NotImplemented : ZelData_InternalError;
@@ -59,18 +59,18 @@ private:
 };
 
 /// An XMP formatter that writes one track of the packet. @p Formatter is the class derived from it,
-/// which has two more operations, to be called only when a set is held:
+/// which has two more operations; call them only if a set is held:
 /// - `std::optional<std::size_t> estimateTrack() const` returns the approximate size of the track
 ///   in bytes; none for a set without items, which has no track.
 /// - `void appendTrack(std::string& packet) const` appends the track. Call it after checkTrack(),
 ///   and only for a set with items.
 ///
-/// The document calls these directly: to get a large track as a string and insert it would take one
-/// more copy.
+/// The document calls these directly, because inserting a track from a string would copy it once
+/// more.
 template <class Interface, class Data, class Own, class Formatter>
 class XmpTrackFormatter : public XmpFormatter<Interface, Data, Own> {
 public:
-    /// When the held set cannot be written, ends with the code that the writing ends with.
+    /// If the held set cannot be written, ends with the code that writing it would return.
     Ending checkTrack() const { return {}; }
 
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
@@ -82,7 +82,7 @@ public:
             const auto& formatter = static_cast<const Formatter&>(*this);
             if (const Ending ending = formatter.checkTrack()) return *ending;
             const auto size = formatter.estimateTrack();
-            if (!size) return ZelData_Ok; // the text stays as it was
+            if (!size) return ZelData_Ok; // leaves the text unchanged
             std::string track;
             track.reserve(*size);
             formatter.appendTrack(track);
@@ -91,8 +91,8 @@ public:
         }));
     }
 
-    /// Deliberate: writes the string first and then refuses; otherwise the code of a failing
-    /// writeString() would not be returned.
+    /// Deliberate: writes the string first and then refuses; otherwise, it would not return the
+    /// code of a failed writeString().
     ZelDataResult_tags writeFile(const std::string& /*path*/, ZelDataFormatType_tags format,
                                  bool /*flag*/) const override
     {

@@ -19,7 +19,7 @@ std::string number(long long value)
     return std::to_string(value);
 }
 
-/// Writes a byte of @p text as "\x0A" wherever @p needsEscape says so.
+/// Escapes each byte of @p text for which @p needsEscape returns true, as in "\x0A".
 template <class NeedsEscape>
 std::string escaped(const std::string& text, NeedsEscape&& needsEscape)
 {
@@ -71,7 +71,7 @@ std::string nameOfItem(ZelDataFindingSubject_tags subject)
     return "item ";
 }
 
-/// Only captions have a unit of their own; the others count in ticks of the frame rate.
+/// Times of captions are in milliseconds, all others in ticks of the frame rate.
 std::string timeOf(const ZelDataFinding& finding, long long time)
 {
     return number(time) + (finding.subject == ZelDataFindingSubject_Caption ? " ms" : "");

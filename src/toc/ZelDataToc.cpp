@@ -11,7 +11,7 @@ ZelDataResult_tags ZelDataUtilities::createTocData(i_ZelDataToc** out)
 
 // Checking and repairing
 
-/// Returns the finding of one entry; no later one starts before @p earliestLater.
+/// Checks one entry; no later one starts before @p earliestLater.
 Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep,
                              const std::vector<std::string>& listed, long long earliestLater)
 {
@@ -23,7 +23,7 @@ Ending ZelDataToc::checkItem(const i_ZelDataTocItem& item, bool deep,
     return {};
 }
 
-/// Returns the first finding of the entries, in stored order.
+/// Returns the code of the first problem of the entries, in stored order.
 ZelDataResult_tags ZelDataToc::checkItems(bool deep) const
 {
     const auto listed = languageIDs(); // a caller's item may change the list
@@ -108,8 +108,8 @@ ZelDataResult_tags ZelDataToc::removeTocItemAt(unsigned long index)
     return store(guarded([&] { return items_.removeAt(index); }));
 }
 
-/// Deliberate: removes only the texts; otherwise entries, or the listed language, would go with
-/// them.
+/// Deliberate: removes only the texts; otherwise, entries or the listed language would be removed
+/// as well.
 ZelDataResult_tags ZelDataToc::removeTocItemsForLanguage(const std::string& languageID)
 {
     return store(guarded([&] { return removeTexts(items_, languageID); }));

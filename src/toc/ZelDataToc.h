@@ -43,7 +43,6 @@ public:
     ZelDataResult_tags copyOwn(const ZelDataToc& other);
     const Items& items() const noexcept { return items_; }
     const std::string& imageFile() const noexcept { return imageFile_; }
-    FrameRate frameRate() const noexcept { return frameRate_; }
     using LanguageListOwner::languageIDs;
 
     /// Orders the entries by start, as makeTocConsistent() does.

@@ -18,7 +18,7 @@ ZelDataTocItem& ZelDataTocItem::operator=(const ZelDataTocItem& other)
 }
 
 /// An entry is always valid: its languages and titles were checked when they were set. Deliberate:
-/// the flag changes nothing; otherwise a deep check could refuse an entry.
+/// the flag has no effect; otherwise, a deep check could reject an entry.
 ZelDataResult_tags ZelDataTocItem::isValid(bool /*deep*/) const
 {
     return store(ZelData_Ok);
@@ -32,8 +32,8 @@ ZelDataResult_tags ZelDataTocItem::clearText()
     return store(ZelData_Ok);
 }
 
-/// Deliberate: replacing a title gives a warning; otherwise, as an error, it would stop a caller
-/// that lets warnings pass.
+/// Deliberate: replacing a title returns a warning; an error would stop callers that let warnings
+/// pass.
 ZelDataResult_tags ZelDataTocItem::setTextForLanguage(const std::string& text,
                                                       const std::string& languageID)
 {

@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// What an entry consists of. Copies share titles and file name.
+/// The data of an entry. Copies share titles and file name.
 class TocEntryState {
 public:
     using Summary = TextSummary;
@@ -49,7 +49,7 @@ public:
     ZelDataTocItem() = default;
     explicit ZelDataTocItem(TocEntryState state) : state_(std::move(state)) {}
     ZelDataTocItem(const ZelDataTocItem&) = delete;
-    /// Copies all fields but the last error, without checks.
+    /// Copies all fields except the last error, without checks.
     ZelDataTocItem& operator=(const ZelDataTocItem& other);
 
     ZelDataResult_tags isValid(bool deep) const override;

@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "sets/Factory.h"
+#include "sets/FrameRate.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/Track.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-/// Deliberate: the title in the first language alone; otherwise the marker's name would be a list
+/// Deliberate: only the title in the first language; otherwise, the marker's name would be a list
 /// of titles.
 std::string_view titleOf(const TocEntryState& entry, const std::vector<std::string>& languageIDs)
 {
@@ -38,7 +39,7 @@ void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
 
 i_ZelDataTocFormatter::~i_ZelDataTocFormatter() = default;
 
-// Here, so that the document that creates one does not compile the class template again.
+// Defined here so that the document, which creates one, does not compile the class template again.
 ZelDataXmpTocFormatter::ZelDataXmpTocFormatter() = default;
 ZelDataXmpTocFormatter::~ZelDataXmpTocFormatter() = default;
 
@@ -80,7 +81,7 @@ ZelDataResult_tags ZelDataXmpTocFormatter::getToc(i_ZelDataToc& /*toc*/) const
 
 std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
 {
-    // The texts with some room for entities, and the markup.
+    // The size of the texts, with some space for entities, and of the markup.
     constexpr std::size_t trackMarkup = 300;
     constexpr std::size_t markerMarkup = 210;
     const ZelDataToc& toc = *held();
@@ -95,18 +96,17 @@ std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
     return size;
 }
 
-/// Writes the table as makeTocConsistent() leaves it: in order, with a frame rate that is in range.
-/// The rest of what that repairs makes no difference: a missing title counts as empty.
+/// Writes the table as makeTocConsistent() leaves it: in order. Its other repairs make no difference:
+/// a missing title counts as empty, and the held copy has the standard frame rate, because copying a
+/// table does not copy its rate.
 void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataToc& toc = *held();
-    FrameRate rate = toc.frameRate();
-    rate.repair();
     Track track;
     track.description()
         .attribute("xmpDM:trackType", "TableOfContents")
         .attribute("xmpDM:trackName", "Table of Contents")
-        .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))
+        .attribute("xmpDM:frameRate", Utilities::getRateString(FrameRate::standard))
         .attribute("zelDM:image", Utilities::htmlTagsToText(toc.imageFile()));
     track.appendTo(packet, [&](MarkerWriter& markers) {
         toc.items().visitOrdered(

@@ -17,9 +17,9 @@ namespace ZelInterchangeData {
 class i_ZelDataTocItem;
 
 /// Replaces @p out with the titles of @p item in the languages of @p languages as markup and skips
-/// languages without title. Returns whether every language had one. The track does not use it: a
-/// marker has a title in one language alone. Throws `std::bad_alloc` when memory runs out, also
-/// when the item reports that.
+/// languages without a title. Returns whether every language had one. The track does not use it: a
+/// marker has a title in only one language. Throws `std::bad_alloc` if memory runs out, even if the
+/// item returns this as a code.
 bool buildTocList(std::vector<std::string> languages, const i_ZelDataTocItem& item,
                   std::string& out);
 

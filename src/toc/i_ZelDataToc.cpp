@@ -11,11 +11,11 @@ namespace ZelInterchangeData {
 
 i_ZelDataToc::~i_ZelDataToc() = default;
 
-/// Deliberate: the frame rate stays; otherwise a written table could state another rate than 1000.
+/// Deliberate: the frame rate stays; otherwise, a written table could state a rate other than 1000.
 ZelDataResult_tags i_ZelDataToc::copyFrom(const i_ZelDataToc& source)
 {
     if (&source == this) return store(ZelData_InternalError);
-    // Between two of our own tables, sharing the entries has the same result as the steps below.
+    // Between two of our own tables, sharing the entries gives the same result as the steps below.
     auto* own = exactly<ZelDataToc>(*this);
     const auto* ownSource = exactly<ZelDataToc>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);

@@ -14,7 +14,7 @@ ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
 {
     using Item = i_ZelDataTocItem;
     if (&source == this) return store(ZelData_InternalError);
-    // Between two of our own entries, sharing the strings has the same result as the steps below.
+    // Between two of our own entries, sharing the strings gives the same result as the steps below.
     auto* own = exactly<ZelDataTocItem>(*this);
     const auto* ownSource = exactly<ZelDataTocItem>(source);
     if (own != nullptr && ownSource != nullptr) return own->copyOwn(*ownSource);

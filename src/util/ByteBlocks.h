@@ -1,5 +1,5 @@
 /// @file
-/// Tests of eight bytes at once, with plain integers.
+/// Tests of eight bytes at a time, with plain integers.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_BYTEBLOCKS_H
 #define ZELINTERCHANGEDATA_UTIL_BYTEBLOCKS_H
@@ -10,12 +10,12 @@
 
 namespace ZelInterchangeData {
 
-/// Eight bytes of a text, the first one lowest.
+/// Eight bytes of a text, the first in the lowest byte.
 using ByteBlock = std::uint64_t;
 
 constexpr std::size_t blockSize = sizeof(ByteBlock);
 
-/// A block of eight times @p byte.
+/// A block of which each byte is @p byte.
 constexpr ByteBlock repeated(unsigned char byte) noexcept
 {
     return 0x0101010101010101U * byte;
@@ -61,7 +61,7 @@ constexpr std::size_t bytesBeforeFirstPortably(ByteBlock bits) noexcept
     return static_cast<std::size_t>(ones * repeated(0x01) >> 56) - 1;
 }
 
-/// The same, but counts with the processor's own instruction where the compiler offers it.
+/// The same, with the processor's own instruction if the compiler offers it.
 constexpr std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
 {
 #ifdef __GNUC__
@@ -72,7 +72,7 @@ constexpr std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
 }
 
 /// Sets the highest bit of the first zero byte of @p block, and perhaps those of bytes after it.
-/// Returns zero when no byte is zero.
+/// Returns zero if no byte is zero.
 constexpr ByteBlock zeroBytes(ByteBlock block) noexcept
 {
     return (block - repeated(0x01)) & ~block & repeated(0x80);

@@ -10,12 +10,10 @@
 
 namespace ZelInterchangeData {
 
-/// Behaves like a separate @p Value. Copies share one value, at the cost of a count and of neither
-/// time nor memory for its size; the first change through an owner that shares the value gives that
-/// owner a copy.
+/// Behaves like a separate @p Value. Copies share one value, so copying only increments a count,
+/// whatever the size of the value. An owner that changes a shared value gets its own copy first.
 ///
-/// Different threads may use owners that share a value, but each owner only from one thread at a
-/// time.
+/// You can use owners that share a value in different threads, each owner in one thread at a time.
 template <class Value>
 class CopyOnWrite {
 public:
@@ -46,14 +44,14 @@ public:
 
     const Value& read() const noexcept { return shared_->value; }
 
-    /// The value, no longer shared. When memory runs out it is shared as before.
+    /// Returns the value, which this owner no longer shares. If memory runs out, it stays shared.
     Value& write()
     {
         if (isShared()) *this = CopyOnWrite(shared_->value);
         return shared_->value;
     }
 
-    /// Makes it a value as default-constructed; allocates memory only if it is shared.
+    /// Resets the value to a default-constructed one; allocates memory only if it is shared.
     void reset()
     {
         if (isShared()) {

@@ -1,5 +1,5 @@
 /// @file
-/// How a step of a longer operation went.
+/// The result of one step of an operation.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_ENDING_H
 #define ZELINTERCHANGEDATA_UTIL_ENDING_H
@@ -12,11 +12,11 @@ namespace ZelInterchangeData {
 
 /// Empty when the operation continues, otherwise the code that it ends with.
 ///
-/// A code alone would not be enough: a step ends with the last error of the object that failed, and
-/// that of an implementation that the caller wrote may be #ZelData_Ok.
+/// A code alone would not be enough: a step ends with the last error of the object that failed,
+/// which may be #ZelData_Ok if the caller wrote that object's class.
 using Ending = std::optional<ZelDataResult_tags>;
 
-/// Ends with @p code when it is a failure.
+/// Ends with @p code if it is a failure.
 inline Ending endingOf(ZelDataResult_tags code) noexcept
 {
     return failed(code) ? Ending(code) : Ending();

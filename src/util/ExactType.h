@@ -1,5 +1,5 @@
 /// @file
-/// Telling the library's own objects from those of callers.
+/// Distinguishes the library's own objects from those of callers.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_EXACTTYPE_H
 #define ZELINTERCHANGEDATA_UTIL_EXACTTYPE_H
@@ -8,11 +8,11 @@
 
 namespace ZelInterchangeData {
 
-/// Returns @p object as an @p Own when it is exactly that and not of a class derived from it, else
+/// Returns @p object as an @p Own if that is exactly its class, not a base class of it; otherwise
 /// null.
 ///
-/// Compares the addresses of the type descriptions: another copy of the library in the same process
-/// has classes of the same names, which need not have the same fields.
+/// Compares the addresses of the type information: another copy of the library in the process has
+/// classes with the same names but possibly different fields.
 template <class Own, class Interface>
 const Own* exactly(const Interface& object) noexcept
 {

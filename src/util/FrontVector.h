@@ -11,9 +11,9 @@
 
 namespace ZelInterchangeData {
 
-/// As `std::vector`, but erasing the first element takes constant time on average: the others stay
-/// where they are until half of the room is free. An element is destroyed only after it was
-/// removed, so its destructor finds the vector intact.
+/// Like `std::vector`, but erasing the first element takes constant time on average: the others are
+/// not moved until half of the space is free. An element is destroyed only after it was removed, so
+/// its destructor finds the vector intact.
 template <class Value>
 class FrontVector {
 public:
@@ -70,7 +70,7 @@ private:
     }
 
     std::vector<Value> values_;
-    std::size_t front_ = 0; // the elements before it were removed
+    std::size_t front_ = 0; // the elements before this one were removed
 };
 
 } // namespace ZelInterchangeData

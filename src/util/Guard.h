@@ -1,5 +1,5 @@
 /// @file
-/// The one place where exceptions are turned into codes.
+/// The one place that turns exceptions into codes.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_GUARD_H
 #define ZELINTERCHANGEDATA_UTIL_GUARD_H
@@ -16,10 +16,10 @@
 
 namespace ZelInterchangeData {
 
-/// Returns the code of @p operation, a callable without arguments. Exhausted memory passes through;
-/// any other exception can only come from a caller's implementation of an interface and gives
-/// #ZelData_InternalError. A thread that ends, by cancellation or `pthread_exit`, unwinds through
-/// every guard, so a function in which that can happen is not `noexcept`.
+/// Calls @p operation without arguments and returns its code. Lets `std::bad_alloc` pass; any other
+/// exception can only come from a caller's implementation of an interface, and the guard returns
+/// #ZelData_InternalError for it. A thread that ends, by cancellation or `pthread_exit`, unwinds
+/// through every guard, so a function in which that can happen is not `noexcept`.
 template <class Operation>
 [[nodiscard]] ZelDataResult_tags guardedButForMemory(Operation&& operation)
 {
@@ -36,7 +36,7 @@ template <class Operation>
     }
 }
 
-/// As guardedButForMemory(), with #ZelData_OutOfMemory for exhausted memory.
+/// As guardedButForMemory(), but returns #ZelData_OutOfMemory for `std::bad_alloc`.
 template <class Operation>
 [[nodiscard]] ZelDataResult_tags guarded(Operation&& operation)
 {

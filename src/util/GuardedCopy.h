@@ -1,5 +1,5 @@
 /// @file
-/// Copies in and out of objects.
+/// Copies values into and out of objects.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_GUARDEDCOPY_H
 #define ZELINTERCHANGEDATA_UTIL_GUARDEDCOPY_H
@@ -11,7 +11,7 @@
 
 namespace ZelInterchangeData {
 
-/// Makes @p target a copy of @p source, or leaves it alone and gives #ZelData_OutOfMemory.
+/// Makes @p target a copy of @p source, or leaves it unchanged and returns #ZelData_OutOfMemory.
 template <class Value>
 [[nodiscard]] ZelDataResult_tags guardedCopy(Value& target, const Value& source)
 {
@@ -22,7 +22,7 @@ template <class Value>
     });
 }
 
-/// The same for a text that is not kept in a string.
+/// The same for a text that is not in a string.
 [[nodiscard]] inline ZelDataResult_tags guardedCopy(std::string& target, std::string_view source)
 {
     return guarded([&] {

@@ -10,7 +10,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 
 namespace ZelInterchangeData {
 
@@ -37,7 +36,8 @@ constexpr std::size_t indexOf(std::size_t first, std::size_t second) noexcept
     return first * letterCount + second;
 }
 
-/// For each pair of letters the place in the table, counted from 1; 0 where there is no language.
+/// For each pair of letters, the place in the table, counted from 1, or 0 if there is no such
+/// language.
 using Index = std::array<std::uint8_t, letterCount * letterCount>;
 
 constexpr Index makeIndex() noexcept
@@ -49,37 +49,6 @@ constexpr Index makeIndex() noexcept
     }
     return places;
 }
-
-constexpr bool isComplete(const LanguageEntry& entry) noexcept
-{
-    return entry.code.size() == codeLength && !entry.englishName.empty();
-}
-
-constexpr bool isLowerCase(std::string_view code) noexcept
-{
-    return code[0] >= 'a' && code[0] <= 'z' && code[1] >= 'a' && code[1] <= 'z';
-}
-
-constexpr bool everyEntryIsComplete() noexcept
-{
-    for (const LanguageEntry& entry : languageTable) {
-        // cppcheck-suppress useStlAlgorithm ; std::all_of is not constexpr in C++17
-        if (!isComplete(entry) || !isLowerCase(entry.code)) return false;
-    }
-    return true;
-}
-
-constexpr bool codesAscend() noexcept
-{
-    for (std::size_t i = 1; i < std::size(languageTable); ++i) {
-        if (languageTable[i - 1].code >= languageTable[i].code) return false;
-    }
-    return true;
-}
-
-static_assert(std::size(languageTable) == 184, "the catalogue has 184 languages");
-static_assert(everyEntryIsComplete(), "each has a code of two small letters and an English name");
-static_assert(codesAscend(), "the codes are sorted and unique");
 
 constexpr Index index = makeIndex();
 

@@ -9,14 +9,14 @@
 
 namespace ZelInterchangeData {
 
-/// One language of the catalogue. The views are valid as long as the program runs and are followed
-/// by a zero byte.
+/// One language of the catalogue. The views stay valid while the program runs; a zero byte follows
+/// each.
 struct LanguageEntry {
     /// The two-letter code in lower case.
     std::string_view code;
     /// Never empty.
     std::string_view englishName;
-    /// The language's name in itself, in UTF-8. May be empty.
+    /// The language's own name for itself, in UTF-8. May be empty.
     std::string_view nativeName;
 };
 
@@ -24,17 +24,17 @@ struct LanguageEntry {
 struct LanguageInfo {
     std::string englishName;
     std::string nativeName;
-    /// In lower case, whatever the case of the code that was looked up.
+    /// In lower case, even if the code was looked up in upper case.
     std::string code;
 };
 
 /// Finds the language of the ID @p id: a two-letter code in any letter case, alone or followed by
-/// "-" and anything. Null when there is none. Takes constant time and allocates nothing.
+/// "-" and anything. Null if there is none. Takes constant time and allocates nothing.
 [[nodiscard]] const LanguageEntry* findLanguage(std::string_view id) noexcept;
 
 /// Stores in @p key the four bytes "  xy", big-endian, of a code of two bytes, its ASCII letters in
-/// lower case ("AA" gives 0x20206161). The bytes need not be letters. Returns false for a code of
-/// any other length; @p key is left alone then.
+/// lower case ("AA" gives 0x20206161). The bytes need not be letters. For a code of any other
+/// length, returns false and leaves @p key unchanged.
 [[nodiscard]] bool intForISO6391Code(const std::string& code, int& key);
 
 /// Returns the language of a code of exactly two bytes, or three empty strings.

@@ -10,7 +10,7 @@
 
 namespace ZelInterchangeData {
 
-/// Returns the last position of @p pattern, which is not empty, in @p text; `npos` when it does not
+/// Returns the last position of @p pattern, which is not empty, in @p text; `npos` if it does not
 /// occur. Faster in long texts than `rfind`, which calls a comparison at every position.
 inline std::size_t lastPlaceOf(std::string_view pattern, std::string_view text) noexcept
 {

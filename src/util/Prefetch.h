@@ -9,20 +9,19 @@
 
 namespace ZelInterchangeData {
 
-/// Prefetches the @p size bytes at @p address. Nothing changes but the time that reading them
-/// takes; the address need not be readable or even valid. Does nothing with a compiler that cannot
-/// prefetch.
+/// Prefetches the @p size bytes at @p address. This only makes reading them faster; the address
+/// need not be readable or even valid. Does nothing if the compiler cannot prefetch.
 inline void prefetch([[maybe_unused]] const void* address,
                      [[maybe_unused]] std::size_t size) noexcept
 {
 #ifdef __GNUC__
     const auto askFor = [](std::uintptr_t place) {
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): a pointer must not leave what it points into.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): a pointer must stay inside its object.
         __builtin_prefetch(reinterpret_cast<const void*>(place));
     };
     constexpr std::uintptr_t cacheLine = 64;
     const auto first = reinterpret_cast<std::uintptr_t>(address);
-    const auto last = first + size; // may be in one more line
+    const auto last = first + size; // may be in a further line
     for (std::uintptr_t line = first; line < last; line += cacheLine)
         askFor(line);
     askFor(last);

@@ -13,14 +13,14 @@
 
 namespace ZelInterchangeData {
 
-/// Bytes that the owner that made them fills once and that are shared from then on: a copy costs a
-/// count. Bytes and count are in one block of memory, so that reaching the bytes takes one step.
+/// Bytes that their first owner fills once and that copies share from then on: copying only
+/// increments a count. Bytes and count are in one block of memory, so reading the bytes follows
+/// only one pointer.
 ///
-/// Different threads may use owners that share bytes, but each owner only from one thread at a
-/// time.
+/// You can use owners that share bytes in different threads, each owner in one thread at a time.
 class SharedBytes {
 public:
-    /// No bytes, and no memory.
+    /// No bytes; allocates nothing.
     SharedBytes() noexcept = default;
 
     /// @p size uninitialised bytes, aligned for a `std::size_t`.
@@ -56,7 +56,7 @@ public:
         ZelInterchangeData::prefetch(head_, sizeof(Head) + size);
     }
 
-    /// The bytes; null when there are none.
+    /// The bytes; null if there are none.
     const std::byte* data() const noexcept
     {
         return head_ == nullptr ? nullptr : reinterpret_cast<const std::byte*>(head_ + 1);

@@ -13,8 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// Collects pieces in a block before it appends them to a string: most pieces are a few bytes that
-/// the compiler knows, and copying those in place costs a fraction of a call for each.
+/// Collects pieces in a block before it appends them to a string: most pieces are short literals,
+/// and copying them inline is much faster than one call for each.
 class TextBlock {
 public:
     /// Appends to @p out, which outlives this object and lacks the last pieces until flush().
@@ -46,7 +46,7 @@ public:
     /// The number of bytes appended so far.
     std::size_t position() const noexcept { return flushed_ + size_; }
 
-    /// Appends to the string the pieces that it lacks.
+    /// Appends the pieces that the string still lacks.
     void flush()
     {
         out_.append(block_.data(), size_);
@@ -57,7 +57,7 @@ public:
 private:
     void appendShort(std::string_view piece)
     {
-        // copy() also accepts an empty view of nothing.
+        // copy() also accepts an empty view without data.
         size_ += piece.copy(block_.data() + size_, piece.size());
     }
 

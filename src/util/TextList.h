@@ -13,8 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// Texts in the order in which they were appended. contains() takes log n steps. Exhausted memory
-/// passes through as `std::bad_alloc` and changes nothing.
+/// Texts in the order in which they were appended. contains() takes log n steps. If memory runs
+/// out, an operation throws `std::bad_alloc` and changes nothing.
 class TextList {
 public:
     TextList() = default;
@@ -30,14 +30,14 @@ public:
 
     void clear() noexcept;
     void append(std::string_view text);
-    /// Removes the first identical text; false when there is none.
+    /// Removes the first identical text; returns false if there is none.
     bool remove(std::string_view text);
     /// Removes all texts but the first @p count, if there are that many.
     void truncate(std::size_t count) noexcept;
 
 private:
     std::vector<std::string> texts_;
-    std::multiset<std::string, std::less<>> index_; // all texts, or none while they are few
+    std::multiset<std::string, std::less<>> index_; // all texts, or none if there are only a few
 };
 
 } // namespace ZelInterchangeData

@@ -34,8 +34,8 @@ constexpr int continuationCount(unsigned char lead) noexcept
     if (lead < 0xE0) return 1;
     if (lead < 0xF0) return 2;
     if (lead < 0xF8) return 3;
-    // Deliberate: the old forms of five and six bytes pass; without these two lines they would be
-    // refused.
+    // Deliberate: the old forms of five and six bytes pass; without these two lines, they would be
+    // rejected.
     if (lead < 0xFC) return 4;
     if (lead < 0xFE) return 5;
     return invalidLead;
@@ -46,7 +46,7 @@ constexpr bool isContinuation(char c) noexcept
     return (byteOf(c) & 0xC0U) == 0x80U;
 }
 
-/// Returns the end of the character that begins at @p text, or null when that one is not complete.
+/// Returns the end of the character that begins at @p text, or null if it is incomplete.
 const char* skipCharacter(const char* text, const char* end) noexcept
 {
     const int count = continuationCount(byteOf(*text));
@@ -54,7 +54,7 @@ const char* skipCharacter(const char* text, const char* end) noexcept
     return std::all_of(text + 1, text + 1 + count, isContinuation) ? text + 1 + count : nullptr;
 }
 
-/// Checks sequences block by block, by the marks of their lead bytes and continuation bytes.
+/// Checks sequences block by block, by the high bits of their lead bytes and continuation bytes.
 class SequenceBlocks {
 public:
     /// Adds a block. Returns whether it correctly continues the ones before it. No branch depends
@@ -62,7 +62,7 @@ public:
     bool addBlock(ByteBlock block) noexcept
     {
         const ByteBlock high = highBits(block);
-        const ByteBlock lead = high & block << 1; // at least two bytes, and so on
+        const ByteBlock lead = high & block << 1; // of at least two bytes, and so on
         const ByteBlock lead3 = lead & block << 2;
         const ByteBlock lead4 = lead3 & block << 3;
         const ByteBlock lead5 = lead4 & block << 4;
@@ -75,7 +75,7 @@ public:
         return ((high ^ lead ^ expected) | neverLead) == 0; // the other high bytes continue
     }
 
-    /// Whether a sequence is incomplete at the end of the last block.
+    /// Whether a sequence is incomplete at the end of the block added last.
     bool isOpen() const noexcept { return open_ != 0; }
 
 private:
@@ -94,11 +94,11 @@ inline bool isWellFormed(std::string_view text) noexcept
         if (highBits(block) == 0 && !sequences.isOpen()) continue;
         if (!sequences.addBlock(block)) return false;
     }
-    return sequences.addBlock(lastBytes(text, static_cast<std::size_t>(end - position))) &&
-           !sequences.isOpen();
+    // It ends with a zero byte, which completes no sequence.
+    return sequences.addBlock(lastBytes(text, static_cast<std::size_t>(end - position)));
 }
 
-/// The control characters below the blank, most of which XML forbids, except the line feed.
+/// The control characters below the space, most of which XML forbids, except the line feed.
 constexpr bool isUnsupported(char c) noexcept
 {
     constexpr unsigned char minChar = 31;
@@ -118,7 +118,7 @@ constexpr std::array<Entity, 5> entities = {{
     {'>', "&gt;"},
 }};
 
-/// For each byte the index of its entity, or noEntity.
+/// For each byte, the index of its entity, or noEntity.
 using EntityPlaces = std::array<std::uint8_t, 256>;
 
 constexpr std::uint8_t noEntity = 0xFF;
@@ -149,7 +149,7 @@ constexpr ByteBlock needingEntity(ByteBlock block) noexcept
            zeroBytes((block & repeated(0xFD)) ^ repeated('<'));
 }
 
-/// Marks the bytes of @p block that need an entity or are below the blank; the first mark is exact.
+/// Marks the bytes of @p block that need an entity or are below the space; the first mark is exact.
 constexpr ByteBlock needingEntityOrControl(ByteBlock block) noexcept
 {
     return needingEntity(block) | zeroBytes(block & repeated(0xE0));
@@ -217,14 +217,14 @@ void appendEscapedStrippedTo(Out& out, std::string_view text)
 /// Whether @p text begins with the markup of @p entity and continues after it.
 bool beginsWith(std::string_view text, const Entity& entity) noexcept
 {
-    // Deliberate: the text must continue; with >= an entity at its very end would be decoded as
+    // Deliberate: the text must continue; with >=, an entity at its very end would be decoded as
     // well.
     return text.size() > entity.markup.size() &&
            text.compare(0, entity.markup.size(), entity.markup) == 0;
 }
 
-/// Removes the entity at the beginning of @p text and appends its character. Returns false when
-/// there is none.
+/// Removes the entity at the beginning of @p text and appends its character. Returns false if there
+/// is none.
 bool decodeEntity(std::string_view& text, std::string& result)
 {
     const auto* const end = entities.data() + entities.size();
@@ -257,12 +257,12 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
-    // Most texts are valid, and checking that is quicker than finding the first error.
+    // Most texts are valid, and checking that is faster than finding the first error.
     if (!bmpOnly && isWellFormed(text)) return ZelData_Ok;
     const char* position = text.data();
     const char* const end = position + text.size();
     while (position != end) {
-        // Checked before the sequence itself: a malformed one is refused for its range, too.
+        // Checked before the sequence itself: a malformed one is rejected for its range, too.
         if (bmpOnly && byteOf(*position) >= firstLeadBeyondBmp) return ZelData_UnsupportedCharacter;
         position = skipCharacter(position, end);
         if (position == nullptr) return ZelData_InvalidUtf8;
@@ -282,7 +282,7 @@ std::size_t sizeWithEntities(std::string_view text) noexcept
 void appendEscaped(std::string& out, std::string_view text)
 {
     if (isLong(text)) {
-        TextBlock block(out); // which takes many short pieces faster than a string
+        TextBlock block(out); // appends many short pieces faster than a string does
         appendEscapedTo(block, text);
         block.flush();
     } else {
@@ -313,7 +313,7 @@ unsigned long ZelDataUtilities::countLinesInUTF8(const std::string& text)
 unsigned long countLines(std::string_view text) noexcept
 {
     const auto feeds = static_cast<unsigned long>(std::count(text.begin(), text.end(), '\n'));
-    // Deliberate: a text without any line feed has no lines; without this test it would have one.
+    // Deliberate: a text without any line feed has no lines; without this test, it would have one.
     if (feeds == 0) return 0;
     return text.back() == '\n' ? feeds : feeds + 1;
 }

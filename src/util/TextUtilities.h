@@ -1,5 +1,5 @@
 /// @file
-/// The text functions of ZelDataUtilities, without a copy and without a check in between.
+/// The text functions of ZelDataUtilities, without intermediate copies and checks.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_TEXTUTILITIES_H
 #define ZELINTERCHANGEDATA_UTIL_TEXTUTILITIES_H
@@ -13,8 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// The approximate size of @p text with its entities: exact for a long text, which may consist of
-/// them, and its own length for any other.
+/// The approximate size of @p text with its entities: exact for a long text, otherwise the length
+/// of @p text itself.
 std::size_t sizeWithEntities(std::string_view text) noexcept;
 
 /// Appends @p text to @p out as ZelDataUtilities::htmlTagsToText() returns it.
@@ -29,10 +29,10 @@ void appendEscapedStripped(TextBlock& out, std::string_view text);
 /// ZelDataUtilities::countLinesInUTF8() for a @p text that is known to be UTF-8.
 unsigned long countLines(std::string_view text) noexcept;
 
-/// "bottom", "top" or "center", as ZelDataUtilities::getVerticalAlignment() gives it.
+/// "bottom", "top" or "center", as ZelDataUtilities::getVerticalAlignment() returns it.
 std::string_view verticalWord(ZelAlignment_tags alignment) noexcept;
 
-/// "left", "right" or "center", as ZelDataUtilities::getHorizontalAlignment() gives it.
+/// "left", "right" or "center", as ZelDataUtilities::getHorizontalAlignment() returns it.
 std::string_view horizontalWord(ZelAlignment_tags alignment) noexcept;
 
 } // namespace ZelInterchangeData

@@ -21,7 +21,7 @@ struct TimeSpan {
     /// Whether setEnd() would accept the end.
     constexpr bool hasLength() const noexcept { return end() > start; }
 
-    /// Returns false, and changes nothing, for a negative start. The duration stays.
+    /// Returns false, and changes nothing, if the start is negative. Keeps the duration.
     constexpr bool setStart(long long value) noexcept
     {
         if (value < 0) return false;
@@ -29,8 +29,7 @@ struct TimeSpan {
         return true;
     }
 
-    /// Returns false, and changes nothing, for a negative end and for one that is not after the
-    /// start.
+    /// Returns false, and changes nothing, if the end is negative or not after the start.
     constexpr bool setEnd(long long value) noexcept
     {
         if (value < 0 || value <= start) return false;

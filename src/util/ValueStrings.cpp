@@ -27,7 +27,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Room for every 64-bit number in decimal and for every double with six digits.
+/// Large enough for every 64-bit number in decimal and for every double with six digits.
 using NumberBuffer = std::array<char, 32>;
 
 /// Formats @p value with std::to_chars; @p format holds the arguments after the value.

@@ -8,7 +8,7 @@
 
 namespace ZelInterchangeData {
 
-/// Plain decimal, with a leading "-" when negative.
+/// Plain decimal, with a leading "-" if negative.
 [[nodiscard]] std::string decimalText(long long value);
 
 /// Plain decimal.

@@ -9,7 +9,7 @@
 
 namespace ZelInterchangeData {
 
-/// Opens a name that has one text for each language; the items follow.
+/// Opens a name with one text per language; the items follow.
 inline constexpr std::string_view nameAlternativeStart = "<xmpDM:name><rdf:Alt>";
 /// Ends what #nameAlternativeStart opened.
 inline constexpr std::string_view nameAlternativeEnd = "</rdf:Alt></xmpDM:name>";

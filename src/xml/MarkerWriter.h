@@ -12,8 +12,8 @@
 
 namespace ZelInterchangeData {
 
-/// Appends markers to the text of a track. A track has many markers of one shape, so they are
-/// written one by one and not built as a tree:
+/// Appends markers to the text of a track. A track has many markers of one shape, so each is
+/// written directly instead of being built as a tree:
 ///
 ///     markers.begin().attribute("xmpDM:startTime", start).escaped("zelDM:image", image).end();
 ///
@@ -87,7 +87,7 @@ public:
     /// Closes a marker after its content().
     void endContent() { text_.append("</rdf:Description></rdf:li>"); }
 
-    /// Appends to the text what it still lacks.
+    /// Appends what the text still lacks.
     void finish() { text_.flush(); }
 
 private:

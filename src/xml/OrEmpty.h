@@ -6,7 +6,7 @@
 
 namespace ZelInterchangeData {
 
-/// @p text, or the empty string when it is null.
+/// @p text, or the empty string if it is null.
 inline const char* orEmpty(const char* text) noexcept
 {
     return text != nullptr ? text : "";

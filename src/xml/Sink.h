@@ -1,5 +1,5 @@
 /// @file
-/// What a builder verb returns when there is no node to return to.
+/// What a builder verb returns if there is no node to return to.
 
 #ifndef ZELINTERCHANGEDATA_XML_SINK_H
 #define ZELINTERCHANGEDATA_XML_SINK_H
@@ -10,14 +10,13 @@
 
 namespace ZelInterchangeData {
 
-/// A node that accepts every verb and leads nowhere: it belongs to no tree, so nothing that is
-/// built on it is ever written.
+/// A node that accepts every verb and belongs to no tree, so what is built on it is never written.
 ///
 /// It is its own parent and the end of each of its paths. An expression that reaches it therefore
-/// stays on it, and however long the expression is, no second sink and no child is made.
+/// stays on it and creates neither a child nor a second sink, however long the expression is.
 class Sink final : public ZelDataXmlNode {
 public:
-    /// Its text leads back to itself even where the text verb was not used.
+    /// Its text leads back to itself even if the text verb was not used.
     Sink() : ZelDataXmlNode(this) { *this < static_cast<void**>(nullptr); }
 
     using ZelDataXmlNode::operator<;
@@ -25,7 +24,7 @@ public:
     ZelDataXmlNode& operator<([[maybe_unused]] const char* path) override { return *this; }
 };
 
-/// @p node, or the sink in @p sink when it is null. The sink is created when it is first needed.
+/// @p node, or the sink in @p sink if it is null. The first call that needs the sink creates it.
 // cppcheck-suppress constParameter ; the caller may change the node
 inline ZelDataXmlNode& orSink(ZelDataXmlNode* node, std::unique_ptr<ZelDataXmlNode>& sink)
 {

@@ -15,9 +15,9 @@ namespace ZelInterchangeData {
 /// One `rdf:li` of the packet's list of tracks: a description that holds a sequence of markers.
 ///
 ///     <rdf:li><rdf:Description><xmpDM:markers><rdf:Seq> markers </rdf:Seq></xmpDM:markers>
-///     properties </rdf:Description></rdf:li>      (written without blanks and line breaks)
+///     properties </rdf:Description></rdf:li>      (written without spaces and line breaks)
 ///
-/// The caller decides what describes the track and what a marker holds.
+/// The caller decides which attributes the track has and what a marker contains.
 class Track {
 public:
     /// A track without attributes and markers.

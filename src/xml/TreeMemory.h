@@ -13,8 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// Hands out memory from large pieces, in order, and takes nothing back before it is destroyed
-/// itself: a tree is built, written once and destroyed as a whole.
+/// Allocates memory from large pieces, in order, and frees it only when it is destroyed: a tree is
+/// built, written once and destroyed as a whole.
 class TreeMemory {
 public:
     TreeMemory() = default;

@@ -17,8 +17,8 @@ class ZelDataXmlNode;
 /// A name and a value; both are written as they were given.
 class ZelDataXmlAttribute {
 public:
-    /// An attribute of @p owner with empty name and value. The owner does not list it. The name is
-    /// kept in @p memory, or on the heap where that is null.
+    /// An attribute of @p owner with an empty name and value. The owner does not list it. Its name
+    /// uses @p memory, or the heap if that is null.
     explicit ZelDataXmlAttribute(ZelDataXmlNode* owner, TreeMemory* memory = nullptr);
 
     /// Replaces the name; null is an empty name. Returns the value, which leads back to the owner.
@@ -26,7 +26,7 @@ public:
 
     /// The number of bytes that write() appends.
     std::size_t length() const noexcept;
-    /// Appends the name, `="`, the value, `"` and one blank to @p out.
+    /// Appends the name, `="`, the value, `"` and a space to @p out.
     void write(std::string& out) const;
 
     ZelDataXmlAttribute(const ZelDataXmlAttribute&) = delete;

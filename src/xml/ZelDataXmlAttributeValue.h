@@ -13,7 +13,7 @@ class ZelDataXmlNode;
 
 /// The value of an attribute, and the node that an expression returns to after setting it.
 ///
-/// Every setter returns that node. While there is none, it returns a node outside the tree, whose
+/// Every setter returns that node. If there is none, it returns a node outside the tree, whose
 /// content is never written.
 class ZelDataXmlAttributeValue {
 public:
@@ -32,13 +32,13 @@ public:
     ZelDataXmlNode& operator<(const std::string& text);
     /// The same, without a copy.
     ZelDataXmlNode& operator<(std::string&& text);
-    /// Replaces the value by @p number in decimal.
+    /// Replaces the value with @p number in decimal.
     ZelDataXmlNode& operator<(int number);
-    /// Replaces the value by @p number in decimal.
+    /// Replaces the value with @p number in decimal.
     ZelDataXmlNode& operator<(long number);
-    /// Replaces the value by @p number in decimal.
+    /// Replaces the value with @p number in decimal.
     ZelDataXmlNode& operator<(long long number);
-    /// Replaces the value by @p number with up to six significant digits ("0.6", "1.23457e+06").
+    /// Replaces the value with @p number with up to six significant digits ("0.6", "1.23457e+06").
     ZelDataXmlNode& operator<(double number);
 
     /// As `*this < text`.

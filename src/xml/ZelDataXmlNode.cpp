@@ -13,7 +13,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Makes room for one more in @p pointers.
+/// Reserves space for one more in @p pointers.
 template <class Pointers>
 void makeRoom(Pointers& pointers)
 {
@@ -23,7 +23,7 @@ void makeRoom(Pointers& pointers)
     }
 }
 
-/// An element whose start tag is written and whose end tag is not.
+/// An element whose start tag is written but whose end tag is not.
 struct OpenElement {
     const ZelDataXmlNode* node;
     std::size_t nextChild;
@@ -31,7 +31,7 @@ struct OpenElement {
 
 } // namespace
 
-// A node without a parent, or with itself for one, is a root.
+// A node without a parent, or that is its own parent, is a root.
 ZelDataXmlNode::ZelDataXmlNode(ZelDataXmlNode* parent)
     : ownMemory_(parent == nullptr || parent == this ? std::make_unique<TreeMemory>() : nullptr),
       memory_(ownMemory_ != nullptr ? ownMemory_.get() : parent->memory_), currentGroup_(memory_),
@@ -168,8 +168,7 @@ ZelDataXmlNode& ZelDataXmlNode::addChild(std::string_view name)
     ChildGroup entry(memory_);
     ZelDataXmlNode*& entered = entry.emplace(ownName, nullptr).first->second;
     entered = make<ZelDataXmlNode>(this);
-    // Whatever can fail is done, so a child is in both places or in neither: the rest only moves
-    // and links.
+    // Nothing below can fail, so a child is in both places or in neither.
     entered->name_ = std::move(ownName);
     children_.push_back(entered);
     currentGroup_.merge(entry);
@@ -187,12 +186,12 @@ ZelDataXmlNode& ZelDataXmlNode::walk(std::string_view path)
             child = &node->addChild(path.substr(0, slash));
             if (isLast) return *child;
         } else if (slash == 0) {
-            // Deliberate: a nameless step that finds its child ends the path; otherwise "/a" asked
-            // for twice would give <><a><a></a></a></> instead of <><a></a></>.
+            // Deliberate: a nameless step that finds its child ends the path; otherwise, requesting
+            // "/a" twice would give <><a><a></a></a></> instead of <><a></a></>.
             return *child;
         }
-        // Deliberate: a last step whose name is taken is asked for again one level down; otherwise
-        // "x" asked for twice would not give <x><x></x></x>.
+        // Deliberate: a last step whose name is taken is repeated one level down; otherwise,
+        // requesting "x" twice would not give <x><x></x></x>.
         if (!isLast) path.remove_prefix(slash + 1);
         node = child;
     }
@@ -217,8 +216,8 @@ std::size_t ZelDataXmlNode::length() const
 void ZelDataXmlNode::writeStartTag(std::string& out) const
 {
     out.append("<").append(std::string_view(name_));
-    // Deliberate: a blank follows every attribute, even the last one; otherwise the one before ">"
-    // in every start tag with attributes would be missing.
+    // Deliberate: a space follows every attribute, even the last one; otherwise, there would be
+    // none before ">" in start tags with attributes.
     if (!attributes_.empty()) out += ' ';
     for (const auto* own : attributes_)
         own->write(out);
@@ -227,7 +226,7 @@ void ZelDataXmlNode::writeStartTag(std::string& out) const
 
 void ZelDataXmlNode::writeEndTag(std::string& out) const
 {
-    // Deliberate: children displace the text; otherwise it would be written beside them.
+    // Deliberate: children displace the text; otherwise, both would be written.
     if (children_.empty()) out += text_.getValue();
     out.append("</").append(std::string_view(name_)).append(">");
 }

@@ -26,10 +26,10 @@ namespace ZelInterchangeData {
 ///     description.attribute("xmpDM:name", title).attribute("xmpDM:startTime", start);
 ///
 /// The tree only writes. Names, values and texts are written as given: the caller escapes them.
-/// Nothing is removed before the whole tree is destroyed.
+/// Nothing is removed until the whole tree is destroyed.
 ///
-/// A verb that runs out of memory lets `std::bad_alloc` through. The tree then holds what was built
-/// so far and can be written, extended and destroyed. Only memory limits the depth of a tree.
+/// A verb that runs out of memory throws `std::bad_alloc`. The tree then contains what was built so
+/// far and can be written, extended and destroyed. Only memory limits the depth of a tree.
 class ZelDataXmlNode {
 public:
     /// A nameless node below @p parent, which does not list it; null makes a root. It takes its
@@ -42,14 +42,14 @@ public:
     /// The element at the end of @p path, a list of names with "/" between them. Null is an empty
     /// path.
     ///
-    /// Names are looked up in the current child group alone; missing elements are created.
-    /// - An inner step goes to the child of its name, so "x/y" reuses an existing "x".
-    /// - The last step always creates an element. Where its name is taken it goes one level down
-    ///   and asks for the same name there: "x" asked for twice gives "x/x".
-    /// - An empty name is a name like any other, with one exception: where a nameless inner step
-    ///   finds its child, the path ends there, whatever follows.
+    /// Names are looked up only in the current child group; missing elements are created.
+    /// - An inner step goes to the child with its name, so "x/y" reuses an existing "x".
+    /// - The last step always creates an element. If its name is taken, it goes one level down and
+    ///   tries the same name there: requesting "x" twice gives "x/x".
+    /// - An empty name is a name like any other, with one exception: if a nameless inner step finds
+    ///   its child, the path ends there, whatever follows.
     ///
-    /// To get a second element of the same name beside the first one, call newGroup() first.
+    /// To create a second element of the same name beside the first, call newGroup() first.
     virtual ZelDataXmlNode& operator<(const char* path);
     /// The same for the characters of @p path up to its first zero byte.
     ZelDataXmlNode& operator<(const std::string& path);
@@ -59,22 +59,22 @@ public:
     ZelDataXmlAttribute& operator<(void* attributeVerb);
     /// The text, which from now on leads back to the parent. The argument only selects the verb.
     ZelDataXmlValue& operator<(void** textVerb);
-    /// Makes @p number the text. Returns the parent, or a node outside the tree when the text was
+    /// Makes @p number the text. Returns the parent, or a node outside the tree if the text was
     /// never reached through its verb.
     ZelDataXmlNode& operator=(long number);
 
     /// As `*this < path`.
     ZelDataXmlNode& element(const char* path) { return operator<(path); }
     ZelDataXmlNode& element(const std::string& path) { return operator<(path); }
-    /// Starts a new child group: every existing child keeps its place but is no longer found by its
+    /// Starts a new child group: existing children keep their places but are no longer found by
     /// name. Returns this node.
     ZelDataXmlNode& newGroup();
     /// Appends an attribute; @p value is written as given. Returns this node.
     ZelDataXmlNode& attribute(const char* name, std::string value);
     /// Appends an attribute with @p value in decimal. Returns this node.
     ZelDataXmlNode& attribute(const char* name, long long value);
-    /// Replaces the text with @p markup, which is written as given, and only while there are no
-    /// children. Returns the parent, or a node outside the tree when there is none.
+    /// Replaces the text with @p markup, which is written as given, and only if there are no
+    /// children. Returns the parent, or a node outside the tree if there is none.
     ZelDataXmlNode& text(const std::string& markup);
 
     /// Takes the first step of @p path as the name and builds the rest below. Returns the end of
@@ -95,7 +95,7 @@ protected:
     void writeChildren(std::string& out) const;
 
 private:
-    /// Transparent, so that a step of a path is looked up without being copied.
+    /// Transparent, to look up a step of a path without copying it.
     using ChildGroup = std::map<TreeString, ZelDataXmlNode*, std::less<>,
                                 TreeAllocator<std::pair<const TreeString, ZelDataXmlNode*>>>;
     template <class Type>

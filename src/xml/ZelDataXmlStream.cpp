@@ -39,8 +39,8 @@ std::string ZelDataXmlStream::getSafeXmlString(std::string text)
     return text;
 }
 
-// Builds the result beside the subject and puts it in its place at the end: replacing inside the
-// subject would move its tail once for every occurrence.
+// Builds the result in a new string: replacing inside the subject would move its tail once for
+// every occurrence.
 std::string& replaceAll(std::string& subject, const std::string& from, const std::string& to)
 {
     std::string result;

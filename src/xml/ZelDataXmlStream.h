@@ -10,7 +10,7 @@
 
 namespace ZelInterchangeData {
 
-/// An unnamed root, of which only the children are written, and the XML declaration.
+/// An unnamed root: writes only its children and, if requested, the XML declaration.
 class ZelDataXmlStream : public ZelDataXmlNode {
 public:
     /// A root without children.
@@ -19,10 +19,10 @@ public:
 
     using ZelDataXmlNode::operator=;
 
-    /// Returns the children, one directly after the other; when @p withDeclaration is true,
-    /// preceded by the XML declaration without a line break.
+    /// Returns the children, one directly after another; if @p withDeclaration is true, the XML
+    /// declaration precedes them without a line break.
     std::string getXml(bool withDeclaration) const;
-    /// Not supported: the tree stays as it is.
+    /// Not supported: the tree is unchanged.
     void parseXml(const std::string& text);
     /// @p text with `&`, `<`, `>`, `"` and `'` as XML entities. Entities that it already contains
     /// are escaped again; every other byte stays.

@@ -14,8 +14,7 @@ class ZelDataXmlNode;
 /// A text, and the node that it belongs to after a call of setParent().
 ///
 /// Every setter returns the parent of that node, so that the next path of an expression starts one
-/// level up. When there is none, it returns a node outside the tree, whose content is never
-/// written.
+/// level up. If there is none, it returns a node outside the tree, whose content is never written.
 class ZelDataXmlValue {
 public:
     /// An empty text that belongs to no node.
@@ -31,9 +30,9 @@ public:
     ZelDataXmlNode& operator<(const char* text);
     /// Replaces the text.
     ZelDataXmlNode& operator<(const std::string& text);
-    /// Replaces the text by @p number in decimal.
+    /// Replaces the text with @p number in decimal.
     ZelDataXmlNode& operator<(long number);
-    /// Replaces the text by @p number in decimal.
+    /// Replaces the text with @p number in decimal.
     ZelDataXmlNode& operator<(long long number);
 
     /// As `*this < text`.

@@ -1,5 +1,5 @@
 /// @file
-/// Where the compiler finds a virtual operation.
+/// Finds the slot that the compiler gave a virtual operation.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_ABI_SLOTOF_H
 #define ZELINTERCHANGEDATA_TESTS_ABI_SLOTOF_H
@@ -10,8 +10,8 @@
 
 namespace ZelInterchangeData {
 
-/// The index in its virtual table of the operation that @p member points to, as the compiler calls
-/// it; the largest value when the operation is not virtual.
+/// Returns the virtual table index of the operation that @p member points to, or the largest value if
+/// the operation is not virtual.
 ///
 /// The Itanium ABI lays such a pointer out as two words. For a virtual operation one of them holds
 /// the offset in the table; the mark for "virtual" is the lowest bit of the first word, or on ARM

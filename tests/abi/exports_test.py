@@ -1,7 +1,6 @@
-"""What the shared library exports against the list in exports.txt: each name of the list under its
-version, and no other one. The library's own inline members stay hidden, so the list is the same for
-every compiler. And what others can put in the place of what the library calls itself: no function of
-its own."""
+"""Checks that the shared library exports the names in exports.txt, each under its version, and no
+others. The library's inline members stay hidden, so the list is the same for every compiler. Also
+checks that no other module can replace a function that the library calls in itself."""
 
 import os
 import re
@@ -22,8 +21,8 @@ def output_of(command, *arguments):
 
 
 def exported():
-    """The version and the readable name of each defined dynamic symbol; those of the versions
-    themselves, which have no address, left out."""
+    """The version and the readable name of each defined dynamic symbol, without the symbols that
+    stand for the versions themselves."""
     for line in output_of("NM", "--dynamic", "--defined-only", "--demangle").splitlines():
         _, kind, symbol = line.split(maxsplit=2)
         if kind != "A":
@@ -32,7 +31,7 @@ def exported():
 
 
 def listed():
-    """The same from the list: each version, followed by a colon, comes before its names."""
+    """The versions and names in exports.txt, where each version, with a colon, precedes its names."""
     version = None
     for line in EXPORTS.read_text(encoding="ascii").splitlines():
         if line.startswith("ZELINTERCHANGEDATA_"):
@@ -50,7 +49,7 @@ class Exports(unittest.TestCase):
         self.assertEqual(sorted((version, shortened(name)) for version, name in self.exported),
                          sorted(listed()))
 
-    def test_every_exported_name_lies_in_the_namespace(self):
+    def test_every_exported_name_is_in_the_namespace(self):
         for _, name in sorted(self.exported):
             owner = name.split(" for ")[-1]
             with self.subTest(name):
@@ -58,7 +57,7 @@ class Exports(unittest.TestCase):
 
 
 class Relocations(unittest.TestCase):
-    def test_no_function_of_the_library_is_looked_up_when_it_is_loaded(self):
+    def test_the_loader_looks_up_no_function_of_the_library(self):
         names = re.findall(r"^[0-9a-f]+ +[0-9a-f]+ +R_\S+ +[0-9a-f]+ +(.*?)(?:@| \+ |$)",
                            output_of("READELF", "--relocs", "--wide", "--demangle"), re.MULTILINE)
         ours = {name for name in names if NAMESPACE in name}

@@ -33,7 +33,7 @@ CHECK = """\
 
 def checks(slot_list):
     for slot, operation in slots(slot_list.operations):
-        if operation != "~":  # no pointer to a destructor can be had; the libraries' tables show it
+        if operation != "~":  # no pointer can point to a destructor; vtables_test.py checks it
             result, name, rest = split(operation)
             yield CHECK.format(result=result, rest=rest, operation=name, slot=slot)
 

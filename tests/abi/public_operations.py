@@ -1,5 +1,5 @@
-"""All operations that callers can call: those of the interfaces from the slot lists, which a test
-compares with the headers, and the static and the free functions from the headers themselves."""
+"""All public operations: those of the interfaces, read from the slot lists, which a test compares with
+the headers, and the static and free functions, read from the headers."""
 
 import re
 from collections import Counter
@@ -9,7 +9,7 @@ from slot_lists import read_slot_lists, split
 
 
 def argument_types(arguments):
-    """The types in a list of arguments with or without names, given in parentheses."""
+    """The argument types of a parenthesised list, with or without argument names."""
     types = []
     for argument in arguments.strip("()").split(","):
         words = re.sub(r"\s+", " ", argument).strip()
@@ -19,7 +19,7 @@ def argument_types(arguments):
 
 
 def of_interfaces(slot_folder):
-    """The operations of each class that implements an interface, destructors aside."""
+    """The operations of each class that implements an interface, without the destructor."""
     for slot_list in read_slot_lists(slot_folder):
         operations = [split(operation) for operation in slot_list.operations if operation != "~"]
         signatures = [(name, argument_types(rest.removesuffix(" const")))
@@ -29,7 +29,7 @@ def of_interfaces(slot_folder):
 
 
 def of_header(pattern, class_name, header):
-    """The functions of a header that callers can call and whose beginning matches the pattern."""
+    """The public functions of a header whose declaration begins with the pattern."""
     text = re.sub(r"//.*", "", header.read_text(encoding="ascii"))
     text = re.sub(r"^private:.*?^};", "", text, flags=re.DOTALL | re.MULTILINE)
     found = re.findall(pattern + r" [^();=]*?(\w+)(\([^)]*\))", text, re.MULTILINE)
@@ -37,8 +37,8 @@ def of_header(pattern, class_name, header):
 
 
 def named(class_name, signatures):
-    """A name for each operation, with its types: the class and the operation, and the types of the
-    arguments where the class has several of that name."""
+    """The name and argument types of each operation. The name is that of the class and the operation,
+    followed by the argument types if the operation is overloaded."""
     counts = Counter(name for name, _ in signatures)
     prefix = class_name + "::" if class_name else ""
     for name, types in signatures:
@@ -46,7 +46,7 @@ def named(class_name, signatures):
 
 
 def public_operations(slot_folder, include_folder):
-    """Name and types of the arguments of each operation; that every source gives some is asserted."""
+    """The name and argument types of each operation. Asserts that every source has some."""
     headers = [path for path in sorted(Path(include_folder).glob("ZelInterchangeData/*.h"))
                if path.stem != "ZelDataStandardLibrary"]  # what it declares is never called
     sources = (of_interfaces(Path(slot_folder)),

@@ -1,5 +1,5 @@
-"""The slot lists in slots/: one file per polymorphic class, one line per virtual operation, in the
-order that the binary interface has. `~` stands for the destructor, which takes two slots."""
+"""The slot lists in slots/: one file per polymorphic class, one line per virtual operation, in
+slot order. `~` is the destructor, which takes two slots."""
 
 from dataclasses import dataclass
 from pathlib import Path
@@ -10,7 +10,7 @@ KEYS = ("header", "extends", "implemented by")
 
 @dataclass
 class SlotList:
-    """What one file says, the operations of its base classes put in front."""
+    """The content of one file, with the operations of its base classes first."""
     name: str
     header: str
     implementations: list
@@ -18,7 +18,7 @@ class SlotList:
 
 
 def read_file(path):
-    """The keys and the operations that the file itself holds."""
+    """The keys and operations in the file, without those of base classes."""
     keys, operations = {}, []
     for line in path.read_text(encoding="ascii").splitlines():
         key, colon, value = line.partition(": ")
@@ -30,7 +30,7 @@ def read_file(path):
 
 
 def read_slot_list(folder, name):
-    """The complete slot list of the class of this name."""
+    """The complete slot list of the named class."""
     keys, operations = read_file(folder / f"{name}.txt")
     if "extends" in keys:
         operations = read_slot_list(folder, keys["extends"]).operations + operations
@@ -38,7 +38,7 @@ def read_slot_list(folder, name):
 
 
 def read_slot_lists(folder):
-    """All slot lists of the folder, by name; at least one."""
+    """All slot lists in the folder, sorted by name. Fails if there are none."""
     lists = [read_slot_list(folder, path.stem) for path in sorted(Path(folder).glob("*.txt"))]
     assert lists, f"no slot list in {folder}"
     return lists

@@ -1,5 +1,5 @@
-"""The version: the shared library, the changelogs and the packages name the same one, and the
-changelog says of each version what happened to output bytes and symbols."""
+"""Checks that the shared library, the changelogs and the packages name the same version, and that the
+changelog says for each version whether output bytes and symbols changed."""
 
 import os
 import re
@@ -40,14 +40,14 @@ class Changelog(unittest.TestCase):
     def test_the_newest_version_is_that_of_the_project(self):
         self.assertEqual(self.sections[0][0], VERSION)
 
-    def test_versions_are_semantic_and_go_down(self):
+    def test_versions_are_semantic_and_newest_first(self):
         numbers = []
         for version, _ in self.sections:
             self.assertRegex(version, r"^\d+\.\d+\.\d+$")
             numbers.append([int(part) for part in version.split(".")])
         self.assertEqual(numbers, sorted(numbers, reverse=True))
 
-    def test_each_version_says_what_happened_to_output_bytes_and_symbols(self):
+    def test_each_version_says_whether_output_bytes_and_symbols_changed(self):
         for version, text in self.sections:
             for subject in ("Output bytes", "Symbols"):
                 with self.subTest(f"{version} {subject}"):

@@ -1,8 +1,7 @@
-"""The virtual tables inside the built shared library, entry by entry, against the slot lists.
+"""Compares the virtual tables of the shared library with the slot lists, entry by entry.
 
-The tables are read from the file: symbols with nm, the table entries from the dynamic relocations
-with readelf. The classes that implement the interfaces must have tables of exactly the interface's
-length."""
+Reads the symbols with nm and the table entries, which are dynamic relocations, with readelf. The
+tables of implementing classes must be exactly as long as those of their interfaces."""
 
 import os
 import re
@@ -66,17 +65,17 @@ class Image:
 
 
 def nested(name):
-    """The mangled form of a class of the namespace."""
+    """The mangled name of a class in the namespace."""
     return f"N18ZelInterchangeData{len(name)}{name}E"
 
 
 def plain(signature):
-    """A demangled operation without its class, which may have been made from a template."""
+    """A demangled operation without its class, which may be a template instance."""
     return shortened(re.sub(r"^[\w:]+?(<.*?>)?::(?=(\w+|operator<)\()", "", signature))
 
 
 def listed(operation):
-    """A listed operation in the form that plain() gives: no result, const after its type."""
+    """A listed operation in the form that plain() returns: no result type, const after its type."""
     _, name, rest = split(operation)
     return name + re.sub(r"const ([\w:<>]+)([&*])", r"\1 const\2", rest)
 
@@ -87,7 +86,7 @@ SLOT_LISTS = read_slot_lists(SLOTS)
 
 class VirtualTables(unittest.TestCase):
     def check_entry(self, names, owner, slot, operation, abstract):
-        """One entry of the table; names are those of the address found there."""
+        """Checks one entry of the table; names are the symbols at the address it holds."""
         if abstract and names == {"__cxa_pure_virtual"}:
             return
         found = {plain(name) for name in demangled(sorted(names))}
@@ -117,14 +116,14 @@ class VirtualTables(unittest.TestCase):
                                  abstract=slot_list.name.startswith("i_")
                                  and slot_list.name != "i_ZelDataResult")
 
-    def test_the_classes_behind_the_interfaces_add_no_slot(self):
+    def test_implementing_classes_add_no_slot(self):
         for slot_list in SLOT_LISTS:
             for implementation in slot_list.implementations:
                 with self.subTest(implementation):
                     self.check_table(implementation, slot_list.operations, abstract=False)
 
-    def test_no_class_of_the_interface_is_left_out(self):
-        """Helpers of a source have tables, too; the classes that callers meet begin like these."""
+    def test_every_public_class_is_checked(self):
+        """Internal helpers have tables, too, but none of these prefixes."""
         checked = {name for slot_list in SLOT_LISTS
                    for name in (slot_list.name, *slot_list.implementations)}
         names = {name.removeprefix("vtable for " + NAMESPACE) for name in demangled(IMAGE.tables)}

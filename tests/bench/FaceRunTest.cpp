@@ -1,5 +1,5 @@
 /// @file
-/// The run through the face against the run through codes.
+/// Compares the run through the face with the run through codes.
 
 #include "bench/FaceRun.h"
 #include "bench/LibraryRun.h"

@@ -9,8 +9,8 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-// The functions themselves are called, because a compiler may leave out a new expression whose
-// object that is not used.
+// Calls the functions directly, because a compiler may omit a new expression whose object is not
+// used.
 TEST(HeapWatchTest, CountsEveryFormOfNew)
 {
     constexpr auto wide = std::align_val_t(64);
@@ -25,7 +25,7 @@ TEST(HeapWatchTest, CountsEveryFormOfNew)
     EXPECT_EQ(watch.use().allocations, 7U);
 }
 
-TEST(HeapWatchTest, ThePeakIsWhatWasHeldAtOneTime)
+TEST(HeapWatchTest, ThePeakIsTheMostMemoryHeldAtOnce)
 {
     constexpr std::size_t size = 1000000;
     const HeapWatch watch;
@@ -40,7 +40,7 @@ TEST(HeapWatchTest, ThePeakIsWhatWasHeldAtOneTime)
     EXPECT_LT(watch.use().peak, 2 * size + 20000);
 }
 
-TEST(HeapWatchTest, NeitherCountsNorPeaksBefore)
+TEST(HeapWatchTest, IgnoresEarlierAllocations)
 {
     const std::vector<char> before(1000000);
     const HeapWatch watch;

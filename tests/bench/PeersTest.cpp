@@ -13,7 +13,7 @@ namespace ZelInterchangeData::bench {
 namespace {
 
 /// The element as text: name, attributes in the order of their names, the date masked, text,
-/// children. Two packets with the same information give the same text.
+/// children. Packets with the same information have the same text.
 std::string canonical(const pugi::xml_node& node)
 {
     if (node.type() == pugi::node_pcdata) return std::string("text:") + node.value() + "\n";
@@ -63,7 +63,7 @@ TEST_P(Peer, WritesTheInformationThatTheLibraryWrites)
     }
 }
 
-TEST_P(Peer, WritesAsMuchWithoutACopy)
+TEST_P(Peer, WritesTheSameSizeWithoutACopy)
 {
     const Document document = makeDocument(100, Order::ascending, Pair::enDe);
     std::string written;

@@ -43,7 +43,7 @@ TEST(RatioReportTest, TakesTheWorstCase)
               "2.00 (N = 100, tied, en+de)");
 }
 
-TEST(RatioReportTest, MissesWhatLiesAboveTheMust)
+TEST(RatioReportTest, ARatioAboveItsLimitIsMissed)
 {
     const Results results{{caseOf(100, Order::tied, 21)}, std::nullopt, {}};
     EXPECT_EQ(rowOf(results, "write ÷ straight appender").verdict, Verdict::missed);
@@ -77,7 +77,7 @@ TEST(RatioReportTest, ChecksTheShareOfTheAppendersGainAndShowsTheGain)
     EXPECT_EQ(gain.verdict, Verdict::shown);
 }
 
-TEST(RatioReportTest, ChecksTextsByTheMultipleOfThePlainLoopAlone)
+TEST(RatioReportTest, ChecksTextsOnlyByTheMultipleOfThePlainLoop)
 {
     Results results;
     results.texts = {{"ASCII", 1e9, 3},

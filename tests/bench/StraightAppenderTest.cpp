@@ -11,7 +11,7 @@ namespace ZelInterchangeData::bench {
 
 namespace {
 
-/// @p packet with the value of its date as "now": the two are written at different times.
+/// @p packet with "now" as its date, because the two are written at different times.
 std::string dateMasked(std::string packet)
 {
     const std::string start = "dc:date=\"";
@@ -19,7 +19,7 @@ std::string dateMasked(std::string packet)
     EXPECT_NE(from, std::string::npos);
     const auto value = from + start.size();
     const auto end = packet.find('"', value);
-    EXPECT_GE(end - value, 20U) << "the date is too short to be one";
+    EXPECT_GE(end - value, 20U) << "the date is too short";
     return packet.replace(value, end - value, "now");
 }
 
@@ -44,7 +44,7 @@ TEST_P(StraightAppender, WritesTheLibrarysBytes)
     expectSameBytes(makeDocument(size, order, pair));
 }
 
-TEST_P(StraightAppender, StaysWithinTheRoomThatEveryWriterReserves)
+TEST_P(StraightAppender, StaysWithinTheSizeThatEveryWriterReserves)
 {
     const auto [size, order, pair] = GetParam();
     const Document document = makeDocument(size, order, pair);
@@ -108,7 +108,7 @@ TEST(DocumentsTest, TheSameArgumentsGiveTheSameDocument)
     EXPECT_EQ(packet(), packet());
 }
 
-TEST(DocumentsTest, OrdersAreWhatTheyAreCalled)
+TEST(DocumentsTest, OrdersMatchTheirNames)
 {
     const auto starts = [](Order order) {
         std::vector<long long> all;

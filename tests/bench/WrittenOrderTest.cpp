@@ -26,7 +26,7 @@ std::vector<std::size_t> exchanged(std::vector<long long> starts)
     return order;
 }
 
-TEST(WrittenOrderTest, IsTheExchangeSortsForRandomStarts)
+TEST(WrittenOrderTest, MatchesTheExchangeSortForRandomStarts)
 {
     std::mt19937_64 engine(1);
     for (int round = 0; round < 5000; ++round) {
@@ -38,7 +38,7 @@ TEST(WrittenOrderTest, IsTheExchangeSortsForRandomStarts)
     }
 }
 
-TEST(WrittenOrderTest, IsTheExchangeSortsForLongGroups)
+TEST(WrittenOrderTest, MatchesTheExchangeSortForLongGroups)
 {
     std::mt19937_64 engine(2);
     for (const std::size_t distinct : {2U, 16U, 400U}) {
@@ -49,7 +49,7 @@ TEST(WrittenOrderTest, IsTheExchangeSortsForLongGroups)
     }
 }
 
-TEST(WrittenOrderTest, TurnsEqualStartsThatASmallerOneFollows)
+TEST(WrittenOrderTest, RotatesEqualStartsThatASmallerOneFollows)
 {
     EXPECT_EQ(writtenOrder({5, 5, 3}), (std::vector<std::size_t>{2, 1, 0}));
 }

@@ -38,7 +38,7 @@ class Ratios(unittest.TestCase):
     def test_quadratic_growth_has_exponent_two(self):
         self.assertAlmostEqual(check.ratios(counts(64000))["growth.reversed"], 2)
 
-    def test_each_is_taken_of_its_own_counts(self):
+    def test_each_ratio_uses_its_own_counts(self):
         measured = check.ratios(counts())
         self.assertEqual(measured["write/appender.shuffled.8000"], 2)
         self.assertEqual(measured["utf8/plain.CJK"], 0.5)
@@ -56,31 +56,31 @@ class Ratios(unittest.TestCase):
 
 
 class Dumps(unittest.TestCase):
-    def test_name_and_total_are_read(self):
+    def test_the_name_and_the_total_are_read(self):
         text = ("version: 1\ndesc: Trigger: Client Request: write.tied.1000\nevents: Ir\n"
                 "summary: 4711\n\n")
         self.assertEqual(check.dumped_count(text), ("write.tied.1000", 4711))
 
-    def test_the_dump_at_the_end_has_no_name(self):
+    def test_the_final_dump_has_no_name(self):
         self.assertIsNone(check.dumped_count("desc: Trigger: Program termination\ntotals: 12\n"))
 
 
 class Limits(unittest.TestCase):
-    def test_what_is_written_is_read(self):
+    def test_written_limits_are_read_back(self):
         text = check.limits_text({"a": 2.0, "b": 0.5}, 1.5)
         self.assertEqual(check.read_limits(text), {"a": 3.0, "b": 0.75})
 
-    def test_within_the_limit_is_no_offence(self):
+    def test_a_ratio_within_its_limit_passes(self):
         self.assertEqual(check.offences({"a": 2.0}, {"a": 2.0}), [])
 
-    def test_above_the_limit_is_an_offence(self):
+    def test_a_ratio_above_its_limit_is_an_offence(self):
         self.assertEqual(check.offences({"a": 2.1}, {"a": 2.0}),
                          ["a: 2.1000 is above 2.0000"])
 
-    def test_without_a_limit_is_an_offence(self):
+    def test_a_ratio_without_a_limit_is_an_offence(self):
         self.assertEqual(check.offences({"a": 2.1}, {}), ["a: 2.1000 has no limit"])
 
-    def test_a_limit_without_a_measure_is_an_offence(self):
+    def test_a_limit_without_a_ratio_is_an_offence(self):
         self.assertEqual(check.offences({}, {"a": 1.0}), ["a: has a limit, but was not measured"])
 
 

@@ -1,5 +1,5 @@
 /// @file
-/// Copying a caption item: what concerns it alone.
+/// Copying a caption item: the rules of its own. The rest is in sets/CopyContractTest.cpp.
 
 #include "captions/Captions.h"
 #include "support/fakes/FailingCaptions.h"
@@ -31,7 +31,7 @@ TEST(CaptionItemCopy, AnEndThatWrapsIsRefused)
     EXPECT_EQ((Caption{most, 20, {}, 0x10}), contentsOf(*target));
 }
 
-/// A foreign item that names its languages as it likes.
+/// A foreign item whose languages a test chooses.
 class NamedLanguages : public FailingCaptionItem {
 public:
     explicit NamedLanguages(std::vector<std::string> ids) : ids_(std::move(ids)) {}
@@ -66,7 +66,7 @@ TEST(CaptionItemCopy, StopsAtALanguageThatTheCatalogueDoesNotKnow)
     EXPECT_EQ((Caption{10, 20, {{"en", "text in en"}}, 0x10}), contentsOf(*target));
 }
 
-/// Counts what reaches its setLastError().
+/// Counts the calls of its setLastError().
 class CountingItem : public ZelDataCaptionItem {
 public:
     void setLastError(ZelDataResult_tags code) const override

@@ -1,5 +1,5 @@
 /// @file
-/// Captions in one line, and the contents of a caption and of a collection in one value.
+/// Captions from plain values, and back.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_CAPTIONS_CAPTIONS_H
 #define ZELINTERCHANGEDATA_TESTS_CAPTIONS_CAPTIONS_H
@@ -38,7 +38,7 @@ inline void PrintTo(const Caption& caption, std::ostream* out)
          << testing::PrintToString(caption.texts) << " alignment " << caption.alignment;
 }
 
-/// Makes @p item hold @p caption. A caption without a duration leaves the item's alone.
+/// Fills @p item with @p caption. A caption without a duration leaves the item's alone.
 inline void fill(i_ZelDataCaptionItem& item, const Caption& caption)
 {
     for (const auto& [id, text] : caption.texts)
@@ -87,6 +87,15 @@ struct CaptionKind {
     static constexpr auto order = &Own::orderCaptions;
     static constexpr auto makeConsistent = &Data::makeCaptionsConsistent;
     static constexpr auto setData = &Formatter::setCaptions;
+
+    /// A collection that makes its items with the given function, if there is one.
+    struct Made : Own {
+        Maker<Item> maker;
+        ZelDataResult_tags createCaptionItem(Item** out) const override
+        {
+            return maker ? maker(out) : Own::createCaptionItem(out);
+        }
+    };
 };
 
 inline std::unique_ptr<i_ZelDataCaptionItem> itemOf(const Caption& caption)

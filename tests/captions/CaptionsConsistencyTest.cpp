@@ -1,5 +1,5 @@
 /// @file
-/// Captions checked, ordered and repaired.
+/// Checking, ordering and repairing captions.
 
 #include "captions/Captions.h"
 #include "support/fakes/FailingCaptions.h"
@@ -20,7 +20,7 @@ constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// Captions whose styling a test can put out of range, which no setter does.
+/// Captions whose styling a test can set out of range, which every setter refuses.
 class AnyStyle : public ZelDataCaptions {
 public:
     CaptionStyle& style() { return style_; }
@@ -44,7 +44,7 @@ const Spoil spoiledStyles[] = {
     [](CaptionStyle& style) { style.backgroundOpacity = 1.1F; },
 };
 
-/// What makeCaptionsConsistent() makes of a styling that @p spoil spoiled.
+/// What makeCaptionsConsistent() makes of a styling that @p spoil has put out of range.
 Style repaired(const Spoil& spoil)
 {
     AnyStyle captions;
@@ -65,7 +65,7 @@ TEST(ZelDataCaptionsIsValid, FindsEachStylingValueThatIsOutOfRange)
     }
 }
 
-TEST(ZelDataCaptionsIsValid, LooksAtTheStylingBeforeTheItems)
+TEST(ZelDataCaptionsIsValid, ChecksTheStylingBeforeTheItems)
 {
     AnyStyle captions;
     add(captions, {{0, 10}, {5, 10}});
@@ -74,7 +74,7 @@ TEST(ZelDataCaptionsIsValid, LooksAtTheStylingBeforeTheItems)
     EXPECT_CODE(captions, ZelData_InvalidArgument, captions.isValid(false));
 }
 
-TEST(ZelDataCaptionsIsValid, LetsANanPass)
+TEST(ZelDataCaptionsIsValid, AcceptsANan)
 {
     AnyStyle captions;
     captions.style().foreground = {nan, nan, nan};
@@ -110,7 +110,7 @@ TEST(ZelDataCaptionsIsValid, AnItemWithoutTextInAListedLanguageIsABadArgumentUnt
     EXPECT_CODE(*captions, ZelData_InvalidArgument, captions->isValid(false));
     EXPECT_CODE(*captions, ZelData_Ok, captions->makeCaptionsConsistent());
     EXPECT_CODE(*captions, ZelData_Ok, captions->isValid(true));
-    EXPECT_EQ((Texts{{"de", ""}, {"en", "a"}}), itemsOf(*captions)[0].texts);
+    EXPECT_EQ((Texts{{"de", ""}, {"en", "a"}}), itemsOf(*captions).at(0).texts);
 }
 
 TEST(ZelDataCaptionsIsValid, ALanguageThatIsNotListedMayHaveTexts)
@@ -127,7 +127,7 @@ TEST(ZelDataCaptionsIsValid, TheItemsOwnLimitsCountOnlyWhenStrict)
     EXPECT_CODE(*captions, ZelData_WarnItemGuidelines, captions->isValid(true));
 }
 
-TEST(ZelDataCaptionsIsValid, DoesNotAskTheItemsUnlessStrict)
+TEST(ZelDataCaptionsIsValid, ValidatesTheItemsOnlyWhenStrict)
 {
     FailingCaptions captions;
     captions.prepareItems(
@@ -137,7 +137,7 @@ TEST(ZelDataCaptionsIsValid, DoesNotAskTheItemsUnlessStrict)
     EXPECT_CODE(captions, keptCode, captions.isValid(true));
 }
 
-TEST(ZelDataCaptionsIsValid, GivesTheLastErrorOfAnItemThatDoesNotGiveItsEnd)
+TEST(ZelDataCaptionsIsValid, ReturnsTheLastErrorOfAnItemWhoseEndCannotBeRead)
 {
     FailingCaptions captions;
     captions.prepareItems(
@@ -181,7 +181,7 @@ TEST(ZelDataCaptionsIsValid, ComparesAnItemWithAllLaterOnesNotOnlyTheNext)
     EXPECT_CODE(*captions, ZelData_WarnTiming, captions->isValid(false));
 }
 
-TEST(ZelDataCaptionsIsValid, GivesTheLastErrorOfAnItemWithoutAText)
+TEST(ZelDataCaptionsIsValid, ReturnsTheLastErrorOfAnItemWithoutAText)
 {
     FailingCaptions captions;
     captions.prepareItems([](FailingCaptionItem& item) {
@@ -234,7 +234,7 @@ TEST(ZelDataCaptionsMakeConsistent, LeavesOverlapsAlone)
     EXPECT_CODE(*captions, ZelData_WarnTiming, captions->isValid(false));
 }
 
-TEST(ZelDataCaptionsMakeConsistent, PutsAFrameRateOutsideToTheDefault)
+TEST(ZelDataCaptionsMakeConsistent, ResetsAFrameRateOutOfRangeToTheDefault)
 {
     Style expected;
     EXPECT_EQ(expected, repaired([](CaptionStyle& style) { style.frameRate.value = 0; }));
@@ -243,12 +243,12 @@ TEST(ZelDataCaptionsMakeConsistent, PutsAFrameRateOutsideToTheDefault)
     EXPECT_EQ(expected, repaired([](CaptionStyle& style) { style.frameRate.value = 10000; }));
 }
 
-TEST(ZelDataCaptionsMakeConsistent, PutsAnEmptyFontFamilyToTheDefault)
+TEST(ZelDataCaptionsMakeConsistent, ResetsAnEmptyFontFamilyToTheDefault)
 {
     EXPECT_EQ(Style(), repaired([](CaptionStyle& style) { style.fontFamily.clear(); }));
 }
 
-TEST(ZelDataCaptionsMakeConsistent, PutsAFontSizeOutsideToTenNotToTheDefault)
+TEST(ZelDataCaptionsMakeConsistent, SetsAFontSizeOutOfRangeToTenNotToTheDefault)
 {
     Style expected;
     expected.fontSize = 10;
@@ -256,7 +256,7 @@ TEST(ZelDataCaptionsMakeConsistent, PutsAFontSizeOutsideToTenNotToTheDefault)
     EXPECT_EQ(expected, repaired([](CaptionStyle& style) { style.fontSize = 501; }));
 }
 
-TEST(ZelDataCaptionsMakeConsistent, PutsEachForegroundComponentOutsideToOne)
+TEST(ZelDataCaptionsMakeConsistent, SetsEachForegroundComponentOutOfRangeToOne)
 {
     for (const float value : {-0.5F, 1.5F}) {
         Style expected;
@@ -275,7 +275,7 @@ TEST(ZelDataCaptionsMakeConsistent, PutsEachForegroundComponentOutsideToOne)
     }
 }
 
-TEST(ZelDataCaptionsMakeConsistent, PutsBackgroundRedAndBlueOutsideToZero)
+TEST(ZelDataCaptionsMakeConsistent, SetsBackgroundRedAndBlueOutOfRangeToZero)
 {
     for (const float value : {-0.5F, 1.5F}) {
         Style expected;
@@ -290,7 +290,7 @@ TEST(ZelDataCaptionsMakeConsistent, PutsBackgroundRedAndBlueOutsideToZero)
     }
 }
 
-TEST(ZelDataCaptionsMakeConsistent, ABackgroundGreenOutsideStaysAndTakesTheRedToZero)
+TEST(ZelDataCaptionsMakeConsistent, ABackgroundGreenOutOfRangeStaysAndSetsTheRedToZero)
 {
     for (const float value : {-0.5F, 1.5F}) {
         Style expected;
@@ -301,7 +301,7 @@ TEST(ZelDataCaptionsMakeConsistent, ABackgroundGreenOutsideStaysAndTakesTheRedTo
     }
 }
 
-TEST(ZelDataCaptionsMakeConsistent, PutsAnOpacityOutsideToZeroNotToTheDefault)
+TEST(ZelDataCaptionsMakeConsistent, SetsAnOpacityOutOfRangeToZeroNotToTheDefault)
 {
     Style expected;
     expected.opacity = 0.0F;
@@ -348,11 +348,11 @@ TEST(ZelDataCaptionsMakeConsistent, FillsTheMissingTextsOfItemsOfAnotherClass)
     FailingCaptions captions;
     add(captions, {{0, 1, {{"en", "e"}}}, {5, 1, {{"de", "d"}}}});
     EXPECT_CODE(captions, ZelData_Ok, captions.makeCaptionsConsistent());
-    EXPECT_EQ((Texts{{"de", ""}, {"en", "e"}}), itemsOf(captions)[0].texts);
-    EXPECT_EQ((Texts{{"de", "d"}, {"en", ""}}), itemsOf(captions)[1].texts);
+    EXPECT_EQ((Texts{{"de", ""}, {"en", "e"}}), itemsOf(captions).at(0).texts);
+    EXPECT_EQ((Texts{{"de", "d"}, {"en", ""}}), itemsOf(captions).at(1).texts);
 }
 
-TEST(ZelDataCaptionsMakeConsistent, GivesTheLastErrorOfAnItemThatCannotBeFilled)
+TEST(ZelDataCaptionsMakeConsistent, ReturnsTheLastErrorOfAnItemThatCannotBeFilled)
 {
     FailingCaptions captions;
     captions.prepareItems([](FailingCaptionItem& item) {
@@ -361,7 +361,7 @@ TEST(ZelDataCaptionsMakeConsistent, GivesTheLastErrorOfAnItemThatCannotBeFilled)
     EXPECT_EQ(ZelData_Ok, captions.addLanguage("en"));
     add(captions, {{9, 1}, {0, 1}});
     EXPECT_CODE(captions, keptCode, captions.makeCaptionsConsistent());
-    EXPECT_EQ(0, itemsOf(captions)[0].start) << "the items are sorted before";
+    EXPECT_EQ(0, itemsOf(captions).at(0).start) << "the items are sorted before";
 }
 
 TEST(ZelDataCaptionsMakeConsistent, AForeignExceptionIsAnInternalError)

@@ -1,5 +1,5 @@
 /// @file
-/// Copying captions: what concerns them alone. The rest is in sets/CopyContractTest.cpp.
+/// Copying captions: the rules of their own. The rest is in sets/CopyContractTest.cpp.
 
 #include "captions/Captions.h"
 #include "support/fakes/FailingCaptions.h"
@@ -19,7 +19,7 @@ protected:
     std::unique_ptr<i_ZelDataCaptions> target_ = captionsOf({});
 };
 
-TEST_F(CaptionsCopy, CopiesValuesThatAreNoNumbers)
+TEST_F(CaptionsCopy, CopiesNans)
 {
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
     EXPECT_EQ(ZelData_Ok, source_->setForegroundColor(nan, nan, nan));
@@ -37,7 +37,7 @@ TEST_F(CaptionsCopy, AColorThatASourceDoesNotSetIsBlack)
     EXPECT_EQ((std::array<float, 3>{0.0F, 0.0F, 0.0F}), styleOf(*target_).foreground);
 }
 
-/// A foreign source with a font size that no setter takes.
+/// A foreign source with a font size that every setter refuses.
 class HugeFont : public ZelDataCaptions {
 public:
     ZelDataResult_tags getFontSize(unsigned long& size) const override

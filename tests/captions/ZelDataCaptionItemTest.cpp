@@ -54,7 +54,7 @@ TEST(ZelDataCaptionItem, RefusesANegativeEnd)
     EXPECT_EQ((Caption{0, 8}), contentsOf(*item));
 }
 
-TEST(ZelDataCaptionItem, TakesItsDurationFromAnEndAfterTheStart)
+TEST(ZelDataCaptionItem, ComputesItsDurationFromAnEndAfterTheStart)
 {
     const auto item = itemOf({100, 8});
     EXPECT_CODE(*item, ZelData_Ok, item->setEnd(101));
@@ -63,7 +63,7 @@ TEST(ZelDataCaptionItem, TakesItsDurationFromAnEndAfterTheStart)
     EXPECT_EQ((Caption{100, most - 100}), contentsOf(*item));
 }
 
-TEST(ZelDataCaptionItem, KeepsADurationFromOneOn)
+TEST(ZelDataCaptionItem, AcceptsADurationFromOneUp)
 {
     ZelDataCaptionItem item;
     for (const long long duration : {1LL, most}) {
@@ -154,7 +154,7 @@ TEST(ZelDataCaptionItemIsValid, AMissingDurationComesBeforeTheLines)
     EXPECT_CODE(*item, ZelData_InvalidItem, item->isValid(true));
 }
 
-TEST(ZelDataCaptionItemIsValid, AWrappingEndIsNotLookedAt)
+TEST(ZelDataCaptionItemIsValid, AWrappingEndIsNotChecked)
 {
     const auto item = itemOf({most, 2000});
     EXPECT_CODE(*item, ZelData_Ok, item->isValid(true));

@@ -49,7 +49,7 @@ TEST(ZelDataCaptions, ANewOneIsValid)
 
 // Styling
 
-TEST(ZelDataCaptionsStyling, KeepsAnyFontFamilyButNone)
+TEST(ZelDataCaptionsStyling, KeepsAnyFontFamilyExceptAnEmptyOne)
 {
     ZelDataCaptions captions;
     for (const std::string& family : {std::string("A & B"), std::string("\xFF\0", 2)}) {
@@ -69,7 +69,7 @@ TEST(ZelDataCaptionsStyling, KeepsAFontSizeFromOneToFiveHundred)
     }
 }
 
-TEST(ZelDataCaptionsStyling, RefusesAFontSizeOutsideAndKeepsTheOldOne)
+TEST(ZelDataCaptionsStyling, RefusesAFontSizeOutOfRangeAndKeepsTheOldOne)
 {
     ZelDataCaptions captions;
     EXPECT_EQ(ZelData_Ok, captions.setFontSize(30));
@@ -101,7 +101,7 @@ protected:
     ZelDataCaptions captions_;
 };
 
-TEST_P(ZelDataCaptionsColor, TakesComponentsFromZeroToOne)
+TEST_P(ZelDataCaptionsColor, AcceptsComponentsFromZeroToOne)
 {
     for (const float value : inside) {
         EXPECT_CODE(captions_, ZelData_Ok, set(value, 0.25F, 0.75F));
@@ -109,7 +109,7 @@ TEST_P(ZelDataCaptionsColor, TakesComponentsFromZeroToOne)
     }
 }
 
-TEST_P(ZelDataCaptionsColor, RefusesEachComponentOutsideAndKeepsAllThree)
+TEST_P(ZelDataCaptionsColor, RefusesEachComponentOutOfRangeAndKeepsAllThree)
 {
     EXPECT_EQ(ZelData_Ok, set(0.25F, 0.5F, 0.75F));
     for (const float value : outside) {
@@ -120,7 +120,7 @@ TEST_P(ZelDataCaptionsColor, RefusesEachComponentOutsideAndKeepsAllThree)
     EXPECT_EQ((std::array<float, 3>{0.25F, 0.5F, 0.75F}), get());
 }
 
-TEST_P(ZelDataCaptionsColor, DoesNotRejectANan)
+TEST_P(ZelDataCaptionsColor, AcceptsANan)
 {
     EXPECT_CODE(captions_, ZelData_Ok, set(nan, nan, nan));
     for (const float component : get())
@@ -152,7 +152,7 @@ TEST(ZelDataCaptionsStyling, KeepsAnOpacityFromZeroToOne)
     }
 }
 
-TEST(ZelDataCaptionsStyling, RefusesAnOpacityOutsideAndKeepsTheOldOne)
+TEST(ZelDataCaptionsStyling, RefusesAnOpacityOutOfRangeAndKeepsTheOldOne)
 {
     ZelDataCaptions captions;
     for (const float value : outside)
@@ -160,7 +160,7 @@ TEST(ZelDataCaptionsStyling, RefusesAnOpacityOutsideAndKeepsTheOldOne)
     EXPECT_EQ(0.6F, styleOf(captions).opacity);
 }
 
-TEST(ZelDataCaptionsStyling, StoresAnOpacityThatIsNoNumber)
+TEST(ZelDataCaptionsStyling, StoresANanAsTheOpacity)
 {
     ZelDataCaptions captions;
     EXPECT_CODE(captions, ZelData_Ok, captions.setBackgroundOpacity(nan));
@@ -179,9 +179,7 @@ TEST(ZelDataCaptionsStyling, ItsGettersStoreSuccess)
     EXPECT_CODE(captions, ZelData_Ok, captions.getBackgroundOpacity(fraction));
 }
 
-// Languages
-
-// Handing in
+// Adding
 
 TEST(ZelDataCaptionsAddCaptionItem, RefusesAnItemWithoutLength)
 {
@@ -200,7 +198,7 @@ TEST(ZelDataCaptionsAddCaptionItem, RefusesAnItemWhoseEndWraps)
     EXPECT_EQ(0U, countOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, GivesTheLastErrorOfAForeignItem)
+TEST(ZelDataCaptionsAddCaptionItem, ReturnsTheLastErrorOfAForeignItem)
 {
     ZelDataCaptions captions;
     FailingCaptionItem item;
@@ -211,7 +209,7 @@ TEST(ZelDataCaptionsAddCaptionItem, GivesTheLastErrorOfAForeignItem)
     EXPECT_EQ(IDs{}, languagesOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, TakesAForeignLastErrorOfZeroForSuccess)
+TEST(ZelDataCaptionsAddCaptionItem, TreatsAForeignLastErrorOfZeroAsSuccess)
 {
     ZelDataCaptions captions;
     FailingCaptionItem item;
@@ -231,7 +229,7 @@ TEST(ZelDataCaptionsAddCaptionItem, DestroysItsCopyWhenTheCopyingFails)
     EXPECT_EQ(0U, countOf(captions));
 }
 
-TEST(ZelDataCaptionsAddCaptionItem, GivesTheCodeOfAFailingCreation)
+TEST(ZelDataCaptionsAddCaptionItem, ReturnsTheCodeOfAFailingCreation)
 {
     FailingCaptions captions;
     captions.failAt("createCaptionItem", returnedCode, returnedCode);
@@ -240,9 +238,9 @@ TEST(ZelDataCaptionsAddCaptionItem, GivesTheCodeOfAFailingCreation)
     EXPECT_TRUE(itemsOf(captions).empty());
 }
 
-// Handing out
+// Getting copies
 
-/// Two items, the second of which fails when it is copied out for the first time.
+/// Adds two items, the second of which fails when it is first copied out.
 void fillWithABrokenSecondItem(FailingCaptions& captions)
 {
     add(captions, {{1, 2}});
@@ -252,7 +250,7 @@ void fillWithABrokenSecondItem(FailingCaptions& captions)
     captions.prepareItems({});
 }
 
-TEST(ZelDataCaptionsGetCaptionItemAt, GivesTheCodeOfACopyThatFails)
+TEST(ZelDataCaptionsGetCaptionItemAt, ReturnsTheCodeOfACopyThatFails)
 {
     FailingCaptions captions;
     fillWithABrokenSecondItem(captions);
@@ -272,8 +270,6 @@ TEST(ZelDataCaptionsGetCaptionItems, LeavesTheVectorEmptyWhenACopyFails)
     EXPECT_TRUE(items.empty());
     EXPECT_EQ(2, FailingCaptionItem::alive());
 }
-
-// Removing
 
 } // namespace
 } // namespace ZelInterchangeData

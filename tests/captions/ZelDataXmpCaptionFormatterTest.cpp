@@ -26,7 +26,7 @@ std::string written(const i_ZelDataCaptions& captions)
     return out;
 }
 
-/// The part of @p text from @p first up to and with @p last, both of which must occur.
+/// The part of @p text from @p first to @p last, both of which must occur.
 std::string part(const std::string& text, const std::string& first, const std::string& last)
 {
     const auto begin = text.find(first);
@@ -38,19 +38,19 @@ std::string part(const std::string& text, const std::string& first, const std::s
                : text.substr(begin, end - begin + last.size());
 }
 
-/// How the one caption @p caption is written: its description's tag.
+/// The written description tag of @p caption.
 std::string markerOf(const Caption& caption)
 {
     return part(written(*captionsOf({caption})), "<rdf:Description xmpDM:startTime", ">");
 }
 
-/// How an English text is written.
+/// The written form of an English text.
 std::string entryOf(const std::string& text)
 {
     return part(written(*captionsOf({{0, 1, {{"en", text}}}})), "<rdf:Alt>", "</rdf:Alt>");
 }
 
-/// How the one caption of a track with the styling @p style is dressed.
+/// The written tag that begins with @p first, in captions with the styling @p style.
 std::string tagOf(const Style& style, const std::string& first)
 {
     const auto captions = captionsOf({{0, 1}});
@@ -102,7 +102,7 @@ TEST(ZelDataXmpCaptionFormatter, ACaptionWithoutAnyLanguageHasAnEmptyName)
               part(written(*captionsOf({{0, 1}})), "<xmpDM:name>", "</xmpDM:name>"));
 }
 
-TEST(ZelDataXmpCaptionFormatter, WritesTheLanguagesInTheOrderOfTheFirstOccurrence)
+TEST(ZelDataXmpCaptionFormatter, WritesTheLanguagesInOrderOfFirstOccurrence)
 {
     EXPECT_EQ(
         "<rdf:Alt><rdf:li xml:lang=\"fr\">{\\rtf1 }</rdf:li><rdf:li xml:lang=\"de\">d"
@@ -118,13 +118,13 @@ TEST(ZelDataXmpCaptionFormatter, EscapesATextExactlyOnce)
         entryOf("<b> &amp; \"'"));
 }
 
-TEST(ZelDataXmpCaptionFormatter, DropsControlCharactersButLineFeeds)
+TEST(ZelDataXmpCaptionFormatter, DropsControlCharactersExceptLineFeeds)
 {
     EXPECT_EQ("<rdf:Alt><rdf:li xml:lang=\"en\">ab\nc\x7F</rdf:li></rdf:Alt>",
               entryOf(std::string("a\tb\r\n\0c\x1F\x7F", 9)));
 }
 
-TEST(ZelDataXmpCaptionFormatter, ATextOfWhichNothingIsLeftGetsThePlaceholder)
+TEST(ZelDataXmpCaptionFormatter, ATextThatIsEmptyAfterStrippingGetsThePlaceholder)
 {
     EXPECT_EQ("<rdf:Alt><rdf:li xml:lang=\"en\">{\\rtf1 }</rdf:li></rdf:Alt>", entryOf("\t\r"));
     EXPECT_EQ("<rdf:Alt><rdf:li xml:lang=\"en\">\n</rdf:li></rdf:Alt>", entryOf("\n"));
@@ -162,7 +162,7 @@ TEST(ZelDataXmpCaptionFormatter, WritesTheTwoAxesOfTheAlignment)
         EXPECT_EQ(words, part(markerOf({0, 1, {}, alignment}), "zelDM:valign", ">"));
 }
 
-TEST(ZelDataXmpCaptionFormatter, CutsColourComponentsTowardsZero)
+TEST(ZelDataXmpCaptionFormatter, TruncatesColourComponentsTowardsZero)
 {
     Style style;
     style.foreground = {0.999F, 0.003F, 0.004F};
@@ -174,7 +174,7 @@ TEST(ZelDataXmpCaptionFormatter, CutsColourComponentsTowardsZero)
         tagOf(style, "<zel:bgColor"));
 }
 
-TEST(ZelDataXmpCaptionFormatter, WritesAColourThatIsNoNumberAsZero)
+TEST(ZelDataXmpCaptionFormatter, WritesANanAsAColourOfZero)
 {
     Style style;
     style.foreground.fill(std::numeric_limits<float>::quiet_NaN());
@@ -242,7 +242,7 @@ TEST(BuildCaptionList, NoLanguagesGiveAnEmptyList)
     EXPECT_EQ("<xmpDM:name><rdf:Alt></rdf:Alt></xmpDM:name>", text);
 }
 
-TEST(BuildCaptionList, TakesAWarningForAMissingText)
+TEST(BuildCaptionList, TreatsAWarningAsAMissingText)
 {
     FailingCaptionItem item;
     fill(item, {0, 1, {{"en", "e"}}});
@@ -251,7 +251,7 @@ TEST(BuildCaptionList, TakesAWarningForAMissingText)
     EXPECT_FALSE(buildCaptionList({"en"}, item, text));
 }
 
-TEST(BuildCaptionList, DoesNotTakeExhaustedMemoryForAMissingText)
+TEST(BuildCaptionList, DoesNotMistakeExhaustedMemoryForAMissingText)
 {
     FailingCaptionItem item;
     fill(item, {0, 1, {{"en", "e"}}});
@@ -260,7 +260,7 @@ TEST(BuildCaptionList, DoesNotTakeExhaustedMemoryForAMissingText)
     EXPECT_THROW(buildCaptionList({"en"}, item, text), std::bad_alloc);
 }
 
-/// An item whose end cannot be read, although its last error says that all is well.
+/// An item whose end cannot be read, although its last error is success.
 class ItemWithoutEnd : public ZelDataCaptionItem {
 public:
     ZelDataResult_tags getEnd(long long& /*end*/) const override
@@ -280,7 +280,7 @@ public:
     }
 };
 
-TEST(ZelDataXmpCaptionFormatter, DoesNotWriteAnItemThatWasCopiedHalfWay)
+TEST(ZelDataXmpCaptionFormatter, DoesNotWriteAPartlyCopiedItem)
 {
     ZelDataXmpCaptionFormatter formatter;
     EXPECT_CODE(formatter, ZelData_Ok, formatter.setCaptions(CaptionsWithoutEnd()));

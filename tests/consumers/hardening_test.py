@@ -1,5 +1,5 @@
-"""How the Release build of the shared library is hardened: read off the file where it leaves a trace
-there, and off the commands that compiled it otherwise."""
+"""Checks the hardening of the Release shared library: in the file where it leaves a trace, otherwise
+in the compile commands."""
 
 import json
 import platform
@@ -27,14 +27,14 @@ def exported_functions():
 
 
 def file_offset(address):
-    """Where the byte that is loaded at the address stands in the file."""
+    """The file offset of the byte that is loaded at the address."""
     pattern = re.compile(r"^\s*LOAD\s+0x([0-9a-f]+) 0x([0-9a-f]+) 0x[0-9a-f]+ 0x([0-9a-f]+)",
                          re.MULTILINE)
     for segment in pattern.findall(readelf("--program-headers")):
         offset, begin, size = (int(number, 16) for number in segment)
         if begin <= address < begin + size:
             return offset + address - begin
-    raise AssertionError(f"nothing is loaded at {address:x}")
+    raise AssertionError(f"no segment is loaded at {address:x}")
 
 
 class Hardening(unittest.TestCase):
@@ -46,14 +46,14 @@ class Hardening(unittest.TestCase):
         self.assertRegex(readelf("--program-headers"),
                          r"(?m)^\s*GNU_STACK(?:\s+0x[0-9a-f]+){5} RW\s")
 
-    def test_nothing_is_writable_and_executable(self):
+    def test_no_segment_is_writable_and_executable(self):
         self.assertNotRegex(readelf("--program-headers"), r"(?m)^\s*LOAD.*\bRWE\b")
 
-    def test_the_stack_is_watched(self):
+    def test_functions_have_stack_protectors(self):
         self.assertIn("__stack_chk_fail", readelf("--dyn-syms"))
 
-    @unittest.skipUnless(X86, "another processor has another instruction")
-    def test_every_exported_function_begins_with_a_landing_place(self):
+    @unittest.skipUnless(X86, "ENDBR64 is an x86 instruction")
+    def test_every_exported_function_begins_with_endbr64(self):
         code = LIBRARY.read_bytes()
         functions = exported_functions()
         self.assertGreater(len(functions), 50)
@@ -62,7 +62,7 @@ class Hardening(unittest.TestCase):
                 offset = file_offset(address)
                 self.assertEqual(code[offset:offset + len(ENDBR64)], ENDBR64)
 
-    def test_every_source_is_compiled_with_the_flags(self):
+    def test_every_source_is_compiled_with_the_hardening_flags(self):
         commands = json.loads((RELEASE_TREE / "compile_commands.json").read_text(encoding="utf-8"))
         self.assertGreater(len(commands), 40)
         flags = ["-fstack-protector-strong", "-D_FORTIFY_SOURCE=2"]

@@ -1,5 +1,5 @@
-"""Installs a Release and a Debug build of the library for the tests of the consumer projects: side by
-side into one prefix, and the Release build once more with absolute library and include folders."""
+"""Installs a Release and a Debug build of the library side by side in one prefix for the consumer
+tests, and the Release build again with absolute library and include folders."""
 
 import os
 import shutil
@@ -16,7 +16,7 @@ USUAL = folders("lib", "include")
 
 
 def library_tree(build_type, tree, definitions=USUAL):
-    """The build tree of the library alone, built."""
+    """Builds the library without tests and examples; returns the build tree."""
     configure(SOURCE, tree, f"-DCMAKE_BUILD_TYPE={build_type}", "-DZELINTERCHANGEDATA_TESTS=OFF",
               "-DZELINTERCHANGEDATA_EXAMPLES=OFF", *definitions)
     build(tree)
@@ -24,7 +24,7 @@ def library_tree(build_type, tree, definitions=USUAL):
 
 
 def debug_tree():
-    """The tree whose tests run, when it serves; it is built already."""
+    """The current build tree if it is a suitable Debug build, otherwise a new one."""
     if os.environ["DEBUG_TREE"]:
         return Path(os.environ["DEBUG_TREE"])
     return library_tree("Debug", WORK / "library-Debug")
@@ -33,11 +33,11 @@ def debug_tree():
 def main():
     for prefix in (PREFIX, ABSOLUTE):
         shutil.rmtree(prefix, ignore_errors=True)
-    # The prefix tells CMake that these folders are no part of the source, in which they may lie.
+    # The prefix tells CMake that these folders are not part of the source tree, even if they are in it.
     library_tree("Release", RELEASE_TREE, (f"-DCMAKE_INSTALL_PREFIX={ABSOLUTE}",
                                            *folders(ABSOLUTE / "lib", ABSOLUTE / "include")))
     install(RELEASE_TREE, ABSOLUTE / "prefix")
-    # Nothing is compiled again for other folders.
+    # Other folders compile nothing again.
     library_tree("Release", RELEASE_TREE)
     for tree in (RELEASE_TREE, debug_tree()):
         install(tree, PREFIX)

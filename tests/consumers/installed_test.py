@@ -1,4 +1,4 @@
-"""Projects that use an installed library: find_package, pkg-config and the plain compiler line."""
+"""Builds projects that use an installed library: find_package, pkg-config and a plain compiler line."""
 
 import os
 import re
@@ -21,7 +21,7 @@ STRICT = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wsign-
 
 
 def find_package_project(name, library, build_type, prefix=PREFIX):
-    """Builds the project that finds the package and gives its program."""
+    """Builds the find_package project; returns its program."""
     folder = fresh_folder(name)
     configure(CONSUMERS / "find_package", folder, f"-DCMAKE_PREFIX_PATH={prefix}",
               f"-DCONSUMER_LIBRARY={library}", f"-DCMAKE_BUILD_TYPE={build_type}")
@@ -47,12 +47,12 @@ class FindPackage(ChecksOfPrograms, unittest.TestCase):
     def test_static_debug(self):
         self.check(STATIC, "Debug")
 
-    def test_a_build_type_that_was_not_installed_gets_the_optimised_library(self):
+    def test_other_build_types_link_the_release_library(self):
         for build_type in ("", "RelWithDebInfo", "Special"):
             with self.subTest(build_type):
                 self.check(SHARED, build_type, RELEASE_LIBRARY)
 
-    def test_the_static_library_has_the_postfix_of_its_build(self):
+    def test_each_build_type_links_its_own_static_library(self):
         for build_type, file in (("Release", "libZelInterchangeData.a"),
                                  ("Debug", "libZelInterchangeDatad.a")):
             with self.subTest(build_type):
@@ -60,7 +60,7 @@ class FindPackage(ChecksOfPrograms, unittest.TestCase):
                 rules = (program.parent / "build.ninja").read_text(encoding="utf-8")
                 self.assertIn(f"{PREFIX}/lib/{file}", rules)
 
-    def test_another_major_version_is_refused(self):
+    def test_incompatible_versions_are_refused(self):
         folder = fresh_folder(self.id())
         project = (CONSUMERS / "find_package" / "CMakeLists.txt").read_text(encoding="utf-8")
         for wanted in ("2.0", "0.9", "1.1000"):
@@ -90,7 +90,7 @@ class PkgConfig(ChecksOfPrograms, unittest.TestCase):
             with self.subTest(module):
                 self.check(PREFIX / "lib", module, [], static=True)
 
-    def test_a_static_link_defines_the_static_form_and_no_other_does(self):
+    def test_only_a_static_link_defines_the_static_macro(self):
         environment = dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig"))
         for options, defined in (((), False), (("--static",), True)):
             with self.subTest(options):
@@ -104,7 +104,7 @@ class PkgConfig(ChecksOfPrograms, unittest.TestCase):
     def test_absolute_folders_static(self):
         self.check(ABSOLUTE / "lib", "ZelInterchangeData", [], static=True)
 
-    def test_the_version_is_that_of_the_project(self):
+    def test_pkg_config_names_the_version_of_the_project(self):
         for module in ("ZelInterchangeData", "ZelInterchangeDatad"):
             answer = run("pkg-config", "--modversion", module,
                          env=dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig")))
@@ -112,7 +112,7 @@ class PkgConfig(ChecksOfPrograms, unittest.TestCase):
 
 
 class OtherFolders(unittest.TestCase):
-    """The .pc file alone, for folders that are nested, and for one absolute folder of the two."""
+    """Checks the .pc file for nested folders, and with one of the two folders absolute."""
 
     def variables(self, libdir, includedir):
         folder = fresh_folder(self.id())
@@ -128,7 +128,7 @@ class OtherFolders(unittest.TestCase):
                                  env=environment).strip())
             for name in ("libdir", "includedir")]
 
-    def test_nested_relative_folders_are_found_from_the_file(self):
+    def test_nested_relative_folders_are_relative_to_the_file(self):
         place, found = self.variables("lib/triplet", "include/zel")
         self.assertEqual(found, [f"{place}/lib/triplet", f"{place}/include/zel"])
 
@@ -136,7 +136,7 @@ class OtherFolders(unittest.TestCase):
         place, found = self.variables("lib/triplet", "/elsewhere/include")
         self.assertEqual(found, [f"{place}/lib/triplet", "/elsewhere/include"])
 
-    def test_beside_an_absolute_library_folder_the_prefix_is_the_one_configured(self):
+    def test_an_absolute_library_folder_keeps_the_configured_prefix(self):
         _, found = self.variables("/elsewhere/lib", "include")
         self.assertEqual(found, ["/elsewhere/lib", "/opt/made/include"])
 
@@ -144,7 +144,7 @@ class OtherFolders(unittest.TestCase):
 class CompilerLine(ChecksOfPrograms, unittest.TestCase):
     def test_the_plain_compiler_line(self):
         folder = fresh_folder(self.id())
-        # In a system prefix the compiler looks by itself; here the environment stands in for that.
+        # The compiler searches system prefixes by default; here the environment makes it search ours.
         environment = dict(os.environ, CPATH=str(PREFIX / "include"),
                            LIBRARY_PATH=str(PREFIX / "lib"))
         run(CXX, *CXXFLAGS, "-std=c++17", CONSUMERS / "program" / "main.cpp",
@@ -154,7 +154,7 @@ class CompilerLine(ChecksOfPrograms, unittest.TestCase):
 
 
 class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
-    """A consumer that takes warnings for errors and hides its own symbols."""
+    """A consumer that treats warnings as errors and hides its own symbols."""
 
     def test_the_headers_raise_no_warning(self):
         folder = fresh_folder(self.id())
@@ -171,7 +171,7 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
                     run(CXX, *CXXFLAGS, f"-std={standard}", *STRICT, "-I", PREFIX / "include",
                         "-fsyntax-only", source)
 
-    def test_the_version_can_be_had_without_the_language(self):
+    def test_the_version_header_compiles_as_c(self):
         source = fresh_folder(self.id()) / "version.c"
         source.write_text('#include "ZelInterchangeData/ZelDataVersion.h"\n'
                           "int version = ZELINTERCHANGEDATA_VERSION;\n", encoding="utf-8")
@@ -185,8 +185,8 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
 
 
 class RebuiltLibrary(unittest.TestCase):
-    """A program stays as it is while the library is built again: without optimisation, and by the
-    other compiler."""
+    """Runs a program, without rebuilding it, with a library built without optimisation and with one
+    built by the other compiler."""
 
     def setUp(self):
         self.folder = fresh_folder(self.id())
@@ -201,14 +201,14 @@ class RebuiltLibrary(unittest.TestCase):
             (self.folder / name / RELEASE_LIBRARY).symlink_to(library)
 
     def written_with(self, library_folder):
-        """What the loader says of the libraries that the program gets, and what the program writes."""
+        """The libraries that the loader lists for the program, and the packet that it writes."""
         environment = dict(os.environ, LD_LIBRARY_PATH=str(library_folder))
         loaded = run(self.folder / "program", env=dict(environment, LD_TRACE_LOADED_OBJECTS="1"))
         run(self.folder / "program", cwd=self.folder, env=environment)
         packet = (self.folder / "intro.xmp").read_text(encoding="utf-8")
         return loaded, re.sub(r'dc:date="[^"]+"', 'dc:date=""', packet) + "\n"
 
-    def test_a_program_that_was_built_before_writes_the_same(self):
+    def test_a_program_that_was_not_rebuilt_writes_the_same(self):
         expected = (SOURCE / "tests/face/data/complete_document.xmp").read_text(encoding="utf-8")
         for library_folder in (PREFIX / "lib", *(self.folder / name for name in self.rebuilt)):
             with self.subTest(library_folder.name):
@@ -237,7 +237,7 @@ class MovedPrefix(ChecksOfPrograms, unittest.TestCase):
                                        self.after / "lib" / "pkgconfig", "ZelInterchangeData")
         self.assert_works(program, self.after / "lib")
 
-    def test_no_file_names_the_place_before(self):
+    def test_no_file_names_the_old_prefix(self):
         found = subprocess.run(["grep", "-rl", "-e", str(self.before), str(self.after)],
                                capture_output=True, text=True, check=False)
         self.assertEqual((found.returncode, found.stdout), (1, ""))

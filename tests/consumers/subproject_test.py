@@ -1,4 +1,4 @@
-"""The library as a part of another project: it works there, and leaves nothing of its own behind."""
+"""Uses the library as a subproject: it works there, and adds nothing to the enclosing project."""
 
 import json
 import re
@@ -25,7 +25,7 @@ def tests_of(tree):
 
 
 class Subproject(ChecksOfPrograms):
-    """The checks, for each way to become a part of another project."""
+    """The checks for each way to add the library as a subproject."""
 
     PROJECT = ""
     NEEDED = ()
@@ -61,7 +61,7 @@ class Subproject(ChecksOfPrograms):
         flags = {flag for entry in commands for flag in WARNING_FLAGS.findall(entry["command"])}
         self.assertEqual(flags, set())
 
-    def test_the_consumer_is_compiled_with_its_own_flags_and_our_headers_alone(self):
+    def test_the_consumer_gets_only_the_include_folder_and_definitions(self):
         command, = (entry["command"] for entry in compile_commands(self.tree)
                     if entry["file"].endswith("program/main.cpp"))
         self.assertEqual(re.findall(r" (-[IDfO]\S*)", command),
@@ -77,8 +77,8 @@ class FetchContent(Subproject, unittest.TestCase):
     PROJECT = "fetch_content"
     DEFINED = ("-DZELINTERCHANGEDATA_STATIC",)
 
-    # Changes the tree, and by its name runs last.
-    def test_when_its_user_asks_for_it_it_is_installed(self):
+    # Reconfigures the tree, so its name makes it run last.
+    def test_with_installation_enabled_the_library_is_installed(self):
         configure(CONSUMERS / self.PROJECT, self.tree, f"-DLIBRARY_SOURCE={SOURCE}",
                   "-DCONSUMER_INSTALLS_THE_LIBRARY=ON", "-DCMAKE_INSTALL_LIBDIR=lib")
         build(self.tree)

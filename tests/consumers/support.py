@@ -1,5 +1,5 @@
-"""What the tests of the consumer projects share: where the library is installed, how a project is
-built, and what its program must print."""
+"""Shared by the consumer tests: where the library is installed, how to build a project, and what its
+program must print."""
 
 import os
 import re
@@ -16,7 +16,7 @@ CXXFLAGS = os.environ.get("CXXFLAGS", "").split()
 
 PREFIX = WORK / "prefix"
 RELEASE_TREE = WORK / "library-Release"
-# Library folder and include folder of an installation with absolute paths.
+# Holds the library and include folders of the installation with absolute folders.
 ABSOLUTE = WORK / "absolute"
 
 MAJOR, MINOR, PATCH = (int(part) for part in VERSION.split("."))
@@ -26,7 +26,7 @@ EXPECTED_OUTPUT = ((CONSUMERS / "program" / "expected_output.txt").read_text(enc
 
 
 def run(*command, **options):
-    """Runs the command and gives what it printed; a failure shows the output."""
+    """Runs the command and returns its output; if it fails, raises AssertionError with the output."""
     result = subprocess.run([str(part) for part in command], stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, text=True, check=False, **options)
     if result.returncode != 0:
@@ -35,7 +35,7 @@ def run(*command, **options):
 
 
 def fresh_folder(name):
-    """An empty folder for one test."""
+    """Creates an empty folder for one test."""
     folder = WORK / "projects" / name
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
@@ -53,20 +53,20 @@ def build(tree):
 
 
 def install(tree, prefix):
-    """Installs a tree and gives the names of what it installed, relative to the prefix if in it."""
+    """Installs a tree; returns the installed paths, relative to the prefix if they are in it."""
     output = run("cmake", "--install", tree, "--prefix", prefix)
     paths = re.findall(r"^-- (?:Installing|Up-to-date): (.*)$", output, re.MULTILINE)
     return {path.removeprefix(f"{prefix}/") for path in paths}
 
 
 def needed_libraries(program):
-    """Those of our shared libraries that the program asks the dynamic linker for."""
+    """Our shared libraries among those that the program needs."""
     entries = run("readelf", "--dynamic", "--wide", program)
     return re.findall(r"NEEDED.*\[(libZel[^]]*)\]", entries)
 
 
 def make_with_pkg_config(folder, pkgconfig_folder, module, flags=(), static=False):
-    """Builds the Makefile's project and gives its program."""
+    """Builds the pkg_config project; returns its program."""
     extra = ["PKG_CONFIG_FLAGS=--static", "LDFLAGS=-static"] if static else []
     environment = dict(os.environ, PKG_CONFIG_PATH=str(pkgconfig_folder),
                        CXXFLAGS=" ".join([*CXXFLAGS, *flags]))
@@ -76,7 +76,7 @@ def make_with_pkg_config(folder, pkgconfig_folder, module, flags=(), static=Fals
 
 
 class ChecksOfPrograms:
-    """What a unittest.TestCase needs to check the programs that were built."""
+    """Assertions for a unittest.TestCase that checks built programs."""
 
     def assert_works(self, program, library_folder=None):
         environment = dict(os.environ)

@@ -1,40 +1,18 @@
 /// @file
-/// Copies between objects of exactly our own classes take a short road, all others go through the
-/// interfaces. Here both roads are gone with the same random contents, and must lead to the same
-/// place: codes, last errors on both sides, what the target holds, and the track that is written.
+/// A copy between objects of exactly our own classes takes a short road; every other copy calls the
+/// interfaces. These tests take both roads with the same random contents. Both must lead to the same
+/// codes, last errors on both sides, contents of the target, and written track.
 
-#include "captions/ZelDataCaptionItem.h"
-#include "captions/ZelDataCaptions.h"
-#include "captions/ZelDataXmpCaptionFormatter.h"
-#include "screentext/ZelDataScreenText.h"
-#include "screentext/ZelDataScreenTextItem.h"
-#include "screentext/ZelDataXmpScreenTextFormatter.h"
-#include "support/Checks.h"
-#include "toc/ZelDataToc.h"
-#include "toc/ZelDataTocItem.h"
-#include "toc/ZelDataXmpTocFormatter.h"
-
-#include <gtest/gtest.h>
+#include "captions/Captions.h"
+#include "screentext/Items.h"
+#include "support/Dice.h"
+#include "toc/Entries.h"
 
 #include <limits>
-#include <memory>
-#include <random>
 #include <sstream>
-#include <string>
-#include <vector>
 
 namespace ZelInterchangeData {
 namespace {
-
-class Dice {
-public:
-    explicit Dice(unsigned seed) : engine_(seed) {}
-    unsigned below(unsigned limit) { return static_cast<unsigned>(engine_() % limit); }
-    bool oneIn(unsigned count) { return below(count) == 0; }
-
-private:
-    std::mt19937 engine_;
-};
 
 std::string randomText(Dice& dice)
 {
@@ -46,247 +24,133 @@ std::string randomText(Dice& dice)
         "\x01\x02",
         "déjà vu",
         "a rather long text, which does not fit into the place that a short one would have"};
-    return texts[dice.below(static_cast<unsigned>(texts.size()))];
+    return dice.one(texts);
 }
 
-const std::string& randomID(Dice& dice)
+std::string randomID(Dice& dice)
 {
     static const std::vector<std::string> ids = {"de", "en", "en-US", "fr", "ja", "pt-BR"};
-    return ids[dice.below(static_cast<unsigned>(ids.size()))];
+    return dice.one(ids);
 }
 
-template <class Object>
-void addTexts(Object& object, Dice& dice)
+std::map<std::string, std::string> randomTexts(Dice& dice)
 {
-    for (unsigned i = dice.below(4); i > 0; --i)
-        EXPECT_FALSE(isError(object.setTextForLanguage(randomText(dice), randomID(dice))));
+    std::map<std::string, std::string> texts;
+    for (auto i = dice.below(4); i > 0; --i)
+        texts[randomID(dice)] = randomText(dice);
+    return texts;
 }
 
-/// What @p get, a getter of @p object, delivers.
-template <class Value, class Object, class Interface>
-Value got(const Object& object, ZelDataResult_tags (Interface::*get)(Value&) const)
+long long randomTime(Dice& dice)
 {
-    Value value{};
-    EXPECT_EQ(ZelData_Ok, (object.*get)(value));
-    return value;
+    return static_cast<long long>(dice.below(4));
 }
 
-/// Languages that no item has, another order, and now and then an identical one twice.
-template <class Collection>
-void stirLanguages(Collection& collection, Dice& dice)
+/// A language that no item has, another order, and now and then the same language twice.
+void stirLanguages(i_ZelDataLanguage& collection, Dice& dice)
 {
-    if (dice.oneIn(3)) {
+    if (dice.once(3)) {
         EXPECT_FALSE(isError(collection.addLanguage(randomID(dice))));
     }
-    auto ids = got(collection, &i_ZelDataLanguage::getOrderedLanguageIDs);
-    if (ids.size() > 1 && dice.oneIn(4)) std::swap(ids.front(), ids.back());
-    if (ids.size() > 1 && dice.oneIn(6)) ids.front() = ids.back();
+    auto ids = languagesOf(collection);
+    if (ids.size() > 1 && dice.once(4)) std::swap(ids.front(), ids.back());
+    if (ids.size() > 1 && dice.once(6)) ids.front() = ids.back();
     mayRefuse(collection.setOrderedLanguageIDs(ids));
 }
 
-template <class Object>
-void describeTexts(const Object& object, std::ostream& out)
-{
-    for (const std::string& id : got(object, &Object::getLanguageIDs)) {
-        std::string text;
-        EXPECT_EQ(ZelData_Ok, object.getTextForLanguage(text, id));
-        out << ' ' << id << '=' << text;
-    }
-}
-
-template <class Collection>
-void describeLanguages(const Collection& collection, std::ostream& out)
-{
-    for (const std::string& id : got(collection, &i_ZelDataLanguage::getOrderedLanguageIDs))
-        out << id << ',';
-    out << '\n';
-}
-
-template <class Item>
-using Owned = std::vector<std::unique_ptr<Item>>;
-
-/// None where the collection cannot hand out one of them.
-template <class Item, class Collection>
-Owned<Item> itemsOf(const Collection& collection,
-                    ZelDataResult_tags (Collection::*get)(std::vector<Item*>&) const)
-{
-    std::vector<Item*> items;
-    mayRefuse((collection.*get)(items));
-    return Owned<Item>(items.begin(), items.end());
-}
-
-struct CaptionKind {
-    using Data = i_ZelDataCaptions;
-    using Item = i_ZelDataCaptionItem;
-    using Own = ZelDataCaptions;
-    using OwnItem = ZelDataCaptionItem;
-    using Formatter = ZelDataXmpCaptionFormatter;
-    static constexpr auto setData = &Formatter::setCaptions;
-
-    /// Copying it stops at its end while its last error says that all is well: a caption without
-    /// length then gets into a collection.
-    struct Pretender : ZelDataCaptionItem {
-        ZelDataResult_tags getEnd(long long& /*end*/) const override { return ZelData_NotFound; }
-        ZelDataResult_tags getLastError() const override { return ZelData_Ok; }
-    };
-
-    static void fill(Item& item, Dice& dice)
+/// Captions, some of them without length and some with an end that wraps.
+struct RandomCaptions : CaptionKind {
+    static Caption item(Dice& dice)
     {
-        EXPECT_EQ(ZelData_Ok, item.setStart(dice.below(4)));
-        if (!dice.oneIn(8)) {
-            EXPECT_EQ(ZelData_Ok, item.setDuration(1 + dice.below(3)));
-        }
-        if (dice.oneIn(20))
-            mayRefuse(item.setStart(std::numeric_limits<long long>::max())); // its end wraps
-        EXPECT_EQ(ZelData_Ok, item.setAlignment(static_cast<ZelAlignment_tags>(dice.below(64))));
-        addTexts(item, dice);
+        const auto start = dice.once(20) ? std::numeric_limits<long long>::max() : randomTime(dice);
+        return {start, randomTime(dice), randomTexts(dice), static_cast<unsigned>(dice.below(64))};
     }
-
-    static void fill(Data& data, Dice& dice)
+    static void change(Data& captions, Dice& dice)
     {
-        mayRefuse(data.setFrameRate(dice.below(4)));
-        mayRefuse(data.setFontFamily(randomText(dice)));
-        mayRefuse(data.setFontSize(dice.below(600)));
-        EXPECT_EQ(ZelData_Ok,
-                  data.setForegroundColor(static_cast<float>(dice.below(3)) / 2, 0.25F, 1));
-        EXPECT_EQ(ZelData_Ok, data.setBackgroundOpacity(
-                                  dice.oneIn(4) ? std::numeric_limits<float>::quiet_NaN() : 0.5F));
-        for (unsigned i = dice.below(8); i > 0; --i) {
-            ZelDataCaptionItem item;
-            fill(item, dice);
-            mayRefuse(data.addCaptionItem(item));
-        }
-        stirLanguages(data, dice);
+        mayRefuse(captions.setFrameRate(dice.below(4)));
+        mayRefuse(captions.setFontFamily(randomText(dice)));
+        mayRefuse(captions.setFontSize(dice.below(600)));
+        mayRefuse(captions.setForegroundColor(static_cast<float>(dice.below(3)) / 2, 0.25F, 1));
+        mayRefuse(captions.setBackgroundOpacity(
+            dice.once(4) ? std::numeric_limits<float>::quiet_NaN() : 0.5F));
+        stirLanguages(captions, dice);
     }
-
-    static void describe(const Item& item, std::ostream& out)
+    static std::string settings(const Data& captions)
     {
-        out << got(item, &Item::getStart) << '+' << got(item, &Item::getDuration) << ' '
-            << got(item, &Item::getAlignment);
-        describeTexts(item, out);
-        out << '\n';
-    }
-
-    static void describe(const Data& data, std::ostream& out)
-    {
-        float red = 0;
-        float green = 0;
-        float blue = 0;
-        EXPECT_EQ(ZelData_Ok, data.getForegroundColor(red, green, blue));
-        out << got(data, &Data::getFrameRate) << ' ' << got(data, &Data::getFontFamily) << ' '
-            << got(data, &Data::getFontSize) << ' ' << red << ' ' << green << ' ' << blue << ' '
-            << got(data, &Data::getBackgroundOpacity) << '\n';
-        describeLanguages(data, out);
-        for (const auto& item : itemsOf(data, &Data::getCaptionItems))
-            describe(*item, out);
+        return testing::PrintToString(std::pair(styleOf(captions), languagesOf(captions)));
     }
 };
 
-struct TocKind {
-    using Data = i_ZelDataToc;
-    using Item = i_ZelDataTocItem;
-    using Own = ZelDataToc;
-    using OwnItem = ZelDataTocItem;
-    using Formatter = ZelDataXmpTocFormatter;
-    static constexpr auto setData = &Formatter::setToc;
-
-    static void fill(Item& item, Dice& dice)
+struct RandomToc : TocKind {
+    static Entry item(Dice& dice)
     {
-        EXPECT_EQ(ZelData_Ok, item.setStart(dice.below(4)));
-        EXPECT_EQ(ZelData_Ok, item.setImageFile(randomText(dice)));
-        EXPECT_EQ(ZelData_Ok, item.setImageIndex(dice.below(9)));
-        EXPECT_EQ(ZelData_Ok, item.setImageOffset(dice.below(9)));
-        addTexts(item, dice);
+        return {randomTime(dice), randomTexts(dice), randomText(dice), dice.below(9),
+                dice.below(9)};
     }
-
-    static void fill(Data& data, Dice& dice)
+    static void change(Data& toc, Dice& dice)
     {
-        mayRefuse(data.setFrameRate(dice.below(4)));
-        EXPECT_EQ(ZelData_Ok, data.setImageFile(randomText(dice)));
-        for (unsigned i = dice.below(8); i > 0; --i) {
-            ZelDataTocItem item;
-            fill(item, dice);
-            mayRefuse(data.addTocItem(item));
-        }
-        stirLanguages(data, dice);
+        mayRefuse(toc.setFrameRate(dice.below(4)));
+        EXPECT_EQ(ZelData_Ok, toc.setImageFile(randomText(dice)));
+        stirLanguages(toc, dice);
     }
-
-    static void describe(const Item& item, std::ostream& out)
+    static std::string settings(const Data& toc)
     {
-        out << got(item, &Item::getStart) << ' ' << got(item, &Item::getImageFile) << ' '
-            << got(item, &Item::getImageIndex) << ' ' << got(item, &Item::getImageOffset);
-        describeTexts(item, out);
-        out << '\n';
-    }
-
-    static void describe(const Data& data, std::ostream& out)
-    {
-        out << got(data, &Data::getFrameRate) << ' ' << got(data, &Data::getImageFile) << '\n';
-        describeLanguages(data, out);
-        for (const auto& item : itemsOf(data, &Data::getTocItems))
-            describe(*item, out);
+        return testing::PrintToString(std::tuple(frameRateOf(toc), imageOf(toc), languagesOf(toc)));
     }
 };
 
-struct ScreenTextKind {
-    using Data = i_ZelDataScreenText;
-    using Item = i_ZelDataScreenTextItem;
-    using Own = ZelDataScreenText;
-    using OwnItem = ZelDataScreenTextItem;
-    using Formatter = ZelDataXmpScreenTextFormatter;
-    static constexpr auto setData = &Formatter::setScreenText;
-
-    static void fill(Item& item, Dice& dice)
+struct RandomScreenText : ScreenTextKind {
+    static Shown item(Dice& dice)
     {
-        EXPECT_EQ(ZelData_Ok, item.setText(randomText(dice)));
-        EXPECT_EQ(ZelData_Ok, item.setStart(dice.below(4)));
-        if (!dice.oneIn(8)) {
-            EXPECT_EQ(ZelData_Ok, item.setDuration(1 + dice.below(3)));
-        }
-        EXPECT_EQ(ZelData_Ok, item.setImageFile(randomText(dice)));
-        EXPECT_EQ(ZelData_Ok, item.setImageIndex(dice.below(9)));
-        EXPECT_EQ(ZelData_Ok, item.setImageOffset(dice.below(9)));
-        EXPECT_EQ(ZelData_Ok, item.setGroupId(dice.below(9)));
+        return {randomTime(dice), randomTime(dice), randomText(dice), randomText(dice),
+                dice.below(9),    dice.below(9),    dice.below(9)};
     }
-
-    static void fill(Data& data, Dice& dice)
+    static void change(Data& screenText, Dice& dice)
     {
-        mayRefuse(data.setFrameRate(dice.below(4)));
-        for (unsigned i = dice.below(8); i > 0; --i) {
-            ZelDataScreenTextItem item;
-            fill(item, dice);
-            mayRefuse(data.addScreenTextItem(item));
-        }
+        mayRefuse(screenText.setFrameRate(dice.below(4)));
     }
-
-    static void describe(const Item& item, std::ostream& out)
+    static std::string settings(const Data& screenText)
     {
-        out << got(item, &Item::getText) << ' ' << got(item, &Item::getImageFile) << ' '
-            << got(item, &Item::getStart) << '+' << got(item, &Item::getDuration) << ' '
-            << got(item, &Item::getImageIndex) << ' ' << got(item, &Item::getImageOffset) << ' '
-            << got(item, &Item::getGroupId) << '\n';
-    }
-
-    static void describe(const Data& data, std::ostream& out)
-    {
-        out << got(data, &Data::getFrameRate) << '\n';
-        for (const auto& item : itemsOf(data, &Data::getScreenTextItems))
-            describe(*item, out);
+        return std::to_string(frameRateOf(screenText));
     }
 };
 
-/// Anything derived from an own class is no own class: whatever it overrides must be called.
+template <class Kind>
+void fillRandomly(typename Kind::Item& item, Dice& dice)
+{
+    fill(item, Kind::item(dice));
+}
+
+template <class Kind>
+void fillRandomly(typename Kind::Data& collection, Dice& dice)
+{
+    for (auto i = dice.below(8); i > 0; --i)
+        mayRefuse((collection.*Kind::add)(*newItem<Kind>(Kind::item(dice))));
+    Kind::change(collection, dice);
+}
+
+template <class Kind>
+std::string described(const typename Kind::Item& item)
+{
+    return testing::PrintToString(contentsOf(item)) + '\n';
+}
+
+/// Without the items where the collection cannot hand out one of them.
+template <class Kind>
+std::string described(const typename Kind::Data& collection)
+{
+    std::string description = Kind::settings(collection) + '\n';
+    std::vector<typename Kind::Item*> items;
+    mayRefuse((collection.*Kind::all)(items));
+    for (auto* item : items)
+        description += described<Kind>(*std::unique_ptr<typename Kind::Item>(item));
+    return description;
+}
+
+/// A class derived from one of our own is not our own: a copy must call what it overrides.
 template <class Own>
 struct Derived : Own {
 };
-
-template <class Kind, class Object>
-std::string describe(const Object& object)
-{
-    std::ostringstream out;
-    Kind::describe(object, out);
-    return out.str();
-}
 
 /// The last errors of both sides, before describing changes them, and then what both hold.
 template <class Kind, class Object>
@@ -297,8 +161,8 @@ std::string copied(Object& target, const Object& source)
     const auto code = target.copyFrom(source);
     std::ostringstream out;
     out << std::hex << code << ' ' << target.getLastError() << ' ' << source.getLastError() << '\n'
-        << describe<Kind>(target) << "source\n"
-        << describe<Kind>(source);
+        << described<Kind>(target) << "source\n"
+        << described<Kind>(source);
     return out.str();
 }
 
@@ -306,98 +170,85 @@ std::string copied(Object& target, const Object& source)
 template <class Kind>
 std::string written(const typename Kind::Data& data)
 {
-    typename Kind::Formatter formatter;
+    const auto formatter = make(Kind::makeFormatter);
     std::string track = "left alone";
     std::ostringstream out;
-    out << std::hex << (formatter.*Kind::setData)(data) << ' ';
-    out << formatter.writeString(track, ZelDataFormat_Xmp, false) << ' ';
-    out << formatter.getLastError() << ' ' << data.getLastError() << '\n' << track;
+    out << std::hex << ((*formatter).*Kind::setData)(data) << ' ';
+    out << formatter->writeString(track, ZelDataFormat_Xmp, false) << ' ';
+    out << formatter->getLastError() << ' ' << data.getLastError() << '\n' << track;
     return out.str();
+}
+
+constexpr std::uint64_t seeds = 3000;
+
+/// Copies with an object of a derived class on either side have the result of the short road.
+template <class Kind, class Interface, class Own>
+void expectTheSameCopies()
+{
+    for (std::uint64_t seed = 1; seed <= seeds; ++seed) {
+        const auto copy = [seed](Interface&& target, Interface&& source) {
+            Dice dice(seed);
+            fillRandomly<Kind>(target, dice);
+            fillRandomly<Kind>(source, dice);
+            return copied<Kind>(target, source);
+        };
+        const std::string expected = copy(Own(), Own());
+        ASSERT_EQ(expected, copy(Own(), Derived<Own>())) << "seed " << seed;
+        ASSERT_EQ(expected, copy(Derived<Own>(), Own())) << "seed " << seed;
+    }
 }
 
 template <class Kind>
 class BothRoads : public testing::Test {
 };
 
-using Kinds = testing::Types<CaptionKind, TocKind, ScreenTextKind>;
-TYPED_TEST_SUITE(BothRoads, Kinds, );
+using Kinds = testing::Types<RandomCaptions, RandomToc, RandomScreenText>;
+TYPED_TEST_SUITE(BothRoads, Kinds, KindName);
 
 TYPED_TEST(BothRoads, CopiesOfItemsAreTheSame)
 {
-    for (unsigned seed = 0; seed < 3000; ++seed) {
-        std::vector<std::string> results;
-        const auto go = [&](auto&& target, auto&& source) {
-            Dice dice(seed);
-            TypeParam::fill(target, dice);
-            TypeParam::fill(source, dice);
-            using Item = typename TypeParam::Item;
-            results.push_back(
-                copied<TypeParam>(static_cast<Item&>(target), static_cast<const Item&>(source)));
-        };
-        using Own = typename TypeParam::OwnItem;
-        go(Own(), Own());
-        go(Own(), Derived<Own>());
-        go(Derived<Own>(), Own());
-        ASSERT_EQ(results[0], results[1]) << "seed " << seed;
-        ASSERT_EQ(results[0], results[2]) << "seed " << seed;
-    }
+    expectTheSameCopies<TypeParam, typename TypeParam::Item, typename TypeParam::OwnItem>();
 }
 
 TYPED_TEST(BothRoads, CopiesOfCollectionsAreTheSame)
 {
-    for (unsigned seed = 0; seed < 3000; ++seed) {
-        std::vector<std::string> results;
-        const auto go = [&](auto&& target, auto&& source) {
-            Dice dice(seed);
-            using Data = typename TypeParam::Data;
-            TypeParam::fill(static_cast<Data&>(target), dice);
-            TypeParam::fill(static_cast<Data&>(source), dice);
-            results.push_back(
-                copied<TypeParam>(static_cast<Data&>(target), static_cast<const Data&>(source)));
-        };
-        using Own = typename TypeParam::Own;
-        go(Own(), Own());
-        go(Own(), Derived<Own>());
-        go(Derived<Own>(), Own());
-        ASSERT_EQ(results[0], results[1]) << "seed " << seed;
-        ASSERT_EQ(results[0], results[2]) << "seed " << seed;
-    }
+    expectTheSameCopies<TypeParam, typename TypeParam::Data, typename TypeParam::Own>();
 }
 
 TYPED_TEST(BothRoads, TracksAreTheSame)
 {
-    for (unsigned seed = 0; seed < 3000; ++seed) {
-        std::vector<std::string> results;
-        const auto go = [&](auto&& source) {
+    for (std::uint64_t seed = 1; seed <= seeds; ++seed) {
+        const auto write = [seed](typename TypeParam::Data&& source) {
             Dice dice(seed);
-            TypeParam::fill(static_cast<typename TypeParam::Data&>(source), dice);
-            results.push_back(written<TypeParam>(source));
+            fillRandomly<TypeParam>(source, dice);
+            return written<TypeParam>(source);
         };
-        go(typename TypeParam::Own());
-        go(Derived<typename TypeParam::Own>());
-        ASSERT_EQ(results[0], results[1]) << "seed " << seed;
+        ASSERT_EQ(write(typename TypeParam::Own()), write(Derived<typename TypeParam::Own>()))
+            << "seed " << seed;
     }
 }
 
+/// A copy of it stops at its end while its last error says success: a caption without length then gets
+/// into a collection.
+struct Pretender : ZelDataCaptionItem {
+    ZelDataResult_tags getEnd(long long& /*end*/) const override { return ZelData_NotFound; }
+    ZelDataResult_tags getLastError() const override { return ZelData_Ok; }
+};
+
 TEST(BothRoadsOfCaptions, ACaptionWithoutLengthStopsBoth)
 {
-    std::vector<std::string> results;
-    const auto go = [&](auto&& source) {
-        CaptionKind::Pretender pretender;
+    const auto results = [](i_ZelDataCaptions&& source) {
+        Pretender pretender;
         EXPECT_EQ(ZelData_Ok, pretender.setTextForLanguage("text", "de"));
         EXPECT_EQ(ZelData_Ok, source.addCaptionItem(pretender)); // half copied, and no code says so
         unsigned long count = 0;
         EXPECT_EQ(ZelData_Ok, source.getCaptionItemCount(count));
         EXPECT_EQ(1U, count);
-        ZelDataCaptions target;
-        results.push_back(copied<CaptionKind>(static_cast<i_ZelDataCaptions&>(target),
-                                              static_cast<const i_ZelDataCaptions&>(source)));
-        results.push_back(written<CaptionKind>(source));
+        const auto target = captionsOf({});
+        return copied<RandomCaptions>(*target, static_cast<const i_ZelDataCaptions&>(source)) +
+               written<RandomCaptions>(source);
     };
-    go(ZelDataCaptions());
-    go(Derived<ZelDataCaptions>());
-    EXPECT_EQ(results[0], results[2]);
-    EXPECT_EQ(results[1], results[3]);
+    EXPECT_EQ(results(ZelDataCaptions()), results(Derived<ZelDataCaptions>()));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 /// @file
-/// How a document takes and gives back its data sets: the same rules for all four kinds.
+/// Setting and getting the data sets of a document: the same rules for all four kinds.
 
 #include "core/SampleSets.h"
 #include "core/WatchedDocument.h"
@@ -37,13 +37,13 @@ protected:
 
 TYPED_TEST_SUITE(DataSet, AllSets, );
 
-TYPED_TEST(DataSet, ThatWasNeverGivenIsNoDataAndTheTargetStaysAsItWas)
+TYPED_TEST(DataSet, ThatWasNeverSetIsNoDataAndLeavesTheTargetAlone)
 {
     EXPECT_CODE(this->document_, ZelData_NoData, this->get(*this->sample_));
     EXPECT_EQ(TypeParam::contents, TypeParam::contentsOf(*this->sample_));
 }
 
-TYPED_TEST(DataSet, ComesBackAsItWasGiven)
+TYPED_TEST(DataSet, ComesBackUnchanged)
 {
     this->fill();
     EXPECT_EQ(TypeParam::contents, this->contents());
@@ -76,14 +76,14 @@ TYPED_TEST(DataSet, ReplacesTheContentsOfTheTarget)
     EXPECT_EQ(TypeParam::contents, TypeParam::contentsOf(*target));
 }
 
-TYPED_TEST(DataSet, ThatCannotBeMadeGivesTheDocumentsLastError)
+TYPED_TEST(DataSet, ThatCannotBeMadeReturnsTheDocumentsLastError)
 {
     this->document_.refuseSets(ZelData_InvalidArgument, ZelData_UnknownLanguage);
     EXPECT_CODE(this->document_, ZelData_UnknownLanguage, this->set(*this->sample_));
     EXPECT_CODE(this->document_, ZelData_NoData, this->get(*this->sample_));
 }
 
-TYPED_TEST(DataSet, ThatIsNotMadeInSpiteOfSuccessIsAnInternalError)
+TYPED_TEST(DataSet, ThatIsNotMadeDespiteSuccessIsAnInternalError)
 {
     this->document_.refuseSets(ZelData_Ok, ZelData_Ok);
     EXPECT_CODE(this->document_, ZelData_InternalError, this->set(*this->sample_));
@@ -97,7 +97,7 @@ TYPED_TEST(DataSet, IsMadeOnlyWhenThereIsNone)
     EXPECT_CODE(this->document_, ZelData_Ok, this->set(*this->sample_));
 }
 
-TYPED_TEST(DataSet, ThatCannotBeEmptiedGivesItsLastErrorAndIsNotCopiedInto)
+TYPED_TEST(DataSet, ThatCannotBeEmptiedReturnsItsLastErrorAndIsNotCopiedInto)
 {
     this->fill();
     int copies = 0;
@@ -117,7 +117,7 @@ TYPED_TEST(DataSet, ThatIsEmptiedWithAWarningHasFailed)
     EXPECT_EQ(0, copies);
 }
 
-TYPED_TEST(DataSet, ThatCannotBeCopiedIntoGivesItsLastError)
+TYPED_TEST(DataSet, ThatCannotBeCopiedIntoReturnsItsLastError)
 {
     this->fill();
     this->held().on("copy", answering(ZelData_NotFound, ZelData_InvalidItem));
@@ -132,7 +132,7 @@ TYPED_TEST(DataSet, ThatIsCopiedIntoWithAWarningHasFailed)
     EXPECT_CODE(this->document_, ZelData_WarnTiming, this->set(*this->sample_));
 }
 
-TYPED_TEST(DataSet, GivesItsLastErrorEvenWhenThatIsSuccess)
+TYPED_TEST(DataSet, ReturnsItsLastErrorEvenWhenThatIsSuccess)
 {
     this->fill();
     this->held().on("copy", answering(ZelData_NotFound, ZelData_Ok));
@@ -175,7 +175,7 @@ TYPED_TEST(DataSet, SourceThatThrowsIsAnInternalErrorAndOneWithoutMemoryIsOutOfM
     EXPECT_CODE(this->document_, ZelData_Ok, this->set(*this->sample_));
 }
 
-TYPED_TEST(DataSet, TargetThatCannotBeEmptiedGivesItsLastErrorAndIsNotCopiedInto)
+TYPED_TEST(DataSet, TargetThatCannotBeEmptiedReturnsItsLastErrorAndIsNotCopiedInto)
 {
     this->fill();
     int copies = 0;
@@ -188,7 +188,7 @@ TYPED_TEST(DataSet, TargetThatCannotBeEmptiedGivesItsLastErrorAndIsNotCopiedInto
     EXPECT_EQ(0, copies);
 }
 
-TYPED_TEST(DataSet, TargetThatCannotBeCopiedIntoGivesItsLastError)
+TYPED_TEST(DataSet, TargetThatCannotBeCopiedIntoReturnsItsLastError)
 {
     this->fill();
     typename TypeParam::Fake target;
@@ -198,7 +198,7 @@ TYPED_TEST(DataSet, TargetThatCannotBeCopiedIntoGivesItsLastError)
     EXPECT_CODE(this->document_, ZelData_Ok, this->get(target));
 }
 
-TYPED_TEST(DataSet, TargetIsEmptyAtLeastWhenTheCopyFails)
+TYPED_TEST(DataSet, TargetIsEmptiedEvenWhenTheCopyFails)
 {
     this->fill();
     typename TypeParam::Fake target;
@@ -231,7 +231,7 @@ TYPED_TEST(DataSet, TargetWhoseLastErrorThrowsIsAnInternalError)
     EXPECT_CODE(this->document_, ZelData_InternalError, this->get(target));
 }
 
-TYPED_TEST(DataSet, OfADocumentIsDestroyedWithIt)
+TYPED_TEST(DataSet, IsDestroyedWithItsDocument)
 {
     const auto before = liveAllocations();
     {

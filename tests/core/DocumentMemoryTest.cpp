@@ -1,5 +1,5 @@
 /// @file
-/// A document whose memory runs out at every point, one after the other.
+/// A document whose memory runs out at each allocation in turn.
 
 #include "core/SampleSets.h"
 #include "core/TempFile.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr auto xmp = ZelDataFormat_Xmp;
 constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 
-/// The code of @p action when only @p granted allocations are granted.
+/// The code of @p action if only @p granted allocations succeed.
 template <class Action>
 ZelDataResult_tags codeWith(std::size_t granted, Action&& action)
 {
@@ -31,8 +31,8 @@ void fill(i_ZelInterchangeDataCore& document)
     EXPECT_EQ(ZelData_Ok, document.setDataScreenText(*sampleScreenText()));
 }
 
-/// Runs @p action with more and more memory until it succeeds. Before that it always runs out of
-/// it, and @p check looks at what it left.
+/// Runs @p action with more and more memory until it succeeds. Until then it must run out of memory
+/// each time, after which @p check checks the state.
 template <class Action, class Check>
 void starve(Action&& action, Check&& check)
 {
@@ -100,7 +100,7 @@ TEST(StarvedDocument, HeaderThatCannotBeCopiedReportsTheCaptionsLastError)
                 codeWith(0, [&] { return document.setDataHeader(*header); }));
 }
 
-TEST(StarvedDocument, WritesNothingIntoTheStringAndStoresAtMostThatItCouldNotHandOver)
+TEST(StarvedDocument, LeavesTheStringAloneAndStoresAtMostOutOfMemory)
 {
     ZelDataCore document;
     fill(document);
@@ -119,7 +119,7 @@ TEST(StarvedDocument, WritesNothingIntoTheStringAndStoresAtMostThatItCouldNotHan
     }
 }
 
-TEST(StarvedDocument, TheFirstAllocationsAreThoseOfHandingOverAndTheirFailureIsStored)
+TEST(StarvedDocument, FirstAllocatesToHandOverItsSetsAndStoresTheFailure)
 {
     ZelDataCore document;
     fill(document);
@@ -128,7 +128,7 @@ TEST(StarvedDocument, TheFirstAllocationsAreThoseOfHandingOverAndTheirFailureIsS
                 codeWith(0, [&] { return document.writeString(out, xmp, false); }));
 }
 
-TEST(StarvedDocument, TheWriterStoresThatItsMemoryRanOut)
+TEST(StarvedDocument, TheWriterStoresOutOfMemory)
 {
     ZelDataCoreXmp document;
     fill(document);

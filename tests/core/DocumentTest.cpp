@@ -1,5 +1,5 @@
 /// @file
-/// Whole documents with every choice of data sets, compared with the files in data/.
+/// Compares documents with every combination of data sets with the files in data/.
 
 #include "core/SampleSets.h"
 #include "core/TempFile.h"

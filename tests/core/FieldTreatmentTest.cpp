@@ -1,5 +1,5 @@
 /// @file
-/// What becomes of each text on its way into the packet: escaped, stripped or written as given.
+/// How the packet holds each text: escaped, stripped or as given.
 
 #include "core/SampleSets.h"
 #include "support/Checks.h"
@@ -11,8 +11,8 @@ namespace {
 
 using ::testing::HasSubstr;
 
-/// All that a rule could touch: the characters of markup, control characters, a character of two
-/// bytes.
+/// Everything that a rule could change: the characters of markup, control characters, a character of
+/// two bytes.
 const std::string probe = "a\"&'<>\t\r\n\x01\x1F\x7F\xC3\xA9";
 const std::string escaped = "a&quot;&amp;&apos;&lt;&gt;\t\r\n\x01\x1F\x7F\xC3\xA9";
 const std::string escapedAndStripped = "a&quot;&amp;&apos;&lt;&gt;\n\x7F\xC3\xA9";
@@ -29,7 +29,7 @@ std::string element(const std::string& language, const std::string& text)
 
 class FieldTreatment : public ::testing::Test {
 protected:
-    /// The packet of the sets, of which a test has put the probe into one field.
+    /// The packet of the sets, with the probe in the field that a test chose.
     std::string packet() const
     {
         const std::unique_ptr<i_ZelInterchangeDataCore> document(

@@ -75,7 +75,7 @@ TEST(FileStreams, OpeningForWritingEmptiesTheFile)
     EXPECT_EQ("new", file.bytes());
 }
 
-TEST(FileStreams, AWideCharacterThatIsNoByteFailsTheStream)
+TEST(FileStreams, AWideCharacterThatIsNotAByteFailsTheStream)
 {
     for (const wchar_t character : {L'\x100', static_cast<wchar_t>(-2)}) {
         const TempFile file;
@@ -105,7 +105,7 @@ TEST(FileStreams, MoreThanOneBufferfulIsReadWhole)
     EXPECT_EQ(std::wstring(20000, L'\xE9'), contentsOf(file));
 }
 
-TEST(FileStreams, AReaderKnowsItsPlaceInBytesAndGoesBackToIt)
+TEST(FileStreams, AReaderReportsItsPositionInBytesAndSeeksBackToIt)
 {
     const TempFile file;
     file.fill("a\xE9\xFF!");
@@ -136,7 +136,7 @@ TEST(FileStreams, TheLocaleWidensManyCharactersAsItWidensOne)
 
 using Conversion = std::codecvt<wchar_t, char, std::mbstate_t>;
 
-TEST(FileStreams, TheConversionStopsWhereTheRoomEndsAndGoesOnFromThere)
+TEST(FileStreams, TheConversionStopsAtTheEndOfTheBufferAndContinuesThere)
 {
     const TempFile file;
     const std::locale locale = createWofstreamWithFile(file.path())->getloc();
@@ -209,7 +209,7 @@ TEST(FileStreams, APathThatIsNotUtf8IsNotOpened)
 }
 #endif
 
-TEST(FileStreams, AMissingFileIsNotOpenedForReadingAndNotMade)
+TEST(FileStreams, AMissingFileIsNeitherOpenedForReadingNorCreated)
 {
     const TempFile file;
     EXPECT_FALSE(createWifstreamWithFile(file.path())->is_open());

@@ -19,8 +19,8 @@ constexpr std::array<const char*, 1> localeNames = {"C"};
 constexpr std::array<const char*, 2> localeNames = {"C", "C.UTF-8"};
 #endif
 
-/// As long as it lives, the global locale widens every narrow character to a question mark and
-/// converts no wide character, and the C locale is the named one.
+/// While it lives, the global locale widens every narrow character to a question mark and converts no
+/// wide character, and the C locale is the named one.
 class HostileLocale {
 public:
     explicit HostileLocale(const char* name)
@@ -42,7 +42,7 @@ public:
     bool isInPlace() const { return named_; }
 
 private:
-    /// Owned by the locale that it is given to, as the next one.
+    /// Owned by the locale that it is given to, like the next one.
     class Widening : public std::ctype<wchar_t> {
         wchar_t do_widen(char /*narrow*/) const override { return L'?'; }
         const char* do_widen(const char* first, const char* last, wchar_t* out) const override

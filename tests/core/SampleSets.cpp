@@ -8,7 +8,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Every step of making a sample succeeds.
+/// Expects that every step of making a sample succeeded.
 void expectOk(std::initializer_list<ZelDataResult_tags> codes)
 {
     for (const auto code : codes)

@@ -1,5 +1,5 @@
 /// @file
-/// One filled data set of each kind. The files in data/ show how they are written.
+/// One filled data set of each kind. The files in data/ hold their packets.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_CORE_SAMPLESETS_H
 #define ZELINTERCHANGEDATA_TESTS_CORE_SAMPLESETS_H
@@ -13,7 +13,7 @@ namespace ZelInterchangeData {
 
 /// A header with a value in every field; its language is "ja".
 std::unique_ptr<i_ZelDataHeader> sampleHeader();
-/// A header that can be written, and nothing else.
+/// A minimal header that can be written.
 std::unique_ptr<i_ZelDataHeader> plainHeader();
 /// Adds a caption with one text.
 void addCaption(i_ZelDataCaptions& captions, const std::string& language, const std::string& text,
@@ -25,7 +25,7 @@ std::unique_ptr<i_ZelDataToc> sampleToc();
 /// Two texts, the later one first.
 std::unique_ptr<i_ZelDataScreenText> sampleScreenText();
 
-/// @p packet with DATE in the place of the moment of its writing, which must have the right form.
+/// @p packet with DATE in place of its date, which must have the right form.
 std::string withoutDate(const std::string& packet);
 
 } // namespace ZelInterchangeData

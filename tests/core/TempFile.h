@@ -22,7 +22,7 @@ inline std::string bytesOf(const std::filesystem::path& path)
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// A path that no other test uses. What is there at the end is removed.
+/// A path that no other test uses. The destructor removes what is there.
 class TempFile {
 public:
     TempFile()

@@ -30,13 +30,13 @@ TEST(TrackInsertion, TheListMayBeTheWholePacket)
     EXPECT_EQ("<xmpDM:Tracks><rdf:Bag>t</rdf:Bag></xmpDM:Tracks>", inserted(emptyList, "t"));
 }
 
-TEST(TrackInsertion, OfSeveralEmptyListsTheLastOneIsTaken)
+TEST(TrackInsertion, TracksFillTheLastOfSeveralEmptyLists)
 {
     EXPECT_EQ(emptyList + "<xmpDM:Tracks><rdf:Bag>t</rdf:Bag></xmpDM:Tracks>!",
               inserted(emptyList + emptyList + "!", "t"));
 }
 
-TEST(TrackInsertion, TracksThatHoldAnEmptyListGoInAsTheyAre)
+TEST(TrackInsertion, TracksThatContainAnEmptyListAreInsertedUnchanged)
 {
     EXPECT_EQ("<xmpDM:Tracks><rdf:Bag>" + emptyList + "</rdf:Bag></xmpDM:Tracks>",
               inserted(emptyList, emptyList));
@@ -80,7 +80,7 @@ TEST(TrackInsertion, ATrackMayBeLongerThanAnnounced)
     EXPECT_EQ(inserted(emptyList, std::string(5000, 't')), packet);
 }
 
-TEST(TrackInsertion, ExhaustedMemoryPassesThrough)
+TEST(TrackInsertion, PropagatesExhaustedMemory)
 {
     std::string packet = emptyList;
     packet.shrink_to_fit();

@@ -1,5 +1,5 @@
 /// @file
-/// Data sets that answer chosen operations with a chosen code, or throw.
+/// Data sets whose operations return a code that a test chooses, or throw.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_CORE_TROUBLED_H
 #define ZELINTERCHANGEDATA_TESTS_CORE_TROUBLED_H
@@ -18,11 +18,11 @@
 
 namespace ZelInterchangeData {
 
-/// What happens in the place of an operation of the object: a code, or nothing when the operation
-/// goes its usual way.
+/// Runs in place of an operation of the object: returns a code, or nothing to run the operation as
+/// usual.
 using Act = std::function<std::optional<ZelDataResult_tags>(const i_ZelDataResult& object)>;
 
-/// Returns @p code while the last error says @p lastError, so that a test sees which one is taken.
+/// Returns @p code while the last error is @p lastError, so that a test sees which one is used.
 inline Act answering(ZelDataResult_tags code, ZelDataResult_tags lastError)
 {
     return [=](const i_ZelDataResult& object) {
@@ -38,7 +38,7 @@ Act throwing(Exception exception)
     return [=](const i_ZelDataResult&) -> std::optional<ZelDataResult_tags> { throw exception; };
 }
 
-/// Does @p act at the call @p number, counted from 1, and nothing at the others.
+/// Does @p act at call @p number, counted from 1, and nothing at other calls.
 inline Act atCall(int number, const Act& act)
 {
     return [=, calls = 0](const i_ZelDataResult& object) mutable {
@@ -128,7 +128,7 @@ public:
     {
         return act("clear", [&] { return ZelDataCaptions::clearCaptionItems(); });
     }
-    /// Hands out "ja", which is none of the languages, when it does not go its usual way.
+    /// Delivers "ja", which is not one of the languages, if an act replaces it.
     Code getOrderedLanguageIDs(std::vector<std::string>& ids) const override
     {
         std::vector<std::string> real = {"ja"};

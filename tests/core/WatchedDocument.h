@@ -1,5 +1,5 @@
 /// @file
-/// A document whose own data sets a test can reach, and the four kinds of data sets.
+/// A document whose own data sets a test can access, and the four kinds of data sets.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_CORE_WATCHEDDOCUMENT_H
 #define ZELINTERCHANGEDATA_TESTS_CORE_WATCHEDDOCUMENT_H
@@ -30,7 +30,7 @@ public:
     {
         return *std::get<Fake*>(held_);
     }
-    /// From now on no set is made: the answer is @p code and the last error @p lastError.
+    /// Makes every further creation of a set return @p code and store @p lastError.
     void refuseSets(Code code, Code lastError)
     {
         refusal_ = code;

@@ -1,5 +1,6 @@
 #include "core/ZelDataCore.h"
 
+#include "captions/Captions.h"
 #include "core/SampleSets.h"
 #include "core/TempFile.h"
 #include "core/WatchedDocument.h"
@@ -15,7 +16,7 @@ constexpr auto xmp = ZelDataFormat_Xmp;
 constexpr ZelDataFormatType_tags foreignFormats[] = {
     static_cast<ZelDataFormatType_tags>(0), static_cast<ZelDataFormatType_tags>(2),
     static_cast<ZelDataFormatType_tags>(0xFFFFFFFFU)};
-/// A code that no operation gives.
+/// A code that no operation returns.
 constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 
 /// A header without any size, which cannot be copied.
@@ -43,7 +44,7 @@ protected:
     WatchedDocument<ZelDataCore> document_;
 };
 
-/// Expects that @p call gives @p code and that the last error of @p document stays as it was.
+/// Expects that @p call returns @p code and leaves the last error of @p document alone.
 #define EXPECT_UNSTORED(document, code, call)                                                      \
     do {                                                                                           \
         (document).setLastError(untouched);                                                        \
@@ -62,7 +63,7 @@ TEST(ZELDataCreator, MakesAPlainDocumentWithoutSets)
     EXPECT_CODE(*document, ZelData_NoData, document->getDataHeader(*headerWithoutSize()));
 }
 
-TEST(ZELDataCreator, EveryDocumentIsANewOne)
+TEST(ZELDataCreator, EveryCallMakesANewDocument)
 {
     const std::unique_ptr<i_ZelInterchangeDataCore> first(ZELDataCreator::createInterchangeData());
     const std::unique_ptr<i_ZelInterchangeDataCore> second(ZELDataCreator::createInterchangeData());
@@ -81,7 +82,7 @@ TEST(ZELDataCreator, ThrowsWhenThereIsNoMemory)
     EXPECT_EQ("Out of memory", message);
 }
 
-TEST_F(Document, CreatesObjectsThatItKeepsNoReferenceTo)
+TEST_F(Document, KeepsNoReferenceToTheObjectsItCreates)
 {
     i_ZelDataHeader* header = nullptr;
     EXPECT_CODE(document_, ZelData_Ok, document_.createDataHeader(&header));
@@ -108,7 +109,7 @@ TEST_F(Document, ReadsNothingWhateverTheArguments)
     }
 }
 
-TEST_F(Document, HeaderWithoutSizeGivesTheHeadersCodeWhenThereAreNoCaptions)
+TEST_F(Document, HeaderWithoutSizeReturnsTheHeadersCodeWhenThereAreNoCaptions)
 {
     EXPECT_CODE(document_, ZelData_InvalidArgument, document_.setDataHeader(*headerWithoutSize()));
 }
@@ -145,7 +146,7 @@ TEST_F(TroubledDocument, SucceedingHeaderDoesNotAskTheCaptions)
     EXPECT_CODE(document_, ZelData_Ok, document_.setDataHeader(*sampleHeader()));
 }
 
-TEST_F(TroubledDocument, FailureOfAnotherSetIsItsOwnEvenWhenThereAreCaptions)
+TEST_F(TroubledDocument, FailureOfAnotherSetReturnsItsOwnCodeEvenWhenThereAreCaptions)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
     TroubledToc toc;
@@ -153,7 +154,7 @@ TEST_F(TroubledDocument, FailureOfAnotherSetIsItsOwnEvenWhenThereAreCaptions)
     EXPECT_CODE(document_, ZelData_InvalidItem, document_.setDataToc(toc));
 }
 
-TEST_F(Document, WritesNoOtherFormatAndStoresThat)
+TEST_F(Document, RefusesOtherFormatsAndStoresTheCode)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataHeader(*sampleHeader()));
     const TempFile file;
@@ -174,7 +175,7 @@ TEST_F(Document, TheFormatIsCheckedBeforeTheSets)
                 document_.writeString(out, foreignFormats[1], false));
 }
 
-TEST_F(Document, DoesNotStoreThatItHasNoHeader)
+TEST_F(Document, DoesNotStoreTheCodeOfAMissingHeader)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataToc(*sampleToc()));
     const TempFile file;
@@ -186,7 +187,7 @@ TEST_F(Document, DoesNotStoreThatItHasNoHeader)
     EXPECT_FALSE(file.exists());
 }
 
-TEST_F(Document, DoesNotStoreThatItWrote)
+TEST_F(Document, DoesNotStoreTheSuccessOfWriting)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataHeader(*sampleHeader()));
     const TempFile file;
@@ -195,7 +196,7 @@ TEST_F(Document, DoesNotStoreThatItWrote)
     EXPECT_UNSTORED(document_, ZelData_Ok, document_.writeFile(file.path(), xmp, false));
 }
 
-TEST_F(Document, DoesNotStoreThatAFileCouldNotBeOpened)
+TEST_F(Document, DoesNotStoreTheFailureToOpenAFile)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataHeader(*sampleHeader()));
     const TempFile missing;
@@ -204,7 +205,7 @@ TEST_F(Document, DoesNotStoreThatAFileCouldNotBeOpened)
     EXPECT_UNSTORED(document_, ZelData_FileOpenFailed, document_.writeFile("", xmp, false));
 }
 
-TEST_F(Document, StoresThatAHeaderWithoutSizeCannotBeHandedOver)
+TEST_F(Document, StoresTheFailureToHandOverAHeaderWithoutSize)
 {
     EXPECT_EQ(ZelData_InvalidArgument, document_.setDataHeader(*headerWithoutSize()));
     const TempFile file;
@@ -215,7 +216,7 @@ TEST_F(Document, StoresThatAHeaderWithoutSizeCannotBeHandedOver)
     EXPECT_FALSE(file.exists());
 }
 
-TEST_F(TroubledDocument, HeaderThatCannotBeHandedOverGivesItsOwnCodeEvenWhenThereAreCaptions)
+TEST_F(TroubledDocument, HeaderThatCannotBeHandedOverReturnsItsOwnCodeEvenWhenThereAreCaptions)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
     EXPECT_EQ(ZelData_Ok, document_.setDataHeader(*sampleHeader()));
@@ -225,7 +226,7 @@ TEST_F(TroubledDocument, HeaderThatCannotBeHandedOverGivesItsOwnCodeEvenWhenTher
     EXPECT_EQ("before", out);
 }
 
-TEST_F(TroubledDocument, SetsAreHandedOverInTheirOrder)
+TEST_F(TroubledDocument, SetsAreHandedOverInOrder)
 {
     EXPECT_EQ(ZelData_Ok, document_.setDataScreenText(*sampleScreenText()));
     EXPECT_EQ(ZelData_Ok, document_.setDataToc(*sampleToc()));
@@ -264,12 +265,7 @@ TEST_F(Document, WritingLeavesTheOrderOfItsOwnItemsAsItWas)
     EXPECT_EQ(ZelData_Ok, document_.writeString(out, xmp, false));
     const auto captions = make(&ZelDataUtilities::createCaptionData);
     EXPECT_EQ(ZelData_Ok, document_.getDataCaptions(*captions));
-    i_ZelDataCaptionItem* item = nullptr;
-    ASSERT_EQ(ZelData_Ok, captions->getCaptionItemAt(&item, 0));
-    const std::unique_ptr<i_ZelDataCaptionItem> owned(item);
-    long long start = 0;
-    EXPECT_EQ(ZelData_Ok, owned->getStart(start));
-    EXPECT_EQ(4000, start);
+    EXPECT_EQ(4000, itemsOf(*captions).at(0).start);
 }
 
 } // namespace

@@ -39,8 +39,8 @@ protected:
         EXPECT_EQ(ZelData_Ok, header().getOrderedLanguageIDs(ids));
         return ids;
     }
-    /// Writing gives and stores @p code and leaves the text alone, whether it would be appended or
-    /// replaced; neither does a file come into being.
+    /// Expects that writing returns and stores @p code, leaves the text alone with and without the
+    /// flag, and creates no file.
     void expectFailure(ZelDataResult_tags code) const
     {
         std::string out = "before";
@@ -75,7 +75,7 @@ TEST_F(ZelDataCoreXmpTest, AMissingHeaderIsAnInvalidArgumentEvenWhenOtherSetsExi
     expectFailure(ZelData_InvalidArgument);
 }
 
-TEST_F(ZelDataCoreXmpTest, TheHeaderIsMissedBeforeTheFormatIsLookedAt)
+TEST_F(ZelDataCoreXmpTest, TheHeaderIsCheckedBeforeTheFormat)
 {
     std::string out;
     EXPECT_CODE(document_, ZelData_InvalidArgument, document_.writeString(out, foreign, false));
@@ -110,14 +110,14 @@ TEST_F(ZelDataCoreXmpTest, AHeaderThatIsValidWithAWarningIsInvalidData)
     EXPECT_EQ(Languages{"ja"}, languages());
 }
 
-TEST_F(ZelDataCoreXmpTest, LanguagesThatCannotBeClearedGiveTheHeadersLastError)
+TEST_F(ZelDataCoreXmpTest, LanguagesThatCannotBeClearedReturnTheHeadersLastError)
 {
     setHeader(*sampleHeader());
     header().on("clearLanguages", answering(ZelData_WarnNoChange, ZelData_InvalidItem));
     expectFailure(ZelData_InvalidItem);
 }
 
-TEST_F(ZelDataCoreXmpTest, WithoutCaptionsTheLanguageIsAmericanEnglishAlone)
+TEST_F(ZelDataCoreXmpTest, WithoutCaptionsTheOnlyLanguageIsAmericanEnglish)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataToc(*sampleToc()));
@@ -125,7 +125,7 @@ TEST_F(ZelDataCoreXmpTest, WithoutCaptionsTheLanguageIsAmericanEnglishAlone)
     EXPECT_EQ(Languages{"en-US"}, languages());
 }
 
-TEST_F(ZelDataCoreXmpTest, CaptionsWithoutLanguagesGiveAmericanEnglishAlone)
+TEST_F(ZelDataCoreXmpTest, CaptionsWithoutLanguagesGiveOnlyAmericanEnglish)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*make(&ZelDataUtilities::createCaptionData)));
@@ -146,7 +146,7 @@ TEST_F(ZelDataCoreXmpTest, TheLanguagesOfTheHeaderAreThoseOfTheCaptionsInTheirOr
     }
 }
 
-TEST_F(ZelDataCoreXmpTest, LanguagesOfTheCaptionsThatCannotBeHadCountAsNone)
+TEST_F(ZelDataCoreXmpTest, LanguagesOfTheCaptionsThatCannotBeReadCountAsNone)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
@@ -161,10 +161,11 @@ TEST_F(ZelDataCoreXmpTest, ExhaustedMemoryOfTheCaptionsIsNotIgnored)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
-    captions().on("getOrderedLanguageIDs", answering(ZelData_OutOfMemory, ZelData_OutOfMemory));
-    expectFailure(ZelData_OutOfMemory);
-    captions().on("getOrderedLanguageIDs", throwing(std::bad_alloc()));
-    expectFailure(ZelData_OutOfMemory);
+    for (const Act& act :
+         {answering(ZelData_OutOfMemory, ZelData_OutOfMemory), throwing(std::bad_alloc())}) {
+        captions().on("getOrderedLanguageIDs", atCall(1, act));
+        expectFailure(ZelData_OutOfMemory);
+    }
 }
 
 TEST_F(ZelDataCoreXmpTest, AnExceptionOfTheCaptionsIsAnInternalError)
@@ -175,7 +176,7 @@ TEST_F(ZelDataCoreXmpTest, AnExceptionOfTheCaptionsIsAnInternalError)
     expectFailure(ZelData_InternalError);
 }
 
-TEST_F(ZelDataCoreXmpTest, ALanguageOfTheCaptionsThatTheHeaderRefusesGivesItsLastError)
+TEST_F(ZelDataCoreXmpTest, ALanguageOfTheCaptionsThatTheHeaderRefusesReturnsItsLastError)
 {
     setHeader(*sampleHeader());
     EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
@@ -193,14 +194,23 @@ TEST_F(ZelDataCoreXmpTest, AWarningForALanguageOfTheCaptionsPasses)
     EXPECT_EQ(Languages{"de"}, languages());
 }
 
-TEST_F(ZelDataCoreXmpTest, LanguagesThatCannotBeCountedGiveTheHeadersLastError)
+TEST_F(ZelDataCoreXmpTest, LanguagesThatCannotBeCountedReturnTheHeadersLastError)
 {
     setHeader(*sampleHeader());
     header().on("getLanguageCount", answering(ZelData_WarnTiming, ZelData_InvalidItem));
     expectFailure(ZelData_InvalidItem);
 }
 
-TEST_F(ZelDataCoreXmpTest, AmericanEnglishThatTheHeaderRefusesGivesItsLastError)
+TEST_F(ZelDataCoreXmpTest, ANumberOfLanguagesThatTheHeaderDoesNotSetCountsAsZero)
+{
+    setHeader(*sampleHeader());
+    EXPECT_EQ(ZelData_Ok, document_.setDataCaptions(*sampleCaptions()));
+    header().on("getLanguageCount", answering(ZelData_Ok, ZelData_Ok));
+    expectSuccess();
+    EXPECT_EQ("en-US", languages().back());
+}
+
+TEST_F(ZelDataCoreXmpTest, AmericanEnglishThatTheHeaderRefusesReturnsItsLastError)
 {
     setHeader(*sampleHeader());
     header().on("addLanguage", answering(ZelData_NotFound, ZelData_InvalidItem));
@@ -233,7 +243,7 @@ TEST_F(ZelDataCoreXmpTest, WritingAFileInAnotherFormatIsRefusedAndNoFileIsTouche
     EXPECT_EQ("kept", file.bytes());
 }
 
-TEST_F(ZelDataCoreXmpTest, ASetThatItsFormatterCannotCopyGivesTheFormattersLastError)
+TEST_F(ZelDataCoreXmpTest, ASetThatItsFormatterCannotCopyReturnsTheFormattersLastError)
 {
     setAll();
     document_.held<TroubledScreenText>().on("read", answering(ZelData_WarnTiming, ZelData_NoData));
@@ -271,7 +281,7 @@ TEST_F(ZelDataCoreXmpTest, EmptySetsWriteNoTracks)
     EXPECT_NE(std::string::npos, alone.find("<xmpDM:Tracks><rdf:Bag></rdf:Bag></xmpDM:Tracks>"));
 }
 
-TEST_F(ZelDataCoreXmpTest, TracksStandSideBySideInTheOrderCaptionsTocScreenText)
+TEST_F(ZelDataCoreXmpTest, TracksAreSiblingsInTheOrderCaptionsTocScreenText)
 {
     setAll();
     const auto packet = written();
@@ -394,7 +404,7 @@ TEST_F(ZelDataCoreXmpTest, AFullDeviceIsNotReported)
     EXPECT_CODE(document_, ZelData_Ok, document_.writeFile("/dev/full", xmp, false));
 }
 
-/// Its text never comes out as asked.
+/// A document whose own writeString() writes another text.
 class OtherText : public ZelDataCoreXmp {
 public:
     ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags /*format*/,
@@ -411,7 +421,7 @@ public:
     ZelDataResult_tags lastError = ZelData_NoData;
 };
 
-TEST(WriteFile, WritesWhatTheDocumentsOwnWriteStringGives)
+TEST(WriteFile, WritesTheTextOfTheDocumentsOwnWriteString)
 {
     const OtherText document;
     const TempFile file;

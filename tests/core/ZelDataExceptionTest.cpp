@@ -20,7 +20,7 @@ TEST(ZelDataException, TheMessageIsCopied)
     EXPECT_STREQ("a message too long for any short string", exception.what());
 }
 
-TEST(ZelDataException, TheMessageStaysAtItsPlaceAsLongAsTheObjectLives)
+TEST(ZelDataException, WhatReturnsTheSamePointerWhileTheObjectLives)
 {
     const ZelDataException exception("here");
     EXPECT_EQ(exception.what(), exception.what());

@@ -1,15 +1,15 @@
-"""The fenced blocks of the project's Markdown files, and what the tests make of them.
+"""Reads the fenced blocks of the project's Markdown files, and makes samples of them.
 
-A C++ block is a program, or a part of one: a block without `main` is the body of `main` below the
-document's block of includes, which is the one marked `cpp preamble`. What a program prints stands
-in the `text` or `xml` block behind it, what it writes into a file in such a block with `file=NAME`.
-An `xml` block shows one line with line breaks for reading, a `text` block shows every byte. A date
-of a packet is shown as any one or empty. A C++ block may be a file of the project
-(`source=PATH`), and what it writes into a file may stand in one (`writes=NAME expected=PATH`).
+A C++ block is a program or the body of `main`; a body follows the document's includes, the block
+marked `cpp preamble`. A `text` or `xml` block after it shows what the program prints, or with
+`file=NAME` what it writes into that file. An `xml` block shows one line with line breaks added for
+the reader; a `text` block shows every byte. The date of a packet may be any date, or empty. A C++
+block may be a copy of a project file (`source=PATH`), and a project file may hold what it writes
+(`writes=NAME expected=PATH`).
 
-A CMake block is a project, or a part of one below the lines that every project begins with.
+A CMake block is a project, or the part of one after the lines that every project begins with.
 
-A word of the form `name=NAME` behind the language names the block; else it has its number."""
+`name=NAME` after the language names a block; other blocks are numbered."""
 
 import re
 from dataclasses import dataclass
@@ -32,21 +32,21 @@ class Block:
     line: int
 
     def option(self, name, default=None):
-        """The value of `name=VALUE` behind the language."""
+        """The value of `name=VALUE` after the language."""
         values = [word.split("=", 1)[1] for word in self.words if word.startswith(name + "=")]
         return values[0] if values else default
 
 
 @dataclass
 class Sample:
-    """A block that the tests build, and the blocks that show what comes out."""
+    """A block that the tests build, and the blocks that show its output."""
     name: str
     block: Block
     outputs: list
 
 
 def blocks_of(text):
-    """All fenced blocks, in order. Raises ValueError for one that does not end."""
+    """All fenced blocks, in order. Raises ValueError for a block that is not closed."""
     blocks, lines = [], enumerate(text.splitlines(), 1)
     for number, line in lines:
         fence = FENCE.match(line)
@@ -59,14 +59,14 @@ def blocks_of(text):
                 break
             content.append(inner + "\n")
         else:
-            raise ValueError(f"line {number}: a block without an end")
+            raise ValueError(f"line {number}: the block is not closed")
         words = fence[2].split() or [""]
         blocks.append(Block(words[0], words[1:], "".join(content), number))
     return blocks
 
 
-def outputs_behind(blocks, index):
-    """The output blocks that directly follow the block of this index."""
+def outputs_after(blocks, index):
+    """The output blocks that directly follow the block at this index."""
     outputs = []
     for block in blocks[index + 1:]:
         if block.language not in OUTPUT_LANGUAGES:
@@ -76,19 +76,19 @@ def outputs_behind(blocks, index):
 
 
 def samples_of(document, blocks, language):
-    """The blocks of a language under their names, the preamble left out."""
+    """The named blocks of a language, without the preamble."""
     samples = []
     for index, block in enumerate(blocks):
         if block.language == language and "preamble" not in block.words:
             name = block.option("name", f"{language}-{len(samples) + 1}")
-            samples.append(Sample(f"{document}.{name}", block, outputs_behind(blocks, index)))
+            samples.append(Sample(f"{document}.{name}", block, outputs_after(blocks, index)))
     if len({sample.name for sample in samples}) < len(samples):
-        raise ValueError(f"{document}: two samples have one name")
+        raise ValueError(f"{document}: two samples have the same name")
     return samples
 
 
 def preamble_of(blocks):
-    """The text of the document's block of includes; None when it has none."""
+    """The text of the document's preamble, or None."""
     preambles = [block.text for block in blocks if "preamble" in block.words]
     if len(preambles) > 1:
         raise ValueError("more than one preamble")
@@ -100,11 +100,11 @@ def is_program(text):
 
 
 def program_of(sample, preamble):
-    """The sample as a file that a compiler takes."""
+    """The sample as a complete source file."""
     if is_program(sample.block.text):
         return sample.block.text
     if preamble is None:
-        raise ValueError(f"{sample.name}: a part of a program in a document without a preamble")
+        raise ValueError(f"{sample.name}: a body of main needs a preamble")
     return f"{preamble}\nint main()\n{{\n{sample.block.text}}}\n"
 
 

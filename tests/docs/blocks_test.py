@@ -1,4 +1,4 @@
-"""How samples are taken out of a document and compared, on small made-up ones."""
+"""Tests how samples are extracted and compared, with small made-up documents."""
 
 import os
 import sys
@@ -60,11 +60,11 @@ class Blocks(unittest.TestCase):
                                  ("text", [], 13), ("cpp", [], 17), ("text", ["file=a.txt"], 23),
                                  ("cmake", [], 27)])
 
-    def test_a_block_without_an_end_is_refused(self):
+    def test_an_unclosed_block_is_refused(self):
         with self.assertRaises(ValueError):
             blocks_of("```cpp\nint a;\n``\n")
 
-    def test_a_longer_fence_holds_a_shorter_one(self):
+    def test_a_longer_fence_can_contain_a_shorter_one(self):
         self.assertEqual([block.text for block in blocks_of("````text\n```\n````\n")], ["```\n"])
 
     def test_samples_have_names_and_the_outputs_that_follow(self):
@@ -72,19 +72,19 @@ class Blocks(unittest.TestCase):
         self.assertEqual([s.name for s in samples], ["d.hello", "d.cpp-2"])
         self.assertEqual([[o.text for o in s.outputs] for s in samples], [["hello\n"], ["a\n"]])
 
-    def test_a_part_becomes_the_body_of_main_below_the_preamble(self):
+    def test_a_body_becomes_main_below_the_preamble(self):
         blocks = blocks_of(DOCUMENT)
         part, program = samples_of("d", blocks, "cpp")
         self.assertEqual(program_of(part, preamble_of(blocks)),
                          "#include <iostream>\n\nint main()\n{\nstd::cout << \"hello\\n\";\n}\n")
         self.assertEqual(program_of(program, preamble_of(blocks)), "int main()\n{\n}\n")
 
-    def test_a_part_without_a_preamble_is_refused(self):
+    def test_a_body_without_a_preamble_is_refused(self):
         blocks = blocks_of("```cpp\nreturn 0;\n```\n")
         with self.assertRaises(ValueError):
             program_of(samples_of("d", blocks, "cpp")[0], preamble_of(blocks))
 
-    def test_a_part_of_a_project_is_completed_and_a_project_is_not(self):
+    def test_only_a_part_of_a_project_is_completed(self):
         part = project_of(Block("cmake", [], "add_subdirectory(a)\n", 1))
         self.assertEqual(part.splitlines()[1:], ["project(documented LANGUAGES CXX)",
                                                  "add_executable(my_program main.cpp)",
@@ -92,7 +92,7 @@ class Blocks(unittest.TestCase):
         whole = "project(mine)\nadd_executable(my_program main.cpp)\n"
         self.assertEqual(project_of(Block("cmake", [], whole, 1)), whole)
 
-    def test_files_of_samples_that_are_gone_disappear(self):
+    def test_files_of_removed_samples_are_deleted(self):
         with tempfile.TemporaryDirectory() as folder:
             write_files(Path(folder), {"a.cpp": "1", "b.cpp": "2"})
             write_files(Path(folder), {"b.cpp": "3"})
@@ -105,14 +105,14 @@ class Output(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             return objections(a_sample, command, Path(folder))
 
-    def test_what_is_shown_passes(self):
+    def test_the_shown_output_passes(self):
         self.assertEqual(self.found(sample(Block("text", [], "a\nb\n", 1)), printer("a\nb\n")), [])
 
-    def test_one_byte_more_is_noticed(self):
+    def test_an_extra_byte_is_noticed(self):
         self.assertEqual(self.found(sample(Block("text", [], "a\n", 1)), printer("a \n")),
                          ["prints 'a \\n'"])
 
-    def test_an_output_that_is_not_shown_is_noticed(self):
+    def test_output_that_is_not_shown_is_noticed(self):
         self.assertEqual(self.found(sample(), printer("a")),
                          ["the document shows no output", "prints what is not shown: 'a'"])
 
@@ -124,24 +124,24 @@ class Output(unittest.TestCase):
         self.assertEqual(self.found(sample(Block("text", [], "a\n", 1)), command),
                          ["exit status 3, standard error: ''"])
 
-    def test_a_packet_is_shown_over_several_lines_and_compared_as_one(self):
+    def test_a_packet_is_shown_in_several_lines_and_compared_as_one(self):
         shown = Block("xml", [], "<a>\n  <b c=\"1\"\n     d=\"2\" ></b>\n</a>\n", 1)
         self.assertEqual(self.found(sample(shown), printer('<a><b c="1" d="2" ></b></a>\n')), [])
         self.assertNotEqual(self.found(sample(shown), printer('<a><b c="1" d="2"></b></a>\n')), [])
 
-    def test_the_date_does_not_count_but_must_be_one(self):
+    def test_any_date_matches_but_only_a_date(self):
         shown = Block("xml", [], '<a dc:date="2024-05-17T14:07:09+2:00" ></a>\n', 1)
         good = '<a dc:date="2031-01-02T03:04:05-0:00" ></a>'
         self.assertEqual(self.found(sample(shown), printer(good)), [])
         self.assertNotEqual(self.found(sample(shown), printer(good.replace("T", " "))), [])
 
-    def test_a_date_that_is_shown_empty_must_be_there(self):
+    def test_a_date_that_is_shown_empty_must_not_be_empty(self):
         shown = Block("xml", [], '<a dc:date="" ></a>\n', 1)
         good = '<a dc:date="2031-01-02T03:04:05-0:00" ></a>'
         self.assertEqual(self.found(sample(shown), printer(good)), [])
         self.assertNotEqual(self.found(sample(shown), printer('<a dc:date="" ></a>')), [])
 
-    def test_files_of_the_project_are_compared(self):
+    def test_project_files_are_compared(self):
         with tempfile.TemporaryDirectory() as root:
             Path(root, "source.cpp").write_text("int main();\n", encoding="utf-8")
             Path(root, "expected.xmp").write_text("<a></a>\n", encoding="utf-8")
@@ -155,7 +155,7 @@ class Output(unittest.TestCase):
                 self.assertEqual(self.found(other, printer("<a></a>", "a.xmp")),
                                  ["differs from source.cpp"])
 
-    def test_files_are_compared_too(self):
+    def test_written_files_are_compared(self):
         shown = sample(Block("text", ["file=a.txt"], "a\n", 1))
         self.assertEqual(self.found(shown, printer("a\n", "a.txt")), [])
         self.assertEqual(self.found(shown, printer("b\n", "a.txt")), ["writes 'b\\n' into a.txt"])

@@ -1,10 +1,10 @@
-"""One CMake block of a document as a project of its own, which finds the library in the ways that a
-user has: a prefix, a folder of sources beside it, a declared fetch. Its program is the first one of
-the README, and does what the README shows.
+"""Builds one CMake block of a document as a project, which finds the library as a user's would: in a
+prefix, in a source folder beside it or with FetchContent. Its program is the first one in the README
+and must print what the README shows.
 
 Usage: consumer_test.py PROJECT README
 
-Needs the library in the prefix, and the environment of the tests of the consumer projects."""
+Needs the library in the prefix, and the environment of the consumer tests."""
 
 import os
 import shutil
@@ -24,13 +24,13 @@ def first_program(readme):
 
 
 def program_built(project, text):
-    """Lays the project out and builds it; returns its program."""
+    """Creates and builds the project; returns its program."""
     folder = fresh_folder(f"docs.{project.stem}")
     shutil.copy(project, folder / "CMakeLists.txt")
     (folder / "main.cpp").write_text(text, encoding="utf-8")
     (folder / "ZelInterchangeData").symlink_to(SOURCE)
     tree = folder / "build"
-    # A unity build compiles the library in a third of the time; tests/consumers has the usual build.
+    # A unity build compiles the library in a third of the time; tests/consumers tests the usual build.
     configure(folder, tree, f"-DCMAKE_BUILD_TYPE={os.environ['BUILD_TYPE']}", "-DCMAKE_UNITY_BUILD=ON",
               f"-DCMAKE_PREFIX_PATH={PREFIX}", "-DFETCHCONTENT_FULLY_DISCONNECTED=ON",
               f"-DFETCHCONTENT_SOURCE_DIR_ZELINTERCHANGEDATA={SOURCE}")

@@ -1,4 +1,4 @@
-"""Every C++ and CMake block of every document is one that the tests build and run.
+"""Checks that the tests build and run every C++ and CMake block of every document.
 
 The environment names ROOT, the project's folder, and REGISTERED, the file with the names of the
 samples that have a test."""
@@ -13,15 +13,15 @@ from blocks import document_name, is_program, preamble_of, read_blocks, samples_
 ROOT = Path(os.environ["ROOT"])
 REGISTERED = Path(os.environ["REGISTERED"])
 
-# A block without a word for its language is shown and not run.
+# A block without a language is shown and not run.
 LANGUAGES = {"", "cmake", "cpp", "sh", "text", "xml"}
 
-# All that looks like the beginning of a block followed by a word, however it is indented.
+# Everything that looks like an opening fence with a language, at any indentation.
 ANY_FENCE = re.compile(r"^[ \t>*+-]*(?:`{3,}|~{3,})[ \t]*(\w[^\s`]*)", re.MULTILINE)
 
 
 def documents():
-    """All Markdown files that do not lie in a build folder or the like."""
+    """All Markdown files outside build folders and hidden folders."""
     for folder, folders, files in os.walk(ROOT):
         folders[:] = [name for name in folders if name[0] != "." and name not in ("build", "out")]
         yield from (Path(folder, name) for name in files if name.endswith((".md", ".markdown")))
@@ -43,7 +43,7 @@ class Coverage(unittest.TestCase):
                 self.assertEqual(fences, seen)
 
     def test_languages_are_known(self):
-        """A program under another word than cpp would not be run."""
+        """A program with a language other than cpp would not run."""
         for path in documents():
             with self.subTest(document=path.name):
                 self.assertLessEqual({block.language for block in read_blocks(path)}, LANGUAGES)

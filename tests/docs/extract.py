@@ -1,9 +1,9 @@
-"""Writes the C++ and CMake samples of a Markdown file to files of their own.
+"""Writes each C++ and CMake sample of a Markdown file to a file.
 
 Usage: extract.py FOLDER DOCUMENT
 
-The folder gets NAME.cpp and NAME.cmake for each sample, and nothing else stays in it. Prints their
-names, one a line. A file whose text stays the same is not touched."""
+Writes NAME.cpp or NAME.cmake for each sample, deletes everything else in the folder, and prints the
+names, one per line. Leaves a file whose text is unchanged alone."""
 
 import sys
 from pathlib import Path

@@ -1,4 +1,4 @@
-"""The figures of the README's table of evidence that can be counted in the tree.
+"""Checks the figures in the README's evidence table that can be counted in the source tree.
 
 The environment names ROOT, the project's folder."""
 
@@ -20,7 +20,7 @@ def evidence():
 
 
 def arguments(kind):
-    """How many arguments of a kind the operations have."""
+    """The number of arguments of this kind that the operations have."""
     with tempfile.TemporaryDirectory() as folder:
         output = Path(folder) / "names"
         subprocess.run([sys.executable, "-B", ROOT / "tests/hostile/parameter_names.py", kind,

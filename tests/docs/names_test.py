@@ -1,4 +1,5 @@
-"""The tests, files and folders that the documents name exist, and each field of the packet has a test.
+"""Checks that the tests, files and folders named in the documents exist, and that each packet field
+has a test.
 
 The environment names ROOT, the project's folder."""
 
@@ -18,7 +19,7 @@ PROJECT_PATH = re.compile(r"(?:bench|cmake|docs|examples|include|scripts|src|tes
 
 
 def code_words(path):
-    """What is between backquotes, in the text and not in a fenced block."""
+    """The words in backquotes outside fenced blocks."""
     text = re.sub(r"^```.*?^```$", "", path.read_text(encoding="utf-8"), flags=re.S | re.M)
     return CODE.findall(text)
 
@@ -29,7 +30,7 @@ def defined_tests():
 
 
 def rows_of(heading):
-    """The rows of the first table below a heading of docs/format.md, without its two first lines."""
+    """The rows of the first table below a heading of docs/format.md, without its header."""
     section = FORMAT.read_text(encoding="utf-8").split(f"\n{heading}\n", 1)[1].split("\n## ", 1)[0]
     table = re.search(r"(?:^\|.*\n)+", section, re.MULTILINE)[0]
     return [[cell.strip() for cell in line.strip("|").split("|")]
@@ -37,17 +38,16 @@ def rows_of(heading):
 
 
 class Names(unittest.TestCase):
-    def test_every_test_that_is_named_exists(self):
+    def test_every_named_test_exists(self):
         named = {word for path in DOCUMENTS for word in code_words(path) if TEST.fullmatch(word)}
         self.assertGreater(len(named), 40)
         self.assertEqual(sorted(named - defined_tests()), [])
 
-    def test_every_file_that_is_named_exists(self):
-        for path in DOCUMENTS:
-            for word in code_words(path):
-                if PROJECT_PATH.fullmatch(word):
-                    with self.subTest(document=path.name, file=word):
-                        self.assertTrue((ROOT / word).exists())
+    def test_every_named_file_exists(self):
+        named = {word for path in DOCUMENTS for word in code_words(path)
+                 if PROJECT_PATH.fullmatch(word)}
+        self.assertGreater(len(named), 40)
+        self.assertEqual([word for word in sorted(named) if not (ROOT / word).exists()], [])
 
     def test_every_field_of_the_packet_names_its_test(self):
         rows = rows_of("## What is escaped, stripped or written as given")

@@ -1,4 +1,4 @@
-"""What a sample prints and writes against what its document shows."""
+"""Compares what a sample prints and writes with what its document shows."""
 
 import os
 import re
@@ -11,7 +11,7 @@ DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
 
 
 def in_one_line(block):
-    """The shown packet as it is written: a tag follows a tag at once, an attribute a blank."""
+    """The shown packet as written: no blank between two tags, one before an attribute."""
     lines = [line.strip() for line in block.splitlines()]
     text = lines[0]
     for line in lines[1:]:
@@ -25,8 +25,8 @@ def masked(text):
 
 
 def same(actual, block):
-    """Whether the text is the one shown; the line feed after a printed packet does not count."""
-    # A date that is shown empty matches any, but there must be one.
+    """Whether the text is the one shown, regardless of a line feed after a printed packet."""
+    # A date shown as empty matches any date.
     shown = masked(block.text).replace('dc:date=""', 'dc:date="DATE"')
     if block.language == "xml":
         return masked(actual).removesuffix("\n") == in_one_line(shown)
@@ -34,7 +34,7 @@ def same(actual, block):
 
 
 def outputs_of(sample):
-    """The blocks after the sample, and the file of the project that its first line refers to."""
+    """The output blocks of the sample, and the project file that its first line names."""
     expected = sample.block.option("expected")
     if not expected:
         return sample.outputs
@@ -43,7 +43,7 @@ def outputs_of(sample):
 
 
 def source_objections(sample):
-    """What is wrong with a sample that is said to be a file of the project."""
+    """Says whether a sample that names a project file as its source differs from it."""
     source = sample.block.option("source")
     if not source:
         return []
@@ -52,13 +52,13 @@ def source_objections(sample):
 
 
 def run(command, folder):
-    """Runs a sample in a folder of its own."""
+    """Runs a sample in the folder."""
     return subprocess.run(command, cwd=folder, capture_output=True, text=True, encoding="utf-8",
                           check=False, timeout=120)
 
 
 def objections(sample, command, folder):
-    """What is wrong with a sample that was built; nothing when all is as shown."""
+    """What a built sample does differently from what the document shows."""
     result = run(command, folder)
     if (result.returncode, result.stderr) != (0, ""):
         return [f"exit status {result.returncode}, standard error: {result.stderr!r}"]
@@ -75,7 +75,7 @@ def objections(sample, command, folder):
 
 
 def file_objections(outputs, folder):
-    """What is wrong with the files that the sample wrote."""
+    """The differences between the files written and those shown."""
     shown = {block.option("file"): block for block in outputs if block.option("file")}
     written = {path.name: path.read_text(encoding="utf-8") for path in folder.iterdir()}
     found = [f"writes {name}, which is not shown" for name in sorted(written.keys() - shown.keys())]

@@ -1,4 +1,4 @@
-"""The reference of the public headers can be made, and a symbol that is not described stops it.
+"""Checks that scripts/docs makes the reference of the headers, and refuses an undocumented symbol.
 
 The environment names ROOT, the project's folder."""
 
@@ -15,7 +15,7 @@ HEADERS = Path("include", "ZelInterchangeData")
 
 
 def undescribed_enumerators(tree):
-    """The enumerators without a comment, which Doxygen lets pass, and the number of all."""
+    """The enumerators without a comment, which Doxygen accepts, and the number of all enumerators."""
     settings = "GENERATE_HTML = NO\nGENERATE_XML = YES\nWARN_AS_ERROR = NO\nOUTPUT_DIRECTORY = .\n"
     subprocess.run(["doxygen", "-"], cwd=tree, check=True, text=True, stderr=subprocess.DEVNULL,
                    input=(tree / "docs" / "Doxyfile").read_text(encoding="utf-8") + settings)
@@ -78,7 +78,7 @@ class Reference(unittest.TestCase):
         self.add("/// Values.\nenum Values {\n    undescribed\n};\n")
         self.assertEqual(undescribed_enumerators(self.tree)[0], ["undescribed"])
 
-    def test_a_link_that_leads_nowhere_is_refused(self):
+    def test_a_broken_link_is_refused(self):
         self.assert_refused("/// Gives #ZelData_Nothing.\nint described();\n", "ZelData_Nothing")
 
     def test_a_parameter_that_does_not_exist_is_refused(self):

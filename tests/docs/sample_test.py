@@ -1,4 +1,4 @@
-"""One sample of a document: run, and what comes out compared with what the document shows.
+"""Runs one sample of a document and compares its output with what the document shows.
 
 Usage: sample_test.py DOCUMENT SAMPLE PROGRAM"""
 

@@ -1,5 +1,5 @@
 /// @file
-/// Captions out of the cues of several languages.
+/// Merging the cues of several languages into captions.
 
 #include "CaptionMerger.h"
 
@@ -52,7 +52,7 @@ TEST(CaptionMerger, OtherStartOrEndDoesNotJoin)
               (Lines{"1-3 en:a", "1-2 de:b", "2-3 de:c"}));
 }
 
-TEST(CaptionMerger, OrderIsThatOfTheFilesAndUnsorted)
+TEST(CaptionMerger, KeepsTheOrderOfTheFilesWithoutSorting)
 {
     EXPECT_EQ(merge({fileOf("en", {{5, 6, "a"}, {1, 2, "b"}}), fileOf("de", {{3, 4, "c"}})}),
               (Lines{"5-6 en:a", "1-2 en:b", "3-4 de:c"}));
@@ -90,7 +90,7 @@ TEST(CaptionMerger, LanguagesAreComparedByteForByte)
               (Lines{"1-2 en:a EN:b"}));
 }
 
-TEST(CaptionMerger, ManyCuesAtTheSameTimeTakeNoLongTime)
+TEST(CaptionMerger, ManyCuesAtTheSameTimeAreMergedQuickly)
 {
     const CueFile en = fileOf("en", std::vector<Cue>(200'000, Cue{1, 2, "a"}));
     const CueFile de = fileOf("de", std::vector<Cue>(200'000, Cue{1, 2, "b"}));

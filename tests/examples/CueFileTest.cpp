@@ -1,5 +1,5 @@
 /// @file
-/// What becomes of the cues of a file.
+/// Reading the cues of a file.
 
 #include "CueFile.h"
 
@@ -29,7 +29,7 @@ const std::string bytes = "00:01.000 --> 00:02.000\n<i>a</i>\n\n"
                           "00:04.000 --> 00:04.000\nno length\n\n"
                           "broken --> line\n";
 
-TEST(MakeCueFile, TextStaysAsItStandsWithoutOptions)
+TEST(MakeCueFile, TextIsUnchangedWithoutOptions)
 {
     const CueFile file = makeCueFile("f", bytes, optionsOf(false, false));
     ASSERT_EQ(file.cues.size(), 3U);
@@ -71,7 +71,7 @@ TEST(MakeCueFile, CuesWithoutLengthDoNotCountForTheLastEnd)
     EXPECT_FALSE(makeCueFile("f", "00:04.000 --> 00:04.000\n", Options()).lastEnd.has_value());
 }
 
-TEST(MakeCueFile, EntitiesAreDecodedInWebVttAlone)
+TEST(MakeCueFile, EntitiesAreDecodedOnlyInWebVtt)
 {
     const std::string cue = "\n00:01.000 --> 00:02.000\n&amp;";
     EXPECT_EQ(makeCueFile("f", "WEBVTT\n" + cue, optionsOf(true, false)).cues.at(0).text, "&");

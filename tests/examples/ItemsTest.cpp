@@ -17,7 +17,7 @@ TEST_F(ItemsTest, WithoutCaptionFilesThereAreNoCaptions)
     EXPECT_EQ(tracks(), "");
 }
 
-TEST_F(ItemsTest, LanguagesOfACaptionComeTogether)
+TEST_F(ItemsTest, LanguagesOfACaptionAreJoined)
 {
     const std::string en = write("en.srt", "1\n00:00:01,000 --> 00:00:03,000\nrain\n");
     const std::string de = write("de.vtt", "WEBVTT\n\n00:01.000 --> 00:03.000\nRegen\n");
@@ -67,7 +67,7 @@ TEST_F(ItemsTest, CaptionsAreHandedOverUnsorted)
                                      captionMarker("5000", "1000", captionText("en", "a"))));
 }
 
-TEST_F(ItemsTest, TextGoesInAsItStands)
+TEST_F(ItemsTest, TextIsWrittenUnchanged)
 {
     const std::string en =
         write("en.vtt", "WEBVTT\n\n00:01.000 --> 00:03.000\n<i>a</i> &amp; {\\an8}\"b\"\n");
@@ -111,7 +111,7 @@ TEST_F(ItemsTest, SkipEmptyMakesNoItemFromEmptyCuesOfAllFiles)
                             screenTrack(screenMarker("x", "4000", "2000", "0")));
 }
 
-TEST_F(ItemsTest, CueThatOnlyHeldMarkupIsSkippedInPlainTextAlone)
+TEST_F(ItemsTest, CueThatOnlyHeldMarkupIsSkippedOnlyInPlainText)
 {
     const std::string file = write("a.srt", "00:01.000 --> 00:03.000\n<i> </i>\n");
     publish({"--skip-empty", "en=" + file});

@@ -30,7 +30,7 @@ Options parseAll(const Words& words)
     return parseOptions(static_cast<int>(arguments.size()), arguments.data());
 }
 
-/// Parses @p words after what is required.
+/// Parses @p words after the required options.
 Options parse(const Words& words)
 {
     Words all{"-o", "out.xmp", "--size", "640x480"};
@@ -38,7 +38,7 @@ Options parse(const Words& words)
     return parseAll(all);
 }
 
-/// The message of the failure that @p words lead to, alone on the command line.
+/// The error message of @p words alone on the command line.
 std::string failureOfAll(const Words& words)
 {
     try {
@@ -49,7 +49,7 @@ std::string failureOfAll(const Words& words)
     return "(no failure)";
 }
 
-/// The message of the failure that @p words lead to after what is required.
+/// The error message of @p words after the required options.
 std::string failureOf(const Words& words)
 {
     Words all{"-o", "out.xmp", "--size", "640x480"};
@@ -122,25 +122,25 @@ TEST(OptionValues, EveryOptionReachesItsField)
     EXPECT_TRUE(options.skipEmpty);
 }
 
-/// Values that argument libraries like to take apart.
+/// Values that argument libraries tend to split.
 const Words wholeValues{"",    "-",     "--", "-x",    "--creator", "[a,b]", "[a", "a,b",
                         ",",   "\"q\"", "\"", "'x'",   "'",         "`",     "{}", "%%",
                         "a b", " a ",   "=",  "a=b",   "==",        "@file", "/x", "\\",
                         "\\n", "a;b",   "#x", "$HOME", "*",         "true",  "0"};
 
-TEST(OptionValues, AreTakenWholeAfterABlank)
+TEST(OptionValues, AreNotSplitAfterABlank)
 {
     for (const std::string& value : wholeValues)
         EXPECT_EQ(parse({"--title", value}).title, value);
 }
 
-TEST(OptionValues, AreTakenWholeAfterAnEqualsSign)
+TEST(OptionValues, AreNotSplitAfterAnEqualsSign)
 {
     for (const std::string& value : wholeValues)
         EXPECT_EQ(parse({"--title=" + value}).title, value);
 }
 
-TEST(OptionValues, AreTakenWholeByRepeatedOptions)
+TEST(OptionValues, AreNotSplitByRepeatedOptions)
 {
     for (const std::string& value : wholeValues) {
         const Options options = parse(
@@ -150,7 +150,7 @@ TEST(OptionValues, AreTakenWholeByRepeatedOptions)
     }
 }
 
-TEST(OptionValues, AreTakenWholeAsFileNames)
+TEST(OptionValues, AreNotSplitAsFileNames)
 {
     for (const std::string& value : wholeValues) {
         EXPECT_EQ(parse({"en=" + value}).captions.at(0).path, value);
@@ -158,7 +158,7 @@ TEST(OptionValues, AreTakenWholeAsFileNames)
     }
 }
 
-TEST(OptionValues, LongValueIsTakenWhole)
+TEST(OptionValues, LongValueIsNotCutOff)
 {
     const std::string value(1'000'000, ',');
     EXPECT_EQ(parse({"--title=" + value}).title, value);
@@ -176,7 +176,7 @@ TEST(OptionValues, FileNamesKeepTheirControlCharacters)
     EXPECT_EQ(parseAll({"-o", "a\tb", "--size=1x1"}).output, "a\tb");
 }
 
-TEST(OptionValues, EnvironmentIsNotLookedAt)
+TEST(OptionValues, EnvironmentIsIgnored)
 {
     ::setenv("TITLE", "from outside", 1);
     ::setenv("PUBLISH_VIDEO_TITLE", "from outside", 1);
@@ -255,7 +255,7 @@ TEST(Numbers, SizeIsTwoNumbersAroundAnX)
         EXPECT_THAT(failureOfAll({"-o", "x", "--size=" + bad}), HasSubstr("--size")) << bad;
 }
 
-TEST(LanguageFiles, LanguageStandsBeforeTheFirstEqualsSign)
+TEST(LanguageFiles, LanguageEndsAtTheFirstEqualsSign)
 {
     const Options options = parse({"de=a=b.srt", "pt-BR=c"});
     ASSERT_EQ(options.captions.size(), 2U);
@@ -282,7 +282,7 @@ TEST(LanguageFiles, ArgumentWithoutEqualsSignIsRefused)
     EXPECT_THAT(failureOf({"-"}), HasSubstr("'-'"));
 }
 
-TEST(LanguageFiles, SameLanguageMayComeTwice)
+TEST(LanguageFiles, SameLanguageMayBeGivenTwice)
 {
     EXPECT_EQ(parse({"de=a", "de=b"}).captions.size(), 2U);
 }
@@ -297,7 +297,7 @@ TEST(LanguageFiles, TableOfContentsIsEnglishWithoutALanguage)
     EXPECT_EQ(french.toc->path, "a=b.vtt");
 }
 
-TEST(ArgumentBytes, WhatIsNotStrictUtf8IsRefusedByName)
+TEST(ArgumentBytes, BytesThatAreNotStrictUtf8AreRefusedByName)
 {
     for (const std::string bad : {"\xFF", "\xED\xA0\x80", "\xC0\xAF", "\xF4\x90\x80\x80"}) {
         for (const std::string option :
@@ -309,7 +309,7 @@ TEST(ArgumentBytes, WhatIsNotStrictUtf8IsRefusedByName)
     }
 }
 
-TEST(Help, AsksForNothingElse)
+TEST(Help, NeedsNoOtherOption)
 {
     EXPECT_TRUE(parseAll({"--help"}).help);
 }

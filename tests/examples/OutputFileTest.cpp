@@ -1,5 +1,5 @@
 /// @file
-/// The replacement of a file.
+/// Replacing a file.
 
 #include "OutputFile.h"
 
@@ -34,7 +34,7 @@ TEST_F(OutputFileTest, RegularFileIsReplaceable)
     EXPECT_EQ(replaceableFile(file), fs::canonical(file));
 }
 
-TEST_F(OutputFileTest, FileToBeMadeIsReplaceable)
+TEST_F(OutputFileTest, MissingFileIsReplaceable)
 {
     EXPECT_EQ(replaceableFile(pathOf("a")), fs::canonical(pathOf(".")) / "a");
 }
@@ -47,7 +47,7 @@ TEST_F(OutputFileTest, LinksAreFollowed)
     EXPECT_EQ(replaceableFile(pathOf("c")), fs::canonical(pathOf("a")));
 }
 
-TEST_F(OutputFileTest, LinkToAFileToBeMadeIsFollowed)
+TEST_F(OutputFileTest, LinkToAMissingFileIsFollowed)
 {
     fs::create_symlink("a", pathOf("b"));
     EXPECT_EQ(replaceableFile(pathOf("b")), fs::canonical(pathOf(".")) / "a");
@@ -88,7 +88,7 @@ TEST_F(OutputFileTest, UnusedReplacementIsRemoved)
     EXPECT_TRUE(names().empty());
 }
 
-TEST_F(OutputFileTest, ReplacementTakesThePlace)
+TEST_F(OutputFileTest, ReplacementReplacesTheFile)
 {
     write("a", "old");
     ReplacementFile file(pathOf("a"), "a");
@@ -100,7 +100,7 @@ TEST_F(OutputFileTest, ReplacementTakesThePlace)
     EXPECT_EQ(names(), (std::vector<std::string>{"a"}));
 }
 
-TEST_F(OutputFileTest, ReplacementTakesThePermissions)
+TEST_F(OutputFileTest, ReplacementKeepsThePermissions)
 {
     write("a", "old");
     fs::permissions(pathOf("a"), static_cast<fs::perms>(0640));

@@ -1,5 +1,5 @@
 /// @file
-/// Where the program writes to, and what it leaves there when it fails.
+/// Where the program writes, and what it leaves there when it fails.
 
 #include "examples/ProgramRunner.h"
 
@@ -18,7 +18,7 @@ namespace {
 
 class OutputTest : public ProgramRunner {
 protected:
-    /// Runs @p script, where "$0" is the program and "$@" what it needs besides an output.
+    /// Runs @p script, where "$0" is the program and "$@" are its required options except the output.
     static RunResult shell(const std::string& script)
     {
         return runShell(script, {"--size", "1x1", "--length", "1"});
@@ -143,7 +143,7 @@ TEST_F(OutputTest, ClosedPipeIsAFailure)
 {
     const std::string pipe = pathOf("pipe");
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    // The reader closes its end at once; the packet is larger than what a pipe takes unread.
+    // The reader closes its end at once; the packet is larger than the buffer of a pipe.
     const RunResult done =
         shell("true <'" + pipe + "' & \"$0\" -o '" + pipe + "' \"$@\" --title \"$(" +
               "head -c 100000 /dev/zero | tr '\\0' t)\"");

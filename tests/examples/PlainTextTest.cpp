@@ -1,5 +1,5 @@
 /// @file
-/// The removal of markup.
+/// Removing markup.
 
 #include "PlainText.h"
 
@@ -20,7 +20,7 @@ std::string webVtt(const std::string& text)
     return plainText(text, true);
 }
 
-TEST(PlainText, TagsGo)
+TEST(PlainText, TagsAreRemoved)
 {
     EXPECT_EQ(srt("<i>a</i> <font color=\"red\">b</font>"), "a b");
     EXPECT_EQ(webVtt("<v Ann>a<00:01.000> <c.x>b</c>"), "a b");
@@ -44,7 +44,7 @@ TEST(PlainText, TagEndsAtTheNextClosingOne)
     EXPECT_EQ(srt("<a<b>c>d"), "c>d");
 }
 
-TEST(PlainText, OverrideBlocksGo)
+TEST(PlainText, OverrideBlocksAreRemoved)
 {
     EXPECT_EQ(srt("{\\an8}a{\\i1}b{\\i0}"), "ab");
     EXPECT_EQ(srt("a{\\x\ny}b"), "ab");
@@ -70,7 +70,7 @@ TEST(PlainText, WhatOpensFirstWins)
     EXPECT_EQ(srt("<a {\\b}c"), "<a c");
 }
 
-TEST(PlainText, ResultIsNotLookedAtAgain)
+TEST(PlainText, ResultIsNotScannedAgain)
 {
     EXPECT_EQ(srt("<<a>b>"), "b>");
     EXPECT_EQ(srt("{<a>\\b}"), "{\\b}");
@@ -93,14 +93,14 @@ TEST(PlainText, OtherEntitiesStay)
     EXPECT_EQ(webVtt("&quot;&apos;&#65;&AMP;&amp &lt"), "&quot;&apos;&#65;&AMP;&amp &lt");
 }
 
-TEST(PlainText, CharacterOfAnEntityIsNotLookedAtAgain)
+TEST(PlainText, CharacterOfAnEntityIsNotScannedAgain)
 {
     EXPECT_EQ(webVtt("&amp;lt;"), "&lt;");
     EXPECT_EQ(webVtt("&lt;i&gt;a"), "<i>a");
     EXPECT_EQ(webVtt("&lt;i>a"), "<i>a");
 }
 
-TEST(PlainText, EntitiesInsideMarkupGoWithIt)
+TEST(PlainText, EntitiesInsideMarkupAreRemovedWithIt)
 {
     EXPECT_EQ(webVtt("<v A&amp;B>a{\\&gt;}b"), "ab");
 }
@@ -110,7 +110,7 @@ TEST(PlainText, EntityDoesNotCloseMarkup)
     EXPECT_EQ(webVtt("<a&gt;b"), "<a>b");
 }
 
-TEST(PlainText, BlanksAtLineEndsGoOnceMore)
+TEST(PlainText, BlanksAtLineEndsAreRemovedAgain)
 {
     EXPECT_EQ(srt("a <i>\nb\t</i>\nc"), "a\nb\nc");
     EXPECT_EQ(srt("<b> </b>"), "");
@@ -126,7 +126,7 @@ TEST(PlainText, NoBreakSpaceAtALineEndStays)
     EXPECT_EQ(webVtt("a&nbsp;"), "a\xC2\xA0");
 }
 
-TEST(PlainText, ManyOpeningsTakeNoLongTime)
+TEST(PlainText, ManyOpeningsAreScannedQuickly)
 {
     std::string openings;
     for (int i = 0; i < 1'000'000; ++i)

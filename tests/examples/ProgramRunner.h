@@ -1,5 +1,5 @@
 /// @file
-/// Runs the built program in a folder of its own.
+/// Runs the built program in a temporary folder.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_EXAMPLES_PROGRAMRUNNER_H
 #define ZELINTERCHANGEDATA_TESTS_EXAMPLES_PROGRAMRUNNER_H
@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// What a run of the program left.
+/// The result of a run of the program.
 struct RunResult {
     /// The exit status; negative when a signal ended the run.
     int status = -1;
@@ -20,7 +20,7 @@ struct RunResult {
 
 std::string contentsOf(const std::filesystem::path& file);
 
-/// Runs a command; with @p script it is a shell's, where "$@" stands for @p words.
+/// Runs the shell script @p script, in which "$@" stands for @p words.
 RunResult runShell(const std::string& script, const std::vector<std::string>& words);
 
 /// A test with a temporary folder and the program.
@@ -31,14 +31,14 @@ protected:
     ProgramRunner(const ProgramRunner&) = delete;
     ProgramRunner& operator=(const ProgramRunner&) = delete;
 
-    /// The path of a file of the folder.
+    /// The path of a file in the folder.
     std::string pathOf(const std::string& name) const { return (folder_ / name).string(); }
-    /// Makes a file of the folder; answers its path.
+    /// Makes a file in the folder; returns its path.
     std::string write(const std::string& name, const std::string& bytes) const;
     /// The names of the folder's files, in order.
     std::vector<std::string> names() const;
 
-    /// Runs the program with nothing but @p words.
+    /// Runs the program with @p words only.
     static RunResult runAlone(const std::vector<std::string>& words);
     /// Runs the program with an output in the folder, a size, and @p words.
     RunResult run(const std::vector<std::string>& words) const;

@@ -1,5 +1,5 @@
 /// @file
-/// What the program says about its work.
+/// The report that the program prints.
 
 #include "examples/ProgramRunner.h"
 
@@ -26,17 +26,16 @@ TEST_F(ReportTest, WholeReport)
     const RunResult done = publish({"--toc", toc, "--screen-text", screen, "en=" + en, "de=" + de});
     const std::string size = std::to_string(contentsOf(pathOf("out.xmp")).size());
     EXPECT_EQ(done.out, "");
-    EXPECT_EQ(done.err,
-              "en=" + en + ": 4 cues taken, 1 malformed, 1 without length, 1 empty (taken)\n" +
-                  "de=" + de + ": 1 cues taken, 0 malformed, 0 without length, 0 empty (taken)\n" +
-                  "--toc " + toc +
-                  ": 1 cues taken, 0 malformed, 0 without length, 0 empty (taken)\n" +
-                  "--screen-text " + screen +
-                  ": 0 cues taken, 1 malformed, 0 without length, 0 empty (taken)\n" +
-                  "caption at 2000 ms: too short (900 ms)\n" +
-                  "caption at 3000 ms: too many lines (5 in en), overlap with the caption at 4500 "
-                  "ms\n" +
-                  "languages: de, en\n" + size + " bytes written to " + pathOf("out.xmp") + "\n");
+    EXPECT_EQ(
+        done.err,
+        "en=" + en + ": 4 cues used, 1 malformed, 1 without length, 1 empty (used)\n" + "de=" + de +
+            ": 1 cues used, 0 malformed, 0 without length, 0 empty (used)\n" + "--toc " + toc +
+            ": 1 cues used, 0 malformed, 0 without length, 0 empty (used)\n" + "--screen-text " +
+            screen + ": 0 cues used, 1 malformed, 0 without length, 0 empty (used)\n" +
+            "caption at 2000 ms: too short (900 ms)\n" +
+            "caption at 3000 ms: too many lines (5 in en), overlap with the caption at 4500 "
+            "ms\n" +
+            "languages: de, en\n" + size + " bytes written to " + pathOf("out.xmp") + "\n");
 }
 
 TEST_F(ReportTest, SkippedCuesAreLeftOut)
@@ -44,8 +43,8 @@ TEST_F(ReportTest, SkippedCuesAreLeftOut)
     const std::string en = write("en.srt", "00:01.000 --> 00:02.000\n\n"
                                            "00:02.000 --> 00:03.000\nx\n");
     const RunResult done = publish({"--skip-empty", "en=" + en});
-    EXPECT_THAT(done.err, HasSubstr(": 1 cues taken, 0 malformed, 0 without length, 1 empty (left "
-                                    "out)\n"));
+    EXPECT_THAT(done.err,
+                HasSubstr(": 1 cues used, 0 malformed, 0 without length, 1 empty (skipped)\n"));
 }
 
 TEST_F(ReportTest, GoodCaptionsAreNotMentioned)
@@ -65,7 +64,7 @@ TEST_F(ReportTest, EveryReasonIsGiven)
                           "many lines (5 in en), overlap with the caption at 1998 ms\n"));
 }
 
-TEST_F(ReportTest, OverlapIsLookedForInOrderOfStart)
+TEST_F(ReportTest, OverlapIsCheckedInOrderOfStart)
 {
     const std::string en = write("en.srt", "00:05.000 --> 00:06.000\na\n\n"
                                            "00:01.000 --> 00:05.001\nb\n");
@@ -98,7 +97,7 @@ TEST_F(ReportTest, LanguageOfAPacketWithoutCaptionsIsNamed)
 TEST_F(ReportTest, FileNameStaysOnItsLine)
 {
     const std::string file = write("a\nb.srt", "00:01.000 --> 00:02.000\nx\n");
-    EXPECT_THAT(publish({"en=" + file}).err, HasSubstr("a\\x0Ab.srt: 1 cues taken"));
+    EXPECT_THAT(publish({"en=" + file}).err, HasSubstr("a\\x0Ab.srt: 1 cues used"));
 }
 
 } // namespace

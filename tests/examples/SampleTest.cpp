@@ -24,7 +24,7 @@ protected:
 
 std::string count(const std::string& file, const std::string& counts)
 {
-    return folder + file + ": " + counts + " empty (left out)\n";
+    return folder + file + ": " + counts + " empty (skipped)\n";
 }
 
 TEST_F(SampleTest, ReportNamesEveryIrregularity)
@@ -33,14 +33,13 @@ TEST_F(SampleTest, ReportNamesEveryIrregularity)
     EXPECT_EQ(done.status, 0);
     const std::string bytes = std::to_string(contentsOf(pathOf("out.xmp")).size());
     EXPECT_EQ(done.err,
-              "en=" + count("en.srt", "7 cues taken, 1 malformed, 1 without length, 1") +
-                  "de=" + count("de.srt", "7 cues taken, 0 malformed, 0 without length, 0") +
-                  "ja=" + count("ja.vtt", "6 cues taken, 0 malformed, 0 without length, 0") +
-                  "ar=" + count("ar.vtt", "3 cues taken, 0 malformed, 0 without length, 0") +
-                  "--toc " +
-                  count("chapters.en.vtt", "4 cues taken, 0 malformed, 0 without length, 0") +
+              "en=" + count("en.srt", "7 cues used, 1 malformed, 1 without length, 1") +
+                  "de=" + count("de.srt", "7 cues used, 0 malformed, 0 without length, 0") +
+                  "ja=" + count("ja.vtt", "6 cues used, 0 malformed, 0 without length, 0") + "ar=" +
+                  count("ar.vtt", "3 cues used, 0 malformed, 0 without length, 0") + "--toc " +
+                  count("chapters.en.vtt", "4 cues used, 0 malformed, 0 without length, 0") +
                   "--screen-text " +
-                  count("screen.srt", "4 cues taken, 0 malformed, 0 without length, 0") +
+                  count("screen.srt", "4 cues used, 0 malformed, 0 without length, 0") +
                   "caption at 6400 ms: too short (750 ms)\n"
                   "caption at 7500 ms: too many lines (5 in en)\n"
                   "caption at 13000 ms: overlap with the caption at 16000 ms\n"

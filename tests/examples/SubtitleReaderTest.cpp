@@ -1,5 +1,5 @@
 /// @file
-/// Cues out of SRT and WebVTT files.
+/// Reading cues from SRT and WebVTT files.
 
 #include "SubtitleReader.h"
 
@@ -51,7 +51,7 @@ void expectTiming(const std::string& line, long long start, long long end)
     EXPECT_EQ(subtitles.malformed, 0U) << line;
 }
 
-/// Expects that @p line is malformed and takes its text along.
+/// Expects that @p line is malformed, and that its text is dropped with it.
 void expectMalformed(const std::string& line)
 {
     const Subtitles subtitles = read(line + "\nlost\n\n00:09.000 --> 00:10.000\nkept\n");
@@ -96,7 +96,7 @@ TEST(FileKind, NoncharactersDoNotHideTheSignature)
     EXPECT_TRUE(read("WEB\xEF\xBF\xBEVTT\n").isWebVtt);
 }
 
-TEST(FileBytes, WhatIsNotStrictUtf8IsRefused)
+TEST(FileBytes, BytesThatAreNotStrictUtf8AreRefused)
 {
     EXPECT_FALSE(readSubtitles("1\n00:01.000 --> 00:02.000\n\xED\xA0\x80").has_value());
     EXPECT_FALSE(readSubtitles("\xC0\xAF").has_value());
@@ -174,13 +174,13 @@ TEST(TimingLine, PointAndCommaAreAlike)
     expectTiming("00:01,500 --> 00:02.500", 1500, 2500);
 }
 
-TEST(TimingLine, FractionIsFilledUpOnTheRight)
+TEST(TimingLine, FractionIsPaddedOnTheRight)
 {
     expectTiming("00:01.5 --> 00:02.05", 1500, 2050);
     expectTiming("00:01.050 --> 00:02.005", 1050, 2005);
 }
 
-TEST(TimingLine, BlanksAndTabsMayStandAround)
+TEST(TimingLine, BlanksAndTabsAroundItAreIgnored)
 {
     expectTiming(" \t00:01.000 \t --> \t 00:02.000\t", 1000, 2000);
     expectTiming("00:01.000-->00:02.000", 1000, 2000);
@@ -291,7 +291,7 @@ TEST(CueText, MayBeEmpty)
     EXPECT_EQ(cuesOf("00:01.000 --> 00:02.000"), (Cues{{1000, 2000, ""}}));
 }
 
-TEST(CueText, BlanksAndTabsAtLineEndsGo)
+TEST(CueText, BlanksAndTabsAtLineEndsAreRemoved)
 {
     EXPECT_EQ(cuesOf("00:01.000 --> 00:02.000\n  a \t\n\tb\t \nc"),
               (Cues{{1000, 2000, "  a\n\tb\nc"}}));
@@ -326,7 +326,7 @@ TEST(BeforeACue, ArrowInANoteOpensACue)
     EXPECT_EQ(subtitles.malformed, 1U);
 }
 
-TEST(LargeFiles, LongLinesTakeNoLongTime)
+TEST(LargeFiles, LongLinesAreReadQuickly)
 {
     const std::string digits(4'000'000, '0');
     const Subtitles subtitles =

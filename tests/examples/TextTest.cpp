@@ -1,5 +1,5 @@
 /// @file
-/// Strict UTF-8, and what is dropped from texts.
+/// Strict UTF-8, and the characters dropped from texts.
 
 #include "Text.h"
 
@@ -58,7 +58,7 @@ TEST(StrictUtf8, StrayAndMissingContinuationBytesAreRefused)
 {
     EXPECT_FALSE(isStrictUtf8("a\x80"));
     EXPECT_FALSE(isStrictUtf8("\xC3"));
-    EXPECT_FALSE(isStrictUtf8("\xC3(")); // NOLINT(bugprone-suspicious-string-literal): meant
+    EXPECT_FALSE(isStrictUtf8("\xC3(")); // NOLINT(bugprone-suspicious-string-literal): deliberate
     EXPECT_FALSE(isStrictUtf8("\xE2\x82"));
     EXPECT_FALSE(isStrictUtf8("\xE2\x82z"));
     EXPECT_FALSE(isStrictUtf8("\xF0\x9F\x98"));

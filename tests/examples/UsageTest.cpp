@@ -1,5 +1,5 @@
 /// @file
-/// The program's arguments and the header that they make.
+/// The program's arguments and the resulting header.
 
 #include "examples/ProgramRunner.h"
 
@@ -70,7 +70,7 @@ TEST_F(UsageTest, ValueMayBeginWithAHyphen)
     EXPECT_THAT(packet(), HasSubstr(" dc:title=\"-x\" "));
 }
 
-TEST_F(UsageTest, ValueIsTakenWhole)
+TEST_F(UsageTest, ValueIsNotSplit)
 {
     publish({"--title", "[a,b]", "--keyword", "c,[d]", "--content", "'e',{f}"});
     EXPECT_THAT(packet(), HasSubstr(" dc:title=\"[a,b]\" "));
@@ -79,7 +79,7 @@ TEST_F(UsageTest, ValueIsTakenWhole)
                                     "xmpDM:value=\"&apos;e&apos;,{f}\"></rdf:li></rdf:Seq>"));
 }
 
-TEST_F(UsageTest, ContentNamesThatOnlyControlCharactersTellApartAreOne)
+TEST_F(UsageTest, ContentNamesThatDifferOnlyInControlCharactersAreOne)
 {
     publish({"--content", "a\x01", "--content", "a"});
     EXPECT_THAT(packet(), HasSubstr("<rdf:Seq><rdf:li xmpDM:name=\"0\" xmpDM:value=\"a\">"

@@ -1,5 +1,5 @@
 /// @file
-/// The face when memory runs out, at each allocation of a call in turn.
+/// The face when memory runs out at each allocation of a call in turn.
 
 #include "ZelInterchangeData/ZelDataFace.h"
 #include "support/FailingAllocation.h"
@@ -40,10 +40,10 @@ Ending endingOf(const std::function<void()>& call, std::size_t granted, Shortage
     return ending;
 }
 
-/// Expects that each failure of memory is thrown to the caller, and that nothing leaks.
-void expectTold(const std::function<void()>& call)
+/// Expects that @p call throws if any of its allocations fails, and that nothing leaks.
+void expectThrown(const std::function<void()>& call)
 {
-    call(); // what it leaves in its object is there from here on
+    call(); // leaves its object in the same state for all later calls
     for (const auto shortage : {Shortage::Once, Shortage::Lasting}) {
         bool failed = true;
         for (std::size_t granted = 0; failed; ++granted) {
@@ -59,54 +59,54 @@ void expectTold(const std::function<void()>& call)
 }
 
 template <class Made>
-void expectFactoryTells(Made (*create)())
+void expectFactoryThrows(Made (*create)())
 {
-    expectTold([create] { create(); });
+    expectThrown([create] { create(); });
 }
 
 TEST(FaceWithoutMemory, FactoriesThrow)
 {
-    expectFactoryTells(createDocument);
-    expectFactoryTells(createHeader);
-    expectFactoryTells(createCaptions);
-    expectFactoryTells(createToc);
-    expectFactoryTells(createScreenText);
-    expectFactoryTells<std::unique_ptr<i_ZelDataCaptionItem>>(createCaptionItem);
-    expectFactoryTells<std::unique_ptr<i_ZelDataTocItem>>(createTocItem);
-    expectFactoryTells<std::unique_ptr<i_ZelDataScreenTextItem>>(createScreenTextItem);
-    expectTold([] { createHeaderFormatter(); });
-    expectTold([] { createCaptionFormatter(); });
-    expectTold([] { createTocFormatter(); });
-    expectTold([] { createScreenTextFormatter(); });
+    expectFactoryThrows(createDocument);
+    expectFactoryThrows(createHeader);
+    expectFactoryThrows(createCaptions);
+    expectFactoryThrows(createToc);
+    expectFactoryThrows(createScreenText);
+    expectFactoryThrows<std::unique_ptr<i_ZelDataCaptionItem>>(createCaptionItem);
+    expectFactoryThrows<std::unique_ptr<i_ZelDataTocItem>>(createTocItem);
+    expectFactoryThrows<std::unique_ptr<i_ZelDataScreenTextItem>>(createScreenTextItem);
+    expectThrown([] { createHeaderFormatter(); });
+    expectThrown([] { createCaptionFormatter(); });
+    expectThrown([] { createTocFormatter(); });
+    expectThrown([] { createScreenTextFormatter(); });
 }
 
 TEST(FaceWithoutMemory, FactoriesThatFillTheirItemThrow)
 {
-    expectTold([] { createCaptionItem(1, 2, {{longId, longText}, {"de", longText}}); });
-    expectTold([] { createTocItem(1, {{longId, longText}, {"de", longText}}); });
-    expectTold([] { createScreenTextItem(1, 2, longText); });
+    expectThrown([] { createCaptionItem(1, 2, {{longId, longText}, {"de", longText}}); });
+    expectThrown([] { createTocItem(1, {{longId, longText}, {"de", longText}}); });
+    expectThrown([] { createScreenTextItem(1, 2, longText); });
 }
 
 TEST(FaceWithoutMemory, OperationsAndGettersThrow)
 {
     const auto header = createHeader();
-    expectTold([&] { checked(*header).setTitle(longText); });
-    expectTold([&] { static_cast<void>(checked(*header).getTitle()); });
+    expectThrown([&] { checked(*header).setTitle(longText); });
+    expectThrown([&] { static_cast<void>(checked(*header).getTitle()); });
     const auto document = createDocument();
     checked(*header).setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
     checked(*document).setDataHeader(*header);
-    expectTold([&] { static_cast<void>(checked(*document).createDataHeader()); });
-    expectTold([&] { static_cast<void>(checked(*document).writeString()); });
+    expectThrown([&] { static_cast<void>(checked(*document).createDataHeader()); });
+    expectThrown([&] { static_cast<void>(checked(*document).writeString()); });
 }
 
 template <class Collection>
-void expectItemsTell(const Collection& collection)
+void expectItemsThrow(const Collection& collection)
 {
     EXPECT_EQ(2U, items(collection).size());
-    expectTold([&] { static_cast<void>(items(collection)); });
+    expectThrown([&] { static_cast<void>(items(collection)); });
 }
 
-TEST(FaceWithoutMemory, ItemsThrowAndNoneIsLeftBehind)
+TEST(FaceWithoutMemory, ItemsThrowAndLeakNothing)
 {
     const auto captions = createCaptions();
     const auto toc = createToc();
@@ -116,9 +116,9 @@ TEST(FaceWithoutMemory, ItemsThrowAndNoneIsLeftBehind)
         checked(*toc).addTocItem(*createTocItem(start, {{longId, longText}}));
         checked(*screenText).addScreenTextItem(*createScreenTextItem(start, 9, longText));
     }
-    expectItemsTell(*captions);
-    expectItemsTell(*toc);
-    expectItemsTell(*screenText);
+    expectItemsThrow(*captions);
+    expectItemsThrow(*toc);
+    expectItemsThrow(*screenText);
 }
 
 } // namespace

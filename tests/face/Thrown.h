@@ -14,7 +14,7 @@ namespace ZelInterchangeData {
 /// An operation and the name of its code.
 using Failure = std::pair<std::string, std::string>;
 
-/// What ZelDataError says that @p call throws; empty when it throws none.
+/// The operation and code of the ZelDataError that @p call throws; empty if it throws none.
 template <class Call>
 Failure thrownBy(Call&& call)
 {

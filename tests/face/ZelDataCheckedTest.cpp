@@ -1,5 +1,5 @@
 /// @file
-/// The views that throw where an operation fails.
+/// The views that throw when an operation fails.
 
 #include "ZelInterchangeData/ZelDataFace.h"
 #include "face/Thrown.h"
@@ -15,7 +15,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-TEST(CheckedHeader, JoinsOperationsAndReturnsValues)
+TEST(CheckedHeader, ChainsOperationsAndReturnsValues)
 {
     const auto header = createHeader();
     checked(*header).setTitle("t").setCreator("c").setKeywords({"a", "b"}).setVideoLength(7);
@@ -33,7 +33,7 @@ TEST(CheckedHeader, JoinsOperationsAndReturnsValues)
     EXPECT_FALSE(view.getShowSearchBar());
 }
 
-TEST(CheckedHeader, ThrowsAtTheFirstFailureAndDoesNoMore)
+TEST(CheckedHeader, ThrowsAtTheFirstFailureAndStops)
 {
     const auto header = createHeader();
     const auto call = [&] { checked(*header).setTitle("t").setVideoWidth(0).setCreator("c"); };
@@ -53,14 +53,14 @@ TEST(CheckedHeader, WarningsThrowUnlessTheyAreAllowed)
     EXPECT_EQ(1U, checked(*header).getContentNameCount());
 }
 
-TEST(CheckedHeader, ErrorsThrowWhereWarningsAreAllowed)
+TEST(CheckedHeader, ErrorsThrowEvenIfWarningsAreAllowed)
 {
     const auto header = createHeader();
     EXPECT_EQ((Failure{"addLanguage", "ZelData_UnknownLanguage"}),
               thrownBy([&] { checked(*header).allowWarnings().addLanguage("zz"); }));
 }
 
-TEST(CheckedHeader, AllowingWarningsLeavesTheViewThatWasAsked)
+TEST(CheckedHeader, AllowingWarningsDoesNotChangeTheOriginalView)
 {
     const auto header = createHeader();
     const auto strict = checked(*header).addContentName("a");
@@ -68,7 +68,7 @@ TEST(CheckedHeader, AllowingWarningsLeavesTheViewThatWasAsked)
     EXPECT_THROW(strict.addContentName("a"), ZelDataError);
 }
 
-TEST(CheckedHeader, BothCopiesAreThere)
+TEST(CheckedHeader, OffersBothCopies)
 {
     const auto source = createHeader();
     checked(*source).addLanguage("en").setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
@@ -90,7 +90,7 @@ TEST(CheckedCaptionItem, ReplacingATextIsAWarning)
         "c", checked(*item).allowWarnings().setTextForLanguage("c", "en").getTextForLanguage("en"));
 }
 
-TEST(CheckedCaptions, ColorsComeTogether)
+TEST(CheckedCaptions, ReturnAColorAsOneValue)
 {
     const auto captions = createCaptions();
     checked(*captions).setForegroundColor(0.25F, 0.5F, 0.75F).setBackgroundColor(1.0F, 0.0F, 0.5F);
@@ -139,7 +139,7 @@ public:
     }
 };
 
-TEST(CheckedCaptions, TakeANullItemForAnInternalError)
+TEST(CheckedCaptions, TreatANullItemAsAnInternalError)
 {
     const HollowCaptions captions;
     const long alive = FailingCaptionItem::alive();
@@ -148,7 +148,7 @@ TEST(CheckedCaptions, TakeANullItemForAnInternalError)
     EXPECT_EQ(alive, FailingCaptionItem::alive());
 }
 
-TEST(CheckedCaptions, AFailingValidityIsThrown)
+TEST(CheckedCaptions, ThrowWhenIsValidFails)
 {
     const auto captions = createCaptions();
     checked(*captions).addCaptionItem(*createCaptionItem(0, 999, {{"en", "a"}})).isValid(false);
@@ -156,7 +156,7 @@ TEST(CheckedCaptions, AFailingValidityIsThrown)
               thrownBy([&] { checked(*captions).isValid(true); }));
 }
 
-TEST(CheckedTocItem, TakesAllThatAnEntryHolds)
+TEST(CheckedTocItem, SetsEverythingThatAnEntryHolds)
 {
     const auto item = createTocItem(3, {{"en", "a"}});
     const auto view = checked(*item).setImageFile("f").setImageIndex(1).setImageOffset(2);
@@ -182,7 +182,7 @@ TEST(CheckedDocument, WritesAndReadsBackItsSets)
     EXPECT_EQ("t", checked(*read).getTitle());
 }
 
-TEST(CheckedDocument, TakesTheCodeThatWasReturnedWhereNoneWasStored)
+TEST(CheckedDocument, ThrowsTheReturnedCodeIfNoneWasStored)
 {
     const auto document = createDocument();
     EXPECT_EQ((Failure{"writeString", "ZelData_InvalidArgument"}),

@@ -1,5 +1,5 @@
 /// @file
-/// The exception, and the two tests of codes that throw it.
+/// The exception, and the two checks of codes that throw it.
 
 #include "ZelInterchangeData/ZelDataCheck.h"
 
@@ -26,7 +26,7 @@ TEST(ZelDataError, NamesTheOperationAndTheCode)
                  error.what());
 }
 
-TEST(ZelDataError, ShowsTheNumberOfAValueThatIsNoCode)
+TEST(ZelDataError, ShowsTheNumberOfAnUnknownCode)
 {
     const ZelDataError error(static_cast<ZelDataResult_tags>(0xC0FFEE12), "");
     EXPECT_EQ("", error.operation());
@@ -62,7 +62,7 @@ TEST(ZelDataError, MovedOrAssignedIsACopy)
 {
     ZelDataError original(ZelData_NoData, "getDataToc");
     const ZelDataError moved(std::move(original));
-    // NOLINTNEXTLINE(bugprone-use-after-move): deliberate: what was moved from stays whole.
+    // NOLINTNEXTLINE(bugprone-use-after-move): deliberate: a moved-from object keeps its value.
     EXPECT_EQ("getDataToc", original.operation());
     EXPECT_EQ("getDataToc", moved.operation());
     ZelDataError assigned(ZelData_Ok, "");
@@ -73,14 +73,14 @@ TEST(ZelDataError, MovedOrAssignedIsACopy)
     static_assert(std::is_nothrow_move_constructible_v<ZelDataError>);
 }
 
-TEST(Check, LetsSuccessAlonePass)
+TEST(Check, AcceptsOnlySuccess)
 {
     EXPECT_NO_THROW(check(ZelData_Ok, "x"));
     EXPECT_THROW(check(ZelData_WarnTiming, "x"), ZelDataError);
     EXPECT_THROW(check(ZelData_NoData, "x"), ZelDataError);
 }
 
-TEST(CheckError, LetsWarningsPass)
+TEST(CheckError, AcceptsWarnings)
 {
     EXPECT_NO_THROW(checkError(ZelData_Ok, "x"));
     EXPECT_NO_THROW(checkError(ZelData_WarnTiming, "x"));

@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto noFormat = static_cast<ZelDataFormatType_tags>(2);
 
-/// Expects that @p made is of the class that the factory @p create makes, and new.
+/// Expects that @p made is a new object of the class that the factory @p create makes.
 template <class Interface, class... Format>
 void expectMade(const std::unique_ptr<Interface>& made,
                 ZelDataResult_tags (*create)(Interface**, Format...), Format... format)
@@ -63,7 +63,7 @@ TEST(Factories, ThrowForAnotherFormat)
               thrownBy([] { static_cast<void>(createScreenTextFormatter(noFormat)); }));
 }
 
-TEST(MakeObject, ThrowsWhenMemoryIsGone)
+TEST(MakeObject, ThrowsWithoutMemory)
 {
     ZelDataResult_tags (*const exhausted)(i_ZelDataHeader**) = [](i_ZelDataHeader**) {
         return ZelData_OutOfMemory;
@@ -72,7 +72,7 @@ TEST(MakeObject, ThrowsWhenMemoryIsGone)
               thrownBy([&] { static_cast<void>(makeObject("create", exhausted)); }));
 }
 
-TEST(CreateCaptionItem, TakesTimesAndTexts)
+TEST(CreateCaptionItem, SetsTimesAndTexts)
 {
     const auto item = createCaptionItem(1500, 3500, {{"en", "Hello"}, {"de", "Hallo"}});
     EXPECT_EQ(1500, checked(*item).getStart());
@@ -81,7 +81,7 @@ TEST(CreateCaptionItem, TakesTimesAndTexts)
     EXPECT_EQ("Hallo", checked(*item).getTextForLanguage("de"));
 }
 
-TEST(CreateCaptionItem, TakesAnyContainerOfTexts)
+TEST(CreateCaptionItem, AcceptsAnyContainerOfTexts)
 {
     const std::map<std::string, std::string> texts = {{"en", "a"}, {"fr", "b"}};
     EXPECT_EQ((std::vector<std::string>{"en", "fr"}),
@@ -109,14 +109,14 @@ TEST(CreateCaptionItem, ALanguageGivenTwiceThrows)
               }));
 }
 
-TEST(CreateTocItem, TakesStartAndTexts)
+TEST(CreateTocItem, SetsStartAndTexts)
 {
     const auto item = createTocItem(45000, {{"en", "Setup"}});
     EXPECT_EQ(45000, checked(*item).getStart());
     EXPECT_EQ("Setup", checked(*item).getTextForLanguage("en"));
 }
 
-TEST(CreateScreenTextItem, TakesTimesTextAndEntry)
+TEST(CreateScreenTextItem, SetsTimesTextAndEntry)
 {
     const auto item = createScreenTextItem(10, 30, "File > New", 4);
     EXPECT_EQ(10, checked(*item).getStart());

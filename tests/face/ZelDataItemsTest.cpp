@@ -43,7 +43,7 @@ TEST(Items, AreThoseOfScreenTextInStoredOrder)
     EXPECT_EQ(Times{2}, startsOf(*screenText));
 }
 
-TEST(Items, OfAnEmptyCollectionAreNone)
+TEST(Items, AreNoneForAnEmptyCollection)
 {
     EXPECT_EQ(Times{}, startsOf(*createCaptions()));
 }

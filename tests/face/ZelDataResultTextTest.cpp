@@ -1,5 +1,5 @@
 /// @file
-/// The words for the result codes.
+/// The names and descriptions of the result codes.
 
 #include "ZelInterchangeData/ZelDataResultText.h"
 
@@ -17,7 +17,7 @@ struct ListedCode {
     const char* name;
 };
 
-/// The codes as they are read out of the header that defines them.
+/// The codes in the header that defines them.
 constexpr ListedCode listedCodes[] = {
 #define LISTED_CODE(code) {code, #code},
 #include "face/ListedCodes.inc"
@@ -32,12 +32,12 @@ TEST(ResultText, NamesEveryCodeOfTheHeader)
         EXPECT_STREQ(name, toString(code));
 }
 
-TEST(ResultText, HasNoCodeThatTheHeaderHasNot)
+TEST(ResultText, HasOnlyCodesOfTheHeader)
 {
     EXPECT_EQ(std::size(listedCodes), std::size(zelDataResultTexts));
 }
 
-TEST(ResultText, DescribesEachCodeInOneSentenceOfItsOwn)
+TEST(ResultText, DescribesEachCodeInItsOwnSentence)
 {
     std::set<std::string> sentences;
     for (const auto& listed : listedCodes) {
@@ -50,7 +50,7 @@ TEST(ResultText, DescribesEachCodeInOneSentenceOfItsOwn)
     EXPECT_TRUE(sentences.insert(describe(noCode)).second);
 }
 
-TEST(ResultText, SaysOfAnyOtherValueThatItIsNoCode)
+TEST(ResultText, DescribesAnyOtherValueAsUnknown)
 {
     for (const unsigned value : {1U, 0x40000000U, 0x40000005U, 0x80000000U, 0x80000001U,
                                  0x8000000FU, 0xC0000001U, 0xFFFFFFFFU}) {
@@ -60,7 +60,7 @@ TEST(ResultText, SaysOfAnyOtherValueThatItIsNoCode)
     }
 }
 
-TEST(ResultText, GivesTheWordsOfAFewCodes)
+TEST(ResultText, NamesAndDescribesAFewCodes)
 {
     EXPECT_STREQ("ZelData_Ok", toString(ZelData_Ok));
     EXPECT_STREQ("The operation succeeded.", describe(ZelData_Ok));
@@ -68,7 +68,7 @@ TEST(ResultText, GivesTheWordsOfAFewCodes)
     EXPECT_STREQ("The text is not well-formed UTF-8.", describe(ZelData_InvalidUtf8));
 }
 
-TEST(ResultText, IsThereAtCompileTimeAndThrowsNothing)
+TEST(ResultText, WorksAtCompileTimeAndIsNoexcept)
 {
     static_assert(toString(ZelData_NoData)[8] == 'N');
     static_assert(describe(noCode)[0] == 'T');

@@ -1,4 +1,4 @@
-"""The example of a complete document: its length, the file it writes, and what it leaves exported."""
+"""Tests the example of a complete document: its length, the file it writes, and its symbols."""
 
 import os
 import re
@@ -39,14 +39,14 @@ class CompleteDocument(unittest.TestCase):
     def test_the_program_is_short(self):
         self.assertLessEqual(len(SOURCE.read_text(encoding="utf-8").splitlines()), LONGEST)
 
-    def test_what_the_face_brings_is_inline(self):
-        """Only weak symbols: two parts of a program that use the face do not collide."""
+    def test_the_face_defines_only_inline_functions(self):
+        """Weak symbols let several parts of a program use the face without collisions."""
         result = subprocess.run([NM, "--defined-only", "--demangle", PROGRAM],
                                 capture_output=True, text=True, check=True)
         ours = [line.split(maxsplit=2)[1:] for line in result.stdout.splitlines()
                 if "ZelInterchangeData::" in line]
         self.assertTrue(ours)
-        # A local constant of this one program ("r", "t") is seen by no other part either.
+        # Local symbols of this program ("r", "t") are invisible to other parts, too.
         self.assertEqual([name for kind, name in ours if kind not in "WVuwvrtdb"], [])
 
 

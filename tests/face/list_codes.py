@@ -1,4 +1,4 @@
-"""Writes a macro call for each result code that the header lists.
+"""Writes a macro call for each result code in the header.
 
 Usage: list_codes.py HEADER OUTPUT"""
 

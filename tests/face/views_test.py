@@ -1,5 +1,5 @@
-"""The checked views against the slot lists: each operation of an interface is in its view, and
-each function of a view calls the operation of its own name and names it so in the exception."""
+"""Compares the checked views with the slot lists: each operation of an interface is in its view, and
+each function of a view calls the operation of the same name and puts this name in the exception."""
 
 import os
 import re
@@ -9,7 +9,7 @@ from pathlib import Path
 HEADERS = Path(os.environ["HEADERS"])
 SLOTS = Path(os.environ["SLOTS"])
 
-# i_ZelDataResult has no view: a code that was thrown needs no last error.
+# i_ZelDataResult has no view: the exception carries the code, so you need no last error.
 VIEWS = {
     "i_ZelDataLanguage": "ZelDataCheckedLanguage",
     "i_ZelDataHeader": "ZelDataCheckedHeader",
@@ -27,12 +27,12 @@ VIEWS = {
     "i_ZelInterchangeDataCore": "ZelDataCheckedDocument",
 }
 FUNCTION = re.compile(r"\b(\w+)\(([^{}();]*)\) const\s*\{(.*?)\n?\s*\}", re.DOTALL)
-# A function that only gives another one of the view a default.
+# A function that only passes a default to another function of the view.
 FORWARDED = re.compile(r"\n\s+writeString\(out, format, false\);")
 
 
 def listed(interface):
-    """The operations that the interface itself declares, in slot order, without the destructor."""
+    """The operations that the interface declares itself, in slot order, without the destructor."""
     lines = (SLOTS / f"{interface}.txt").read_text(encoding="ascii").splitlines()
     operations = [re.match(r"ZelDataResult_tags (\w+)\(", line) for line in lines]
     return [operation[1] for operation in operations if operation]
@@ -50,12 +50,12 @@ class Views(unittest.TestCase):
         interfaces = {path.stem for path in SLOTS.glob("i_*.txt")} - {"i_ZelDataResult"}
         self.assertEqual(interfaces, set(VIEWS))
 
-    def test_a_view_has_the_operations_of_its_interface_in_their_order(self):
+    def test_a_view_has_the_operations_of_its_interface_in_order(self):
         for interface, view in VIEWS.items():
             with self.subTest(view):
                 self.assertEqual([name for name, _ in functions(view)], listed(interface))
 
-    def test_a_function_calls_and_names_the_operation_of_its_own_name(self):
+    def test_a_function_calls_and_names_the_operation_of_the_same_name(self):
         for view in VIEWS.values():
             for name, code in functions(view):
                 with self.subTest(f"{view}::{name}"):

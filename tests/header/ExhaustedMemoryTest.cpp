@@ -17,7 +17,7 @@ namespace {
 /// Too long for any string to hold it without an allocation.
 const std::string longText(60, 'x');
 
-/// What sampleValues() holds, in texts that need memory.
+/// The values of sampleValues(), with texts that need memory.
 HeaderValues longValues()
 {
     HeaderValues values = sampleValues();
@@ -29,8 +29,8 @@ HeaderValues longValues()
     return values;
 }
 
-/// Lets each allocation of @p operation fail in turn, each time on a new object from @p create, and
-/// hands the object to @p check afterwards. The number of allocations.
+/// Makes each allocation of @p operation fail in turn, each time on a new object from @p create, then
+/// passes the object to @p check. Returns the number of allocations.
 template <class Create, class Operation, class Check>
 std::size_t failAtEachAllocation(const Create& create, const Operation& operation,
                                  const Check& check)
@@ -59,7 +59,7 @@ std::unique_ptr<i_ZelDataHeader> sampleHeader()
     return header;
 }
 
-TEST(HeaderWithoutMemory, RefusesWhatItCannotStoreAndStaysAsItWas)
+TEST(HeaderWithoutMemory, RefusesWhatItCannotStoreAndStaysUnchanged)
 {
     using Operation = std::function<ZelDataResult_tags(i_ZelDataHeader&)>;
     const Texts two = {longText, longText};
@@ -135,13 +135,13 @@ TEST(HeaderWithoutMemory, DisplayNamesEndWithOutOfMemory)
         longHeader, [&](const i_ZelDataHeader& h) { return h.getLanguageDisplayNames(names); },
         [&](const i_ZelDataHeader& /*header*/) {
             EXPECT_LT(names.size(), 2U);
-            names = Texts(); // gives its memory back, so that the next call needs as much
+            names = Texts(); // frees its memory, so that the next call needs as much
         });
     EXPECT_GT(failures, 0U);
     EXPECT_EQ(Texts({"English", "Old Church Slavonic"}), names);
 }
 
-TEST(HeaderWithoutMemory, ACopyEndsAndCanBeMadeAgain)
+TEST(HeaderWithoutMemory, AFailedCopyCanBeRepeated)
 {
     const auto source = longHeader();
     const auto failures = failAtEachAllocation(
@@ -159,7 +159,7 @@ std::unique_ptr<i_ZelDataHeaderFormatter> newFormatter()
     return make(&ZelDataUtilities::createHeaderFormatter);
 }
 
-TEST(HeaderFormatterWithoutMemory, TakesAHeaderAtTheNextAttempt)
+TEST(HeaderFormatterWithoutMemory, AcceptsTheHeaderAtTheNextAttempt)
 {
     const auto source = longHeader();
     const auto failures = failAtEachAllocation(
@@ -171,7 +171,7 @@ TEST(HeaderFormatterWithoutMemory, TakesAHeaderAtTheNextAttempt)
     EXPECT_GT(failures, 0U);
 }
 
-/// The lookup of a language's name included: a language is not dropped for want of memory.
+/// Also while looking up a language's name: the formatter must not drop the language.
 TEST(HeaderFormatterWithoutMemory, WritesEverythingOrNothing)
 {
     const auto source = longHeader();

@@ -1,5 +1,5 @@
 /// @file
-/// Copying a header: the order of the steps, and each of them going wrong.
+/// Copying a header: the order of the steps, and the failure of each.
 
 #include "header/Headers.h"
 #include "header/ScriptedHeader.h"
@@ -33,21 +33,21 @@ const Texts& copySteps()
     return steps;
 }
 
-/// What the target of the copies holds before.
+/// What the target holds before the copy.
 HeaderValues oldValues()
 {
     return {"Old app", "0.9", "Old", "Old creator", "Old text",  {"old"}, true,
             1,         2,     3,     {"fr"},        {"old.mp4"}, true};
 }
 
-/// Fills a header without a trace in its script.
+/// Fills a header before its script starts to log.
 void fillQuietly(ScriptedHeader& header, const HeaderValues& values, Texts& log)
 {
     fill(header, values);
     header.script.logTo(log);
 }
 
-/// What a target holds when the first @p count steps were done.
+/// What a target holds after the first @p count steps.
 Described stateAfter(std::size_t count)
 {
     Described state = described(oldValues());
@@ -79,7 +79,7 @@ bool isGetter(const std::string& step)
     return step.compare(0, 3, "get") == 0;
 }
 
-/// The source's last error for a getter, the target's for a language; a setter's own code else.
+/// The source's last error for a getter, the target's for a language; otherwise the setter's code.
 ZelDataResult_tags codeOf(const std::string& step, Misdeed misdeed)
 {
     if (misdeed == Misdeed::ThrowsBadAlloc) return ZelData_OutOfMemory;
@@ -117,7 +117,7 @@ TEST_F(HeaderCopy, ReproducesAllFieldsInTheStatedOrder)
     EXPECT_EQ(described(sampleValues()), targetState());
 }
 
-TEST_F(HeaderCopy, LeavesTheSourceAsItWasButForTheCodeOfItsGetters)
+TEST_F(HeaderCopy, ChangesOnlyTheLastErrorOfTheSource)
 {
     source_.ZelDataHeader::setLastError(ZelData_NoData);
     EXPECT_EQ(ZelData_Ok, target().copyFrom(source_));
@@ -172,17 +172,18 @@ TEST_F(HeaderCopy, ADuplicateLanguageEndsItWithAWarning)
     EXPECT_EQ(described(expected), targetState());
 }
 
-/// The last error is taken as it is, so the copy says success though it stopped.
+/// The copy returns the last error as it is: here, success, although the copy stopped.
 TEST_F(HeaderCopy, AFieldThatFailsWhileTheSourceKeptSuccessEndsItWithSuccess)
 {
     source_.script.failAt("getTitle");
     source_.script.keep(ZelData_Ok);
     EXPECT_EQ(ZelData_Ok, target().copyFrom(source_));
     EXPECT_EQ(ZelData_Ok, target_.storedCode());
+    ASSERT_FALSE(log_.empty());
     EXPECT_EQ("getTitle", log_.back());
 }
 
-/// A language list that was not read but "succeeded" does not stop the copy of the header.
+/// A language list that fails while its last error is success does not stop the copy.
 TEST_F(HeaderCopy, LanguagesThatFailWhileTheSourceKeptSuccessAreLeftOut)
 {
     source_.script.failAt("getOrderedLanguageIDs");
@@ -193,7 +194,7 @@ TEST_F(HeaderCopy, LanguagesThatFailWhileTheSourceKeptSuccessAreLeftOut)
     EXPECT_EQ(described(expected), targetState());
 }
 
-/// A header that knows its content names twice, as only a caller's own can.
+/// A header that lists a content name twice, as only a caller's own class can.
 class RepeatingHeader : public ScriptedHeader {
 public:
     ZelDataResult_tags getContentNames(Texts& names) const override
@@ -203,7 +204,7 @@ public:
     }
 };
 
-TEST_F(HeaderCopy, AContentNameThatStandsTwiceEndsItWithAWarning)
+TEST_F(HeaderCopy, AContentNameListedTwiceEndsItWithAWarning)
 {
     RepeatingHeader source;
     fill(source, sampleValues());

@@ -1,5 +1,5 @@
 /// @file
-/// Filled headers, and what a header holds as one value.
+/// Filled headers, and the contents of a header in one value.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HEADER_HEADERS_H
 #define ZELINTERCHANGEDATA_TESTS_HEADER_HEADERS_H
@@ -14,7 +14,7 @@ namespace ZelInterchangeData {
 
 using Texts = std::vector<std::string>;
 
-/// All that a header holds, as plain values; a new one is what a new header holds.
+/// All that a header holds, as plain values; the defaults are those of a new header.
 struct HeaderValues {
     std::string appName;
     std::string appVersion;
@@ -65,7 +65,7 @@ inline void fill(i_ZelDataHeader& header, const HeaderValues& values)
     EXPECT_CODE(header, ZelData_Ok, header.setShowSearchBar(values.showSearchBar));
 }
 
-/// What @p header holds. Each getter starts from another value, so that it must deliver its own.
+/// What @p header holds. Passes each getter another value, which it must overwrite.
 inline HeaderValues valuesOf(const i_ZelDataHeader& header)
 {
     HeaderValues values = {"?", "?", "?", "?", "?", {"?"}, true, 77, 77, 77, {"?"}, {"?"}, false};

@@ -77,7 +77,7 @@ TEST_F(ZelDataHeaderTest, KeywordsAreReplacedAsAWholeAndMayRepeat)
     EXPECT_EQ(Texts({"b", "\xFF", "b", ""}), keywords);
 }
 
-TEST_F(ZelDataHeaderTest, FlagsCanBeSetAndTakenBack)
+TEST_F(ZelDataHeaderTest, FlagsCanBeSetAndCleared)
 {
     for (const bool flag : {true, false}) {
         bool read = !flag;
@@ -99,7 +99,7 @@ TEST_F(ZelDataHeaderTest, ZeroIsRefusedAsASizeAndTheEarlierValueStays)
          {std::pair<Setter, Getter>(&Header::setVideoLength, &Header::getVideoLength),
           {&Header::setVideoWidth, &Header::getVideoWidth},
           {&Header::setVideoHeight, &Header::getVideoHeight}}) {
-        // The last one does not fit into 32 bits and is not cut.
+        // The last one does not fit into 32 bits and is not truncated.
         for (const unsigned long value : {1UL, 4294967295UL, above32Bits(0)}) {
             unsigned long read = 0;
             EXPECT_CODE(*header_, ZelData_Ok, (*header_.*set)(value));
@@ -161,7 +161,7 @@ TEST_F(ZelDataHeaderTest, ContentNamesKeepTheirOrder)
     EXPECT_EQ(5UL, count);
 }
 
-/// Another code than the one for a language that is listed already.
+/// The code differs from that for a language that is already listed.
 TEST_F(ZelDataHeaderTest, AContentNameThatIsPresentIsNotAddedAgain)
 {
     addContentNames({"a.mp4", "b.mp4"});
@@ -176,7 +176,7 @@ TEST_F(ZelDataHeaderTest, AContentNameThatIsNotUtf8IsRefused)
     EXPECT_EQ(Texts(), contentNames());
 }
 
-TEST_F(ZelDataHeaderTest, RemovingAContentNameTakesTheIdenticalOne)
+TEST_F(ZelDataHeaderTest, RemovingAContentNameRemovesTheIdenticalOne)
 {
     addContentNames({"a", "b", "c"});
     EXPECT_CODE(*header_, ZelData_WarnNoChange, header_->removeContentName("B"));

@@ -38,14 +38,14 @@ const char* const controllerWithSearchBar =
 
 const char* const afterController = "</rdf:Description></rdf:RDF></x:xmpmeta>";
 
-/// @p packet with DATE for the moment of writing.
+/// @p packet with DATE in place of its date.
 std::string withoutDate(const std::string& packet)
 {
     static const std::regex date(R"re(dc:date="\d{4,}-\d\d-\d\dT\d\d:\d\d:\d\d[+-]\d{1,2}:00")re");
     return std::regex_replace(packet, date, "dc:date=\"DATE\"");
 }
 
-/// The least that a header formatter takes.
+/// The minimal values that a header formatter accepts.
 HeaderValues plainValues()
 {
     HeaderValues values;
@@ -133,14 +133,13 @@ TEST_F(HeaderFormatter, WritesNeitherLanguagesNorContentListWhenThereAreNone)
               written(plainValues()));
 }
 
-TEST_F(HeaderFormatter, WritesTheMomentOfWriting)
+TEST_F(HeaderFormatter, WritesTheTimeOfWriting)
 {
     set(plainValues());
     std::string text;
     const std::string before = ZelDataUtilities::getDateString(nullptr);
     EXPECT_CODE(*formatter_, ZelData_Ok, formatter_->writeString(text, ZelDataFormat_Xmp, false));
     const std::string after = ZelDataUtilities::getDateString(nullptr);
-    // In seconds, so the text is one of the two or lies between them.
     EXPECT_LE(before, attribute(text, "dc:date"));
     EXPECT_GE(after, attribute(text, "dc:date"));
 }
@@ -157,7 +156,7 @@ TEST_F(HeaderFormatter, TwoWritingsASecondApartDifferOnlyInTheDate)
     EXPECT_EQ(withoutDate(first), withoutDate(second));
 }
 
-TEST_F(HeaderFormatter, EscapesEachTextButTheCreator)
+TEST_F(HeaderFormatter, EscapesEachTextExceptTheCreator)
 {
     HeaderValues values = plainValues();
     values.title = values.creator = values.description = values.appName = values.appVersion =
@@ -172,7 +171,7 @@ TEST_F(HeaderFormatter, EscapesEachTextButTheCreator)
     EXPECT_EQ(escaped, attribute(packet, "zelDM:keywords"));
 }
 
-TEST_F(HeaderFormatter, LeavesEveryOtherByteOfATextAsItIs)
+TEST_F(HeaderFormatter, LeavesEveryOtherByteOfATextUnchanged)
 {
     HeaderValues values = plainValues();
     values.title = "\xFF\n\t\x01\xC3\xA9";
@@ -212,7 +211,7 @@ TEST_F(HeaderFormatter, WritesTheFlagsAsWords)
               packet.find("<rdf:li xmpDM:name=\"showsearch\" xmpDM:value=\"false\" ></rdf:li>"));
 }
 
-TEST_F(HeaderFormatter, CutsNoNumber)
+TEST_F(HeaderFormatter, TruncatesNoNumber)
 {
     HeaderValues values = plainValues();
     values.videoLength = above32Bits(0);
@@ -250,7 +249,7 @@ TEST_F(HeaderFormatter, NumbersAndEscapesContentNames)
     EXPECT_NE(std::string::npos, written(values).find("<rdf:Seq>" + items + "</rdf:Seq>"));
 }
 
-TEST_F(HeaderFormatter, TakesTheFlagOfWritingWithoutUsingIt)
+TEST_F(HeaderFormatter, IgnoresTheFlag)
 {
     set(sampleValues());
     std::string text = "left over";
@@ -258,7 +257,7 @@ TEST_F(HeaderFormatter, TakesTheFlagOfWritingWithoutUsingIt)
     EXPECT_EQ(written(), withoutDate(text));
 }
 
-// What it holds
+// The held copy
 
 TEST_F(HeaderFormatter, HoldsACopy)
 {
@@ -277,7 +276,6 @@ TEST_F(HeaderFormatter, EachHeaderReplacesTheOneBefore)
     EXPECT_EQ(plain, written(plainValues()));
 }
 
-/// Such a header is written all the same, as far as it was copied.
 TEST_F(HeaderFormatter, AHeaderWithoutSizesIsRefusedAndWrittenAsFarAsItWasCopied)
 {
     const auto header = make(&ZelDataUtilities::createHeaderData);
@@ -299,7 +297,7 @@ TEST_F(HeaderFormatter, AHeaderWithoutSizesIsRefusedAndWrittenAsFarAsItWasCopied
               written());
 }
 
-/// Content names and search bar are copied last and survive the clearing before.
+/// Content names and search bar are copied last, and clearing the held copy keeps them.
 TEST_F(HeaderFormatter, ARefusedHeaderLeavesTheContentNamesOfTheOneBefore)
 {
     set(sampleValues());
@@ -312,7 +310,7 @@ TEST_F(HeaderFormatter, ARefusedHeaderLeavesTheContentNamesOfTheOneBefore)
     EXPECT_NE(std::string::npos, packet.find("xmpDM:name=\"showsearch\" xmpDM:value=\"false\""));
 }
 
-TEST_F(HeaderFormatter, GivesTheCodeOfAHeaderThatCannotBeCopied)
+TEST_F(HeaderFormatter, ReturnsTheCodeOfAHeaderThatCannotBeCopied)
 {
     for (const auto& [misdeed, expected] :
          {std::pair(Misdeed::ReturnsCode, CallScript::keptCode),
@@ -328,8 +326,8 @@ TEST_F(HeaderFormatter, GivesTheCodeOfAHeaderThatCannotBeCopied)
     }
 }
 
-/// The held header's last error is that of the source, here success, though the copy stopped.
-TEST_F(HeaderFormatter, GivesSuccessForAFailingHeaderThatKeptSuccess)
+/// The last error of the held header is that of the source, here success, although the copy stopped.
+TEST_F(HeaderFormatter, ReturnsSuccessForAFailingHeaderThatKeptSuccess)
 {
     ScriptedHeader source;
     fill(source, sampleValues());

@@ -1,3 +1,4 @@
+#include "captions/Captions.h"
 #include "hostile/NumberParameter.h"
 
 #include <array>
@@ -16,20 +17,6 @@ using GetColor = ZelDataResult_tags (Captions::*)(float&, float&, float&) const;
 
 const std::string of = "ZelDataCaptions::";
 
-std::unique_ptr<Item> lateCaption()
-{
-    auto item = newCaption();
-    EXPECT_EQ(ZelData_Ok, item->setStart(5));
-    return item;
-}
-
-std::unique_ptr<Captions> twoCaptions()
-{
-    auto captions = captionsWithItem();
-    addCaption(*captions, "fr", "text", 9000);
-    return captions;
-}
-
 std::string writtenAlignment(ZelAlignment_tags alignment)
 {
     const auto isSet = [alignment](unsigned bit) { return (alignment & bit) != 0; };
@@ -45,23 +32,21 @@ void addItemNumbers(NumberParameters& list)
     // The end of the last start wraps, and such a caption cannot be added.
     addStart<Item>(list, ofItem, newCaption,
                    [](long long start) { return start < std::numeric_limits<long long>::max(); });
-    addEnds<Item>(list, ofItem, newCaption, lateCaption,
-                  [](long long duration) { return duration >= 1; });
-    addNumber<Item, ZelAlignment_tags>(
-        list, {ofItem + "setAlignment 1", newCaption,
-               [](Item& i, ZelAlignment_tags alignment) { return i.setAlignment(alignment); },
-               [](const Item& i) { return delivered(i, &Item::getAlignment); }, any,
-               extremesOfEnumeration<ZelAlignment_tags>(), ZelAlignTop | ZelAlignRight,
-               writtenAlignment});
+    addEnds<Item>(list, ofItem, newCaption, [](long long duration) { return duration >= 1; });
+    addNumber<Item, ZelAlignment_tags>(list, ofItem + "setAlignment 1",
+                                       {newCaption, &Item::setAlignment,
+                                        delivering(&Item::getAlignment), any,
+                                        extremesOfEnumeration<ZelAlignment_tags>(),
+                                        ZelAlignTop | ZelAlignRight, writtenAlignment});
 }
 
-/// A NaN is neither below nor above.
+/// A NaN passes: it is neither below nor above the limits.
 bool isFraction(float number)
 {
     return std::isnan(number) || (number >= 0 && number <= 1);
 }
 
-/// The place of component @p index in the packet. The other components are 0.5.
+/// What the packet holds for component @p index. The other components are 0.5.
 template <std::size_t index>
 std::string writtenComponent(float number)
 {
@@ -74,21 +59,22 @@ std::string writtenComponent(float number)
 template <SetColor set, GetColor get, std::size_t index>
 void addComponent(NumberParameters& list, const std::string& name)
 {
-    addNumber<Captions, float>(
-        list, {of + name + ' ' + std::to_string(index + 1), captionsWithItem,
-               [](Captions& c, float number) {
-                   Color color = {0.5F, 0.5F, 0.5F};
-                   color[index] = number;
-                   return (c.*set)(color[0], color[1], color[2]);
-               },
-               [](const Captions& c) {
-                   Color color = {};
-                   EXPECT_EQ(ZelData_Ok, (c.*get)(color[0], color[1], color[2]));
-                   for (std::size_t other = 0; other < color.size(); ++other)
-                       EXPECT_TRUE(other == index || isSameNumber(0.5F, color[other]));
-                   return color[index];
-               },
-               isFraction, floatExtremes(), 0.25F, writtenComponent<index>});
+    addNumber<Captions, float>(list, of + name + ' ' + std::to_string(index + 1),
+                               {captionsWithItem,
+                                [](Captions& c, float number) {
+                                    Color color = {0.5F, 0.5F, 0.5F};
+                                    color[index] = number;
+                                    return (c.*set)(color[0], color[1], color[2]);
+                                },
+                                [](const Captions& c) {
+                                    Color color = {};
+                                    EXPECT_EQ(ZelData_Ok, (c.*get)(color[0], color[1], color[2]));
+                                    for (std::size_t other = 0; other < color.size(); ++other)
+                                        EXPECT_TRUE(other == index ||
+                                                    isSameNumber(0.5F, color[other]));
+                                    return color[index];
+                                },
+                                isFraction, floatExtremes(), 0.25F, writtenComponent<index>});
 }
 
 template <SetColor set, GetColor get>
@@ -110,32 +96,16 @@ void addStyle(NumberParameters& list)
 {
     using C = Captions;
     addFrameRate<C>(list, of, captionsWithItem, writtenRate);
-    addNumber<C, unsigned long>(list, {of + "setFontSize 1", captionsWithItem,
-                                       [](C& c, unsigned long size) { return c.setFontSize(size); },
-                                       [](const C& c) { return delivered(c, &C::getFontSize); },
-                                       [](unsigned long size) { return size >= 1 && size <= 500; },
-                                       extremesOf<unsigned long>({1, 500}), 473, decimal});
+    addNumber<C, unsigned long>(list, of + "setFontSize 1",
+                                {captionsWithItem, &C::setFontSize, delivering(&C::getFontSize),
+                                 [](unsigned long size) { return size >= 1 && size <= 500; },
+                                 extremesOf<unsigned long>({1, 500}), 473, decimal});
     addColor<&C::setForegroundColor, &C::getForegroundColor>(list, "setForegroundColor");
     addColor<&C::setBackgroundColor, &C::getBackgroundColor>(list, "setBackgroundColor");
-    addNumber<C, float>(list, {of + "setBackgroundOpacity 1", captionsWithItem,
-                               [](C& c, float opacity) { return c.setBackgroundOpacity(opacity); },
-                               [](const C& c) { return delivered(c, &C::getBackgroundOpacity); },
-                               isFraction, floatExtremes(), 0.25F, writtenOpacity});
-}
-
-void addIndices(NumberParameters& list)
-{
-    addIndex<Captions>(
-        list, of + "removeCaptionItemAt 1", twoCaptions,
-        [](Captions& c, unsigned long index) { return c.removeCaptionItemAt(index); });
-    addIndex<Captions>(list, of + "getCaptionItemAt 2", twoCaptions,
-                       [](Captions& c, unsigned long index) {
-                           Item* copy = nullptr;
-                           const auto code = c.getCaptionItemAt(&copy, index);
-                           const std::unique_ptr<Item> item(copy);
-                           EXPECT_EQ(code == ZelData_Ok, item != nullptr);
-                           return code;
-                       });
+    addNumber<C, float>(list, of + "setBackgroundOpacity 1",
+                        {captionsWithItem, &C::setBackgroundOpacity,
+                         delivering(&C::getBackgroundOpacity), isFraction, floatExtremes(), 0.25F,
+                         writtenOpacity});
 }
 
 } // namespace
@@ -145,7 +115,7 @@ void addCaptionNumbers(NumberParameters& list)
     addItemNumbers(list);
     addLastError<Captions>(list, of, newCaptions);
     addStyle(list);
-    addIndices(list);
+    addIndices<CaptionKind>(list, of, "CaptionItem", {0, 1});
 }
 
 } // namespace ZelInterchangeData

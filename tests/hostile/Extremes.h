@@ -33,7 +33,7 @@ std::vector<Number> extremesOf(std::initializer_list<Number> limits = {})
     return {numbers.begin(), numbers.end()};
 }
 
-/// Values of an enumeration that is as wide as 32 bits: all small ones and the extremes.
+/// Values of an enumeration of 32 bits: all small ones and the extremes.
 template <class Enumeration>
 std::vector<Enumeration> extremesOfEnumeration()
 {
@@ -79,7 +79,7 @@ inline std::vector<float> floatExtremes()
         numbers.push_back(std::nextafter(limit, Limits::infinity()));
         numbers.push_back(std::nextafter(limit, -Limits::infinity()));
     }
-    // Quiet, signalling, with all bits, with the least bit.
+    // NaNs: quiet, signalling, with all bits, with the lowest bit.
     for (const std::uint32_t bits : {0x7FC00000U, 0x7FA00000U, 0x7FFFFFFFU, 0x7F800001U})
         numbers.push_back(floatOf(bits));
     const std::vector<float> positive = numbers;
@@ -92,7 +92,7 @@ inline std::vector<float> floatExtremes()
 template <class Number>
 bool isSameNumber(Number a, Number b)
 {
-    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): the bits of two floats are meant.
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): floats are compared by their bits.
     return std::memcmp(&a, &b, sizeof a) == 0;
 }
 

@@ -1,20 +1,16 @@
-#include "core/ZelDataCore.h"
-#include "core/ZelDataCoreXmp.h"
-#include "hostile/ScratchFolder.h"
 #include "hostile/StringParameter.h"
 #include "hostile/Writers.h"
+#include "support/ScratchFolder.h"
 
 namespace ZelInterchangeData {
 
 namespace {
 
-using Document = i_ZelInterchangeDataCore;
-
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// Adds what is never read.
+/// Adds the arguments of reading, which is not supported.
 template <class Writer>
-void addReads(StringParameters& list, const std::string& of, std::unique_ptr<Writer> (*make)())
+void addReads(StringParameters& list, const std::string& of, const Make<Writer>& make)
 {
     list.push_back(
         {of + "readString 1", [make](const std::string& text) {
@@ -36,23 +32,16 @@ std::string writtenBy(const Formatter& formatter)
     return text;
 }
 
-/// What a packet holds but the date; a track has none.
-std::string timeless(const std::string& text)
-{
-    return text.find(" dc:date=\"") == std::string::npos ? text : dateMasked(text);
-}
-
-/// Adds what a formatter takes: it replaces a text and writes no file.
+/// Adds the arguments of a formatter, which replaces a text and writes no file.
 template <class Formatter>
-void addFormatter(StringParameters& list, const std::string& of,
-                  std::unique_ptr<Formatter> (*make)())
+void addFormatter(StringParameters& list, const std::string& of, const Make<Formatter>& make)
 {
     addReads(list, of, make);
     list.push_back({of + "writeString 1", [make](const std::string& text) {
                         const auto formatter = make();
                         std::string out = text;
                         EXPECT_CODE(*formatter, ZelData_Ok, formatter->writeString(out, xmp, true));
-                        EXPECT_TRUE(same(timeless(writtenBy(*make())), timeless(out)));
+                        EXPECT_TRUE(same(dateMasked(writtenBy(*make())), dateMasked(out)));
                     }});
     list.push_back({of + "writeFile 1", [make](const std::string& text) {
                         const ScratchFolder folder;
@@ -102,7 +91,7 @@ void tryFile(const Document& document, const std::string& name)
               dateMasked(bytesOf(folder.pathOf(name))));
 }
 
-void addDocument(StringParameters& list, const std::string& of, std::unique_ptr<Document> (*make)())
+void addDocument(StringParameters& list, const std::string& of, const Make<Document>& make)
 {
     addReads(list, of, make);
     list.push_back({of + "writeString 1", [make](const std::string& text) {
@@ -117,12 +106,8 @@ void addDocument(StringParameters& list, const std::string& of, std::unique_ptr<
 
 void addFormatterStrings(StringParameters& list)
 {
-    addFormatter(list, "ZelDataXmpHeaderFormatter::", headerFormatter);
-    addFormatter(list, "ZelDataXmpCaptionFormatter::", captionFormatter);
-    addFormatter(list, "ZelDataXmpTocFormatter::", tocFormatter);
-    addFormatter(list, "ZelDataXmpScreenTextFormatter::", screenTextFormatter);
-    addDocument(list, "ZelDataCore::", documentOf<ZelDataCore>);
-    addDocument(list, "ZelDataCoreXmp::", documentOf<ZelDataCoreXmp>);
+    forEachFormatter([&list](const char* of, const auto& make) { addFormatter(list, of, make); });
+    forEachDocument([&list](const char* of, const auto& make) { addDocument(list, of, make); });
 }
 
 } // namespace ZelInterchangeData

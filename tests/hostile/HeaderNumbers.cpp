@@ -2,32 +2,20 @@
 
 namespace ZelInterchangeData {
 
-namespace {
-
-using Header = i_ZelDataHeader;
-using Set = ZelDataResult_tags (Header::*)(unsigned long);
-using Get = ZelDataResult_tags (Header::*)(unsigned long&) const;
-
-/// A measure, at least 1.
-template <Set set, Get get>
-void addMeasure(NumberParameters& list, const std::string& name)
-{
-    addNumber<Header, unsigned long>(
-        list, {"ZelDataHeader::" + name + " 1", plainHeader,
-               [](Header& h, unsigned long value) { return (h.*set)(value); },
-               [](const Header& h) { return delivered(h, get); },
-               [](unsigned long value) { return value >= 1; }, extremesOf<unsigned long>(), 4711,
-               decimal});
-}
-
-} // namespace
-
 void addHeaderNumbers(NumberParameters& list)
 {
-    addLastError<Header>(list, "ZelDataHeader::", plainHeader);
-    addMeasure<&Header::setVideoLength, &Header::getVideoLength>(list, "setVideoLength");
-    addMeasure<&Header::setVideoWidth, &Header::getVideoWidth>(list, "setVideoWidth");
-    addMeasure<&Header::setVideoHeight, &Header::getVideoHeight>(list, "setVideoHeight");
+    using H = i_ZelDataHeader;
+    const std::string of = "ZelDataHeader::";
+    addLastError<H>(list, of, plainHeader);
+    const auto addMeasure = [&](const char* name, auto set, auto get) {
+        addNumber<H, unsigned long>(list, of + name,
+                                    {plainHeader, set, delivering(get),
+                                     [](unsigned long value) { return value >= 1; },
+                                     extremesOf<unsigned long>(), 4711, decimal});
+    };
+    addMeasure("setVideoLength 1", &H::setVideoLength, &H::getVideoLength);
+    addMeasure("setVideoWidth 1", &H::setVideoWidth, &H::getVideoWidth);
+    addMeasure("setVideoHeight 1", &H::setVideoHeight, &H::getVideoHeight);
 }
 
 } // namespace ZelInterchangeData

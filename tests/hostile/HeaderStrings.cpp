@@ -4,123 +4,57 @@ namespace ZelInterchangeData {
 
 namespace {
 
-using Header = i_ZelDataHeader;
-using Set = ZelDataResult_tags (Header::*)(const std::string&);
-using Get = ZelDataResult_tags (Header::*)(std::string&) const;
+using H = i_ZelDataHeader;
 
 const std::string of = "ZelDataHeader::";
 
-/// A property, which may be any bytes, and its delivery.
-template <Set set, Get get>
-void addProperty(StringParameters& list, const std::string& name, Treatment treatment)
+void addProperties(StringParameters& list)
 {
-    addField<Header>(list, {of + "set" + name + " 1", plainHeader,
-                            [](Header& h, const std::string& text) { return (h.*set)(text); },
-                            [](const Header& h) {
-                                std::string text;
-                                EXPECT_EQ(ZelData_Ok, (h.*get)(text));
-                                return Texts{text};
-                            },
-                            Rule::Anything, treatment});
-    addOut<Header>(
-        list, of + "get" + name + " 1",
-        [] {
-            auto header = plainHeader();
-            EXPECT_EQ(ZelData_Ok, (*header.*set)("value"));
-            return header;
-        },
-        [](Header& h, std::string& out) { return (h.*get)(out); }, "value");
-}
-
-Texts keywordsOf(const Header& header)
-{
-    Texts keywords;
-    EXPECT_EQ(ZelData_Ok, header.getKeywords(keywords));
-    return keywords;
-}
-
-Texts contentNamesOf(const Header& header)
-{
-    Texts names;
-    EXPECT_EQ(ZelData_Ok, header.getContentNames(names));
-    return names;
-}
-
-std::unique_ptr<Header> headerWithLists()
-{
-    auto header = plainHeader();
-    EXPECT_EQ(ZelData_Ok, header->setKeywords({"one", "two"}));
-    EXPECT_EQ(ZelData_Ok, header->addContentName("one"));
-    EXPECT_EQ(ZelData_Ok, header->addContentName("two"));
-    return header;
+    const auto add = [&list](const char* name, auto set, auto get, Treatment treatment) {
+        addProperty<H>(list, of, name, plainHeader, set, get, treatment);
+    };
+    add("AppName", &H::setAppName, &H::getAppName, Treatment::Escaped);
+    add("AppVersion", &H::setAppVersion, &H::getAppVersion, Treatment::Escaped);
+    add("Title", &H::setTitle, &H::getTitle, Treatment::Escaped);
+    add("Creator", &H::setCreator, &H::getCreator, Treatment::AsGiven);
+    add("Description", &H::setDescription, &H::getDescription, Treatment::Escaped);
 }
 
 void addKeywords(StringParameters& list)
 {
-    addField<Header>(list, {of + "setKeywords 1", plainHeader,
-                            [](Header& h, const std::string& text) {
-                                return h.setKeywords({text, "last"});
-                            },
-                            [](const Header& h) {
-                                Texts keywords = keywordsOf(h);
-                                EXPECT_TRUE(keywords.empty() || keywords.back() == "last");
-                                return keywords.empty() ? keywords : withoutLast(keywords);
-                            },
-                            Rule::Anything, Treatment::Escaped});
-    addListOut<Header>(list, of + "getKeywords 1", headerWithLists,
-                       [](Header& h, Texts& out) { return h.getKeywords(out); }, {"one", "two"});
-}
-
-ZelDataResult_tags addName(Header& header, const std::string& name)
-{
-    return header.addContentName(name);
+    const Kept<H> keywords = {plainHeader,
+                              [](H& h, const std::string& text) {
+                                  return h.setKeywords({text, "last"});
+                              },
+                              [](const H& h) {
+                                  const Texts texts = delivered(h, &H::getKeywords);
+                                  EXPECT_TRUE(texts.empty() || texts.back() == "last");
+                                  return texts.empty() ? texts : withoutLast(texts);
+                              }};
+    addField(list, of + "setKeywords 1", keywords, {Treatment::Escaped});
+    addOut<H>(
+        list, of + "getKeywords 1", [keywords] { return holding(keywords, {"one"}); },
+        &H::getKeywords, Texts{"one", "last"});
 }
 
 void addContentNames(StringParameters& list)
 {
-    addField<Header>(list, {of + "addContentName 1", plainHeader, addName, contentNamesOf,
-                            Rule::Utf8, Treatment::Escaped, true});
-    addListOut<Header>(list, of + "getContentNames 1", headerWithLists,
-                       [](Header& h, Texts& out) { return h.getContentNames(out); },
-                       {"one", "two"});
-    addLookup<Header>(list, {of + "removeContentName 1",
-                             headerWithLists,
-                             addName,
-                             [](Header& h, const std::string& name, std::string& /*found*/) {
-                                 return h.removeContentName(name);
-                             },
-                             contentNamesOf,
-                             Rule::Utf8,
-                             {ZelData_WarnNoChange, "before"},
-                             {ZelData_Ok, "before"},
-                             withoutLast});
-    addLookup<Header>(list, {of + "doesContentNameExist 1",
-                             headerWithLists,
-                             addName,
-                             [](Header& h, const std::string& name, std::string& found) {
-                                 std::string asked = name;
-                                 bool exists = false;
-                                 const auto code = h.doesContentNameExist(asked, exists);
-                                 EXPECT_EQ(name, asked);
-                                 return answered(code, exists, found);
-                             },
-                             contentNamesOf,
-                             Rule::Utf8,
-                             {ZelData_Ok, "no"},
-                             {ZelData_Ok, "yes"}});
+    Kept<H> names = {plainHeader, &H::addContentName, delivering(&H::getContentNames), Rule::Utf8};
+    addField(list, of + "addContentName 1", names, {Treatment::Escaped, Former::Stays});
+    names.make = [names] { return holding(names, {"one", "two"}); };
+    addOut(list, of + "getContentNames 1", names.make, &H::getContentNames, Texts{"one", "two"});
+    addLookup<H>(list, of + "removeContentName 1", names,
+                 {doing(&H::removeContentName), {ZelData_WarnNoChange}, {ZelData_Ok}, withoutLast});
+    addLookup<H>(list, of + "doesContentNameExist 1", names,
+                 {asking(&H::doesContentNameExist), {ZelData_Ok, "no"}, {ZelData_Ok, "yes"}});
 }
 
 } // namespace
 
 void addHeaderStrings(StringParameters& list)
 {
-    using H = Header;
-    addLanguageStrings<Header, plainHeader>(list, of, ZelData_WarnNoChange);
-    addProperty<&H::setAppName, &H::getAppName>(list, "AppName", Treatment::Escaped);
-    addProperty<&H::setAppVersion, &H::getAppVersion>(list, "AppVersion", Treatment::Escaped);
-    addProperty<&H::setTitle, &H::getTitle>(list, "Title", Treatment::Escaped);
-    addProperty<&H::setCreator, &H::getCreator>(list, "Creator", Treatment::AsGiven);
-    addProperty<&H::setDescription, &H::getDescription>(list, "Description", Treatment::Escaped);
+    addLanguageStrings<H>(list, of, plainHeader, ZelData_WarnNoChange);
+    addProperties(list);
     addKeywords(list);
     addContentNames(list);
 }

@@ -78,7 +78,7 @@ void addOddCharacters(Texts& texts)
     addBoth(texts, "U+1FFFE", "\xF0\x9F\xBF\xBE");
     addBoth(texts, "U+10FFFF", "\xF4\x8F\xBF\xBF");
     addBoth(texts, "U+2028", "\xE2\x80\xA8");
-    // NOLINTNEXTLINE(misc-misleading-bidirectional): that is what it is there for.
+    // NOLINTNEXTLINE(misc-misleading-bidirectional): meant to mislead.
     addBoth(texts, "right to left", "\xE2\x80\xAE");
     addBoth(texts, "a combining accent", "\xCC\x81");
 }

@@ -15,7 +15,7 @@ struct HostileText {
     std::string bytes;
 };
 
-/// The empty list that the tracks of a packet go into.
+/// The list for the tracks of a packet, when it is empty.
 extern const std::string emptyTracks;
 
 /// Markup, control characters, odd and malformed UTF-8, zero bytes, and texts of 1 MiB. None begins

@@ -6,38 +6,25 @@
 
 #include "hostile/Extremes.h"
 #include "hostile/Packets.h"
+#include "hostile/Parameter.h"
+#include "support/Items.h"
 
 #include <functional>
-#include <memory>
-#include <ostream>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
 
-/// One argument of one operation.
-struct NumberParameter {
-    /// Class, operation with the types of its arguments where the name alone would not do, and the
-    /// place of the argument, counted from 1.
-    std::string name;
-    /// Calls the operation with every extreme and looks at all that shows of it.
-    std::function<void()> tryAll;
-};
-
-inline void PrintTo(const NumberParameter& parameter, std::ostream* out)
-{
-    *out << parameter.name;
-}
-
+/// An argument that is tried with every extreme.
+using NumberParameter = Parameter<>;
 using NumberParameters = std::vector<NumberParameter>;
 
 /// A number that an object keeps.
 template <class Object, class Number>
 struct NumberField {
-    std::string name;
-    std::unique_ptr<Object> (*make)();
-    ZelDataResult_tags (*set)(Object&, Number);
-    Number (*get)(const Object&);
+    Make<Object> make;
+    std::function<ZelDataResult_tags(Object&, Number)> set;
+    std::function<Number(const Object&)> get;
     bool (*accepts)(Number);
     std::vector<Number> values;
     /// A number that is accepted.
@@ -77,23 +64,15 @@ void tryNumber(const NumberField<Object, Number>& field, Number value)
 
 /// Adds an argument that is kept.
 template <class Object, class Number>
-void addNumber(NumberParameters& list, const NumberField<Object, Number>& field)
+void addNumber(NumberParameters& list, const std::string& name,
+               const NumberField<Object, Number>& field)
 {
-    list.push_back({field.name, [field] {
+    list.push_back({name, [field] {
                         for (const Number value : field.values) {
                             SCOPED_TRACE(::testing::PrintToString(value));
                             tryNumber(field, value);
                         }
                     }});
-}
-
-/// What @p get delivers.
-template <class Object, class Number>
-Number delivered(const Object& object, ZelDataResult_tags (Object::*get)(Number&) const)
-{
-    Number number = {};
-    EXPECT_EQ(ZelData_Ok, (object.*get)(number));
-    return number;
 }
 
 template <class Number>
@@ -110,7 +89,7 @@ bool any(Number /*number*/)
 
 /// Adds the argument of the operation that keeps a code: it keeps any.
 template <class Object>
-void addLastError(NumberParameters& list, const std::string& of, std::unique_ptr<Object> (*make)())
+void addLastError(NumberParameters& list, const std::string& of, const Make<Object>& make)
 {
     list.push_back({of + "setLastError 1", [make] {
                         const auto object = make();
@@ -121,22 +100,16 @@ void addLastError(NumberParameters& list, const std::string& of, std::unique_ptr
                     }});
 }
 
-/// Whether a collection takes @p rate.
-inline bool isRate(unsigned long rate)
-{
-    return rate >= 1 && rate <= 10000;
-}
-
-/// Adds the frame rate of a collection. It is written as @p written gives it.
+/// Adds the frame rate of a collection, from 1 to 10000. It is written as @p written gives it.
 template <class Object>
-void addFrameRate(NumberParameters& list, const std::string& of, std::unique_ptr<Object> (*make)(),
+void addFrameRate(NumberParameters& list, const std::string& of, const Make<Object>& make,
                   std::string (*written)(unsigned long))
 {
-    addNumber<Object, unsigned long>(
-        list, {of + "setFrameRate 1", make,
-               [](Object& o, unsigned long rate) { return o.setFrameRate(rate); },
-               [](const Object& o) { return delivered(o, &Object::getFrameRate); }, isRate,
-               extremesOf<unsigned long>({1, 10000}), 4711, written});
+    addNumber<Object, unsigned long>(list, of + "setFrameRate 1",
+                                     {make, &Object::setFrameRate,
+                                      delivering(&Object::getFrameRate),
+                                      [](unsigned long rate) { return rate >= 1 && rate <= 10000; },
+                                      extremesOf<unsigned long>({1, 10000}), 4711, written});
 }
 
 inline std::string writtenRate(unsigned long rate)
@@ -144,69 +117,75 @@ inline std::string writtenRate(unsigned long rate)
     return "frameRate=\"f" + std::to_string(rate) + '"';
 }
 
-/// Adds the index of an item in a collection of two. @p call gives the code for an index.
-template <class Object>
-void addIndex(NumberParameters& list, const std::string& name, std::unique_ptr<Object> (*make)(),
-              ZelDataResult_tags (*call)(Object&, unsigned long))
+/// Adds the index of an item, named @p item, in a collection of two items that hold @p values.
+template <class Kind>
+void addIndices(NumberParameters& list, const std::string& of, const std::string& item,
+                const typename Kind::Values& values)
 {
-    list.push_back({name, [make, call] {
-                        for (const auto index : extremesOf<unsigned long>({0, 1, 2})) {
-                            SCOPED_TRACE(index);
-                            const auto object = make();
-                            const bool exists = index < 2;
-                            EXPECT_CODE(*object, exists ? ZelData_Ok : ZelData_InvalidArgument,
-                                        call(*object, index));
-                        }
-                    }});
+    using Data = typename Kind::Data;
+    const auto add = [&](const std::string& name, auto call) {
+        list.push_back({of + name, [values, call] {
+                            for (const auto index : extremesOf<unsigned long>({0, 1, 2})) {
+                                SCOPED_TRACE(index);
+                                const auto data = newCollection<Kind>({values, values});
+                                const auto code = index < 2 ? ZelData_Ok : ZelData_InvalidArgument;
+                                EXPECT_CODE(*data, code, call(*data, index));
+                            }
+                        }});
+    };
+    add("remove" + item + "At 1",
+        [](Data& data, unsigned long index) { return (data.*Kind::removeAt)(index); });
+    add("get" + item + "At 2", [](const Data& data, unsigned long index) {
+        typename Kind::Item* copy = nullptr;
+        const auto code = (data.*Kind::at)(&copy, index);
+        const std::unique_ptr<typename Kind::Item> owned(copy);
+        EXPECT_EQ(code == ZelData_Ok, owned != nullptr);
+        return code;
+    });
 }
 
 /// Adds what an item says about its image: any numbers.
 template <class Item>
-void addImageNumbers(NumberParameters& list, const std::string& of, std::unique_ptr<Item> (*make)())
+void addImageNumbers(NumberParameters& list, const std::string& of, const Make<Item>& make)
 {
-    addNumber<Item, unsigned long>(
-        list, {of + "setImageIndex 1", make,
-               [](Item& i, unsigned long index) { return i.setImageIndex(index); },
-               [](const Item& i) { return delivered(i, &Item::getImageIndex); }, any,
-               extremesOf<unsigned long>(), 4711, decimal});
-    addNumber<Item, unsigned long long>(
-        list, {of + "setImageOffset 1", make,
-               [](Item& i, unsigned long long offset) { return i.setImageOffset(offset); },
-               [](const Item& i) { return delivered(i, &Item::getImageOffset); }, any,
-               extremesOf<unsigned long long>(), 4711, decimal});
+    addNumber<Item, unsigned long>(list, of + "setImageIndex 1",
+                                   {make, &Item::setImageIndex, delivering(&Item::getImageIndex),
+                                    any, extremesOf<unsigned long>(), 4711, decimal});
+    addNumber<Item, unsigned long long>(list, of + "setImageOffset 1",
+                                        {make, &Item::setImageOffset,
+                                         delivering(&Item::getImageOffset), any,
+                                         extremesOf<unsigned long long>(), 4711, decimal});
 }
 
 /// Adds the start of an item, at least 0.
 template <class Item>
-void addStart(NumberParameters& list, const std::string& of, std::unique_ptr<Item> (*make)(),
-              bool (*isWritable)(long long))
+void addStart(NumberParameters& list, const std::string& of, const Make<Item>& make,
+              bool (*isWritable)(long long) = nullptr)
 {
-    addNumber<Item, long long>(list, {of + "setStart 1", make,
-                                      [](Item& i, long long start) { return i.setStart(start); },
-                                      [](const Item& i) { return delivered(i, &Item::getStart); },
-                                      [](long long start) { return start >= 0; },
-                                      extremesOf<long long>(), 4711, decimal, isWritable});
+    addNumber<Item, long long>(list, of + "setStart 1",
+                               {make, &Item::setStart, delivering(&Item::getStart),
+                                [](long long start) { return start >= 0; }, extremesOf<long long>(),
+                                4711, decimal, isWritable});
 }
 
-/// Adds end and duration of an item. @p makeLate gives one that starts at 5.
+/// Adds end and duration of an item, the end to one that starts at 5.
 template <class Item>
-void addEnds(NumberParameters& list, const std::string& of, std::unique_ptr<Item> (*make)(),
-             std::unique_ptr<Item> (*makeLate)(), bool (*isDuration)(long long))
+void addEnds(NumberParameters& list, const std::string& of, const Make<Item>& make,
+             bool (*isDuration)(long long))
 {
-    addNumber<Item, long long>(
-        list, {of + "setEnd 1", makeLate, [](Item& i, long long end) { return i.setEnd(end); },
-               [](const Item& i) { return delivered(i, &Item::getEnd); },
-               [](long long end) { return end > 5; }, extremesOf<long long>({5}), 4711,
-               [](long long end) { return decimal(end - 5); }});
-    addNumber<Item, long long>(list,
-                               {of + "setDuration 1", make,
-                                [](Item& i, long long length) { return i.setDuration(length); },
-                                [](const Item& i) { return delivered(i, &Item::getDuration); },
+    const auto makeLate = [make] {
+        auto item = make();
+        EXPECT_EQ(ZelData_Ok, item->setStart(5));
+        return item;
+    };
+    addNumber<Item, long long>(list, of + "setEnd 1",
+                               {makeLate, &Item::setEnd, delivering(&Item::getEnd),
+                                [](long long end) { return end > 5; }, extremesOf<long long>({5}),
+                                4711, [](long long end) { return decimal(end - 5); }});
+    addNumber<Item, long long>(list, of + "setDuration 1",
+                               {make, &Item::setDuration, delivering(&Item::getDuration),
                                 isDuration, extremesOf<long long>(), 4711, decimal});
 }
-
-/// All arguments.
-const NumberParameters& allNumberParameters();
 
 void addHeaderNumbers(NumberParameters& list);
 void addCaptionNumbers(NumberParameters& list);

@@ -3,34 +3,27 @@
 
 #include "hostile/NumberParameter.h"
 
-#include "hostile/ParameterName.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
 
 namespace ZelInterchangeData {
 
+namespace {
+
 const NumberParameters& allNumberParameters()
 {
-    static const NumberParameters parameters = [] {
-        NumberParameters list;
-        for (const auto add : {addHeaderNumbers, addCaptionNumbers, addTocNumbers,
-                               addScreenTextNumbers, addFormatterNumbers, addUtilityNumbers}) {
-            add(list);
-        }
-        return list;
-    }();
+    static const auto parameters =
+        collected<NumberParameters>({addHeaderNumbers, addCaptionNumbers, addTocNumbers,
+                                     addScreenTextNumbers, addFormatterNumbers, addUtilityNumbers});
     return parameters;
 }
 
-namespace {
-
 class EachNumberParameter : public ::testing::TestWithParam<NumberParameter> {};
 
-TEST_P(EachNumberParameter, TakesExtremesByItsRule)
+TEST_P(EachNumberParameter, FollowsItsRuleForExtremes)
 {
-    GetParam().tryAll();
+    GetParam().tryWith();
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EachNumberParameter, ::testing::ValuesIn(allNumberParameters()),

@@ -73,7 +73,7 @@ const Pieces& controls()
     return pieces;
 }
 
-/// Any code point that XML has, and that is no markup and no control character.
+/// Any code point that XML allows and that is neither markup nor a control character.
 std::string anyCharacter(Dice& dice)
 {
     for (;;) {

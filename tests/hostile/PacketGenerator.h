@@ -1,5 +1,5 @@
 /// @file
-/// Documents that keep to what makes a packet well-formed, and go to its borders.
+/// Documents that meet the conditions of a well-formed packet, up to their limits.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETGENERATOR_H
 #define ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETGENERATOR_H

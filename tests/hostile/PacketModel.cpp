@@ -90,8 +90,8 @@ std::unique_ptr<i_ZelDataScreenText> screenTextOf(const PacketModel& model)
     return screenText;
 }
 
-/// The value of an attribute as a reader gives it: line ends count as one, and all white space is
-/// blanks.
+/// The value of an attribute as a reader gives it: a line end counts as one character, and all white
+/// space becomes blanks.
 std::string inAttribute(const std::string& text)
 {
     std::string read;

@@ -74,7 +74,7 @@ std::string packetOf(const PacketModel& model);
 /// What a reader must find in the packet, items in the order of their addition.
 PacketReading expectedOf(const PacketModel& model);
 
-/// The English name of the languages that documents here are in, by the code of the language.
+/// The English names of the languages that these documents use, by language code.
 const std::map<std::string, std::string>& languageNames();
 
 } // namespace ZelInterchangeData

@@ -94,7 +94,7 @@ void readTree(const xmlNode& root, PacketReading& reading)
         reading.tracks.push_back(readTrack(*track));
 }
 
-/// Keeps what libxml2 says.
+/// Keeps what libxml2 reports.
 void keepComplaint(void* complaint, xmlErrorPtr error)
 {
     *static_cast<std::string*>(complaint) +=

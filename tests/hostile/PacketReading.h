@@ -20,8 +20,8 @@ struct TrackReading {
 };
 
 struct PacketReading {
-    /// Everything that libxml2 has to say, warnings included, or that its tree is another than that
-    /// of a packet; empty when all is well.
+    /// Everything that libxml2 reports, warnings included, or that its tree is not that of a packet;
+    /// empty when all is well.
     std::string complaint;
     /// All but the date and the tracks.
     Record header;

@@ -1,5 +1,9 @@
 #include "hostile/Packets.h"
 
+#include "captions/Captions.h"
+#include "screentext/Items.h"
+#include "toc/Entries.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -18,7 +22,18 @@ std::string packetWith(const Fill& fill)
     EXPECT_EQ(ZelData_Ok, fill(*document));
     std::string packet;
     EXPECT_EQ(ZelData_Ok, document->writeString(packet, ZelDataFormat_Xmp, false));
-    return dateMasked(packet);
+    std::string masked = dateMasked(packet);
+    EXPECT_NE(packet, masked) << "a packet has a date";
+    return masked;
+}
+
+/// The packet of a document with a collection that has nothing but @p item.
+template <class Kind>
+std::string packetWithItem(const typename Kind::Item& item)
+{
+    const auto data = newCollection<Kind>();
+    EXPECT_EQ(ZelData_Ok, (data.get()->*Kind::add)(item));
+    return packetOf(*data);
 }
 
 } // namespace
@@ -57,25 +72,17 @@ std::unique_ptr<i_ZelDataScreenText> newScreenText()
 
 std::unique_ptr<i_ZelDataCaptions> captionsWithItem()
 {
-    auto captions = newCaptions();
-    addCaption(*captions, "fr", "text", 0);
-    return captions;
+    return captionsOf({{0, 1, {{"fr", "text"}}}});
 }
 
 std::unique_ptr<i_ZelDataToc> tocWithEntry()
 {
-    auto toc = newToc();
-    const auto entry = newEntry();
-    EXPECT_EQ(ZelData_Ok, entry->setTextForLanguage("text", "fr"));
-    EXPECT_EQ(ZelData_Ok, toc->addTocItem(*entry));
-    return toc;
+    return tocOf({{0, {{"fr", "text"}}}});
 }
 
 std::unique_ptr<i_ZelDataScreenText> screenTextWithItem()
 {
-    auto screenText = newScreenText();
-    EXPECT_EQ(ZelData_Ok, screenText->addScreenTextItem(*newScreenTextItem()));
-    return screenText;
+    return screenTextOf({{}});
 }
 
 std::string packetOf(const i_ZelDataHeader& header)
@@ -88,9 +95,7 @@ std::string packetOf(const i_ZelDataHeader& header)
 
 std::string packetOf(const i_ZelDataCaptionItem& item)
 {
-    const auto captions = newCaptions();
-    EXPECT_EQ(ZelData_Ok, captions->addCaptionItem(item));
-    return packetOf(*captions);
+    return packetWithItem<CaptionKind>(item);
 }
 
 std::string packetOf(const i_ZelDataCaptions& captions)
@@ -100,9 +105,7 @@ std::string packetOf(const i_ZelDataCaptions& captions)
 
 std::string packetOf(const i_ZelDataTocItem& item)
 {
-    const auto toc = newToc();
-    EXPECT_EQ(ZelData_Ok, toc->addTocItem(item));
-    return packetOf(*toc);
+    return packetWithItem<TocKind>(item);
 }
 
 std::string packetOf(const i_ZelDataToc& toc)
@@ -112,25 +115,12 @@ std::string packetOf(const i_ZelDataToc& toc)
 
 std::string packetOf(const i_ZelDataScreenTextItem& item)
 {
-    const auto screenText = newScreenText();
-    EXPECT_EQ(ZelData_Ok, screenText->addScreenTextItem(item));
-    return packetOf(*screenText);
+    return packetWithItem<ScreenTextKind>(item);
 }
 
 std::string packetOf(const i_ZelDataScreenText& screenText)
 {
     return packetWith([&](Core& document) { return document.setDataScreenText(screenText); });
-}
-
-std::string dateMasked(std::string packet)
-{
-    // Only the title comes before the date, and its quotation marks are escaped.
-    const std::string name = " dc:date=\"";
-    const std::size_t begin = packet.find(name);
-    EXPECT_NE(std::string::npos, begin);
-    if (begin == std::string::npos) return packet;
-    const std::size_t end = packet.find('"', begin + name.size());
-    return packet.replace(begin, end - begin, name + "DATE");
 }
 
 std::string replaced(const std::string& text, const std::string& from, const std::string& to)

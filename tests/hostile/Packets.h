@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "core/SampleSets.h"
 #include "support/Checks.h"
+#include "support/DateMask.h"
 
 #include <memory>
 #include <string>
@@ -20,13 +21,13 @@ std::unique_ptr<i_ZelDataToc> newToc();
 std::unique_ptr<i_ZelDataScreenTextItem> newScreenTextItem();
 std::unique_ptr<i_ZelDataScreenText> newScreenText();
 
-/// Captions, a table or screen text with one item, so that it makes a track.
+/// Captions, a table or screen text with one item, which makes a track.
 std::unique_ptr<i_ZelDataCaptions> captionsWithItem();
 std::unique_ptr<i_ZelDataToc> tocWithEntry();
 std::unique_ptr<i_ZelDataScreenText> screenTextWithItem();
 
-/// The packet of a document with the object, the date masked. With a header comes a table of
-/// contents, so that a track shows its place.
+/// The packet of a document with the object, the date masked. A header gets a table of contents, so
+/// that the packet has a track.
 /// @{
 std::string packetOf(const i_ZelDataHeader& header);
 std::string packetOf(const i_ZelDataCaptionItem& item);
@@ -36,9 +37,6 @@ std::string packetOf(const i_ZelDataToc& toc);
 std::string packetOf(const i_ZelDataScreenTextItem& item);
 std::string packetOf(const i_ZelDataScreenText& screenText);
 /// @}
-
-/// @p packet without the moment of its writing.
-std::string dateMasked(std::string packet);
 
 /// @p text with @p to in each place of @p from.
 std::string replaced(const std::string& text, const std::string& from, const std::string& to);

@@ -26,7 +26,7 @@ std::uint64_t documents()
                              : ZELINTERCHANGEDATA_PROMISE_DOCUMENTS;
 }
 
-/// The starts of the items, which must come in order.
+/// The starts of the items, which must be in order.
 std::vector<long long> startsOf(const Items& items)
 {
     const std::string name = "xmpDM:startTime=";
@@ -84,7 +84,7 @@ TEST_P(PromiseOfWellFormedness, HoldsForGeneratedDocuments)
 INSTANTIATE_TEST_SUITE_P(Share, PromiseOfWellFormedness,
                          ::testing::Range(std::uint64_t{0}, shares));
 
-/// What a promise would be worth little without.
+/// What the documents must vary in, or the promise would mean little.
 struct Variety {
     std::set<std::size_t> captions;
     std::set<std::size_t> entries;

@@ -6,7 +6,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// The two codes differ between a list of languages and an item.
+/// A list of languages tells the two errors apart, an item does not.
 ZelDataResult_tags languageCode(const std::string& id)
 {
     if (utf8Code(id, false) != ZelData_Ok) return ZelData_InvalidUtf8;

@@ -1,5 +1,5 @@
 /// @file
-/// What an argument accepts, and what becomes of what it accepted.
+/// What an argument accepts, and how it is written.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_RULES_H
 #define ZELINTERCHANGEDATA_TESTS_HOSTILE_RULES_H
@@ -14,15 +14,15 @@ namespace ZelInterchangeData {
 /// What an argument accepts.
 enum class Rule {
     Anything,
-    /// Anything but nothing.
+    /// Anything but an empty text.
     NotEmpty,
-    /// Sequences of the form of UTF-8.
+    /// Sequences that have the form of UTF-8.
     Utf8,
-    /// The same, of an item.
+    /// The same, with the code of an item.
     Utf8OfItem,
     /// A language ID.
     Language,
-    /// The same, of an item.
+    /// The same, with the code of an item.
     LanguageOfItem
 };
 
@@ -35,8 +35,8 @@ ZelDataResult_tags codeFor(Rule rule, const std::string& text);
 /// @p text as the packet holds it.
 std::string written(Treatment treatment, const std::string& text);
 
-/// The texts to try where @p rule holds: @p text itself and, where it is about languages, language
-/// IDs made with it.
+/// The texts to try where @p rule applies: @p text itself and, if the rule is about languages,
+/// language IDs made with it.
 std::vector<std::string> variants(Rule rule, const std::string& text);
 
 /// Whether the catalogue knows the language of @p id: of the texts here, only English.

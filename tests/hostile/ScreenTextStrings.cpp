@@ -1,4 +1,4 @@
-#include "hostile/ImageStrings.h"
+#include "hostile/StringParameter.h"
 
 namespace ZelInterchangeData {
 
@@ -6,18 +6,12 @@ void addScreenTextStrings(StringParameters& list)
 {
     using Item = i_ZelDataScreenTextItem;
     const std::string of = "ZelDataScreenTextItem::";
-    addField<Item>(list, {of + "setText 1", newScreenTextItem,
-                          [](Item& i, const std::string& text) { return i.setText(text); },
-                          [](const Item& i) {
-                              std::string text;
-                              EXPECT_EQ(ZelData_Ok, i.getText(text));
-                              return Texts{text};
-                          },
-                          Rule::Utf8OfItem, Treatment::EscapedAndStripped});
-    addOut<Item>(
-        list, of + "getText 1", newScreenTextItem,
-        [](Item& i, std::string& out) { return i.getText(out); }, "");
-    addImageStrings<Item, newScreenTextItem>(list, of, Treatment::AsGiven);
+    addField<Item>(
+        list, of + "setText 1",
+        {newScreenTextItem, &Item::setText, deliveringOne(&Item::getText), Rule::Utf8OfItem},
+        {Treatment::EscapedAndStripped});
+    addOut<Item>(list, of + "getText 1", newScreenTextItem, &Item::getText, std::string());
+    addImageStrings<Item>(list, of, newScreenTextItem, Treatment::AsGiven);
 }
 
 } // namespace ZelInterchangeData

@@ -4,7 +4,6 @@
 #include "hostile/StringParameter.h"
 
 #include "hostile/HostileTexts.h"
-#include "hostile/ParameterName.h"
 
 #include <gtest/gtest.h>
 
@@ -13,24 +12,19 @@
 
 namespace ZelInterchangeData {
 
+namespace {
+
 const StringParameters& allStringParameters()
 {
-    static const StringParameters parameters = [] {
-        StringParameters list;
-        for (const auto add : {addHeaderStrings, addCaptionStrings, addTocStrings,
-                               addScreenTextStrings, addFormatterStrings, addUtilityStrings}) {
-            add(list);
-        }
-        return list;
-    }();
+    static const auto parameters =
+        collected<StringParameters>({addHeaderStrings, addCaptionStrings, addTocStrings,
+                                     addScreenTextStrings, addFormatterStrings, addUtilityStrings});
     return parameters;
 }
 
-namespace {
-
 class EachStringParameter : public ::testing::TestWithParam<StringParameter> {};
 
-TEST_P(EachStringParameter, TakesHostileTextsByItsRule)
+TEST_P(EachStringParameter, FollowsItsRuleForHostileTexts)
 {
     for (const HostileText& text : hostileTexts()) {
         SCOPED_TRACE(text.name);
@@ -50,7 +44,7 @@ TEST(StringParameters, AreAllThatTheOperationsHave)
     EXPECT_EQ(expected, namesOf(allStringParameters()));
 }
 
-/// What the expectations about language IDs are built on.
+/// The expectations about language IDs rely on this.
 TEST(HostileTexts, BeginWithNoLanguage)
 {
     for (const HostileText& text : hostileTexts()) {

@@ -2,6 +2,8 @@
 #include "support/TextRules.h"
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace ZelInterchangeData {
 
@@ -11,14 +13,15 @@ using U = ZelDataUtilities;
 
 const std::string of = "ZelDataUtilities::";
 
-/// One entity: what it stands for, and how many bytes after the ampersand choose it.
+/// One entity with its character, and how many bytes after the ampersand select it.
 struct Entity {
     std::string name;
     char character;
     std::size_t selectors;
 };
 
-/// The entity that the bytes after the ampersand at @p at choose; one without a name if none.
+/// The entity that the bytes after the ampersand at @p at select; one without a name if they select
+/// none.
 Entity chosenAt(const std::string& text, std::size_t at)
 {
     for (const Entity& entity :
@@ -30,7 +33,7 @@ Entity chosenAt(const std::string& text, std::size_t at)
     return {"", '\0', text.compare(at, 2, "&a") == 0 ? std::size_t{2} : std::size_t{1}};
 }
 
-/// The text without its entities, by the steps that are documented.
+/// The text without its entities, by the documented steps.
 std::string unescaped(const std::string& text)
 {
     std::string result;
@@ -64,6 +67,11 @@ std::string stripped(const std::string& text)
     return result;
 }
 
+std::string escaped(const std::string& text)
+{
+    return markupOf(text, false);
+}
+
 using Name = ZelDataResult_tags (*)(const std::string&, std::string&);
 
 void tryName(Name nameFor, const std::string& id, const std::string& before)
@@ -89,31 +97,29 @@ void addName(StringParameters& list, const std::string& name, Name nameFor)
 
 void addChecks(StringParameters& list)
 {
-    list.push_back({of + "isValidLanguage 1", [](const std::string& text) {
-                        for (const std::string& id : variants(Rule::Language, text)) {
-                            EXPECT_EQ(isEnglish(id) ? ZelData_Ok : ZelData_UnknownLanguage,
-                                      U::isValidLanguage(id));
-                        }
-                    }});
-    list.push_back({of + "verifyUtf8Format 1", [](const std::string& text) {
-                        EXPECT_EQ(utf8Code(text, false), U::verifyUtf8Format(text, false));
-                        EXPECT_EQ(utf8Code(text, true), U::verifyUtf8Format(text, true));
-                    }});
-    list.push_back({of + "countLinesInUTF8 1", [](const std::string& text) {
-                        EXPECT_EQ(lines(text), U::countLinesInUTF8(text));
-                    }});
+    const auto add = [&list](const char* name, std::function<void(const std::string&)> check) {
+        list.push_back({of + name + " 1", std::move(check)});
+    };
+    add("isValidLanguage", [](const std::string& text) {
+        for (const std::string& id : variants(Rule::Language, text)) {
+            EXPECT_EQ(isEnglish(id) ? ZelData_Ok : ZelData_UnknownLanguage, U::isValidLanguage(id));
+        }
+    });
+    add("verifyUtf8Format", [](const std::string& text) {
+        EXPECT_EQ(utf8Code(text, false), U::verifyUtf8Format(text, false));
+        EXPECT_EQ(utf8Code(text, true), U::verifyUtf8Format(text, true));
+    });
+    add("countLinesInUTF8",
+        [](const std::string& text) { EXPECT_EQ(lines(text), U::countLinesInUTF8(text)); });
 }
 
-void addTexts(StringParameters& list)
+/// A function that makes one text of another.
+void addText(StringParameters& list, const std::string& name,
+             std::string (*function)(const std::string&),
+             std::string (*expected)(const std::string&))
 {
-    list.push_back({of + "stripUnsupportedCharacters 1", [](const std::string& text) {
-                        EXPECT_TRUE(same(stripped(text), U::stripUnsupportedCharacters(text)));
-                    }});
-    list.push_back({of + "htmlTagsToText 1", [](const std::string& text) {
-                        EXPECT_TRUE(same(markupOf(text, false), U::htmlTagsToText(text)));
-                    }});
-    list.push_back({of + "htmlTagsFromText 1", [](const std::string& text) {
-                        EXPECT_TRUE(same(unescaped(text), U::htmlTagsFromText(text)));
+    list.push_back({of + name + " 1", [function, expected](const std::string& text) {
+                        EXPECT_TRUE(same(expected(text), function(text)));
                     }});
 }
 
@@ -124,7 +130,9 @@ void addUtilityStrings(StringParameters& list)
     addName(list, "englishNameForLanguage", U::englishNameForLanguage);
     addName(list, "nativeNameForLanguage", U::nativeNameForLanguage);
     addChecks(list);
-    addTexts(list);
+    addText(list, "stripUnsupportedCharacters", U::stripUnsupportedCharacters, stripped);
+    addText(list, "htmlTagsToText", U::htmlTagsToText, escaped);
+    addText(list, "htmlTagsFromText", U::htmlTagsFromText, unescaped);
 }
 
 } // namespace ZelInterchangeData

@@ -1,4 +1,4 @@
-"""The languages that the catalogue knows: code, English name, own name.
+"""The languages that the catalogue knows: code, English name, native name.
 
 Invisible characters are written as escapes.
 """
@@ -190,7 +190,7 @@ LANGUAGES = {
     "zu": ("Zulu", "isiZulu"),
 }
 
-# What a lookup gives, in the bytes in which it travels.
+# The same as bytes.
 NAMES = {
     code.encode(): tuple(name.encode("utf-8") for name in names)
     for code, names in LANGUAGES.items()

@@ -1,4 +1,4 @@
-"""The result codes and the two tests that are applied to them."""
+"""The result codes and their two predicates."""
 
 OK = 0x00000000
 WARN_ALREADY_EXISTS = 0x40000001

@@ -1,12 +1,13 @@
 """The data sets and their items, operation by operation.
 
-Every operation returns its code and keeps it as the last error. Values are delivered through `Ref`
-objects, so that a value that must be left alone can be seen to be left alone. The interface classes
-hold the copies, which work only through the operations of both objects; the classes behind them
-hold everything else.
+Every operation returns its code and keeps it as the last error; a body that returns none has
+succeeded. Values are delivered through `Ref` objects, so a test sees whether one was left alone.
+The interface classes hold the copies, which call only the operations of both objects; the classes
+behind them hold everything else.
 """
 
 import functools
+import re
 
 import text as texts
 from codes import (
@@ -56,7 +57,7 @@ class Stop(Exception):
 
 def code_of(body, self, arguments):
     try:
-        return body(self, *arguments)
+        return body(self, *arguments) or OK
     except Stop as stop:
         return stop.code
     except ForeignException:
@@ -64,7 +65,7 @@ def code_of(body, self, arguments):
 
 
 def operation(body):
-    """Returns and keeps what the body gives; exceptions become codes."""
+    """Returns and keeps the body's code; exceptions become codes."""
 
     @functools.wraps(body)
     def run(self, *arguments):
@@ -78,7 +79,7 @@ def operation(body):
 
 
 def caption_item_operation(body):
-    """As `operation`, but a caption item lets exhausted memory through."""
+    """Like `operation`, but a caption item lets exhausted memory through."""
 
     @functools.wraps(body)
     def run(self, *arguments):
@@ -88,7 +89,7 @@ def caption_item_operation(body):
 
 
 def ends(code):
-    """A failing code ends the operation and is its code."""
+    """A failing code ends the operation with that code."""
     if failed(code):
         raise Stop(code)
 
@@ -100,52 +101,70 @@ def ends_for(who, code):
 
 
 def wrapped(number):
-    """The number as 64 bits keep it."""
+    """The number in 64 bits, which may change its sign."""
     return (number + 2**63) % 2**64 - 2**63
 
 
-def setter(field, wrap=operation):
-    def body(self, value):
-        setattr(self, field, list(value) if isinstance(value, list) else value)
-        return OK
+def copy_of(value):
+    return list(value) if isinstance(value, list) else value
+
+
+def setter(field, accepts, wrap):
+    def body(self, *values):
+        if not all(map(accepts, values)):
+            return INVALID_ARGUMENT
+        setattr(self, field, values if len(values) > 1 else copy_of(values[0]))
 
     return wrap(body)
 
 
 def getter(field, wrap=operation):
-    def body(self, ref):
+    def body(self, *refs):
         value = getattr(self, field)
-        ref.value = list(value) if isinstance(value, list) else value
-        return OK
+        for ref, one in zip(refs, value if len(refs) > 1 else (value,)):
+            ref.value = copy_of(one)
 
     return wrap(body)
 
 
-def checked_setter(field, accepts, wrap=operation):
-    def body(self, value):
-        if not accepts(value):
-            return INVALID_ARGUMENT
-        setattr(self, field, value)
-        return OK
+def field_of(name):
+    """The attribute behind the operations on `name`: "app_name" for "AppName"."""
+    return re.sub("(?<=[a-z])(?=[A-Z])", "_", name).lower()
 
-    return wrap(body)
+
+def anything(_value):
+    return True
+
+
+def is_time(value):
+    return value >= 0
+
+
+def properties(wrap=operation, **accepts):
+    """A base class with a setter and a getter for each name. The setter refuses what the function
+    beside the name does not accept."""
+    members = {}
+    for name, accepted in accepts.items():
+        members["set" + name] = setter(field_of(name), accepted, wrap)
+        members["get" + name] = getter(field_of(name), wrap)
+    return type("Properties", (), members)
 
 
 def get_field(source, name):
-    """The values of one field; where the source fails, its last error ends the operation."""
+    """The values of one field. If the source fails, its last error ends the operation."""
     refs = [Ref() for _ in range(3 if name.endswith("Color") else 1)]
     ends_for(source, getattr(source, "get" + name)(*refs))
     return [ref.value for ref in refs]
 
 
 def copy_fields(target, source, names):
-    """Gets and sets field by field; where the target fails, its last error ends the operation."""
+    """Gets and sets field by field. If the target fails, its last error ends the operation."""
     for name in names:
         ends_for(target, getattr(target, "set" + name)(*get_field(source, name)))
 
 
 def copy_texts(target, source):
-    """Replaces the texts of one item by those of another."""
+    """Replaces the texts of one item with those of another."""
     ids = Ref([])
     ends_for(source, source.getLanguageIDs(ids))
     ends_for(target, target.clearText())
@@ -180,11 +199,10 @@ class LanguageInterface(Result):
         ends_for(other, other.getOrderedLanguageIDs(ids))
         for language in ids.value:
             ends_for(self, self.addLanguage(language))
-        return OK
 
 
 class LanguageList(LanguageInterface):
-    """The list operations; `absent` is the answer to the removal of what is not listed."""
+    """The list operations. `absent` is the code for removing a language that is not listed."""
 
     absent = NOT_FOUND
 
@@ -195,7 +213,6 @@ class LanguageList(LanguageInterface):
     @operation
     def clearLanguages(self):
         self.languages = []
-        return OK
 
     @operation
     def addLanguage(self, language):
@@ -207,28 +224,24 @@ class LanguageList(LanguageInterface):
         if language in self.languages:
             return WARN_ALREADY_EXISTS
         self.languages.append(language)
-        return OK
 
     @operation
     def removeLanguage(self, language):
         if language not in self.languages:
             return self.absent
         self.languages.remove(language)
-        return OK
 
     @operation
     def setOrderedLanguageIDs(self, ids):
         if len(ids) != len(self.languages) or any(i not in self.languages for i in ids):
             return INVALID_ARGUMENT
         self.languages = list(ids)
-        return OK
 
     getOrderedLanguageIDs = getter("languages")
 
     @operation
     def getLanguageCount(self, count):
         count.value = len(self.languages)
-        return OK
 
     def names_into(self, names, which):
         found = [texts.language_names(language) for language in self.languages]
@@ -246,7 +259,6 @@ class LanguageList(LanguageInterface):
     @operation
     def doesLanguageExist(self, language, exists):
         exists.value = language.value in self.languages
-        return OK
 
 
 class HeaderInterface(LanguageInterface):
@@ -267,14 +279,29 @@ class HeaderInterface(LanguageInterface):
         for name in names.value:
             ends(self.addContentName(name))
         self.copy_one(other, "ShowSearchBar")
-        return OK
 
     def copy_one(self, other, name):
-        """A failing setter of a header is answered with its code, not with the last error."""
+        """If a setter of the header fails, the copy ends with its code, not with the last error."""
         ends(getattr(self, "set" + name)(*get_field(other, name)))
 
 
-class Header(HeaderInterface, LanguageList):
+class Header(
+    HeaderInterface,
+    LanguageList,
+    properties(
+        AppName=anything,
+        AppVersion=anything,
+        Title=anything,
+        Creator=anything,
+        Description=anything,
+        Keywords=anything,
+        IPodExplicit=anything,
+        VideoLength=bool,
+        VideoWidth=bool,
+        VideoHeight=bool,
+        ShowSearchBar=anything,
+    ),
+):
     absent = WARN_NO_CHANGE
 
     def __init__(self):
@@ -298,28 +325,12 @@ class Header(HeaderInterface, LanguageList):
     @operation
     def clearHeader(self):
         self.reset()
-        return OK
 
-    setAppName, getAppName = setter("app_name"), getter("app_name")
-    setAppVersion, getAppVersion = setter("app_version"), getter("app_version")
-    setTitle, getTitle = setter("title"), getter("title")
-    setCreator, getCreator = setter("creator"), getter("creator")
-    setDescription, getDescription = setter("description"), getter("description")
-    setKeywords, getKeywords = setter("keywords"), getter("keywords")
-    setIPodExplicit, getIPodExplicit = setter("ipod_explicit"), getter("ipod_explicit")
-    setShowSearchBar, getShowSearchBar = setter("show_search_bar"), getter("show_search_bar")
-    setVideoLength = checked_setter("video_length", lambda value: value != 0)
-    setVideoWidth = checked_setter("video_width", lambda value: value != 0)
-    setVideoHeight = checked_setter("video_height", lambda value: value != 0)
-    getVideoLength = getter("video_length")
-    getVideoWidth = getter("video_width")
-    getVideoHeight = getter("video_height")
     getContentNames = getter("content_names")
 
     @operation
     def clearContentNames(self):
         self.content_names = []
-        return OK
 
     @operation
     def addContentName(self, name):
@@ -327,28 +338,24 @@ class Header(HeaderInterface, LanguageList):
         if name in self.content_names:
             return WARN_NO_CHANGE
         self.content_names.append(name)
-        return OK
 
     @operation
     def removeContentName(self, name):
         if name not in self.content_names:
             return WARN_NO_CHANGE
         self.content_names.remove(name)
-        return OK
 
     @operation
     def getContentNameCount(self, count):
         count.value = len(self.content_names)
-        return OK
 
     @operation
     def doesContentNameExist(self, name, exists):
         exists.value = name.value in self.content_names
-        return OK
 
 
 def in_catalogue_and_utf8(content, language):
-    """What makes a text with its language acceptable to an item."""
+    """Whether an item accepts the text in the language."""
     known = texts.is_utf8(language) and not failed(texts.is_language(language))
     return known and texts.is_utf8(content)
 
@@ -364,7 +371,6 @@ def text_operations(wrap):
         @wrap
         def clearText(self):
             self.texts = {}
-            return OK
 
         @wrap
         def setTextForLanguage(self, content, language):
@@ -381,46 +387,31 @@ def text_operations(wrap):
         @wrap
         def getLanguageIDs(self, ids):
             ids.value = sorted(self.texts)
-            return OK
 
         @wrap
         def getTextForLanguage(self, content, language):
             if language not in self.texts:
                 return INVALID_ARGUMENT
             content.value = self.texts[language]
-            return OK
 
     return PerLanguageTexts
 
 
-class TimeSpan:
-    """Start, duration and the end that follows from them; a mixin."""
+def span(wrap, accepts_duration):
+    """A base class with the operations on start, duration and the end that follows from them."""
 
-    @staticmethod
-    def span_operations(wrap, accepts_duration):
-        def set_end(self, end):
+    class Span(properties(wrap, Start=is_time, Duration=accepts_duration)):
+        @wrap
+        def setEnd(self, end):
             if end < 0 or end <= self.start:
                 return INVALID_ARGUMENT
             self.duration = end - self.start
-            return OK
 
-        def get_end(self, end):
+        @wrap
+        def getEnd(self, end):
             end.value = wrapped(self.start + self.duration)
-            return OK
 
-        return {
-            "setStart": checked_setter("start", lambda start: start >= 0, wrap),
-            "getStart": getter("start", wrap),
-            "setDuration": checked_setter("duration", accepts_duration, wrap),
-            "getDuration": getter("duration", wrap),
-            "setEnd": wrap(set_end),
-            "getEnd": wrap(get_end),
-        }
-
-
-def timed(wrap, accepts_duration):
-    """A class with the operations on the time span."""
-    return type("Timed", (), TimeSpan.span_operations(wrap, accepts_duration))
+    return Span
 
 
 class CaptionItemInterface(Result):
@@ -430,21 +421,18 @@ class CaptionItemInterface(Result):
             return INTERNAL_ERROR
         copy_texts(self, other)
         copy_fields(self, other, ("Start", "End", "Alignment"))
-        return OK
 
 
 class CaptionItem(
     CaptionItemInterface,
     text_operations(caption_item_operation),
-    timed(caption_item_operation, lambda duration: duration > 0),
+    span(caption_item_operation, lambda duration: duration > 0),
+    properties(caption_item_operation, Alignment=anything),
 ):
     def __init__(self):
         super().__init__()
         self.start = self.duration = 0
         self.alignment = 0x01
-
-    setAlignment = setter("alignment", caption_item_operation)
-    getAlignment = getter("alignment", caption_item_operation)
 
     @caption_item_operation
     def isValid(self, strict):
@@ -457,7 +445,6 @@ class CaptionItem(
                 return INVALID_ITEM
             if strict and texts.count_lines(content) > 4:
                 return WARN_ITEM_GUIDELINES
-        return OK
 
     def assign(self, other):
         self.start, self.duration, self.alignment = other.start, other.duration, other.alignment
@@ -471,20 +458,19 @@ class TocItemInterface(Result):
             return INTERNAL_ERROR
         copy_texts(self, other)
         copy_fields(self, other, ("Start", "ImageFile", "ImageIndex", "ImageOffset"))
-        return OK
 
 
-class TocItem(TocItemInterface, text_operations(operation)):
+# The image of an item.
+IMAGE = {"ImageFile": anything, "ImageIndex": anything, "ImageOffset": anything}
+
+
+class TocItem(
+    TocItemInterface, text_operations(operation), properties(Start=is_time, **IMAGE)
+):
     def __init__(self):
         super().__init__()
         self.start = self.image_index = self.image_offset = 0
         self.image_file = b""
-
-    setStart = checked_setter("start", lambda start: start >= 0)
-    getStart = getter("start")
-    setImageFile, getImageFile = setter("image_file"), getter("image_file")
-    setImageIndex, getImageIndex = setter("image_index"), getter("image_index")
-    setImageOffset, getImageOffset = setter("image_offset"), getter("image_offset")
 
     @operation
     def isValid(self, _deep):
@@ -506,32 +492,27 @@ class ScreenTextItemInterface(Result):
             return INTERNAL_ERROR
         ends_for(self, self.clearText())
         copy_fields(self, other, self.FIELDS)
-        return OK
 
 
-class ScreenTextItem(ScreenTextItemInterface, timed(operation, lambda duration: duration >= 0)):
+class ScreenTextItem(
+    ScreenTextItemInterface, span(operation, is_time), properties(GroupId=anything, **IMAGE)
+):
     def __init__(self):
         super().__init__()
         self.start = self.duration = self.image_index = self.image_offset = self.group_id = 0
         self.text = self.image_file = b""
 
     getText = getter("text")
-    setImageFile, getImageFile = setter("image_file"), getter("image_file")
-    setImageIndex, getImageIndex = setter("image_index"), getter("image_index")
-    setImageOffset, getImageOffset = setter("image_offset"), getter("image_offset")
-    setGroupId, getGroupId = setter("group_id"), getter("group_id")
 
     @operation
     def setText(self, content):
         if not texts.is_utf8(content):
             return INVALID_ITEM
         self.text = content
-        return OK
 
     @operation
     def clearText(self):
         self.text = b""
-        return OK
 
     @operation
     def isValid(self, _deep):
@@ -543,12 +524,40 @@ class ScreenTextItem(ScreenTextItemInterface, timed(operation, lambda duration: 
         self.image_offset, self.group_id = other.image_offset, other.group_id
 
 
-def in_rate_range(value):
-    return 1 <= value <= 10000
+# The operations on the items of a collection, under the names of its kind.
+ITEM_OPERATIONS = {
+    "clear_items": "clear%sItems",
+    "add_item": "add%sItem",
+    "create_item": "create%sItem",
+    "remove_at": "remove%sItemAt",
+    "remove_for_language": "remove%sItemsForLanguage",
+    "count_items": "get%sItemCount",
+    "item_at": "get%sItemAt",
+    "all_items": "get%sItems",
+    "items_for_language": "get%sItemsForLanguage",
+}
 
 
-class ItemList(Result):
-    """What the three collections share over their items. Derived classes name the operations."""
+def item_operations(cls, kind):
+    """Each name that the operations of the class have for this kind, with the operation."""
+    for own, name in ITEM_OPERATIONS.items():
+        if hasattr(cls, own):
+            yield name % kind, getattr(cls, own)
+
+
+def of_kind(kind):
+    """Decorates a class: its operations on items get the names of the kind."""
+
+    def named(cls):
+        for name, body in item_operations(cls, kind):
+            setattr(cls, name, body)
+        return cls
+
+    return named
+
+
+class ItemList(Result, properties(FrameRate=lambda rate: 1 <= rate <= 10000)):
+    """What the three collections do with their items."""
 
     new_item = None
 
@@ -557,66 +566,81 @@ class ItemList(Result):
         self.frame_rate = 1000
         self.items = []
 
-    setFrameRate = checked_setter("frame_rate", in_rate_range)
-    getFrameRate = getter("frame_rate")
-
     def copied(self, item):
         copy = type(self).new_item()
         ends_for(copy, copy.copyFrom(item))
         return copy
 
     @operation
+    def clear_items(self):
+        self.items = []
+
+    @operation
+    def add_item(self, item):
+        self.items.append(self.copied(item))
+
+    @operation
     def create_item(self, out):
         if out.value is not None:
             return INVALID_ARGUMENT
         out.value = type(self).new_item()
-        return OK
 
     @operation
     def remove_at(self, index):
         if index >= len(self.items):
             return INVALID_ARGUMENT
         del self.items[index]
-        return OK
 
     @operation
     def count_items(self, count):
         count.value = len(self.items)
-        return OK
 
     @operation
     def item_at(self, out, index):
         if out.value is not None or index >= len(self.items):
             return INVALID_ARGUMENT
         out.value = self.copied(self.items[index])
-        return OK
 
     @operation
     def all_items(self, out):
         out.value = []
         out.value = [self.copied(item) for item in self.items]
-        return OK
 
     @operation
     def order(self):
-        """Exchange sort by start, in exactly this order of exchanges."""
+        """Exchange sort by start, with the exchanges in exactly this order."""
         for i in range(len(self.items)):
             for j in range(i + 1, len(self.items)):
                 if self.items[j].start < self.items[i].start:
                     self.items[i], self.items[j] = self.items[j], self.items[i]
-        return OK
 
-    def texts_for_listed_languages(self, item):
-        for language in self.languages:
-            ends_for(item, item.getTextForLanguage(Ref(b""), language))
+    @operation
+    def isValid(self, strict):
+        for i, item in enumerate(self.items):
+            if strict:
+                ends_for(item, item.isValid(True))
+            self.check_texts(item)
+            if any(self.ends_after(item, later) for later in self.items[i + 1 :]):
+                return WARN_TIMING
 
-    def fill_missing_texts(self):
-        for item in self.items:
-            for language in self.languages:
-                if failed(item.getTextForLanguage(Ref(b""), language)):
-                    ends_for(item, item.setTextForLanguage(b"", language))
+    def check_texts(self, item):
+        pass
 
-    def append_with_languages(self, item):
+    @staticmethod
+    def ends_after(item, later):
+        return item.start > later.start
+
+
+class TranslatedItemList(LanguageList, ItemList):
+    """The items of captions and tables of contents, which have a text in each language."""
+
+    @operation
+    def clear_items(self):
+        self.items = []
+        self.languages = []
+
+    @operation
+    def add_item(self, item):
         copy = self.copied(item)
         ids = Ref([])
         ends_for(copy, copy.getLanguageIDs(ids))
@@ -625,9 +649,36 @@ class ItemList(Result):
                 raise Stop(self.getLastError())
         self.items.append(copy)
 
-    def remove_texts(self, language):
+    @operation
+    def remove_for_language(self, language):
         for item in self.items:
             ends_for(item, item.removeTextForLanguage(language))
+
+    @operation
+    def items_for_language(self, _items, _language):
+        return NOT_IMPLEMENTED
+
+    def check_texts(self, item):
+        for language in self.languages:
+            ends_for(item, item.getTextForLanguage(Ref(b""), language))
+
+    @operation
+    def make_consistent(self):
+        self.order()
+        for item in self.items:
+            for language in self.languages:
+                if failed(item.getTextForLanguage(Ref(b""), language)):
+                    ends_for(item, item.setTextForLanguage(b"", language))
+
+
+def copy_items(target, source, kind):
+    """Adds the items of the source to the target, which loses its languages first if it has any."""
+    items = Ref([])
+    ends_for(source, getattr(source, "get%sItems" % kind)(items))
+    if isinstance(target, LanguageInterface):
+        ends_for(target, target.clearLanguages())
+    for item in items.value:
+        ends_for(target, getattr(target, "add%sItem" % kind)(item))
 
 
 class CaptionsInterface(LanguageInterface):
@@ -641,12 +692,7 @@ class CaptionsInterface(LanguageInterface):
         ends_for(self, self.clearCaptionItems())
         ends_for(self, self.copyFromLanguage(other))
         copy_fields(self, other, self.FIELDS)
-        items = Ref([])
-        ends_for(other, other.getCaptionItems(items))
-        ends_for(self, self.clearLanguages())
-        for item in items.value:
-            ends_for(self, self.addCaptionItem(item))
-        return OK
+        copy_items(self, other, "Caption")
 
 
 WHITE = (0x3F800000,) * 3
@@ -660,87 +706,34 @@ def in_unit_range(bits):
     return not value < 0.0 and not value > 1.0
 
 
-def colour_setter(field):
-    def body(self, red, green, blue):
-        if not all(in_unit_range(bits) for bits in (red, green, blue)):
-            return INVALID_ARGUMENT
-        setattr(self, field, (red, green, blue))
-        return OK
+@of_kind("Caption")
+class Captions(
+    CaptionsInterface,
+    TranslatedItemList,
+    properties(
+        FontFamily=bool,
+        FontSize=lambda size: 1 <= size <= 500,
+        ForegroundColor=in_unit_range,
+        BackgroundColor=in_unit_range,
+        BackgroundOpacity=in_unit_range,
+    ),
+):
+    """Their styling cannot leave its ranges, because its setters refuse what isValid would find."""
 
-    return operation(body)
-
-
-def colour_getter(field):
-    def body(self, red, green, blue):
-        red.value, green.value, blue.value = getattr(self, field)
-        return OK
-
-    return operation(body)
-
-
-class Captions(CaptionsInterface, LanguageList, ItemList):
     new_item = CaptionItem
+    makeCaptionsConsistent = TranslatedItemList.make_consistent
+    orderCaptions = ItemList.order
 
     def __init__(self):
         super().__init__()
         self.font_family = b"Helvetica"
         self.font_size = 20
-        self.foreground, self.background, self.opacity = WHITE, BLACK, SIX_TENTHS
+        self.foreground_color, self.background_color = WHITE, BLACK
+        self.background_opacity = SIX_TENTHS
 
-    setFontFamily, getFontFamily = checked_setter("font_family", bool), getter("font_family")
-    setFontSize = checked_setter("font_size", lambda size: 1 <= size <= 500)
-    getFontSize = getter("font_size")
-    setForegroundColor = colour_setter("foreground")
-    getForegroundColor = colour_getter("foreground")
-    setBackgroundColor = colour_setter("background")
-    getBackgroundColor = colour_getter("background")
-    setBackgroundOpacity = checked_setter("opacity", in_unit_range)
-    getBackgroundOpacity = getter("opacity")
-
-    createCaptionItem = ItemList.create_item
-    removeCaptionItemAt = ItemList.remove_at
-    getCaptionItemCount = ItemList.count_items
-    getCaptionItemAt = ItemList.item_at
-    getCaptionItems = ItemList.all_items
-    orderCaptions = ItemList.order
-
-    @operation
-    def clearCaptionItems(self):
-        self.items = []
-        self.languages = []
-        return OK
-
-    @operation
-    def addCaptionItem(self, item):
-        self.append_with_languages(item)
-        return OK
-
-    @operation
-    def removeCaptionItemsForLanguage(self, language):
-        self.remove_texts(language)
-        return OK
-
-    @operation
-    def getCaptionItemsForLanguage(self, _items, _language):
-        return NOT_IMPLEMENTED
-
-    @operation
-    def isValid(self, strict):
-        # The styling cannot leave its ranges: its setters refuse what this check would find.
-        for i, item in enumerate(self.items):
-            if strict:
-                ends_for(item, item.isValid(True))
-            self.texts_for_listed_languages(item)
-            end = wrapped(item.start + item.duration)
-            if any(end > later.start for later in self.items[i + 1 :]):
-                return WARN_TIMING
-        return OK
-
-    @operation
-    def makeCaptionsConsistent(self):
-        self.orderCaptions()
-        self.fill_missing_texts()
-        return OK
+    @staticmethod
+    def ends_after(item, later):
+        return wrapped(item.start + item.duration) > later.start
 
 
 class TocInterface(LanguageInterface):
@@ -751,65 +744,18 @@ class TocInterface(LanguageInterface):
         ends_for(self, self.clearTocItems())
         ends_for(self, self.copyFromLanguage(other))
         copy_fields(self, other, ("ImageFile",))
-        items = Ref([])
-        ends_for(other, other.getTocItems(items))
-        ends_for(self, self.clearLanguages())
-        for item in items.value:
-            ends_for(self, self.addTocItem(item))
-        return OK
+        copy_items(self, other, "Toc")
 
 
-class Toc(TocInterface, LanguageList, ItemList):
+@of_kind("Toc")
+class Toc(TocInterface, TranslatedItemList, properties(ImageFile=anything)):
     new_item = TocItem
+    makeTocConsistent = TranslatedItemList.make_consistent
+    orderTocItems = ItemList.order
 
     def __init__(self):
         super().__init__()
         self.image_file = b""
-
-    setImageFile, getImageFile = setter("image_file"), getter("image_file")
-
-    createTocItem = ItemList.create_item
-    removeTocItemAt = ItemList.remove_at
-    getTocItemCount = ItemList.count_items
-    getTocItemAt = ItemList.item_at
-    getTocItems = ItemList.all_items
-    orderTocItems = ItemList.order
-
-    @operation
-    def clearTocItems(self):
-        self.items = []
-        self.languages = []
-        return OK
-
-    @operation
-    def addTocItem(self, item):
-        self.append_with_languages(item)
-        return OK
-
-    @operation
-    def removeTocItemsForLanguage(self, language):
-        self.remove_texts(language)
-        return OK
-
-    @operation
-    def getTocItemsForLanguage(self, _items, _language):
-        return NOT_IMPLEMENTED
-
-    @operation
-    def isValid(self, deep):
-        for i, item in enumerate(self.items):
-            if deep:
-                ends_for(item, item.isValid(True))
-            self.texts_for_listed_languages(item)
-            if any(item.start > later.start for later in self.items[i + 1 :]):
-                return WARN_TIMING
-        return OK
-
-    @operation
-    def makeTocConsistent(self):
-        self.orderTocItems()
-        self.fill_missing_texts()
-        return OK
 
 
 class ScreenTextInterface(Result):
@@ -819,43 +765,10 @@ class ScreenTextInterface(Result):
             return INTERNAL_ERROR
         ends_for(self, self.clearScreenTextItems())
         copy_fields(self, other, ("FrameRate",))
-        items = Ref([])
-        ends_for(other, other.getScreenTextItems(items))
-        for item in items.value:
-            ends_for(self, self.addScreenTextItem(item))
-        return OK
+        copy_items(self, other, "ScreenText")
 
 
+@of_kind("ScreenText")
 class ScreenText(ScreenTextInterface, ItemList):
     new_item = ScreenTextItem
-
-    createScreenTextItem = ItemList.create_item
-    removeScreenTextItemAt = ItemList.remove_at
-    getScreenTextItemCount = ItemList.count_items
-    getScreenTextItemAt = ItemList.item_at
-    getScreenTextItems = ItemList.all_items
-    orderScreenTextItems = ItemList.order
-
-    @operation
-    def clearScreenTextItems(self):
-        self.items = []
-        return OK
-
-    @operation
-    def addScreenTextItem(self, item):
-        self.items.append(self.copied(item))
-        return OK
-
-    @operation
-    def isValid(self, deep):
-        for i, item in enumerate(self.items):
-            if deep:
-                ends_for(item, item.isValid(True))
-            if any(item.start > later.start for later in self.items[i + 1 :]):
-                return WARN_TIMING
-        return OK
-
-    @operation
-    def makeScreenTextConsistent(self):
-        self.orderScreenTextItems()
-        return OK
+    makeScreenTextConsistent = orderScreenTextItems = ItemList.order

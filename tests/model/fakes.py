@@ -1,7 +1,6 @@
 """Implementations of the interfaces as a caller might write them: they check nothing.
 
-Each call is noted down. One call, the n-th, can be scripted to fail or to throw. The driver holds
-the same classes.
+They note each call. A script can make one call fail or throw. The driver has the same classes.
 """
 
 from codes import INVALID_ARGUMENT, NOT_IMPLEMENTED, OK, failed
@@ -20,6 +19,9 @@ from data import (
     ScreenTextItemInterface,
     TocInterface,
     TocItemInterface,
+    copy_of,
+    field_of,
+    item_operations,
 )
 
 
@@ -33,13 +35,13 @@ def shown(value):
 
 
 class Script:
-    """What the n-th call does; 0 for nothing.
+    """What call number `at` does instead of its work; 0 for no call.
 
     c: fails; d: does its work, then fails; h: hands out half of the items, then fails;
-    b, x: throws exhausted memory, something else; B, X: the same after handing out half of the
-    items; l, m: fails, and from then on the last error's getter throws exhausted memory, something
-    else; e, k: ends its thread, which exits or is cancelled; E: exits after handing out half of the
-    items; n: fails, and from then on the last error's getter ends its thread.
+    b, x: throws BadAlloc, ForeignException; B, X: the same after handing out half of the items;
+    l, m: fails, and from then on getLastError throws BadAlloc, ForeignException; e, k: ends its
+    thread, which exits or is cancelled; E: exits after handing out half of the items; n: fails, and
+    from then on getLastError ends its thread.
     """
 
     def __init__(self, at=0, mode="c", code=OK, last=OK):
@@ -56,9 +58,13 @@ def throw(mode):
 
 
 class Fake:
-    """The notes, the script and the last error, to be mixed into an interface."""
+    """The notes, the script, the last error and the values, to be mixed into an interface."""
+
+    VALUES = {}
 
     def begin(self, name, log):
+        for field, value in self.VALUES.items():
+            setattr(self, field, copy_of(value))
         self.name = name
         self.log = log
         self.script = Script()
@@ -95,7 +101,7 @@ class Fake:
         noted = "(" + ",".join(map(shown, arguments)) + ")" if arguments else ""
         self.log.append("%s:%s%s" % (self.name, operation, noted))
         if self.calls != self.script.at:
-            return self.keep(work())
+            return self.keep(work() or OK)
         return self.go_wrong(work, half)
 
     def go_wrong(self, work, half):
@@ -112,64 +118,67 @@ class Fake:
         return self.script.code
 
     def put(self, operation, field, *values):
-        def work():
-            value = values[0] if len(values) == 1 else values
-            setattr(self, field, list(value) if isinstance(value, list) else value)
-            return OK
-
-        return self.call(operation, work, values)
+        value = copy_of(values[0]) if len(values) == 1 else values
+        return self.call(operation, lambda: setattr(self, field, value), values)
 
     def fetch(self, operation, field, *refs):
         def work():
             value = getattr(self, field)
             for ref, one in zip(refs, value if len(refs) > 1 else (value,)):
-                ref.value = list(one) if isinstance(one, list) else one
-            return OK
+                ref.value = copy_of(one)
 
         return self.call(operation, work)
+
+    def deliver(self, operation, ref, value, *arguments):
+        """Sets the reference to what the function returns."""
+        return self.call(operation, lambda: setattr(ref, "value", value()), arguments)
 
     def done(self, operation, *arguments):
         return self.call(operation, lambda: OK, arguments)
 
+    def isValid(self, *strict):
+        return self.done("isValid", *strict)
 
-def plain(cls, **fields):
-    """Gives the class a setter and a getter for each field; the last words name the operations."""
-    for name, field in fields.items():
-        setattr(
-            cls, "set" + name, lambda self, *v, n=name, f=field: self.put("set" + n, f, *v)
+
+def holding(interface, **values):
+    """Decorates a fake of the interface: each name becomes a field with a first value, a setter and
+    a getter. copyFrom is the interface's."""
+
+    def decorated(cls):
+        cls.VALUES = {**cls.VALUES, **{field_of(name): value for name, value in values.items()}}
+        for name in values:
+            add_accessors(cls, name, field_of(name))
+        cls.copyFrom = lambda self, other: self.call(
+            "copyFrom", lambda: interface.copyFrom(self, other)
         )
-        setattr(
-            cls, "get" + name, lambda self, *r, n=name, f=field: self.fetch("get" + n, f, *r)
-        )
-    return cls
+        return cls
+
+    return decorated
+
+
+def add_accessors(cls, name, field):
+    setattr(cls, "set" + name, lambda self, *values: self.put("set" + name, field, *values))
+    setattr(cls, "get" + name, lambda self, *refs: self.fetch("get" + name, field, *refs))
+
+
+def remove_from(values, value):
+    if value in values:
+        values.remove(value)
 
 
 class FakeLanguageOperations(Fake):
-    def begin(self, name, log):
-        self.languages = []
-        return super().begin(name, log)
+    VALUES = {"languages": []}
 
     def clearLanguages(self):
-        def work():
-            self.languages = []
-            return OK
-
-        return self.call("clearLanguages", work)
+        return self.call("clearLanguages", self.languages.clear)
 
     def addLanguage(self, language):
-        def work():
-            self.languages.append(language)
-            return OK
-
-        return self.call("addLanguage", work, (language,))
+        return self.call("addLanguage", lambda: self.languages.append(language), (language,))
 
     def removeLanguage(self, language):
-        def work():
-            if language in self.languages:
-                self.languages.remove(language)
-            return OK
-
-        return self.call("removeLanguage", work, (language,))
+        return self.call(
+            "removeLanguage", lambda: remove_from(self.languages, language), (language,)
+        )
 
     def setOrderedLanguageIDs(self, ids):
         return self.put("setOrderedLanguageIDs", "languages", ids)
@@ -178,11 +187,7 @@ class FakeLanguageOperations(Fake):
         return self.fetch("getOrderedLanguageIDs", "languages", ids)
 
     def getLanguageCount(self, count):
-        def work():
-            count.value = len(self.languages)
-            return OK
-
-        return self.call("getLanguageCount", work)
+        return self.deliver("getLanguageCount", count, lambda: len(self.languages))
 
     def getLanguageDisplayNames(self, names):
         return self.fetch("getLanguageDisplayNames", "languages", names)
@@ -191,113 +196,80 @@ class FakeLanguageOperations(Fake):
         return self.fetch("getLanguageNativeDisplayNames", "languages", names)
 
     def doesLanguageExist(self, language, exists):
-        def work():
-            exists.value = language.value in self.languages
-            return OK
-
-        return self.call("doesLanguageExist", work, (language.value,))
+        return self.deliver(
+            "doesLanguageExist", exists, lambda: language.value in self.languages, language.value
+        )
 
 
 class FakeLanguage(FakeLanguageOperations, LanguageInterface):
     pass
 
 
+@holding(
+    HeaderInterface,
+    AppName=b"",
+    AppVersion=b"",
+    Title=b"",
+    Creator=b"",
+    Description=b"",
+    Keywords=[],
+    IPodExplicit=False,
+    VideoLength=0,
+    VideoWidth=0,
+    VideoHeight=0,
+    ShowSearchBar=False,
+)
 class FakeHeader(FakeLanguageOperations, HeaderInterface):
-    def begin(self, name, log):
-        self.show_search_bar = False
-        self.content_names = []
-        self.wipe()
-        return super().begin(name, log)
-
-    def wipe(self):
-        self.ipod_explicit = False
-        self.app_name = self.app_version = self.title = self.creator = self.description = b""
-        self.video_length = self.video_width = self.video_height = 0
-        self.keywords = []
-        self.languages = []
-        return OK
-
-    def isValid(self):
-        return self.done("isValid")
+    VALUES = {**FakeLanguageOperations.VALUES, "content_names": []}
 
     def clearHeader(self):
         return self.call("clearHeader", self.wipe)
 
-    def clearContentNames(self):
-        def work():
-            self.content_names = []
-            return OK
+    def wipe(self):
+        for field in self.VALUES.keys() - {"content_names", "show_search_bar"}:
+            setattr(self, field, copy_of(self.VALUES[field]))
 
-        return self.call("clearContentNames", work)
+    def clearContentNames(self):
+        return self.call("clearContentNames", self.content_names.clear)
 
     def addContentName(self, name):
-        def work():
-            self.content_names.append(name)
-            return OK
-
-        return self.call("addContentName", work, (name,))
+        return self.call("addContentName", lambda: self.content_names.append(name), (name,))
 
     def removeContentName(self, name):
-        def work():
-            if name in self.content_names:
-                self.content_names.remove(name)
-            return OK
-
-        return self.call("removeContentName", work, (name,))
+        return self.call(
+            "removeContentName", lambda: remove_from(self.content_names, name), (name,)
+        )
 
     def getContentNameCount(self, count):
-        def work():
-            count.value = len(self.content_names)
-            return OK
-
-        return self.call("getContentNameCount", work)
+        return self.deliver("getContentNameCount", count, lambda: len(self.content_names))
 
     def getContentNames(self, names):
         return self.fetch("getContentNames", "content_names", names)
 
     def doesContentNameExist(self, name, exists):
-        def work():
-            exists.value = name.value in self.content_names
-            return OK
-
-        return self.call("doesContentNameExist", work, (name.value,))
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: HeaderInterface.copyFrom(self, other))
+        return self.deliver(
+            "doesContentNameExist", exists, lambda: name.value in self.content_names, name.value
+        )
 
 
-plain(
-    FakeHeader,
-    AppName="app_name",
-    AppVersion="app_version",
-    Title="title",
-    Creator="creator",
-    Description="description",
-    Keywords="keywords",
-    IPodExplicit="ipod_explicit",
-    VideoLength="video_length",
-    VideoWidth="video_width",
-    VideoHeight="video_height",
-    ShowSearchBar="show_search_bar",
-)
+class FakeItem(Fake):
+    """An item that can be cloned with all that it holds, its script included."""
+
+    def clone(self, name, log):
+        copy = type(self)().begin(name, log)
+        copy.set_script(self.script, self.keeps_own)
+        for field in self.VALUES:
+            setattr(copy, field, copy_of(getattr(self, field)))
+        return copy
 
 
-class FakeTextOperations(Fake):
-    """Texts in the order of their coming. The raw list may hold a language twice."""
+class FakeTextOperations(FakeItem):
+    """Texts in the order in which they came. The raw list may hold a language twice."""
 
-    def begin(self, name, log):
-        self.texts = []
-        return super().begin(name, log)
-
-    def isValid(self, strict):
-        return self.done("isValid", strict)
+    VALUES = {"texts": []}
 
     def clearText(self):
-        def work():
-            self.texts = []
-            return OK
-
-        return self.call("clearText", work)
+        return self.call("clearText", self.texts.clear)
 
     def index_of(self, language):
         return next((i for i, (key, _) in enumerate(self.texts) if key == language), None)
@@ -309,23 +281,17 @@ class FakeTextOperations(Fake):
                 self.texts.append((language, content))
             else:
                 self.texts[index] = (language, content)
-            return OK
 
         return self.call("setTextForLanguage", work, (content, language))
 
     def removeTextForLanguage(self, language):
         def work():
             self.texts = [entry for entry in self.texts if entry[0] != language]
-            return OK
 
         return self.call("removeTextForLanguage", work, (language,))
 
     def getLanguageIDs(self, ids):
-        def work():
-            ids.value = [language for language, _ in self.texts]
-            return OK
-
-        return self.call("getLanguageIDs", work)
+        return self.deliver("getLanguageIDs", ids, lambda: [key for key, _ in self.texts])
 
     def getTextForLanguage(self, content, language):
         def work():
@@ -333,106 +299,35 @@ class FakeTextOperations(Fake):
             if index is None:
                 return INVALID_ARGUMENT
             content.value = self.texts[index][1]
-            return OK
 
         return self.call("getTextForLanguage", work, (language,))
 
 
-class FakeItem(Fake):
-    """An item that can be copied with all it holds, its script included."""
-
-    CLONED = ()
-
-    def clone(self, name, log):
-        copy = type(self)().begin(name, log)
-        copy.set_script(self.script, self.keeps_own)
-        for field in self.CLONED:
-            value = getattr(self, field)
-            setattr(copy, field, list(value) if isinstance(value, list) else value)
-        return copy
+@holding(CaptionItemInterface, Start=0, End=0, Duration=0, Alignment=0)
+class FakeCaptionItem(FakeTextOperations, CaptionItemInterface):
+    pass
 
 
-class FakeCaptionItem(FakeItem, FakeTextOperations, CaptionItemInterface):
-    CLONED = ("texts", "start", "end", "duration", "alignment")
-
-    def begin(self, name, log):
-        self.start = self.end = self.duration = self.alignment = 0
-        return super().begin(name, log)
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: CaptionItemInterface.copyFrom(self, other))
+IMAGE = {"ImageFile": b"", "ImageIndex": 0, "ImageOffset": 0}
 
 
-plain(FakeCaptionItem, Start="start", End="end", Duration="duration", Alignment="alignment")
+@holding(TocItemInterface, Start=0, **IMAGE)
+class FakeTocItem(FakeTextOperations, TocItemInterface):
+    pass
 
 
-class FakeTocItem(FakeItem, FakeTextOperations, TocItemInterface):
-    CLONED = ("texts", "start", "image_file", "image_index", "image_offset")
-
-    def begin(self, name, log):
-        self.start = self.image_index = self.image_offset = 0
-        self.image_file = b""
-        return super().begin(name, log)
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: TocItemInterface.copyFrom(self, other))
-
-
-plain(
-    FakeTocItem,
-    Start="start",
-    ImageFile="image_file",
-    ImageIndex="image_index",
-    ImageOffset="image_offset",
-)
-
-
+@holding(ScreenTextItemInterface, Text=b"", Start=0, End=0, Duration=0, GroupId=0, **IMAGE)
 class FakeScreenTextItem(FakeItem, ScreenTextItemInterface):
-    CLONED = ("text", "start", "end", "duration")
-    CLONED += ("image_file", "image_index", "image_offset", "group_id")
-
-    def begin(self, name, log):
-        self.start = self.end = self.duration = 0
-        self.image_index = self.image_offset = self.group_id = 0
-        self.text = self.image_file = b""
-        return super().begin(name, log)
-
-    def isValid(self, strict):
-        return self.done("isValid", strict)
-
     def clearText(self):
-        def work():
-            self.text = b""
-            return OK
-
-        return self.call("clearText", work)
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: ScreenTextItemInterface.copyFrom(self, other))
-
-
-plain(
-    FakeScreenTextItem,
-    Text="text",
-    Start="start",
-    End="end",
-    Duration="duration",
-    ImageFile="image_file",
-    ImageIndex="image_index",
-    ImageOffset="image_offset",
-    GroupId="group_id",
-)
+        return self.call("clearText", lambda: setattr(self, "text", b""))
 
 
 class FakeItemList(Fake):
-    """The items of a collection. What it hands out are clones whose calls are noted, too."""
+    """The items of a collection. It hands out clones, which note their calls too. The first
+    argument of each operation is its name."""
 
+    VALUES = {"items": []}
     new_item = None
-
-    def begin(self, name, log):
-        self.frame_rate = 1000
-        self.items = []
-        return super().begin(name, log)
 
     def unnoted(self):
         return type(self).new_item().begin("", [])
@@ -443,7 +338,7 @@ class FakeItemList(Fake):
     def noted_clone(self, index):
         return self.items[index].clone("%s.%d" % (self.name, index), self.log)
 
-    def add(self, operation, item):
+    def add_item(self, operation, item):
         def work():
             copy = self.unnoted()
             code = copy.copyFrom(item)
@@ -453,12 +348,11 @@ class FakeItemList(Fake):
 
         return self.call(operation, work)
 
-    def create(self, operation, out):
+    def create_item(self, operation, out):
         def work():
             if out.value is not None:
                 return INVALID_ARGUMENT
             out.value = self.unnoted()
-            return OK
 
         return self.call(operation, work)
 
@@ -467,130 +361,78 @@ class FakeItemList(Fake):
             if index >= len(self.items):
                 return INVALID_ARGUMENT
             del self.items[index]
-            return OK
 
         return self.call(operation, work, (index,))
 
-    def count(self, operation, count):
-        def work():
-            count.value = len(self.items)
-            return OK
+    def count_items(self, operation, count):
+        return self.deliver(operation, count, lambda: len(self.items))
 
-        return self.call(operation, work)
-
-    def at(self, operation, out, index):
+    def item_at(self, operation, out, index):
         def work():
             if out.value is not None or index >= len(self.items):
                 return INVALID_ARGUMENT
             out.value = self.noted_clone(index)
-            return OK
 
         return self.call(operation, work, (index,))
 
     def all_items(self, operation, out):
         def hand_out(count):
             out.value = [self.noted_clone(index) for index in range(count)]
-            return OK
 
         half = (len(self.items) + 1) // 2
         return self.call(
             operation, lambda: hand_out(len(self.items)), half=lambda: hand_out(half)
         )
 
-    def clear(self, operation):
+    def clear_items(self, operation):
         def work():
             self.items = []
             self.languages = []
-            return OK
 
         return self.call(operation, work)
 
 
-def collection(cls, kind, items):
-    """Gives the class the item operations under the names of its kind."""
-    operations = {
-        "add%sItem" % kind: cls.add,
-        "create%sItem" % kind: cls.create,
-        "remove%sItemAt" % kind: cls.remove_at,
-        "get%sItemCount" % kind: cls.count,
-        "get%sItemAt" % kind: cls.at,
-        "get%sItems" % kind: cls.all_items,
-        "clear%sItems" % kind: cls.clear,
-    }
-    for name, body in operations.items():
-        setattr(cls, name, lambda self, *a, n=name, b=body: b(self, n, *a))
-    for name in items:
-        setattr(cls, name, lambda self, *a, n=name: self.call(n, lambda: OK))
-    return cls
+class FakeTranslatedItemList(FakeLanguageOperations, FakeItemList):
+    VALUES = {**FakeLanguageOperations.VALUES, **FakeItemList.VALUES}
+    remove_for_language = Fake.done
+
+    def items_for_language(self, operation, _items, language):
+        return self.call(operation, lambda: NOT_IMPLEMENTED, (language,))
 
 
-class FakeCaptions(FakeLanguageOperations, FakeItemList, CaptionsInterface):
+def of_kind(kind, make_consistent):
+    """Decorates a collection: its operations on items get the names of the kind."""
+
+    def named(cls):
+        operations = [*item_operations(cls, kind), (make_consistent, Fake.done)]
+        for name, body in operations:
+            setattr(cls, name, lambda self, *a, n=name, b=body: b(self, n, *a))
+        return cls
+
+    return named
+
+
+@of_kind("Caption", "makeCaptionsConsistent")
+@holding(
+    CaptionsInterface,
+    FrameRate=1000,
+    FontFamily=b"Font",
+    FontSize=20,
+    ForegroundColor=WHITE,
+    BackgroundColor=BLACK,
+    BackgroundOpacity=SIX_TENTHS,
+)
+class FakeCaptions(FakeTranslatedItemList, CaptionsInterface):
     new_item = FakeCaptionItem
 
-    def begin(self, name, log):
-        self.font_family = b"Font"
-        self.font_size = 20
-        self.foreground, self.background, self.opacity = WHITE, BLACK, SIX_TENTHS
-        return super().begin(name, log)
 
-    def isValid(self, strict):
-        return self.done("isValid", strict)
-
-    def removeCaptionItemsForLanguage(self, language):
-        return self.done("removeCaptionItemsForLanguage", language)
-
-    def getCaptionItemsForLanguage(self, _items, language):
-        return self.call("getCaptionItemsForLanguage", lambda: NOT_IMPLEMENTED, (language,))
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: CaptionsInterface.copyFrom(self, other))
-
-
-plain(
-    FakeCaptions,
-    FrameRate="frame_rate",
-    FontFamily="font_family",
-    FontSize="font_size",
-    ForegroundColor="foreground",
-    BackgroundColor="background",
-    BackgroundOpacity="opacity",
-)
-collection(FakeCaptions, "Caption", ["makeCaptionsConsistent"])
-
-
-class FakeToc(FakeLanguageOperations, FakeItemList, TocInterface):
+@of_kind("Toc", "makeTocConsistent")
+@holding(TocInterface, FrameRate=1000, ImageFile=b"")
+class FakeToc(FakeTranslatedItemList, TocInterface):
     new_item = FakeTocItem
 
-    def begin(self, name, log):
-        self.image_file = b""
-        return super().begin(name, log)
 
-    def isValid(self, deep):
-        return self.done("isValid", deep)
-
-    def removeTocItemsForLanguage(self, language):
-        return self.done("removeTocItemsForLanguage", language)
-
-    def getTocItemsForLanguage(self, _items, language):
-        return self.call("getTocItemsForLanguage", lambda: NOT_IMPLEMENTED, (language,))
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: TocInterface.copyFrom(self, other))
-
-
-plain(FakeToc, FrameRate="frame_rate", ImageFile="image_file")
-collection(FakeToc, "Toc", ["makeTocConsistent"])
-
-
+@of_kind("ScreenText", "makeScreenTextConsistent")
+@holding(ScreenTextInterface, FrameRate=1000)
 class FakeScreenText(FakeItemList, ScreenTextInterface):
     new_item = FakeScreenTextItem
-
-    def isValid(self, deep):
-        return self.done("isValid", deep)
-
-    def copyFrom(self, other):
-        return self.call("copyFrom", lambda: ScreenTextInterface.copyFrom(self, other))
-
-
-plain(FakeScreenText, FrameRate="frame_rate")
-collection(FakeScreenText, "ScreenText", ["makeScreenTextConsistent"])

@@ -1,7 +1,7 @@
-"""Random scripts that mostly do what a caller would do, and often enough what nobody should.
+"""Random scripts that mostly do what callers do, and sometimes what no caller should.
 
-A script is made on the running model, so that it knows what is there. The same seed gives the same
-script.
+The generator runs each operation on the model, so it knows which objects there are. The same seed
+gives the same script.
 """
 
 import random
@@ -27,7 +27,7 @@ FRAGMENTS = [
     packet.ANCHOR, b"</rdf:Bag>", b' dc:date="2000-01-01T00:00:00+0:00"', b"\x7f", b"-12", b"1/2",
     b"\0", b"\x01", b"\x1f", b"\x0b", b"\x08\x0c",
 ]
-# These pass the check although no strict reader would take them.
+# The check accepts these, but no strict reader does.
 FRAGMENTS += [b"\xed\xa0\x80", b"\xe0\x80\x80", b"\xf0\x80\x80\x80", b"\xf7\xbf\xbf\xbf"]
 FRAGMENTS += [b"\xf8\x88\x80\x80\x80", b"\xfb\xbf\xbf\xbf\xbf", b"\xfc\x84\x80\x80\x80\x80"]
 FRAGMENTS += [b"\xfd\xbf\xbf\xbf\xbf\xbf", b"\xc2\x80", b"\xdf\xbf", b"\xf0\x9f\x98\x80"]
@@ -79,7 +79,7 @@ class Generator:
         self.length = length
         self.script = []
         self.expected = []
-        # Some scripts are tame, so that long sequences without a refusal come up, too.
+        # Some scripts hold nothing odd, so that long sequences are accepted.
         self.oddity = self.random.choice([0.0, 0.03, 0.1, 0.3])
         self.seed_number = seed
 
@@ -110,7 +110,7 @@ class Generator:
         return b"".join(pieces)
 
     def languages(self, slot=None):
-        """Often a new order of what the object holds."""
+        """Often the languages of the object in another order."""
         held = list(getattr(self.session.slots.get(slot), "languages", ()))
         if held and self.random.random() < 0.7:
             self.random.shuffle(held)
@@ -146,7 +146,7 @@ class Generator:
         return self.language() if self.names_language(operation) else self.words()
 
     def held_name(self, operation, slot):
-        """For what looks up or removes: often a name that the object holds."""
+        """For an operation that looks up or removes: often a name that the object holds."""
         thing = self.session.slots.get(slot)
         if not operation.startswith(("remove", "does", "getText")) or self.random.random() < 0.3:
             return None
@@ -180,7 +180,7 @@ class Generator:
         return self.pick(NUMBERS, ODD_NUMBERS)
 
     def before(self, kind, operation, slot):
-        """What stands in a reference argument before the call; in some it is an input, too."""
+        """The value of a reference argument before the call, which some operations read."""
         sought = self.held_name(operation, slot) if operation.startswith("does") else None
         if operation == "doesLanguageExist":
             sought = sought or self.language()
@@ -254,7 +254,7 @@ class Generator:
         self.emit("U." + name, *values)
 
     def some(self, interface):
-        """An object of ours where there is one, sometimes a fake."""
+        """An object with the interface, sometimes a fake; 0 if there is none."""
         slots = self.slots_of(interface)
         return self.random.choice(slots) if slots else 0
 
@@ -308,12 +308,12 @@ class Generator:
                 self.on(family, operation, slot)
 
     def prune(self):
-        """Takes away and reorders what is there."""
+        """Removes and reorders what an object holds."""
         words = ("remove", "clear", "setOrdered", "make", "order")
         family = self.random.choice(LOOKED_AT)
         slot = self.full(family)
         for operation in SIGNATURES[family]:
-            # What empties everything is rarer than what takes away one.
+            # Clearing everything is rarer than removing one thing.
             often = 0.15 if operation.startswith("clear") else 0.5
             if operation.startswith(words) and self.random.random() < often:
                 self.on(family, operation, slot)
@@ -342,7 +342,7 @@ class Generator:
         slot = self.some("D")
         for family, name in SETS.items():
             source = self.full(family)
-            # Without a header nothing is written.
+            # A document without a header writes nothing.
             missing = family == "H" and name not in self.session.slots[slot].held
             if missing and not self.odd() and not self.holds(self.session.slots[source]):
                 source = self.fill_header()
@@ -355,7 +355,7 @@ class Generator:
             self.on("B", self.random.choice(["writeString", "writeString", "writeFile"]), slot)
 
     def full(self, family):
-        """An object that holds something, where there is one."""
+        """An object that holds something, if there is one."""
         slots = self.slots_of(family)
         holding = [slot for slot in slots if self.holds(self.session.slots[slot])]
         return self.random.choice(holding if holding and not self.odd() else slots or [0])
@@ -370,14 +370,14 @@ class Generator:
         return [slot for slot, thing in self.session.slots.items() if isinstance(thing, wanted)]
 
     def fake_script(self, calls, reads_only):
-        """What goes wrong at one of the next calls; sometimes nothing."""
+        """A script for one of the next calls; what it says may change nothing."""
         at = self.random.randint(1, calls)
-        # Of a target whose last error cannot even be asked for, nothing can be said.
+        # The model says nothing about a target whose last error cannot be read.
         mode = self.random.choice("cccccddhhbxBX" + ("lm" if reads_only else ""))
         code = self.random.choice(FAILURES)
         if mode == "d" and self.random.random() < 0.4:
             code = self.random.choice([0, 1, 0x3FFFFFFF])
-        # A failure that is told as a success leaves half-filled copies where whole ones belong.
+        # If the last error of a failure is success, a half-filled copy is used like a whole one.
         last = self.random.choice([code, code, 0, 0, self.random.choice(LAST_ERRORS)])
         return at, mode, code, last, int(self.random.random() < 0.2)
 
@@ -385,7 +385,7 @@ class Generator:
         self.emit("fake.script", slot, 0, "c", 0, 0, 0)
 
     def fill_fake(self, family, slot):
-        """Gives a fake contents that mostly can be copied."""
+        """Fills a fake, mostly with contents that can be copied."""
         self.unscripted(slot)
         if family in FAKE_ITEMS:
             return self.fill_fake_item(family, slot)
@@ -421,7 +421,7 @@ class Generator:
             self.style(family, slot)
 
     def readers(self, family):
-        """The operations that read an object of the family, each with an object to call it on."""
+        """The operations that read an object of the family, each with each object that has it."""
         kinds = [
             ("%s.%s" % (owner, operation), owner)
             for owner, operations in SIGNATURES.items()
@@ -431,7 +431,7 @@ class Generator:
         return [(name, slot) for name, owner in kinds for slot in self.slots_of(owner)]
 
     def scene_with_source(self):
-        """A fake is filled, scripted, read by something, and the reader is looked at."""
+        """Fills and scripts a fake, lets another object read it, and looks at that object."""
         family = self.random.choice(LOOKED_AT)
         fake = self.random.choice(self.fakes_of("f" + family) or [0])
         self.fill_fake(family, fake)
@@ -448,7 +448,7 @@ class Generator:
             self.look_at(operation.partition(".")[0], reader)
 
     def scene_with_target(self):
-        """A fake is scripted, filled from something, and looked at."""
+        """Scripts a fake, copies something into it, and looks at it."""
         family = self.random.choice(LOOKED_AT)
         fake = self.random.choice(self.fakes_of("f" + family) or [0])
         calls = {"H": 20, "C": 13, "CI": 7, "TI": 8, "SI": 9, "T": 8}.get(family, 5)

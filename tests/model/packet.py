@@ -1,7 +1,7 @@
-"""The formatters and the documents: what is written, and what each step answers.
+"""The formatters and the documents: what they write, and the code of each step.
 
-The texts are put together literally, element by element, without the element tree, so that an error
-of the tree cannot hide here.
+The texts are put together element by element, without the element tree, so a mistake in the tree
+shows.
 """
 
 import text as texts
@@ -32,7 +32,7 @@ from data import (
 )
 from xmltree import DECLARATION
 
-# Stands for the moment of writing until the comparison.
+# The place of the moment of writing, which only the comparison fills.
 DATE = b"<the moment of writing>"
 
 NAMESPACES = (
@@ -172,10 +172,10 @@ def captions_text(c):
         (b"xmpDM:trackName", b"Captioning"),
         (b"stFnt:fontFamily", c.font_family),
         (b"zelDM:fontSize", texts.decimal(c.font_size)),
-        (b"zelDM:bgOpacity", texts.value_of_float(c.opacity)),
+        (b"zelDM:bgOpacity", texts.value_of_float(c.background_opacity)),
     )
     markers = [caption_marker(c.languages, item) for item in c.items]
-    colours = colour(b"zel:fgColor", c.foreground), colour(b"zel:bgColor", c.background)
+    colours = colour(b"zel:fgColor", c.foreground_color), colour(b"zel:bgColor", c.background_color)
     return track(attributes, markers, *colours)
 
 
@@ -241,14 +241,13 @@ class Formatter(Result):
             self.held = type(self).new_set()
         ends_for(self.held, getattr(self.held, self.clear)())
         ends_for(self.held, self.held.copyFrom(source))
-        return OK
 
     @operation
     def refuse(self, _target):
         return NOT_IMPLEMENTED
 
     def check(self, kind):
-        """Nothing is written in another format, and nothing before a set was given."""
+        """Refuses another format, and refuses to write before a set was given."""
         if kind != XMP:
             raise Stop(INTERNAL_ERROR)
         if self.held is None:
@@ -279,11 +278,10 @@ class HeaderFormatter(Formatter):
     def writeString(self, out, kind, _flag):
         self.check(kind)
         out.value = header_text(self.held)
-        return OK
 
     @operation
     def writeFile(self, _file, kind, _flag):
-        """Never writes a string first, unlike the others."""
+        """Unlike the others, never writes a string first."""
         return NOT_IMPLEMENTED if kind == XMP else INTERNAL_ERROR
 
 
@@ -298,10 +296,9 @@ class TrackFormatter(Formatter):
             return OK
         ends_for(self.held, getattr(self.held, self.make_consistent)())
         for index in range(len(self.held.items)):
-            # The items are read as copies, and a copy of a half-filled item fails.
+            # The formatter reads copies of the items, and a half-filled item cannot be copied.
             ends_for(self.held, self.held.item_at(Ref(None), index))
         out.value = type(self).write_track(self.held)
-        return OK
 
 
 class CaptionFormatter(TrackFormatter):
@@ -356,7 +353,7 @@ SETS = {
 
 
 class File:
-    """A path of the scratch folder and what stands there. `openable` is false where none can be."""
+    """A path in the scratch folder, whether it can be opened, and the contents of its file."""
 
     def __init__(self, openable, content):
         self.openable = openable
@@ -369,11 +366,10 @@ def set_operation(kind):
         if held is None:
             held = self.held[kind] = SETS[kind][0]()
             self.store(OK)
-        # A header's failure is told by the captions, where there are any.
+        # If the header fails and there are captions, the code is their last error.
         teller = self.held.get("Captions", held) if kind == "Header" else held
         ends_for(teller, getattr(held, SETS[kind][1])())
         ends_for(teller, held.copyFrom(source))
-        return OK
 
     return operation(body)
 
@@ -385,7 +381,6 @@ def get_operation(kind):
             return NO_DATA
         ends_for(target, getattr(target, SETS[kind][1])())
         ends_for(target, target.copyFrom(held))
-        return OK
 
     return operation(body)
 
@@ -420,7 +415,7 @@ class Document(Result):
         return NOT_IMPLEMENTED
 
     def through_copy(self, kind, write):
-        """Writes through a temporary document. Its final code is returned but not stored."""
+        """Writes through a temporary document. Returns its final code but does not store it."""
         if kind != XMP:
             return self.store(UNSUPPORTED_FORMAT)
         copy = XmpDocument()
@@ -445,7 +440,7 @@ FORMATTERS = {
 
 class XmpDocument(Document):
     def take_languages(self, header):
-        """The header's languages become those of the captions, or en-US alone."""
+        """Gives the header the languages of the captions, or en-US alone."""
         ends_for(header, header.clearLanguages())
         ids = Ref([])
         captions = self.held.get("Captions")
@@ -484,7 +479,6 @@ class XmpDocument(Document):
         tracks = b"".join(self.part(FORMATTERS[name], kind, name) for name in present)
         text = self.joined(frame, tracks) if tracks else frame
         out.value = out.value + text if append else text
-        return OK
 
     def writeFile(self, file, kind, _flag):
         text = Ref(b"")

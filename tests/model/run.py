@@ -3,8 +3,8 @@
 
 run.py --seeds A..B --driver PATH [--length N] [--keep-going] [--no-shrink]
 
-On the first difference of a script, the script is made as short as it will go and shown with both
-answers. The exit status is 1 when there was one.
+At the first difference, it removes from the script what the difference does not need, and shows the
+rest with both answers. The exit status is 1 if there is a difference.
 """
 
 import argparse
@@ -22,7 +22,7 @@ from packet import DATE
 from session import Session
 import text as texts
 
-# Fixed offsets, so that the model needs no rules of daylight saving time. POSIX turns the sign.
+# Fixed offsets, so that the model needs no rules for daylight saving time. POSIX reverses the sign.
 ZONES = [("UTC0", 0), ("AAA-2", 7200), ("BBB5", -18000), ("CCC-5:30", 19800)]
 ZONES += [("DDD-14", 50400), ("EEE12", -43200)]
 
@@ -30,7 +30,7 @@ DATE_PATTERN = re.compile(rb"(\d{4})-(\d\d)-(\d\d)T(\d\d):(\d\d):(\d\d)([+-]\d+)
 
 
 def word(value):
-    """A value as the driver reads it."""
+    """A value in the form that the driver reads."""
     if value is None:
         return "now"
     if isinstance(value, bytes):
@@ -45,7 +45,7 @@ def line_of(operation):
 
 
 class Moment:
-    """Accepts as date what the clock can have shown while the driver ran."""
+    """Allows the dates that the clock can have shown while the driver ran."""
 
     def __init__(self, zone):
         self.zone = zone
@@ -75,7 +75,7 @@ def same(expected, actual, moment):
 
 
 def answers(driver, script, zone_name):
-    """What the driver prints, one line for each operation, and a last one when it died."""
+    """The lines that the driver prints, one for each operation, and one more if it crashed."""
     with tempfile.TemporaryDirectory() as folder:
         done = subprocess.run(
             [driver, folder],
@@ -110,7 +110,7 @@ def expected_of(script, zone):
 
 
 def shrunk(driver, script, zone):
-    """The script without everything that the difference does not need."""
+    """The script without what the difference does not need."""
 
     def differs(candidate):
         return first_difference(driver, candidate, expected_of(candidate, zone), zone)
@@ -134,7 +134,7 @@ def shrunk(driver, script, zone):
 
 
 def readable(answer):
-    """Long answers are shown with their texts decoded."""
+    """The answer with its texts decoded."""
     words = []
     for one in answer.split(" "):
         if re.fullmatch(r"s([0-9a-f]{2})+\]?", one):

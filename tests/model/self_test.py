@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The model by itself, against expectations that are written out here."""
+"""Tests of the model alone, with the expectations written out."""
 
 import sys
 import unittest
@@ -21,7 +21,7 @@ INVALID_ARGUMENT = 0x80000003
 
 
 def got(getter, *arguments, before=None):
-    """What a getter delivers."""
+    """The value that a getter delivers."""
     ref = Ref(before)
     getter(ref, *arguments)
     return ref.value
@@ -29,7 +29,7 @@ def got(getter, *arguments, before=None):
 
 class Checked(unittest.TestCase):
     def answers(self, code, thing, operation, *arguments):
-        """The returned code and the last error are the same one."""
+        """Expects the code as the result and as the last error."""
         self.assertEqual(hex(code), hex(getattr(thing, operation)(*arguments)))
         self.assertEqual(hex(code), hex(thing.getLastError()))
 
@@ -574,7 +574,7 @@ class DocumentTest(Checked):
         plain.setDataHeader(data.Header())
         self.assertEqual((INVALID_ARGUMENT, b"before"), written(plain))
 
-    def test_header_failure_is_told_by_the_captions(self):
+    def test_a_failing_header_ends_with_the_last_error_of_the_captions(self):
         document = packet.Document()
         document.setDataCaptions(data.Captions())
         self.answers(0, document, "setDataHeader", data.Header())

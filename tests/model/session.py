@@ -12,7 +12,7 @@ from data import BadAlloc, EndOfThread, ForeignException, Ref
 from signatures import FUNCTIONS, SIGNATURES
 from xmltree import Stream, safe_xml
 
-# An out-pointer that does not point to a null pointer, and an item that was in a vector before.
+# What an out-pointer that is not empty points to, and each item in a vector before the call.
 FULL = object()
 
 INTERFACES = {
@@ -111,7 +111,7 @@ DESCRIBED = (
 
 
 def described(item):
-    """All that an item holds, read through its operations."""
+    """All that an item holds, as its getters deliver it."""
     try:
         parts = ["%08x" % item.getLastError()]
         fields = next(names for interface, names in DESCRIBED if isinstance(item, interface))
@@ -163,7 +163,7 @@ class ObjectArgument:
 
 
 class OutPointer:
-    """Where: "null", "full" or the number under which the new object is kept."""
+    """"null", "full" or the number that the new object gets."""
 
     def __init__(self, _session, _kind, where):
         self.where = where
@@ -191,7 +191,7 @@ class ItemsArgument:
 
 
 class FileArgument:
-    """file: one that can be written; missing, empty, zero: paths that cannot be opened."""
+    """file: a file that exists; missing, empty, zero: paths that cannot be opened."""
 
     def __init__(self, _session, _kind, where):
         self.passed = packet.File(where == "file", b"before" if where == "file" else None)
@@ -211,7 +211,7 @@ def argument_class(kind):
 
 
 class MissingObject(Exception):
-    """The script names an object that is not there or not of that kind."""
+    """The script names an object that does not exist or is of another kind."""
 
 
 def names_function(which):
@@ -289,7 +289,7 @@ FUNCTION_BODIES = {
 
 
 class Tree:
-    """One stream, its nodes and attributes in the order in which they were first handed out."""
+    """A stream, with its nodes and attributes in the order in which it first returned them."""
 
     def __init__(self):
         self.stream = Stream()

@@ -1,10 +1,39 @@
 """Every operation that a script can name, with the kinds of its arguments.
 
 By value: s text, v list of texts, u unsigned long, q long long, o unsigned long long, l long,
-b bool, f float, t format, a alignment. Capital letters: by reference, with the value that stands
-there before; I is an int. c:X and m:X: an object of X that is read or changed. p:X: an out-pointer.
+b bool, f float, t format, a alignment. Capital letters: by reference, with the value before the
+call; I is an int. c:X and m:X: an object of X that is read or changed. p:X: an out-pointer.
 i:X: a vector of item pointers. D: pointer to a time. k: a kind of file.
+
+To write the C++ file with which the driver knows the operations of objects, call it with a path.
 """
+
+import sys
+from pathlib import Path
+
+# The class to which the operations of each family belong.
+CLASSES = {
+    "L": "i_ZelDataLanguage",
+    "H": "i_ZelDataHeader",
+    "CI": "i_ZelDataCaptionItem",
+    "C": "i_ZelDataCaptions",
+    "TI": "i_ZelDataTocItem",
+    "T": "i_ZelDataToc",
+    "SI": "i_ZelDataScreenTextItem",
+    "S": "i_ZelDataScreenText",
+    "B": "i_ZelDataFormatterBase",
+    "HF": "i_ZelDataHeaderFormatter",
+    "CF": "i_ZelDataCaptionFormatter",
+    "TF": "i_ZelDataTocFormatter",
+    "SF": "i_ZelDataScreenTextFormatter",
+    "D": "i_ZelInterchangeDataCore",
+    "ZCI": "ZelDataCaptionItem",
+    "ZTI": "ZelDataTocItem",
+    "ZSI": "ZelDataScreenTextItem",
+    "ZC": "ZelDataCaptions",
+    "ZT": "ZelDataToc",
+    "ZS": "ZelDataScreenText",
+}
 
 
 def table(text):
@@ -263,3 +292,40 @@ FUNCTIONS = table(
     languagefromID s
     """
 )
+
+DRIVER_FILE = """\
+// Written by signatures.py.
+
+#include "Operations.h"
+
+#include "captions/ZelDataCaptionItem.h"
+#include "captions/ZelDataCaptions.h"
+#include "screentext/ZelDataScreenText.h"
+#include "screentext/ZelDataScreenTextItem.h"
+#include "toc/ZelDataToc.h"
+#include "toc/ZelDataTocItem.h"
+
+#include "ZelInterchangeData/ZelInterchangeData.h"
+
+void model::addMemberOperations(Operations& operations)
+{
+    using namespace ZelInterchangeData;
+%s}
+"""
+
+
+def driver_lines():
+    for family, operations in SIGNATURES.items():
+        for name, kinds in operations.items():
+            body = "member(&%s::%s)" % (CLASSES[family], name)
+            if name == "assign":
+                body = "assigning<%s>()" % CLASSES[family]
+            if name.startswith("copyFrom"):  # overloaded
+                body = "copying<%s>()" % CLASSES[family]
+            if "k" in kinds:
+                body = "writeFile"
+            yield '    operations["%s.%s"] = %s;\n' % (family, name, body)
+
+
+if __name__ == "__main__":
+    Path(sys.argv[1]).write_text(DRIVER_FILE % "".join(driver_lines()), encoding="ascii")

@@ -1,7 +1,7 @@
 """Texts and values: UTF-8, escaping, the language catalogue, numbers and dates.
 
-Strings are bytes throughout, floats travel as their 32-bit patterns, so that nothing is lost on the
-way.
+Strings are bytes, and floats are their 32-bit patterns, so nothing is lost on the way to the
+driver.
 """
 
 import math
@@ -14,7 +14,7 @@ ENTITIES = {0x22: b"&quot;", 0x26: b"&amp;", 0x27: b"&apos;", 0x3C: b"&lt;", 0x3
 
 
 def following_bytes(lead):
-    """How many continuation bytes the lead byte asks for, None where it is no lead byte."""
+    """How many continuation bytes must follow the lead byte; None if it is not one."""
     for first, last, count in (
         (0x00, 0x7F, 0),
         (0xC2, 0xDF, 1),
@@ -66,7 +66,7 @@ def tags_to_text(text):
 
 
 def candidate_at(text, at):
-    """The entity that the bytes after the ampersand select, and where the last selector stands."""
+    """The entity that the bytes after the ampersand select, and the place of the last such byte."""
     selector = text[at + 1 : at + 2]
     if selector == b"a":
         return {b"m": b"&amp;", b"p": b"&apos;"}.get(text[at + 2 : at + 3]), at + 2
@@ -100,14 +100,14 @@ def horizontal_alignment(alignment):
 
 
 def language_names(language):
-    """English and own name, or None where the catalogue does not know the language."""
+    """The English and the native name, or None if the catalogue does not know the language."""
     if len(language) < 2 or (len(language) > 2 and language[2:3] != b"-"):
         return None
     return NAMES.get(language[:2].lower())
 
 
 def language_key(code):
-    """The two bytes after two blanks, as one number; only ASCII letters become small."""
+    """Two blanks and the two bytes as one number; only ASCII letters become lower case."""
     first, second = code.lower()
     return 0x20200000 + first * 256 + second
 
@@ -129,7 +129,7 @@ def double_of(bits):
 
 
 def general(value, negative):
-    """Six significant digits; the sign of a NaN is written, as the C library does."""
+    """Six significant digits. Like the C library, it writes the sign of a NaN."""
     if math.isnan(value):
         return b"-nan" if negative else b"nan"
     return b"%g" % value
@@ -156,7 +156,7 @@ def version(number):
 
 
 def civil_date(days):
-    """Year, month and day of the day that lies so many days after 1970-01-01."""
+    """Year, month and day, from the days since 1970-01-01."""
     era_day = days + 719468
     era, day_of_era = divmod(era_day, 146097)
     year_of_era = (
@@ -170,7 +170,7 @@ def civil_date(days):
 
 
 def broken_down(seconds):
-    """Year, month, day, hour, minute, second; None when the year does not fit the C library's."""
+    """Year, month, day, hour, minute, second; None if the year is out of the C library's range."""
     days, rest = divmod(seconds, 86400)
     year, month, day = civil_date(days)
     if not -(2**31) <= year - 1900 < 2**31:

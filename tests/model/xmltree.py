@@ -1,4 +1,4 @@
-"""The element tree: built by paths, written without escaping."""
+"""The element tree: it is built by paths and does not escape what it writes."""
 
 DECLARATION = b'<?xml version="1.0" encoding="utf-8" ?>'
 
@@ -59,7 +59,7 @@ class Node:
         self.text_reached = True
 
     def set_text(self, text):
-        """Hands back the parent, which only a node whose text was reached can do."""
+        """Returns the parent, but only if the text of the node was reached before."""
         self.text = text
         return self.parent if self.text_reached else None
 

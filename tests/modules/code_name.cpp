@@ -1,4 +1,4 @@
-// A plug-in that answers with the names of three codes, two of them beyond those of the library.
+// A plug-in that answers with the names of three codes, two of which the library does not have.
 
 #include "ZelInterchangeData/ZelDataResultText.h"
 

@@ -1,10 +1,10 @@
 // A program with plug-ins. Usage: host HOW [PLUG_IN...]
 //
-// HOW is "local" or "global", as each plug-in is to be opened, or "linked" for the one that the program
-// was linked with. Calls the function run of each plug-in, all of them being open, and prints a line
-// for each: its answer, or the error that was thrown. Then closes them and names those that stay in
-// the process. With WITH_A_COPY the program has a copy of the library and uses its data sets, and nothing
-// that writes, before and after.
+// HOW is "local" or "global", the scope in which to open each plug-in, or "linked" for the plug-in that
+// the program is linked with. Opens all plug-ins, calls the function run of each and prints its answer
+// or error, one per line. Then closes the plug-ins and prints those that stay in the process. With
+// WITH_A_COPY, the program contains a copy of the library, and uses its data sets before and after, but
+// does not write.
 
 #ifdef WITH_A_COPY
 #include "ZelInterchangeData/ZelDataFace.h"

@@ -1,5 +1,5 @@
-"""Programs with plug-ins: several copies and several versions of the library in one process, and
-programs that were compiled with other settings than the library."""
+"""Tests programs with plug-ins, with several copies and versions of the library in one process, and
+programs compiled with other settings than the library."""
 
 import os
 import re
@@ -27,7 +27,7 @@ OUR_NAME = re.compile(r"_Z(?:T[A-Z]|G[VR])?N?[KVRO]*18ZelInterchangeData")
 
 
 def compiled(output, *sources, compiler=CXX, flags=(), include=INCLUDE):
-    """Compiles and links with warnings as errors; gives the file that was made."""
+    """Compiles and links with warnings as errors; returns the output file."""
     own_flags = CXXFLAGS if compiler == CXX else []
     run(compiler, *own_flags, "-std=c++17", "-Wall", "-Wextra", "-Werror", "-I", include, *sources,
         *flags, "-o", output)
@@ -39,7 +39,7 @@ def linked_with(library):
 
 
 def plug_in(folder, name, library=LIBRARY, flags=(), **options):
-    """A plug-in of one of the sources, linked with the library."""
+    """Builds a plug-in from one of the sources, linked with the library."""
     return compiled(folder / f"{name}.so", FOLDER / f"{name}.cpp",
                     flags=["-shared", "-fPIC", *linked_with(library), *flags], **options)
 
@@ -63,17 +63,17 @@ class Modules(unittest.TestCase):
         self.folder = fresh_folder(self.id())
 
     def answers(self, program, how, *plug_ins):
-        """What the program prints, the dates left out."""
+        """What the program prints, with the dates removed."""
         printed = run(program, how, *plug_ins, cwd=self.folder)
         return re.sub(r'dc:date="[^"]+"', 'dc:date=""', printed)
 
     def written(self, number=NUMBER):
-        """What the writer answers."""
+        """The expected answer of the writer."""
         return f"{number} {PACKET}"
 
 
 class SecondCopy(Modules):
-    """A program that exports the names of a copy whose internal classes have other layouts."""
+    """A program that exports the names of a copy of the library with different internal class layouts."""
 
     @classmethod
     def setUpClass(cls):
@@ -90,7 +90,7 @@ class SecondCopy(Modules):
         assert len(kept) + len(changed) == len(OBJECTS)
         archive = cls.copy / "libcopy.a"
         run("ar", "rcs", archive, *changed, *kept)
-        # What the program does not use is left out, or is in it as well.
+        # The program contains only the parts that it uses, or everything.
         cls.copies = {"a part": [archive],
                       "all": ["-Wl,--whole-archive", archive, "-Wl,--no-whole-archive"]}
 
@@ -100,7 +100,7 @@ class SecondCopy(Modules):
             "-c", "-fPIC", "-fvisibility=hidden", "-I", cls.copy / "src"])
 
     def hosts(self, *parts):
-        """A program for each extent of the copy."""
+        """A program for each copy."""
         for extent, copy in self.copies.items():
             program = host(self.folder, *copy, *parts, flags=["-DWITH_A_COPY", "-rdynamic"])
             factories = [name for _, name in exported(program)
@@ -108,14 +108,14 @@ class SecondCopy(Modules):
             self.assertEqual(len(factories), {"a part": 7, "all": 11}[extent])
             yield extent, program
 
-    def test_a_plug_in_opened_in_its_own_scope_or_in_that_of_all_works(self):
+    def test_a_plug_in_works_in_the_local_and_in_the_global_scope(self):
         plug = plug_in(self.folder, "writer")
         for extent, program in self.hosts():
             for how in ("local", "global"):
                 with self.subTest(copy=extent, how=how):
                     self.assertEqual(self.answers(program, how, plug), self.written())
 
-    def test_both_linked_at_once_work(self):
+    def test_a_program_linked_with_the_copy_and_the_library_works(self):
         plug = plug_in(self.folder, "writer")
         for extent, program in self.hosts("-Wl,--no-as-needed", *linked_with(plug),
                                           *linked_with(LIBRARY)):
@@ -124,7 +124,7 @@ class SecondCopy(Modules):
 
 
 class StaticLibrary(Modules):
-    def test_the_program_exports_nothing_of_it(self):
+    def test_the_program_exports_no_name_of_the_library(self):
         program = host(self.folder, "-Wl,--whole-archive", STATIC_LIBRARY, "-Wl,--no-whole-archive",
                        flags=["-rdynamic", "-DZELINTERCHANGEDATA_STATIC"])
         self.assertIn("main", [name for _, name in exported(program)])
@@ -132,11 +132,11 @@ class StaticLibrary(Modules):
         self.assertEqual([name for _, name in exported(program) if "18ZelInterchangeData" in name],
                          [])
 
-    def test_a_program_that_forgets_the_definition_exports_nothing_either(self):
+    def test_a_program_without_the_definition_exports_none_either(self):
         program = host(self.folder, STATIC_LIBRARY, flags=["-rdynamic", "-DWITH_A_COPY"])
         self.assertEqual([name for _, name in exported(program) if OUR_NAME.match(name)], [])
 
-    def test_g_plus_plus_has_no_objection_to_a_class_that_holds_interfaces(self):
+    def test_a_class_that_holds_interfaces_compiles_without_a_warning(self):
         source = self.folder / "holder.cpp"
         source.write_text("""#include "ZelInterchangeData/ZelDataFace.h"
             struct Holder {
@@ -151,7 +151,7 @@ class StaticLibrary(Modules):
 
 
 class SecondVersion(Modules):
-    """A library of the next major version, from the same sources."""
+    """A library of the next major version, made from the same sources."""
 
     NEXT = MAJOR + 1
 
@@ -189,8 +189,8 @@ class SecondVersion(Modules):
                     self.assertEqual(self.answers(program, how, *order),
                                      "".join(expected[plug] for plug in order))
 
-    def test_a_program_of_the_one_does_not_start_with_the_other(self):
-        """Were the names without a version, it would run and meet other slots."""
+    def test_a_program_does_not_start_with_the_next_major_version(self):
+        """Without symbol versions, it would start and could call the wrong slots."""
         library = self.next_library()
         program = host(self.folder, *linked_with(LIBRARY))
         wrong = self.folder / "wrong"
@@ -202,14 +202,14 @@ class SecondVersion(Modules):
 
 
 class HeaderTraces(Modules):
-    """What the headers leave in a process."""
+    """The symbols that the headers add to a plug-in."""
 
-    # With these flags each inline function is compiled, used or not.
+    # These flags compile every inline function, used or not.
     EVERY_INLINE_FUNCTION = {"g++": "-fkeep-inline-functions", "clang++": "-femit-all-decls"}
 
     def every_header(self):
-        """A header that uses what these flags do not reach: the members of templates, and what the
-        compiler makes for a class that derives from one of ours."""
+        """A header that instantiates what these flags do not compile: the members of templates, and the
+        implicit members of classes derived from ours."""
         names = sorted(path.name for path in (INCLUDE / "ZelInterchangeData").glob("*.h"))
         text = "".join((INCLUDE / "ZelInterchangeData" / name).read_text(encoding="utf-8")
                        for name in names)
@@ -238,7 +238,7 @@ class HeaderTraces(Modules):
         folder.mkdir(exist_ok=True)
         return plug_in(folder, "writer", compiler=compiler, flags=["-O0", *flags])
 
-    def test_no_symbol_of_ours_can_be_seen(self):
+    def test_a_plug_in_exports_no_symbol_of_ours(self):
         header = self.every_header()
         for compiler in COMPILERS:
             with self.subTest(compiler):
@@ -257,7 +257,7 @@ class HeaderTraces(Modules):
                 self.assertEqual(self.answers(program, "local", plug), self.written())
 
     def headers_with_codes(self, *names):
-        """The headers with these codes after the last one."""
+        """Copies the headers and adds these codes after the last one."""
         include = self.folder / "".join(["include", *names])
         shutil.copytree(INCLUDE, include)
         for name, place, addition in (
@@ -273,7 +273,7 @@ class HeaderTraces(Modules):
             path.write_text(text.replace(place, place + added), encoding="utf-8")
         return include
 
-    def test_each_of_several_header_versions_knows_its_own_codes(self):
+    def test_each_header_version_knows_its_own_codes(self):
         program = host(self.folder, *linked_with(LIBRARY))
         for compiler in COMPILERS:
             expected = {}
@@ -293,7 +293,7 @@ class HeaderTraces(Modules):
 
 
 class ErrorsOfPlugIns(Modules):
-    def test_the_error_of_a_plug_in_is_caught_in_the_program(self):
+    def test_the_program_catches_the_error_of_a_plug_in(self):
         for outer in COMPILERS:
             folder = self.folder / outer
             folder.mkdir()
@@ -304,7 +304,7 @@ class ErrorsOfPlugIns(Modules):
                     self.assertEqual(self.answers(program, "local", plug),
                                      f"ZelDataError run {0x8000000D}\n")
 
-    def test_only_the_library_describes_its_type(self):
+    def test_only_the_library_has_the_type_information_of_the_error(self):
         described = re.compile(r"_ZT[VIS]N18ZelInterchangeData12ZelDataErrorE")
         for compiler in COMPILERS:
             with self.subTest(compiler):
@@ -329,7 +329,7 @@ class OtherSettings(Modules):
                 return ZelInterchangeData::ZelDataUtilities::createTocData(&toc);
             }
             """}
-    # The linker drops what nothing refers to, and that must not be the check.
+    # Makes the linker drop unreferenced symbols, which must not drop the check.
     DROPPING = ("-O2", "-ffunction-sections", "-fdata-sections", "-Wl,--gc-sections")
 
     def link(self, name, compiler, *flags):
@@ -347,20 +347,20 @@ class OtherSettings(Modules):
                                                     f"undefined reference to .*{self.NAME}"):
                             self.link(name, compiler, *flags, setting)
 
-    def test_a_program_of_the_same_settings_links_and_runs(self):
+    def test_a_program_with_the_same_settings_links_and_runs(self):
         for compiler in COMPILERS:
             for name in self.PROGRAMS:
                 for flags in ((), self.DROPPING, ("-no-pie", "-O2")):
                     with self.subTest(name=name, compiler=compiler, flags=flags):
                         run(self.link(name, compiler, *flags))
 
-    def test_a_program_with_the_older_string_does_not(self):
+    def test_a_program_with_the_older_string_does_not_link(self):
         self.check_refused("-D_GLIBCXX_USE_CXX11_ABI=0", *COMPILERS)
 
-    def test_a_program_with_the_vector_of_the_debug_mode_does_not(self):
+    def test_a_program_with_the_debug_mode_vector_does_not_link(self):
         self.check_refused("-D_GLIBCXX_DEBUG", *COMPILERS)
 
-    def test_a_program_with_the_other_standard_library_does_not(self):
+    def test_a_program_with_libcxx_does_not_link(self):
         self.check_refused("-stdlib=libc++", "clang++")
 
 

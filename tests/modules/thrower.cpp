@@ -1,4 +1,4 @@
-// A plug-in that does not answer but throws.
+// A plug-in that throws instead of answering.
 
 #include "ZelInterchangeData/ZelDataCheck.h"
 

@@ -47,7 +47,7 @@ extern "C" void run(std::string& answer)
     const std::string file = contentsOf("written.xmp");
     std::remove("written.xmp");
 
-    // The date is that of the writing, and may be a second later.
+    // The two packets may differ in their dates, so compares only their lengths.
     const std::string packet = checked(*document).writeString();
     require(file.size() ==
                 std::string("<?xml version=\"1.0\" encoding=\"utf-8\" ?>").size() + packet.size(),
@@ -72,7 +72,7 @@ extern "C" void run(std::string& answer)
     require(std::string(describe(ZelData_NoData)) ==
                 ZelDataError(ZelData_NoData, "").what() +
                     std::string(": ZelData_NoData (0x8000000D): ").size(),
-            "the words of a code");
+            "the description of a code");
 
     answer = getValueString(libraryVersion()) + ' ' + file;
 }

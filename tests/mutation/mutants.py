@@ -1,21 +1,20 @@
-"""The mutants of a source file: each differs from it in one token, and each should be noticed by a
-test.
+"""Makes the mutants of a source file. Each differs from it in one token, and a test should fail on
+each.
 
-What is changed are comparisons, boolean connectives and values, whole numbers and result codes,
-outside of comments, texts, directives and static assertions. The format of the sources tells
-operators from brackets of templates and from references: the operators have a blank on both
-sides."""
+A mutant changes a comparison, a boolean connective or value, a whole number or a result code
+outside comments, string literals, directives and static assertions. Operators have a blank on both
+sides, which distinguishes them from template brackets and references."""
 
 import re
 from collections import Counter
 from dataclasses import dataclass
 
-# What is not code: found first, so that nothing in it is taken for a token.
+# Everything that is not code; removed before the search for tokens.
 BLANKED = re.compile(
     r"""//[^\n]*|/\*.*?\*/                      # comments
       | ^[ \t]*\#(?:[^\n\\]|\\.|\\\n)*          # directives
       | \bstatic_assert\b[^;]*;
-      | R"(?P<mark>[^(]*)\(.*?\)(?P=mark)"      # texts and characters
+      | R"(?P<mark>[^(]*)\(.*?\)(?P=mark)"      # string and character literals
       | "(?:[^"\\\n]|\\.)*"
       | (?<![0-9A-Fa-f])'(?:[^'\\\n]|\\.)+'""", re.DOTALL | re.MULTILINE | re.VERBOSE)
 
@@ -34,8 +33,8 @@ TRUTHS = {"true": "false", "false": "true"}
 
 @dataclass(frozen=True)
 class Mutant:
-    """One change: @p new in place of @p old, which stands in the line for the @p nth time. The line
-    is the number @p twin of those that look alike in the file."""
+    """One change: @p new replaces the @p nth @p old in the line. The line is number @p twin of the
+    identical lines in the file."""
     file: str
     number: int
     line: str
@@ -47,28 +46,28 @@ class Mutant:
 
     @property
     def change(self):
-        """The change in words that stay the same as long as the line does."""
+        """The change in words, which depend on the line alone."""
         again = f" ({self.nth})" if self.nth > 1 else ""
         return f"{self.old} -> {self.new or 'nothing'}{again}"
 
     @property
     def key(self):
-        """File, line and change; a number tells lines apart that look alike."""
+        """File, line and change; a number distinguishes identical lines."""
         again = f" [{self.twin}]" if self.twin > 1 else ""
         return self.file, self.line, self.change + again
 
     def apply(self, text):
-        """@p text, the file's, with the change."""
+        """Returns the file's @p text with the change."""
         return text[:self.begin] + self.new + text[self.begin + len(self.old):]
 
 
 def code_of(text):
-    """The text with blanks in place of what is no code; places and lines stay."""
+    """The text with blanks in place of everything that is not code, so that positions stay the same."""
     return BLANKED.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
 
 
 def replacement(token):
-    """What takes the place of a token."""
+    """The old text of a token and its replacement."""
     kind = token.lastgroup if token.lastgroup != "suffix" else "number"
     old = token.group(kind)
     if kind == "operator":
@@ -86,11 +85,14 @@ def replacement(token):
 
 
 def mutants_of(file, text):
-    """All mutants of the file with this text, in the order of their places."""
-    lines = [line.strip() for line in text.split("\n")]
+    """All mutants of the file with this text, in order of position."""
+    code = code_of(text)
+    # Up to the end of the code: without the comment that may follow.
+    lines = [line[:len(rest.rstrip())].strip()
+             for line, rest in zip(text.split("\n"), code.split("\n"))]
     twins = [lines[:index].count(line) + 1 for index, line in enumerate(lines)]
     found, seen = [], Counter()
-    for token in TOKEN.finditer(code_of(text)):
+    for token in TOKEN.finditer(code):
         old, new = replacement(token)
         index = text.count("\n", 0, token.start())
         seen[index, old] += 1
@@ -100,10 +102,10 @@ def mutants_of(file, text):
 
 
 def read_equivalents(text):
-    """The listed equivalent mutants: their keys with the reason of each.
+    """The keys of the listed equivalent mutants with their reasons, and the offences in the list.
 
-    An entry is three lines, the file, the line as it stands there and the change, and behind them
-    the reason, in one line or more. Entries are parted by an empty line; `#` begins a comment."""
+    An entry has one line each for the file, the source line and the change, and one or more for the
+    reason. Empty lines separate entries; `#` begins a comment."""
     entries, offences = {}, []
     body = "\n".join(line for line in text.splitlines() if not line.startswith("#"))
     for block in re.split(r"\n\s*\n", body.strip()) if body.strip() else []:
@@ -118,6 +120,6 @@ def read_equivalents(text):
 
 
 def misplaced(entries, mutants):
-    """An offence for each listed mutant that there is not."""
+    """An offence for each listed mutant that does not exist."""
     keys = {mutant.key for mutant in mutants}
     return [f"there is no such mutant: {' | '.join(key)}" for key in entries if key not in keys]

@@ -1,4 +1,4 @@
-"""The mutants of made-up sources, and the list of equivalent ones against the real sources.
+"""Tests the mutants of made-up sources, and compares the list of equivalent ones with the sources.
 
 The environment names ROOT, the project's folder."""
 
@@ -28,12 +28,12 @@ class Mutants(unittest.TestCase):
     def test_a_connective_at_the_end_of_a_line_counts(self):
         self.assertEqual(changes("return a &&\n       b;"), ["&& -> ||"])
 
-    def test_a_negation_goes(self):
+    def test_a_negation_is_removed(self):
         found, = mutants.mutants_of("f", "if (!a) b();")
         self.assertEqual((found.change, found.apply("if (!a) b();")),
                          ("! -> nothing", "if (a) b();"))
 
-    def test_true_and_false_change_places(self):
+    def test_true_and_false_are_swapped(self):
         self.assertEqual(changes("f(true, false);"), ["true -> false", "false -> true"])
 
     def test_a_number_becomes_the_next_one_and_keeps_its_suffix(self):
@@ -47,21 +47,21 @@ class Mutants(unittest.TestCase):
         self.assertEqual(changes("return ZelData_InternalError;"),
                          ["ZelData_InternalError -> ZelData_InvalidArgument"])
 
-    def test_what_is_no_code_stays(self):
+    def test_text_that_is_not_code_has_no_mutant(self):
         for text in ("// a < b, 1, true", "/* a < b\n && 1 */", 'f("a < 1 && true");',
                      "f('1');", 'f(R"(a "< 1" b)");', "#if 1 < 2", "#define A(x) \\\n  x < 1",
                      "static_assert(a < 1 &&\n b);", "f(\"\\\"1\", '\\'');"):
             with self.subTest(text):
                 self.assertEqual(changes(text), [])
 
-    def test_what_follows_a_text_is_code_again(self):
+    def test_code_after_a_string_literal_has_mutants(self):
         self.assertEqual(changes('f("1 < 2", 3); // 4'), ["3 -> 4"])
 
-    def test_brackets_of_templates_and_references_are_no_operators(self):
+    def test_template_brackets_and_references_are_not_operators(self):
         self.assertEqual(changes("template <class T>\nvoid f(std::vector<T>&& a, T&& b);"), [])
         self.assertEqual(changes("Node& operator<(long long* verb);"), [])
 
-    def test_names_and_parts_of_numbers_are_no_numbers(self):
+    def test_digits_in_names_and_fractions_are_not_numbers(self):
         self.assertEqual(changes("utf8Text(list3, 0.5F, 1.0);"), [])
 
     def test_the_same_change_twice_in_a_line_is_numbered(self):
@@ -79,20 +79,20 @@ class Mutants(unittest.TestCase):
 class Equivalents(unittest.TestCase):
     entry = "src/a.cpp\nif (a < b)\n< -> <=\nthe two are\nnever equal\n"
 
-    def test_an_entry_has_file_line_change_and_reason(self):
+    def test_an_entry_has_a_file_a_line_a_change_and_a_reason(self):
         entries, offences = mutants.read_equivalents("# what this is\n\n" + self.entry)
         self.assertEqual(entries, {("src/a.cpp", "if (a < b)", "< -> <="):
                                    "the two are never equal"})
         self.assertEqual(offences, [])
 
-    def test_nothing_listed_is_no_offence(self):
+    def test_an_empty_list_is_valid(self):
         self.assertEqual(mutants.read_equivalents("# nothing yet\n"), ({}, []))
 
-    def test_an_entry_without_reason_is_refused(self):
+    def test_an_entry_without_a_reason_is_refused(self):
         entries, offences = mutants.read_equivalents("src/a.cpp\nif (a < b)\n< -> <=\n")
         self.assertEqual((entries, len(offences)), ({}, 1))
 
-    def test_an_entry_that_stands_twice_is_refused(self):
+    def test_a_duplicate_entry_is_refused(self):
         offences = mutants.read_equivalents(self.entry + "\n" + self.entry)[1]
         self.assertEqual(offences, ["listed twice: src/a.cpp | if (a < b) | < -> <="])
 
@@ -100,21 +100,21 @@ class Equivalents(unittest.TestCase):
         entries = mutants.read_equivalents(self.entry)[0]
         return mutants.misplaced(entries, mutants.mutants_of("src/a.cpp", text))
 
-    def test_an_entry_for_what_is_there_passes(self):
+    def test_an_entry_for_an_existing_mutant_passes(self):
         self.assertEqual(self.misplaced("    if (a < b)\n"), [])
 
     def test_an_entry_for_a_line_that_changed_is_refused(self):
         self.assertEqual(self.misplaced("    if (a < c)\n"),
                          ["there is no such mutant: src/a.cpp | if (a < b) | < -> <="])
 
-    def test_lines_that_look_alike_are_told_apart_by_a_number(self):
+    def test_identical_lines_are_numbered(self):
         found = mutants.mutants_of("f", "if (a < b)\nx();\n    if (a < b)\n")
         self.assertEqual([mutant.key for mutant in found],
                          [("f", "if (a < b)", "< -> <="), ("f", "if (a < b)", "< -> <= [2]")])
 
 
 class Sources(unittest.TestCase):
-    def test_every_listed_mutant_is_there(self):
+    def test_every_listed_mutant_exists(self):
         found = []
         for path in sorted((ROOT / "src").rglob("*")):
             if path.suffix in (".h", ".cpp"):

@@ -12,6 +12,7 @@ import types
 import unittest
 from importlib.machinery import SourceFileLoader
 from pathlib import Path
+from unittest import mock
 
 sys.dont_write_bytecode = True
 loader = SourceFileLoader("mutate_script", str(Path(os.environ["ROOT"]) / "scripts" / "mutate"))
@@ -24,9 +25,16 @@ def mutants_in(room, count):
 
 
 class Choice(unittest.TestCase):
-    def test_the_tests_of_the_own_room_come_first_and_the_model_last(self):
+    def test_the_tests_of_the_own_room_come_first_and_the_slowest_last(self):
         programs = mutate.programs_for("src/toc/ZelDataToc.cpp")
-        self.assertEqual((programs[0], programs[-1]), ("toc_tests", "model_driver"))
+        self.assertEqual((programs[0], programs[-1]), ("toc_tests", mutate.LAST[-1]))
+
+    def test_the_model_comes_first_for_a_header(self):
+        programs = mutate.programs_for("src/toc/ZelDataToc.h")
+        self.assertEqual(programs[:2], ["model_driver", "toc_tests"])
+
+    def test_every_file_gets_all_programs(self):
+        programs = mutate.programs_for("src/toc/ZelDataToc.cpp")
         self.assertEqual(len(programs), len(set(programs)))
         self.assertEqual(sorted(programs), sorted(mutate.programs_for("src/util/A.h")))
 
@@ -51,7 +59,7 @@ class Results(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
-        self.path = Path(folder.name) / "log.jsonl"
+        self.path = Path(folder.name) / "log.txt"
         self.mutants = mutants_in("util", 40)
 
     def log(self, code_sum="one"):
@@ -74,16 +82,30 @@ class Results(unittest.TestCase):
         self.fill("noticed", "survived")
         log = self.log()
         self.assertEqual([log.result(mutant) for mutant in self.mutants[:3]],
-                         ["noticed", "survived", None])
+                         ["noticed", "survived", "not run"])
 
     def test_an_entry_about_other_code_does_not_count(self):
         self.fill("noticed")
-        self.assertIsNone(self.log("another").result(self.mutants[0]))
+        self.assertEqual(self.log("another").result(self.mutants[0]), "not run")
+
+    def test_a_new_comment_changes_no_result(self):
+        with tempfile.TemporaryDirectory() as folder, mock.patch.object(mutate, "ROOT", Path(folder)):
+            source = Path(folder) / "src" / "util" / "A.cpp"
+            source.parent.mkdir(parents=True)
+            source.write_text("f(1);\n", encoding="utf-8")
+            before, before_sums = mutate.all_mutants()
+            source.write_text("// Calls f.\n\nf(1);\n", encoding="utf-8")
+            after, after_sums = mutate.all_mutants()
+            self.assertEqual(after_sums, before_sums)
+            self.assertEqual(after[0].key, before[0].key)
+            source.write_text("f(2);\n", encoding="utf-8")
+            self.assertNotEqual(mutate.all_mutants()[1], before_sums)
 
     def test_survivors_are_listed_with_place_change_and_line(self):
         text = self.report("noticed", "survived")[1]
         self.assertIn("src/util/A.cpp:2: 1 -> 2\n    f(1);\n", text)
-        self.assertIn("2 mutants, 0 not compiled, 1 noticed, 1 survived: 50.0 % noticed", text)
+        self.assertIn("2 mutants, 0 not compiled, 1 noticed, 1 survived, 0 not run: 50.0 % noticed",
+                      text)
 
     def test_what_is_not_compiled_is_neither_noticed_nor_survived(self):
         self.assertEqual(self.report("noticed", "not compiled", "not compiled")[0], 100.0)
@@ -94,7 +116,7 @@ class Results(unittest.TestCase):
 
 
 class Verdicts(unittest.TestCase):
-    """A place at which building and testing are made up."""
+    """A workplace with fake build and test steps."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()

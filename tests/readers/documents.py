@@ -1,9 +1,8 @@
-"""Documents that the tests write, and what every reader should find in their packets.
+"""Documents that the tests write, and the data that every reader should find in their packets.
 
-What is expected is worked out from the document alone. It has the shape of the packet's data: a
-structure is a dictionary from the property's name to its value, a list is a list, a plain string is
-the value of an attribute, and an Item is an entry of a list that the packet holds as an element's
-text."""
+The expected data has the shape of the packet's data: a structure is a dictionary from property names
+to values, a list is a list, a plain string is the value of an attribute, and an Item is a list entry
+that the packet holds as the text of an element."""
 
 import re
 from collections import namedtuple
@@ -13,10 +12,10 @@ from urllib.parse import quote
 
 Item = namedtuple("Item", "language text")
 
-# What a caption says in a language for which its text is empty.
+# The packet's text of a caption in a language in which the caption has no text.
 PLACEHOLDER = "{\\rtf1 }"
 
-# Control characters other than the line feed do not reach the packet's tracks.
+# The library strips control characters other than the line feed from the tracks.
 CONTROL = re.compile(r"[\x00-\x09\x0b-\x1f]")
 
 VERTICAL = {0x00: "center", 0x01: "bottom", 0x02: "top"}
@@ -70,7 +69,7 @@ class Document:
 
 
 def language_names():
-    """The catalogue: code to English name and native name."""
+    """The language catalogue, from code to English and native name."""
     entry = re.compile(r'\{"(\w\w)",((?:\s*"[0-9A-F]*")+),((?:\s*"[0-9A-F]*")+)\}')
     table = entry.findall(LANGUAGE_TABLE.read_text(encoding="ascii"))
     return {code: tuple(bytes.fromhex(re.sub(r'[\s"]', "", name)).decode() for name in names)
@@ -81,7 +80,7 @@ LANGUAGES = language_names()
 
 
 def word(text):
-    """A text as one word of a description."""
+    """The text as one word of a description."""
     return "=" + quote(text, safe="")
 
 
@@ -91,7 +90,7 @@ def words(texts):
 
 
 def description_lines(document):
-    """The document as packet_maker wants it."""
+    """The lines of the document's description for packet_maker."""
     yield f"title {word(document.title)}"
     yield f"creator {word(document.creator)}"
     yield f"description {word(document.description)}"
@@ -118,7 +117,7 @@ def description_lines(document):
 
 
 def languages_of(texts_of_items):
-    """The languages in order of first occurrence, those of one item in ascending order."""
+    """The languages in order of first occurrence, and in ascending order within an item."""
     languages = []
     for texts in texts_of_items:
         languages += [language for language in sorted(texts) if language not in languages]
@@ -168,7 +167,7 @@ def expected_entry(item, language):
 
 
 def expected_toc_track(entries):
-    # An entry has one title in the packet, that in the first language of the whole table.
+    # In the packet, an entry has one title: the one in the first language of the whole table.
     language = (languages_of(item.titles for item in entries) or [None])[0]
     return {
         "xmpDM:trackType": "TableOfContents",
@@ -201,7 +200,7 @@ def expected_screen_text_track(items, rate):
 
 
 def expected_tracks(document):
-    """A set without items has no track."""
+    """The tracks of the sets that have items."""
     tracks = []
     if document.captions:
         tracks.append(expected_caption_track(document.captions))
@@ -235,7 +234,7 @@ def expected_header(document):
 
 
 def expected(document):
-    """All data of the document's packet but the date."""
+    """All data of the document's packet except the date."""
     languages = languages_of(item.texts for item in document.captions or []) or ["en-US"]
     data = expected_header(document)
     data["zel:langName"] = [Item(language, LANGUAGES[language[:2].lower()][0])

@@ -1,11 +1,11 @@
 /// @file
-/// Writes a packet from a description, for the tests that give packets to foreign readers.
+/// Writes a packet from a description, for the tests with third-party readers.
 ///
 ///     packet_maker DESCRIPTION PACKET
 ///
-/// A description is a list of lines, each a key and words after it with one blank between. A text
-/// is the word "=" followed by its characters, those that are no letters or digits as %XX. A
-/// caption, an entry and an item end with any number of pairs of a language and a text.
+/// Each line of a description is a key and its words, separated by blanks. A text is "=" followed by
+/// its characters, those other than letters and digits as %XX. A caption and an entry end with any
+/// number of pairs of a language and a text.
 ///
 ///     title =A%20title                     captions
 ///     creator =Ann                         caption START DURATION ALIGNMENT en =Hello de =Hallo
@@ -32,7 +32,7 @@ namespace {
 
 using namespace ZelInterchangeData;
 
-/// Ends the program when the library refuses something.
+/// Throws if the library returned a failure.
 void check(ZelDataResult_tags code)
 {
     if (failed(code)) {
@@ -42,7 +42,7 @@ void check(ZelDataResult_tags code)
     }
 }
 
-/// A new object from one of the library's factories.
+/// Makes an object with one of the library's factories.
 template <class Interface>
 std::unique_ptr<Interface> make(ZelDataResult_tags (*factory)(Interface**))
 {
@@ -84,7 +84,7 @@ public:
     unsigned long number() { return std::stoul(word()); }
     unsigned long long offset() { return std::stoull(word()); }
 
-    /// Hands the pairs of language and text at the end of the line to the item.
+    /// Sets the pairs of language and text at the end of the line in the item.
     template <class Item>
     void textsInto(Item& item)
     {

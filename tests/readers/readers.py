@@ -1,8 +1,8 @@
-"""Readers of packets that were written elsewhere, run as programs.
+"""Runs third-party programs that read packets.
 
-read() gives the packet's data in the shape that documents.py describes, without the date. shown()
-says what a reader makes of expected data by its own rules, for example in attributes. None of these
-programs' exit statuses is proof of anything, so everything that they say is looked at."""
+read() returns the packet's data in the shape that documents.py describes, without the date. shown()
+applies a reader's own rules, for example for attributes, to expected data. The exit statuses of these
+programs prove nothing, so read() also checks what they print."""
 
 import json
 import os
@@ -30,11 +30,11 @@ DATE = re.compile(r"\d{4,}[-:]\d\d[-:]\d\d[T ]\d\d:\d\d:\d\d[-+]\d{1,2}:00")
 
 
 class Refused(Exception):
-    """The reader did not read the packet without complaint."""
+    """The reader rejected the packet or complained about it."""
 
 
 def run(*command):
-    """What the program prints; Refused when it fails or has anything to say on standard error."""
+    """Returns what the program prints. Raises Refused if it fails or prints on standard error."""
     result = subprocess.run(command, capture_output=True, check=False)
     if result.returncode != 0 or result.stderr:
         raise Refused(f"{command[0]}: {result.returncode}: {result.stderr.decode()}")
@@ -42,16 +42,16 @@ def run(*command):
 
 
 def without_date(data, key="dc:date"):
-    """The data without the date, which must look like one."""
+    """The data without the date. Raises Refused if the date does not look like one."""
     date = data.pop(key)
     date = date[0].text if isinstance(date, list) else date
     if not DATE.fullmatch(date):
-        raise Refused(f"no date: {date}")
+        raise Refused(f"not a date: {date}")
     return data
 
 
 def changed(value, attribute, item):
-    """A copy of expected data with attribute() applied to attributes and item() to Items."""
+    """A copy of the expected data with attribute() applied to attributes and item() to Items."""
     if isinstance(value, Item):
         return item(value)
     if isinstance(value, dict):
@@ -69,7 +69,7 @@ def same(value):
 
 
 def short(name):
-    """A name in the notation of ElementTree with the usual prefix instead of the URI."""
+    """ElementTree's form of a name, with the usual prefix instead of the URI."""
     uri, _, local = name.removeprefix("{").partition("}")
     return f"{PREFIXES[uri]}:{local}"
 
@@ -115,7 +115,7 @@ def data_of_rdf_xml(text):
 
 
 def line_feeds_as_blanks(text):
-    """What every XML reader makes of an attribute's value."""
+    """The text as XML readers normalise it in an attribute."""
     return text.replace("\n", " ")
 
 
@@ -123,7 +123,7 @@ def line_feeds_as_blanks(text):
 
 
 class Xmllint:
-    """libxml2: well-formed, with all namespaces known, and what its document tree holds."""
+    """libxml2: checks the packet for well-formedness and undeclared namespaces, and reads its tree."""
 
     @staticmethod
     def read(path):
@@ -146,7 +146,7 @@ class Rapper:
 
     @classmethod
     def read(cls, path):
-        # The element around the RDF is not RDF; IDs are wanted as written.
+        # Skips the element around the RDF, and keeps language IDs as written.
         output = run(os.environ["RAPPER"], "-q", "-i", "rdfxml", "-f", "scanForRDF=1",
                      "-f", "normalizeLanguage=0", "-o", "ntriples", path)
         graph = {}
@@ -172,7 +172,7 @@ class Rapper:
 
     @classmethod
     def tree(cls, graph, name):
-        """The data of the node of this name."""
+        """The data of the named node."""
         node = dict(graph[name])
         kind = node.pop(RDF + "type", None)
         if kind is None:
@@ -200,12 +200,12 @@ class Rapper:
 
     @staticmethod
     def folded(text):
-        """In attributes it takes blanks away at both ends and joins several into one."""
+        """In attributes it strips blanks at both ends and collapses runs of them."""
         return re.sub(r"[ \n]+", " ", text).strip(" ")
 
 
 class Exempi:
-    """The XMP toolkit: reads the packet and writes it anew."""
+    """The XMP toolkit: reads the packet and writes it again."""
 
     @staticmethod
     def read(path):
@@ -220,14 +220,14 @@ class Exempi:
         data = changed(data, lambda text: cls.without_delete(line_feeds_as_blanks(text)),
                        lambda item: Item(cls.canonical(item.language),
                                          cls.without_delete(item.text)))
-        # These two are lists by the rules of their namespace.
+        # Their namespace defines these two as lists.
         data["dc:title"] = [Item("x-default", data["dc:title"])]
         data["dc:creator"] = [Item(None, data["dc:creator"])]
         return data
 
     @staticmethod
     def without_delete(text):
-        """It takes U+007F for a control character and puts a blank in its place."""
+        """It replaces U+007F with a blank."""
         return text.replace("\x7f", " ")
 
     @staticmethod
@@ -239,7 +239,7 @@ class Exempi:
 
 
 class ExifTool:
-    """ExifTool: texts in written order, without the languages inside structures."""
+    """ExifTool: reads texts in written order, without the languages inside structures."""
 
     @classmethod
     def read(cls, path):
@@ -253,7 +253,7 @@ class ExifTool:
 
     @classmethod
     def as_text(cls, value):
-        """The data with numbers and truth values as the words that stood in the JSON text."""
+        """The data with numbers and truth values as text, as in the JSON."""
         if isinstance(value, dict):
             return {key: cls.as_text(part) for key, part in value.items()}
         if isinstance(value, list):
@@ -263,14 +263,14 @@ class ExifTool:
     @classmethod
     def shown(cls, data):
         data = changed(data, cls.scalar, lambda item: cls.scalar(item.text))
-        # It knows that this one is a fraction.
+        # It converts this fraction.
         data["xmpDM:duration"]["xmpDM:scale"] = "0.001"
         return {f"XMP-{prefix}:{cls.tag(local)}": cls.inside(value) if value != [] else ""
                 for key, value in data.items() for prefix, local in [key.split(":")]}
 
     @classmethod
     def inside(cls, value):
-        """Inside of structures, names have no prefix."""
+        """The data of a structure, in which names have no prefix."""
         if isinstance(value, dict):
             return {cls.tag(key.split(":")[1]): cls.inside(part) for key, part in value.items()}
         if isinstance(value, list):
@@ -283,5 +283,5 @@ class ExifTool:
 
     @staticmethod
     def scalar(text):
-        """A truth value is shown in lower case."""
+        """It prints truth values in lower case."""
         return text.lower() if text.lower() in ("true", "false") else text

@@ -1,6 +1,6 @@
-"""Packets of many kinds, read by programs that were written elsewhere.
+"""Reads packets of many kinds with third-party programs.
 
-Usage: readers_test.py CLASS; one class for each reader."""
+Usage: readers_test.py CLASS, where each class tests one reader."""
 
 import itertools
 import os
@@ -45,7 +45,7 @@ CONTROLS = {"en": "a\tb\rc\x01d\x1fe\x7ff", "de": "\t"}
 
 
 def everywhere(texts):
-    """A document with these texts in each place that takes one."""
+    """A document with these texts everywhere that a text can be."""
     first = min(texts)
     return Document(
         title=texts[first], description=texts[first], app=(texts[first], texts[first]),
@@ -57,14 +57,14 @@ def everywhere(texts):
 
 
 def subsets():
-    """A header with each choice of the other three sets."""
+    """A header with each combination of the other three sets."""
     for captions, toc, screen_text in itertools.product((None, CAPTIONS), (None, TOC),
                                                         (None, SCREEN_TEXT)):
         yield Document("Subset", captions=captions, toc=toc, screen_text=screen_text)
 
 
 class ReaderTest(unittest.TestCase):
-    """What is asked of every reader; the classes below name one each."""
+    """The tests of every reader; each subclass names its reader."""
     reader = None
 
     def setUp(self):
@@ -74,7 +74,7 @@ class ReaderTest(unittest.TestCase):
         self.folder = Path(folder.name)
 
     def packet(self, document):
-        """The path of the document's packet, written by the library."""
+        """Writes the document's packet with the library; returns its path."""
         description, packet = self.folder / "description", self.folder / "packet.xmp"
         description.write_text("\n".join(description_lines(document)), encoding="ascii")
         result = subprocess.run([os.environ["PACKET_MAKER"], description, packet], check=False,
@@ -83,7 +83,7 @@ class ReaderTest(unittest.TestCase):
         return packet
 
     def changed_packet(self, old, new):
-        """A packet in which one piece of text was replaced."""
+        """Writes a packet with one piece of text replaced; returns its path."""
         packet = self.packet(everywhere(EMOJI))
         text = packet.read_text(encoding="utf-8")
         self.assertEqual(text.count(old), 1, old)
@@ -133,7 +133,7 @@ class ReaderTest(unittest.TestCase):
     def test_empty_texts(self):
         self.assert_read(everywhere(EMPTY))
 
-    def test_texts_that_look_like_something_else(self):
+    def test_texts_that_look_like_other_types(self):
         self.assert_read(everywhere(LOOK_ALIKES))
 
     def test_language_ids_of_many_forms(self):
@@ -173,7 +173,7 @@ class ReaderTest(unittest.TestCase):
             Caption(index * 1000, 900, {"en": f"Caption {index}", "de": f"Untertitel {index}"})
             for index in range(500)]))
 
-    # The checks themselves: a packet that was tampered with must not pass.
+    # These test the checks: a packet that was tampered with must not pass.
 
     def test_a_changed_text_is_noticed(self):
         packet = self.changed_packet('<rdf:li xml:lang="de">😀</rdf:li>',
@@ -186,7 +186,7 @@ class ReaderTest(unittest.TestCase):
         self.assertNotEqual(self.reader.read(packet),
                             self.reader.shown(expected(everywhere(EMOJI))))
 
-    def test_a_packet_that_breaks_off_is_refused(self):
+    def test_a_truncated_packet_is_refused(self):
         packet = self.packet(everywhere(EMOJI))
         content = packet.read_bytes()
         packet.write_bytes(content[:len(content) // 2])
@@ -197,7 +197,7 @@ class ReaderTest(unittest.TestCase):
 
 
 class StrictReaderTest(ReaderTest):
-    """What ExifTool lets pass, the others do not."""
+    """The tests of the readers that refuse what ExifTool accepts."""
 
     def test_an_unescaped_character_is_refused(self):
         self.assert_refused(self.changed_packet(">😀<", ">a < b<"))
@@ -221,15 +221,15 @@ class Exempi(StrictReaderTest):
 class ExifTool(ReaderTest):
     reader = readers.ExifTool
 
-    def test_a_different_language_is_not_seen(self):
-        """Says why the languages are left to the other three."""
+    def test_a_changed_language_goes_unnoticed(self):
+        """ExifTool ignores these languages; the other three readers check them."""
         packet = self.changed_packet('<rdf:li xml:lang="de">😀</rdf:li>',
                                      '<rdf:li xml:lang="da">😀</rdf:li>')
         self.assertEqual(self.reader.read(packet),
                          self.reader.shown(expected(everywhere(EMOJI))))
 
 
-del ReaderTest, StrictReaderTest  # only the classes that name a reader are run
+del ReaderTest, StrictReaderTest  # run only the classes that name a reader
 
 
 if __name__ == "__main__":

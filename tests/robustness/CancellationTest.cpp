@@ -1,8 +1,9 @@
 /// @file
-/// Threads that end inside an operation: blocked in a file, or in an object that the caller wrote. What
-/// the operation obtained is released, and all objects can be used as if it had not been called.
+/// Threads that end inside an operation: while it waits for a file, or in an object of a caller's class.
+/// The operation releases what it obtained, and all objects work as if it had not been called.
 
 #include "core/TempFile.h"
+#include "robustness/ChildProcess.h"
 #include "robustness/Contents.h"
 #include "robustness/Subjects.h"
 #include "support/FailingAllocation.h"
@@ -19,7 +20,6 @@
 
 #include <atomic>
 #include <cstddef>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
@@ -30,7 +30,7 @@
 
 #ifdef __has_feature
 #if __has_feature(address_sanitizer)
-#define __SANITIZE_ADDRESS__ 1 // as g++ says it
+#define __SANITIZE_ADDRESS__ 1 // as g++ does
 #endif
 #endif
 #ifdef __SANITIZE_ADDRESS__
@@ -55,17 +55,17 @@ public:
     EndingThread& operator=(const EndingThread&) = delete;
 
     void cancel() const { EXPECT_EQ(0, pthread_cancel(thread_)); }
-    /// Waits for the end. Whether the work was done.
+    /// Waits for the thread to end. Returns whether its work was done.
     bool join()
     {
         EXPECT_EQ(0, pthread_join(thread_, nullptr));
         joined_ = true;
         return isDone_;
     }
-    /// The blocks that it obtained and did not free; after join().
+    /// The blocks that it allocated and did not free. Call it after join().
     long long liveBlocks() const { return liveBlocks_; }
 
-    /// Whether the system lets it wait for something.
+    /// Whether it waits for something.
     bool sleeps() const
     {
         const int id = id_;
@@ -104,12 +104,6 @@ private:
     long long liveBlocks_ = 0;
 };
 
-std::size_t openDescriptors()
-{
-    const std::filesystem::directory_iterator all("/proc/self/fd");
-    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
-}
-
 // A caller's objects
 
 using End = void (*)();
@@ -125,7 +119,7 @@ void cancelThread()
     pthread_testcancel();
 }
 
-/// Ends the thread, by @p end, at call number @p nth of all its failing objects.
+/// Ends the thread with @p end when its failing objects are called for the @p nth time.
 class EndAtCall {
 public:
     EndAtCall(std::size_t nth, End end)
@@ -144,7 +138,7 @@ struct Scene {
     std::function<ZelDataResult_tags()> act;
     std::function<std::string()> left;
 
-    /// What the operation gives, and then what it leaves.
+    /// Calls the operation. Returns its code and what it leaves.
     std::string outcome() const
     {
         const auto code = act();
@@ -153,7 +147,7 @@ struct Scene {
 };
 using MakeScene = std::function<Scene()>;
 
-/// Whether the thread of a scene ended at call number @p nth; its operation is then called again.
+/// Whether the thread of a scene ended at call number @p nth. If so, calls its operation again.
 bool endsAt(const MakeScene& make, std::size_t nth, End end, const std::string& expected)
 {
     const auto blocks = liveAllocations();
@@ -175,7 +169,7 @@ bool endsAt(const MakeScene& make, std::size_t nth, End end, const std::string& 
     return !isDone;
 }
 
-/// Ends the thread of a scene at each call of a caller's object in turn; there are @p leastCalls or more.
+/// Ends the thread of a scene at each call of a caller's object in turn, at least @p leastCalls times.
 void expectEveryEnd(const MakeScene& make, std::size_t leastCalls)
 {
     const auto expected = make().outcome();
@@ -208,7 +202,7 @@ struct StoringCaptions : FailingCaptions {
     }
 };
 
-/// A document with sets of the caller's. The thread may end before and after one is stored.
+/// A document whose sets are of a caller's classes. The thread may end before and after one is made.
 struct OwnSets : ZelDataCoreXmp {
     ZelDataResult_tags createDataCaptions(i_ZelDataCaptions** out) const override
     {
@@ -234,7 +228,7 @@ private:
     }
 };
 
-/// The scene in which @p target is copied from a @p Source.
+/// The scene in which an object from @p make is copied from a @p Source.
 template <class Source, class Interface>
 MakeScene copyScene(std::unique_ptr<Interface> (*make)())
 {
@@ -358,7 +352,7 @@ TEST(Cancellation, TheOperationStoresNoCode)
 
 // Files
 
-/// A pipe with a name that is removed in the end.
+/// A named pipe, removed at the end.
 class Fifo {
 public:
     Fifo() { EXPECT_EQ(0, mkfifo(path().c_str(), 0600)); }
@@ -371,7 +365,7 @@ public:
 
     const std::string& path() const { return place_.path(); }
 
-    /// Opening does not block any more, writing does.
+    /// From now on opening does not block, but writing does.
     void fill()
     {
         end_ = open(path().c_str(), O_RDWR | O_NONBLOCK);
@@ -388,8 +382,8 @@ private:
     int end_ = -1;
 };
 
-/// Cancels a thread that writes @p document to @p fifo as soon as it waits. With as many as @p open
-/// files it waits for the right thing.
+/// Cancels a thread that writes @p document to @p fifo once it waits while @p open files are open: then
+/// it waits for the right thing.
 void cancelWrite(const i_ZelInterchangeDataCore& document, const Fifo& fifo, std::size_t open)
 {
     const auto blocks = liveAllocations();
@@ -397,7 +391,7 @@ void cancelWrite(const i_ZelInterchangeDataCore& document, const Fifo& fifo, std
     {
         EndingThread thread([&] {
 #ifdef __SANITIZE_ADDRESS__
-            __lsan_disable(); // what fopen() holds is lost; our own blocks are counted below
+            __lsan_disable(); // fopen() leaks what it holds; our own blocks are counted below
 #endif
             mayRefuse(document.writeFile(fifo.path(), xmp, false));
         });
@@ -410,7 +404,7 @@ void cancelWrite(const i_ZelInterchangeDataCore& document, const Fifo& fifo, std
     EXPECT_EQ(blocks, liveAllocations() + blocksOfThread);
 }
 
-/// Expects that @p document still gives @p packet, also in a file, and lets it be destroyed.
+/// Expects that @p document still writes @p packet, as a string and as a file, and destroys it.
 void expectUsable(std::unique_ptr<i_ZelInterchangeDataCore> document, const std::string& packet)
 {
     EXPECT_EQ(ZelData_WarnTiming, document->getLastError());
@@ -426,7 +420,7 @@ std::unique_ptr<i_ZelInterchangeDataCore> longDocument()
     return filledDocument<ZelDataCore>();
 }
 
-/// A document whose packet is in the buffer until the file is closed.
+/// A document whose packet stays in the buffer until the file is closed.
 std::unique_ptr<i_ZelInterchangeDataCore> shortDocument()
 {
     auto document = newDocument<ZelDataCore>();

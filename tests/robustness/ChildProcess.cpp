@@ -18,7 +18,7 @@ namespace {
 
 const std::string refused = "refused by this machine: ";
 
-/// The child's part: writes @p said into the pipe, and cleans nothing up that is the parent's.
+/// The child's part: writes @p said to the pipe and ends without cleaning up what is the parent's.
 [[noreturn]] void answer(int pipe, const std::string& said)
 {
     const auto written = write(pipe, said.data(), said.size());
@@ -49,7 +49,7 @@ std::string inChild(const std::function<std::string()>& body)
 {
     int ends[2];
     if (pipe(ends) != 0) return "no pipe";
-    std::fflush(nullptr); // what is still to be said here is not the child's to say
+    std::fflush(nullptr); // or the child prints what is still in the buffers
     const pid_t child = fork();
     if (child == 0) answer(ends[1], saidBy(body));
     close(ends[1]);

@@ -9,20 +9,20 @@
 
 namespace ZelInterchangeData {
 
-/// What a child says when it got through without a finding.
+/// What a child reports when it found nothing wrong.
 inline const std::string fine = "fine";
 
-/// What @p body says, called in a child process, so that it may change what belongs to the process:
-/// its user, its limits, its mounts. "died" and the reason when it does not get so far.
+/// Calls @p body in a child process, where it may change what belongs to the process: its user, its
+/// limits, its mounts. Returns what it reports, or "died" and the status if the process ends first.
 std::string inChild(const std::function<std::string()>& body);
 
 /// How many descriptors of this process are open.
 std::size_t openDescriptors();
 
-/// What a child says when the machine does not let it do @p what; errno says why.
+/// What a child reports when the machine refuses @p what. The reason is in errno.
 std::string refusal(const std::string& what);
 
-/// Expects that a child was fine. A refusal is printed, which makes CTest call the test skipped.
+/// Expects that a child was fine. Prints a refusal, so that CTest counts the test as skipped.
 void expectFine(const std::string& said);
 
 } // namespace ZelInterchangeData

@@ -148,13 +148,4 @@ std::string contentsOf(const i_ZelDataFormatterBase& formatter)
     return std::to_string(code) + ' ' + dateMasked(written);
 }
 
-std::string dateMasked(const std::string& packet)
-{
-    static const std::string begin = "dc:date=\"";
-    const auto found = packet.find(begin);
-    if (found == std::string::npos) return packet;
-    const auto date = found + begin.size();
-    return std::string(packet).replace(date, packet.find('"', date) - date, "DATE");
-}
-
 } // namespace ZelInterchangeData

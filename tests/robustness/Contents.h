@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_CONTENTS_H
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
+#include "support/DateMask.h"
 
 #include <string>
 
@@ -19,9 +20,6 @@ std::string contentsOf(const i_ZelDataScreenTextItem& item);
 std::string contentsOf(const i_ZelDataScreenText& screenText);
 /// What a formatter or a document holds shows in what it writes.
 std::string contentsOf(const i_ZelDataFormatterBase& formatter);
-
-/// @p packet with DATE in the place of the moment of its writing, if it has one.
-std::string dateMasked(const std::string& packet);
 
 } // namespace ZelInterchangeData
 

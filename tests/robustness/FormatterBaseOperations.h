@@ -9,22 +9,17 @@
 
 namespace ZelInterchangeData {
 
-/// @p storesNothing says whether the writing operations keep their final code to themselves.
+/// @p writers takes the operations that write, @p readers those that read.
 template <class Object>
-void addFormatterBaseOperations(OperationsOf<Object>& of, bool storesNothing = false)
+void addFormatterBaseOperations(const OperationsOf<Object>& writers,
+                                const OperationsOf<Object>& readers)
 {
-    static constexpr auto xmp = ZelDataFormat_Xmp;
-    of.add("writeString", [](Object& f, Outs& o) {
-          return f.writeString(o.text, xmp, false);
-      }).storesNothing = storesNothing;
-    of.add("writeString|behind what is there", [](Object& f, Outs& o) {
-          return f.writeString(o.text, xmp, true);
-      }).storesNothing = storesNothing;
-    of.add("writeFile", [](Object& f, Outs& o) {
-          return f.writeFile(o.file.path(), xmp, false);
-      }).storesNothing = storesNothing;
-    of.add("readString", [](Object& f, Outs&) { return f.readString(longText, xmp, false); });
-    of.add("readFile", [](Object& f, Outs& o) { return f.readFile(o.file.path(), xmp); });
+    constexpr auto xmp = ZelDataFormat_Xmp;
+    writers.add("writeString", &Object::writeString, &Outs::text, xmp, false);
+    writers.add("writeString|after what is there", &Object::writeString, &Outs::text, xmp, true);
+    writers.add("writeFile", &Object::writeFile, &Outs::file, xmp, false);
+    readers.add("readString", &Object::readString, longText, xmp, false);
+    readers.add("readFile", &Object::readFile, &Outs::file, xmp);
 }
 
 } // namespace ZelInterchangeData

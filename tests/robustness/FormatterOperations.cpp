@@ -4,77 +4,39 @@ namespace ZelInterchangeData {
 
 namespace {
 
-void addHeaderFormatter(OperationList& list)
+template <class Formatter>
+OperationsOf<Formatter> addFormatter(OperationList& list, const char* className,
+                                     std::unique_ptr<Formatter> (*make)())
 {
-    OperationsOf<i_ZelDataHeaderFormatter> header(list, "ZelDataXmpHeaderFormatter",
-                                                  filledHeaderFormatter);
-    addFormatterBaseOperations(header);
-    header
-        .add("setHeader",
-             [](i_ZelDataHeaderFormatter& f, Outs&) {
-                 thread_local const auto source = filledHeader();
-                 return f.setHeader(*source);
-             })
-        .inSteps();
-    header.add("getHeader",
-               [](i_ZelDataHeaderFormatter& f, Outs& o) { return f.getHeader(*o.headerTarget); });
-}
-
-void addCaptionFormatter(OperationList& list)
-{
-    OperationsOf<i_ZelDataCaptionFormatter> captions(list, "ZelDataXmpCaptionFormatter",
-                                                     filledCaptionFormatter);
-    addFormatterBaseOperations(captions);
-    captions
-        .add("setCaptions",
-             [](i_ZelDataCaptionFormatter& f, Outs&) {
-                 thread_local const auto source = filledCaptions();
-                 return f.setCaptions(*source);
-             })
-        .inSteps();
-    captions.add("getCaptions", [](i_ZelDataCaptionFormatter& f, Outs& o) {
-        return f.getCaptions(*o.captionsTarget);
-    });
-}
-
-void addTocFormatter(OperationList& list)
-{
-    OperationsOf<i_ZelDataTocFormatter> toc(list, "ZelDataXmpTocFormatter", filledTocFormatter);
-    addFormatterBaseOperations(toc);
-    toc.add("setToc",
-            [](i_ZelDataTocFormatter& f, Outs&) {
-                thread_local const auto source = filledToc();
-                return f.setToc(*source);
-            })
-        .inSteps();
-    toc.add("getToc", [](i_ZelDataTocFormatter& f, Outs& o) { return f.getToc(*o.tocTarget); });
-}
-
-void addScreenTextFormatter(OperationList& list)
-{
-    OperationsOf<i_ZelDataScreenTextFormatter> screenText(list, "ZelDataXmpScreenTextFormatter",
-                                                          filledScreenTextFormatter);
-    addFormatterBaseOperations(screenText);
-    screenText
-        .add("setScreenText",
-             [](i_ZelDataScreenTextFormatter& f, Outs&) {
-                 thread_local const auto source = filledScreenText();
-                 return f.setScreenText(*source);
-             })
-        .inSteps();
-    screenText.add("getScreenText", [](i_ZelDataScreenTextFormatter& f, Outs& o) {
-        return f.getScreenText(*o.screenTextTarget);
-    });
+    const OperationsOf<Formatter> of(list, className, make);
+    addFormatterBaseOperations(of, of);
+    return of;
 }
 
 } // namespace
 
 void addFormatterOperations(OperationList& list)
 {
-    addHeaderFormatter(list);
-    addCaptionFormatter(list);
-    addTocFormatter(list);
-    addScreenTextFormatter(list);
+    using Header = i_ZelDataHeaderFormatter;
+    const auto header = addFormatter(list, "ZelDataXmpHeaderFormatter", filledHeaderFormatter);
+    header.stepwise().add("setHeader", &Header::setHeader, given<filledHeader>);
+    header.add("getHeader", &Header::getHeader, &Outs::headerTarget);
+
+    using Captions = i_ZelDataCaptionFormatter;
+    const auto captions = addFormatter(list, "ZelDataXmpCaptionFormatter", filledCaptionFormatter);
+    captions.stepwise().add("setCaptions", &Captions::setCaptions, given<filledCaptions>);
+    captions.add("getCaptions", &Captions::getCaptions, &Outs::captionsTarget);
+
+    using Toc = i_ZelDataTocFormatter;
+    const auto toc = addFormatter(list, "ZelDataXmpTocFormatter", filledTocFormatter);
+    toc.stepwise().add("setToc", &Toc::setToc, given<filledToc>);
+    toc.add("getToc", &Toc::getToc, &Outs::tocTarget);
+
+    using Text = i_ZelDataScreenTextFormatter;
+    const auto text =
+        addFormatter(list, "ZelDataXmpScreenTextFormatter", filledScreenTextFormatter);
+    text.stepwise().add("setScreenText", &Text::setScreenText, given<filledScreenText>);
+    text.add("getScreenText", &Text::getScreenText, &Outs::screenTextTarget);
 }
 
 } // namespace ZelInterchangeData

@@ -9,40 +9,22 @@
 
 namespace ZelInterchangeData {
 
-/// A copy of @p source of a class that is not exactly ours.
-template <class Own, class Interface>
-std::unique_ptr<Interface> callersCopyOf(const Interface& source)
-{
-    class Callers : public Own {};
-    auto copy = std::make_unique<Callers>();
-    EXPECT_EQ(ZelData_Ok, copy->copyFrom(source));
-    return copy;
-}
-
 template <class Object>
-void addLanguageOperations(OperationsOf<Object>& of)
+void addLanguageOperations(const OperationsOf<Object>& of)
 {
-    of.add("clearLanguages", [](Object& o, Outs&) { return o.clearLanguages(); });
-    of.add("addLanguage", [](Object& o, Outs&) { return o.addLanguage(otherID); });
-    of.add("removeLanguage", [](Object& o, Outs&) { return o.removeLanguage(firstID); });
-    of.add("setOrderedLanguageIDs",
-           [](Object& o, Outs&) { return o.setOrderedLanguageIDs(reversedIDs); });
-    of.add("getOrderedLanguageIDs",
-           [](Object& o, Outs& outs) { return o.getOrderedLanguageIDs(outs.list); });
-    of.add("getLanguageCount",
-           [](Object& o, Outs& outs) { return o.getLanguageCount(outs.number); });
-    of.add("getLanguageDisplayNames", [](Object& o, Outs& outs) {
-          return o.getLanguageDisplayNames(outs.list);
-      }).inSteps();
-    of.add("getLanguageNativeDisplayNames", [](Object& o, Outs& outs) {
-          return o.getLanguageNativeDisplayNames(outs.list);
-      }).inSteps();
-    of.add("doesLanguageExist",
-           [](Object& o, Outs& outs) { return o.doesLanguageExist(outs.id, outs.flag); });
-    of.add("copyFrom(const i_ZelDataLanguage&)", [](Object& o, Outs&) {
-          thread_local const auto source = filledHeader();
-          return o.copyFrom(static_cast<const i_ZelDataLanguage&>(*source));
-      }).inSteps();
+    using O = Object;
+    of.add("clearLanguages", &O::clearLanguages);
+    of.add("addLanguage", &O::addLanguage, otherID);
+    of.add("removeLanguage", &O::removeLanguage, firstID);
+    of.add("setOrderedLanguageIDs", &O::setOrderedLanguageIDs, reversedIDs);
+    of.add("getOrderedLanguageIDs", &O::getOrderedLanguageIDs, &Outs::list);
+    of.add("getLanguageCount", &O::getLanguageCount, &Outs::number);
+    of.add("doesLanguageExist", &O::doesLanguageExist, &Outs::id, &Outs::flag);
+    const auto steps = of.stepwise();
+    steps.add("getLanguageDisplayNames", &O::getLanguageDisplayNames, &Outs::list);
+    steps.add("getLanguageNativeDisplayNames", &O::getLanguageNativeDisplayNames, &Outs::list);
+    ZelDataResult_tags (O::*const copyFrom)(const i_ZelDataLanguage&) = &O::copyFrom;
+    steps.add("copyFrom(const i_ZelDataLanguage&)", copyFrom, given<filledHeader>);
 }
 
 } // namespace ZelInterchangeData

@@ -38,7 +38,7 @@ Ending callWith(const Subject& subject, Outs& outs, std::size_t granted, Shortag
     return ending;
 }
 
-/// All that shows of an operation that was called on @p subject without any failure.
+/// Calls @p operation on @p subject without any failure and returns all that shows.
 std::string success(const Operation& operation, const Subject& subject)
 {
     Outs outs;
@@ -72,7 +72,7 @@ void checkFailure(const Operation& operation, const Subject& subject, const Endi
 }
 
 /// Calls @p operation on a new object with one of its allocations failing, looks at what is left,
-/// and calls it once more on the same object. Whether an allocation failed.
+/// and calls it once more on the same object. Returns whether an allocation failed.
 bool failsAt(std::size_t granted, Shortage shortage, const Operation& operation,
              const std::string& expected)
 {
@@ -91,7 +91,7 @@ bool failsAt(std::size_t granted, Shortage shortage, const Operation& operation,
     return true;
 }
 
-/// The number of allocations of @p operation, each of which failed once.
+/// Lets each allocation of @p operation fail in turn and returns how many there are.
 std::size_t sweep(const Operation& operation, Shortage shortage)
 {
     const auto expected = success(operation, operation.make());
@@ -132,14 +132,14 @@ TEST(MemorySweep, MemoryThatStaysExhaustedLeavesEveryObjectWhole)
     sweepAll(Shortage::Lasting);
 }
 
-/// The operation of @p entry without its class, its arguments and without what distinguishes entries.
+/// The operation of @p entry without its class, its arguments and what distinguishes entries.
 std::string bareName(const std::string& entry)
 {
     const std::string name = entry.substr(entry.find("::") + 2);
     return name.substr(0, name.find_first_of("(|"));
 }
 
-TEST(MemorySweep, OnlyCopiesAndDisplayNamesMayEndHalfWay)
+TEST(MemorySweep, OnlyCopiesAndDisplayNamesMayStopHalfWay)
 {
     const std::set<std::string> expected = {"copyFrom",
                                             "getDataCaptions",

@@ -6,6 +6,7 @@
 
 #include "robustness/Contents.h"
 #include "robustness/Outs.h"
+#include "support/Checks.h"
 
 #include <functional>
 #include <memory>
@@ -23,9 +24,9 @@ struct Subject {
     std::function<std::string()> contents;
 };
 
-/// One entry of the list. Memory that runs out gives #ZelData_OutOfMemory, returned and stored, and
-/// leaves object and arguments as they were, unless the entry says otherwise. What an operation reads
-/// besides is made once for each thread.
+/// One entry of the list. When memory runs out, the operation returns and stores
+/// #ZelData_OutOfMemory and leaves its object and its arguments as they were, unless the entry says
+/// otherwise. Other objects that it reads are made once in each thread.
 struct Operation {
     /// Class and operation, with the types of the arguments where the name alone would not do.
     /// The part after a bar distinguishes several entries for one operation.
@@ -33,66 +34,104 @@ struct Operation {
     std::function<Subject()> make;
     /// Lets the exception through.
     bool throws = false;
-    /// May have gone a part of its way.
+    /// May stop half-way.
     bool stepwise = false;
     /// Does not store its final code.
     bool storesNothing = false;
-
-    Operation& letsThrough()
-    {
-        throws = true;
-        return *this;
-    }
-    Operation& inSteps()
-    {
-        stepwise = true;
-        return *this;
-    }
-    Operation& withoutStoring()
-    {
-        storesNothing = true;
-        return *this;
-    }
 };
 
 using OperationList = std::vector<Operation>;
+
+/// What @p make makes, once in each thread.
+template <auto make>
+auto& given()
+{
+    thread_local const auto object = make();
+    return *object;
+}
 
 /// Adds the operations of one class to a list.
 template <class Object>
 class OperationsOf {
 public:
-    using Act = ZelDataResult_tags (*)(Object&, Outs&);
+    using Make = std::unique_ptr<Object> (*)();
 
-    /// Objects to call operations on come from @p make.
-    OperationsOf(OperationList& list, std::string className, std::unique_ptr<Object> (*make)())
-        : list_(list), className_(std::move(className)), make_(make)
+    /// Adds the operations that every class has. The objects come from @p make.
+    OperationsOf(OperationList& list, const std::string& className, Make make)
+        : list_(list), make_(make)
     {
-        add("setLastError", [](Object& object, Outs& /*outs*/) {
+        like_.name = className + "::";
+        add("setLastError", [](Object& object) {
             object.setLastError(ZelData_WarnTiming);
             return object.getLastError();
         });
-        add("getLastError", [](Object& object, Outs& /*outs*/) { return object.getLastError(); });
+        add("getLastError", &Object::getLastError);
     }
 
-    /// The entry can be changed until the next one is added.
-    Operation& add(const std::string& name, Act act) { return addOn(make_, name, act); }
-
-    Operation& addOn(std::unique_ptr<Object> (*make)(), const std::string& name, Act act)
+    /// Adds an operation with its arguments, each as argument() takes it.
+    template <class Act, class... Arguments>
+    void add(const std::string& name, Act act, Arguments... arguments) const
     {
-        list_.push_back({className_ + "::" + name, [make, act] {
-                             const std::shared_ptr<Object> object = make();
-                             return Subject{
-                                 object, [object, act](Outs& outs) { return act(*object, outs); },
-                                 [object] { return contentsOf(*object); }};
-                         }});
-        return list_.back();
+        Operation entry = like_;
+        entry.name += name;
+        entry.make = [make = make_, act, arguments...] {
+            const std::shared_ptr<Object> object = make();
+            return Subject{object,
+                           [object, act, arguments...](Outs& outs) {
+                               return std::invoke(act, *object, argument(outs, arguments)...);
+                           },
+                           [object] { return contentsOf(*object); }};
+        };
+        list_.push_back(std::move(entry));
     }
+
+    /// The same class with objects from @p make.
+    [[nodiscard]] OperationsOf on(Make make) const
+    {
+        OperationsOf other = *this;
+        other.make_ = make;
+        return other;
+    }
+    /// The same class, for operations that let the exception through.
+    [[nodiscard]] OperationsOf throwing() const { return with(&Operation::throws); }
+    /// The same class, for operations that may stop half-way.
+    [[nodiscard]] OperationsOf stepwise() const { return with(&Operation::stepwise); }
+    /// The same class, for operations that do not store their final code.
+    [[nodiscard]] OperationsOf storingNothing() const { return with(&Operation::storesNothing); }
 
 private:
+    OperationsOf with(bool Operation::*conduct) const
+    {
+        OperationsOf other = *this;
+        other.like_.*conduct = true;
+        return other;
+    }
+
     OperationList& list_;
-    std::string className_;
-    std::unique_ptr<Object> (*make_)();
+    Make make_;
+    /// What all entries begin with.
+    Operation like_;
 };
+
+/// Makes a copy of what @p make makes, of a class that is not exactly ours.
+template <class Own, auto make>
+auto callersCopy()
+{
+    class Callers : public Own {};
+    const auto source = make();
+    auto copy = std::make_unique<Callers>();
+    EXPECT_EQ(ZelData_Ok, copy->copyFrom(*source));
+    return copy;
+}
+
+/// Adds both ways to copy: from an object of our class and from one of a caller's class.
+template <class Own, auto make, class Object>
+void addCopies(const OperationsOf<Object>& of, const std::string& name = "copyFrom")
+{
+    ZelDataResult_tags (Object::*const copyFrom)(const Object&) = &Object::copyFrom;
+    of.stepwise().add(name, copyFrom, given<make>);
+    of.stepwise().add(name + "|of a caller's class", copyFrom, given<callersCopy<Own, make>>);
+}
 
 /// A last error that no operation stores.
 constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
@@ -100,15 +139,15 @@ constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 void forgetLastError(const Subject& subject);
 /// The last error of @p subject; a function has none.
 ZelDataResult_tags lastErrorOf(const Subject& subject);
-/// All that shows of an operation of @p subject that gave @p code and was called with @p outs.
+/// All that a call of @p subject shows: its @p code, what the object holds, and @p outs.
 std::string outcome(ZelDataResult_tags code, const Subject& subject, const Outs& outs);
 
-/// Calls what it is given, with something set up around it.
+/// Calls its argument with something set up around the call.
 using Around = std::function<void(const std::function<void()>&)>;
 
-/// Calls with nothing around.
+/// Sets nothing up.
 void callPlainly(const std::function<void()>& call);
-/// What @p operation gives and leaves on a new object; @p around calls it. All else happens as always.
+/// What @p operation returns and leaves when @p around calls it on a new object.
 std::string outcomeOf(const Operation& operation, const Around& around = callPlainly);
 
 /// All operations.

@@ -39,7 +39,7 @@ struct AllHandedOut {
     std::vector<Interface*> objects;
 };
 
-/// Arguments for an operation to deliver in. They begin with values that no operation delivers.
+/// Arguments for an operation to deliver its results to. They begin with values that none delivers.
 class Outs {
 public:
     Outs();
@@ -86,6 +86,51 @@ public:
     /// A file to write to.
     TempFile file;
 };
+
+/// What an operation is called with for an argument of its entry. A pointer to a member of Outs becomes
+/// that member of @p outs, a function becomes what it returns, and any other value stays as it is.
+/// @{
+template <class Value>
+const Value& argument(Outs& /*outs*/, const Value& value)
+{
+    return value;
+}
+
+template <class Value>
+Value& argument(Outs& /*outs*/, Value& (*given)())
+{
+    return given();
+}
+
+template <class Value>
+Value& argument(Outs& outs, Value Outs::*place)
+{
+    return outs.*place;
+}
+
+template <class Interface>
+Interface** argument(Outs& outs, HandedOut<Interface> Outs::*place)
+{
+    return &(outs.*place).object;
+}
+
+template <class Interface>
+std::vector<Interface*>& argument(Outs& outs, AllHandedOut<Interface> Outs::*place)
+{
+    return (outs.*place).objects;
+}
+
+template <class Interface>
+Interface& argument(Outs& outs, std::unique_ptr<Interface> Outs::*target)
+{
+    return *(outs.*target);
+}
+
+inline const std::string& argument(Outs& outs, TempFile Outs::*file)
+{
+    return (outs.*file).path();
+}
+/// @}
 
 } // namespace ZelInterchangeData
 

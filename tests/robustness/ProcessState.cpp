@@ -46,7 +46,7 @@ void addEnvironment(ProcessState& state)
     state.emplace_back("folder", std::filesystem::current_path());
 }
 
-/// What the kernel says, which is never asked in a way that changes it.
+/// What the kernel reports. Asking for it changes nothing.
 void addStatus(ProcessState& state)
 {
     std::ifstream status("/proc/self/status");
@@ -104,7 +104,7 @@ void addDescriptors(ProcessState& state)
     state.emplace_back("open descriptors", open.str());
 }
 
-/// Any calculation may be inexact.
+/// Without FE_INEXACT, which any calculation may raise.
 void addFloatingPoint(ProcessState& state)
 {
     state.emplace_back("rounding", std::to_string(std::fegetround()));
@@ -124,8 +124,8 @@ void addStream(ProcessState& state, const std::string& name, const std::ios& str
 
 void addHandlersOfCpp(ProcessState& state)
 {
-    state.emplace_back("handler of memory", bytesOf(std::get_new_handler()));
-    state.emplace_back("handler of the end", bytesOf(std::get_terminate()));
+    state.emplace_back("handler of exhausted memory", bytesOf(std::get_new_handler()));
+    state.emplace_back("handler of termination", bytesOf(std::get_terminate()));
 }
 
 } // namespace
@@ -133,7 +133,7 @@ void addHandlersOfCpp(ProcessState& state)
 ProcessState processState()
 {
     ProcessState state;
-    addFloatingPoint(state); // before all that calculates
+    addFloatingPoint(state); // before anything calculates
     addLocales(state);
     addEnvironment(state);
     addStatus(state);
@@ -150,7 +150,7 @@ ProcessState processState()
 
 std::string difference(const ProcessState& before, const ProcessState& after)
 {
-    if (before.size() != after.size()) return "another number of values";
+    if (before.size() != after.size()) return "a different number of values";
     std::string text;
     for (std::size_t i = 0; i < before.size(); ++i) {
         if (before[i] == after[i]) continue;

@@ -14,8 +14,8 @@ namespace ZelInterchangeData {
 using ProcessState = std::vector<std::pair<std::string, std::string>>;
 
 /// The state at this moment: the locales of C and C++, the environment, the folder, the umask, user and
-/// groups, threads, signals and their handlers, limits and timers, open descriptors, the control of
-/// floating-point numbers, the standard streams, and the handlers of C++.
+/// groups, threads, signals and their handlers, limits and timers, open descriptors, the floating-point
+/// environment, the standard streams, and the handlers of C++.
 ProcessState processState();
 
 /// The names and values that differ; empty when none does.

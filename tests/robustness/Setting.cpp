@@ -22,7 +22,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// The C locale with the given name, one of those that were made for the tests.
+/// Puts in place the C locale with the given name, one of those made for the tests.
 class CLocale {
 public:
     explicit CLocale(const char* name) : before_(std::setlocale(LC_ALL, nullptr))
@@ -107,7 +107,7 @@ class Groups : public std::numpunct<Character> {
     std::string do_grouping() const override { return "\1\2"; }
 };
 
-/// Writes every number in its own way.
+/// Writes # for every integer and ~ for every other number.
 class Numbers : public std::num_put<char> {
     iter_type do_put(iter_type to, std::ios_base& /*stream*/, char /*fill*/,
                      long /*value*/) const override
@@ -123,7 +123,7 @@ class Numbers : public std::num_put<char> {
     }
 };
 
-/// No letter has a counterpart of the other case, and none is a letter.
+/// Knows no letters, and so neither upper nor lower case.
 class Caseless : public std::ctype<char> {
 public:
     Caseless() : std::ctype<char>(noClasses()) {}
@@ -138,12 +138,12 @@ private:
     char do_toupper(char /*character*/) const override { return '?'; }
 };
 
+/// What every function of the facets called Throwing... does.
 [[noreturn]] void refuse()
 {
-    throw std::runtime_error("nobody may use this facet");
+    throw std::runtime_error("this facet must not be used");
 }
 
-/// Throws where it is used.
 template <class Character>
 class ThrowingNumbers : public std::num_put<Character> {
     using To = typename std::num_put<Character>::iter_type;
@@ -157,7 +157,6 @@ class ThrowingNumbers : public std::num_put<Character> {
     To do_put(To, std::ios_base&, Character, const void*) const override { refuse(); }
 };
 
-/// Throws where it is used.
 class ThrowingTime : public std::time_put<char> {
     iter_type do_put(iter_type, std::ios_base&, char, const std::tm*, char, char) const override
     {
@@ -165,14 +164,12 @@ class ThrowingTime : public std::time_put<char> {
     }
 };
 
-/// Throws where it is used.
 class ThrowingOrder : public std::collate<char> {
     int do_compare(const char*, const char*, const char*, const char*) const override { refuse(); }
     string_type do_transform(const char*, const char*) const override { refuse(); }
     long do_hash(const char*, const char*) const override { refuse(); }
 };
 
-/// Throws where it is used.
 class ThrowingCharacters : public std::ctype<wchar_t> {
     bool do_is(mask, wchar_t) const override { refuse(); }
     wchar_t do_toupper(wchar_t) const override { refuse(); }
@@ -182,7 +179,6 @@ class ThrowingCharacters : public std::ctype<wchar_t> {
     char do_narrow(wchar_t, char) const override { refuse(); }
 };
 
-/// Throws where it is used.
 class ThrowingConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
     result do_out(std::mbstate_t&, const wchar_t*, const wchar_t*, const wchar_t*&, char*, char*,
                   char*&) const override
@@ -192,7 +188,7 @@ class ThrowingConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
     result do_unshift(std::mbstate_t&, char*, char*, char*&) const override { refuse(); }
 };
 
-/// The classic locale with the facets given in the place of its own; it owns them.
+/// The classic locale with @p facets, which it owns, in the place of its own.
 template <class... Facets>
 std::locale classicWith(Facets*... facets)
 {
@@ -209,7 +205,7 @@ Setting setting(std::string name, std::string sample, Arguments... arguments)
             std::move(sample)};
 }
 
-/// What sampleText() is expected to give.
+/// What sampleText() is expected to return.
 std::string sampleOf(const std::string& c, const std::string& stream,
                      const std::string& characters = "ANSI_X3.4-1968",
                      const std::string& upper = "I", const std::string& rounded = "3 -3",
@@ -232,8 +228,8 @@ std::vector<Setting> cLocales()
                          "de_DE.ISO-8859-1"),
         setting<CLocale>("C, both, several bytes for a separator",
                          sampleOf(narrowBoth, plain, "UTF-8"), "fr_FR.UTF-8"),
-        setting<CLocale>("C, characters not of Unicode", sampleOf("1234567.5 ,", plain, "EUC-JP"),
-                         "ja_JP.EUC-JP"),
+        setting<CLocale>("C, characters that are not Unicode",
+                         sampleOf("1234567.5 ,", plain, "EUC-JP"), "ja_JP.EUC-JP"),
         setting<CLocale>("C, another upper case", sampleOf(both, plain, "ISO-8859-9", "\u0130"),
                          "tr_TR.ISO-8859-9"),
         setting<ThreadLocale>("C, this thread alone", sampleOf(both, plain, "ISO-8859-1"),

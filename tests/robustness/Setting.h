@@ -1,5 +1,5 @@
 /// @file
-/// Settings of the process that change how others read and write numbers and text.
+/// Settings of the process that change how numbers and text are read and written.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_SETTING_H
 #define ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_SETTING_H
@@ -14,16 +14,16 @@ namespace ZelInterchangeData {
 /// One setting.
 struct Setting {
     std::string name;
-    /// Puts it in place; it goes when the result is destroyed.
+    /// Puts the setting in place until the result is destroyed.
     std::function<std::shared_ptr<void>()> enter;
-    /// What sampleText() gives under it.
+    /// What sampleText() returns under it.
     std::string sample;
 };
 
-/// Locales of C and C++, both together first, and the directions of rounding.
+/// Locales of C and C++, with a combination of both first, and the directions of rounding.
 const std::vector<Setting>& allSettings();
 
-/// What the C library and the streams make of a few values, so that a setting shows to be in place.
+/// What the C library and the streams make of a few values. It shows that a setting is in place.
 std::string sampleText();
 
 } // namespace ZelInterchangeData

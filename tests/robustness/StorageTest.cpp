@@ -1,11 +1,12 @@
 /// @file
-/// Documents written to places that do not take them.
+/// Documents written to places that cannot take them.
 
 #include "core/TempFile.h"
 #include "robustness/ChildProcess.h"
 #include "robustness/Contents.h"
 #include "robustness/Subjects.h"
 #include "robustness/Writes.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -27,35 +28,13 @@ namespace {
 
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// A folder that is removed with all that is in it.
-class TempFolder {
-public:
-    TempFolder() { std::filesystem::create_directory(place_.path()); }
-    ~TempFolder()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(place_.path(), ignored);
-    }
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    std::string path(const std::string& name = "") const
-    {
-        return name.empty() ? place_.path() : place_.path() + "/" + name;
-    }
-    bool isEmpty() const { return std::filesystem::is_empty(place_.path()); }
-
-private:
-    TempFile place_;
-};
-
-/// Both documents are written; the plain one hands over to the other one.
+/// Both classes of documents; the plain one lets the other one write.
 template <class Document>
 class Storage : public ::testing::Test {
 protected:
     Storage() : document_(filledDocument<Document>())
     {
-        // More than a buffer of the stream holds.
+        // More than the buffer of the stream holds.
         EXPECT_EQ(ZelData_Ok, document_->setDataCaptions(*manyCaptions()));
     }
     ~Storage() override { EXPECT_EQ(descriptors_, openDescriptors()); }
@@ -70,6 +49,12 @@ protected:
         const TempFile file;
         EXPECT_EQ(ZelData_Ok, write(file.path()));
         return dateMasked(file.bytes());
+    }
+    /// What a child reports that must not be able to open the file: "fine", or the code of writing it.
+    std::string notOpened(const std::string& path) const
+    {
+        const auto code = write(path);
+        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
     }
     void expectNotOpened(const std::string& path) const
     {
@@ -99,7 +84,7 @@ TYPED_TEST_SUITE(Storage, Documents, );
 
 TYPED_TEST(Storage, ADirectoryCannotBeOpened)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     this->expectNotOpened(folder.path());
     this->expectNotOpened(folder.path() + "/");
     EXPECT_TRUE(folder.isEmpty());
@@ -107,12 +92,12 @@ TYPED_TEST(Storage, ADirectoryCannotBeOpened)
 
 TYPED_TEST(Storage, AFileInAMissingFolderCannotBeOpened)
 {
-    const TempFolder folder;
-    this->expectNotOpened(folder.path("missing/file"));
+    const ScratchFolder folder;
+    this->expectNotOpened(folder.pathOf("missing/file"));
     EXPECT_TRUE(folder.isEmpty());
 }
 
-TYPED_TEST(Storage, AFileIsNoFolder)
+TYPED_TEST(Storage, AFileIsNotAFolder)
 {
     const TempFile file;
     file.fill("kept");
@@ -122,37 +107,37 @@ TYPED_TEST(Storage, AFileIsNoFolder)
 
 TYPED_TEST(Storage, ANameCanBeTooLong)
 {
-    const TempFolder folder;
-    this->expectNotOpened(folder.path(std::string(300, 'n')));
-    this->expectNotOpened(folder.path(std::string(100000, 'n')));
+    const ScratchFolder folder;
+    this->expectNotOpened(folder.pathOf(std::string(300, 'n')));
+    this->expectNotOpened(folder.pathOf(std::string(100000, 'n')));
     EXPECT_TRUE(folder.isEmpty());
 }
 
 TYPED_TEST(Storage, ALinkToItselfLeadsNowhere)
 {
-    const TempFolder folder;
-    std::filesystem::create_symlink("loop", folder.path("loop"));
-    this->expectNotOpened(folder.path("loop"));
+    const ScratchFolder folder;
+    std::filesystem::create_symlink("loop", folder.pathOf("loop"));
+    this->expectNotOpened(folder.pathOf("loop"));
 }
 
-TYPED_TEST(Storage, AnEmptyPathIsNoFile)
+TYPED_TEST(Storage, AnEmptyPathIsNotAFile)
 {
     this->expectNotOpened("");
 }
 
 TYPED_TEST(Storage, APathWithAZeroByteTouchesNoFile)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     const TempFile file;
     file.fill("kept");
     this->expectNotOpened(file.path() + std::string("\0.xmp", 5));
-    this->expectNotOpened(folder.path("new") + std::string(1, '\0'));
+    this->expectNotOpened(folder.pathOf("new") + std::string(1, '\0'));
     this->expectNotOpened(std::string(1, '\0') + file.path());
     EXPECT_EQ("kept", file.bytes());
     EXPECT_TRUE(folder.isEmpty());
 }
 
-/// Makes this process one of a user without rights. Whether it is one.
+/// Makes this process run as a user without rights. Returns whether it does.
 bool becomeNobody()
 {
     constexpr uid_t nobody = 65534;
@@ -167,20 +152,18 @@ TYPED_TEST(Storage, AFileThatIsReadOnlyCannotBeOpened)
     ASSERT_EQ(0, chmod(file.path().c_str(), S_IRUSR | S_IRGRP | S_IROTH));
     expectFine(inChild([&]() -> std::string {
         if (!becomeNobody()) return refusal("another user");
-        const auto code = this->write(file.path());
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(file.path());
     }));
     EXPECT_EQ("kept", file.bytes());
 }
 
 TYPED_TEST(Storage, AFolderThatIsReadOnlyTakesNoFile)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     ASSERT_EQ(0, chmod(folder.path().c_str(), 0555));
     expectFine(inChild([&]() -> std::string {
         if (!becomeNobody()) return refusal("another user");
-        const auto code = this->write(folder.path("new"));
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(folder.pathOf("new"));
     }));
     EXPECT_TRUE(folder.isEmpty());
 }
@@ -193,13 +176,12 @@ TYPED_TEST(Storage, WithoutAFreeDescriptorNoFileIsTouched)
         this->whole(); // a sanitizer needs descriptors to look at an object for the first time
         const rlimit none = {0, 0};
         if (setrlimit(RLIMIT_NOFILE, &none) != 0) return refusal("a limit of descriptors");
-        const auto code = this->write(file.path());
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(file.path());
     }));
     EXPECT_EQ("kept", file.bytes());
 }
 
-// Files that are opened and then do not take all
+// Files that can be opened but cannot take everything
 
 TYPED_TEST(Storage, AFullDeviceIsNotReported)
 {
@@ -213,7 +195,7 @@ void put(const std::string& path, const std::string& bytes)
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-/// Keeps user and group of this process in its new user name space.
+/// Keeps the user and the group of this process in its new user namespace.
 void mapUser(uid_t user, gid_t group)
 {
     put("/proc/self/setgroups", "deny");
@@ -221,7 +203,8 @@ void mapUser(uid_t user, gid_t group)
     put("/proc/self/gid_map", std::to_string(group) + " " + std::to_string(group) + " 1");
 }
 
-/// Gives this process a file system of its own at @p folder that holds 16 KiB. Empty, or a refusal.
+/// Gives this process a file system of its own at @p folder that holds 16 KiB. Returns
+/// nothing, or a refusal.
 std::string mountSmallFileSystem(const std::string& folder)
 {
     const uid_t user = geteuid();
@@ -236,14 +219,14 @@ std::string mountSmallFileSystem(const std::string& folder)
     return "";
 }
 
-/// Takes all of the room at @p folder but for @p left bytes.
+/// Fills the file system at @p folder but for @p left bytes.
 void fillUp(const std::string& folder, std::size_t left)
 {
     put(folder + "/filler", std::string(16384 - left, 'f'));
 }
 
-/// What is to be said when writing gave @p code, and the file holds @p bytes, where @p size bytes of
-/// @p whole, in which the date is masked, had room.
+/// What a child reports when writing gave @p code and the file holds @p bytes: "fine" if they are the
+/// first @p size bytes of @p whole, in which the date is masked.
 std::string judged(ZelDataResult_tags code, const std::string& bytes, const std::string& whole,
                    std::size_t size)
 {
@@ -255,15 +238,15 @@ std::string judged(ZelDataResult_tags code, const std::string& bytes, const std:
 
 TYPED_TEST(Storage, AFullFileSystemIsNotReported)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     const auto whole = this->whole();
     for (const std::size_t left : {0U, 4096U}) {
         expectFine(inChild([&]() -> std::string {
             if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty())
                 return refused;
             fillUp(folder.path(), left);
-            const auto code = this->write(folder.path("packet"));
-            return judged(code, bytesOf(folder.path("packet")), whole, left);
+            const auto code = this->write(folder.pathOf("packet"));
+            return judged(code, bytesOf(folder.pathOf("packet")), whole, left);
         }));
     }
     EXPECT_TRUE(folder.isEmpty());
@@ -271,13 +254,12 @@ TYPED_TEST(Storage, AFullFileSystemIsNotReported)
 
 TYPED_TEST(Storage, AFileSystemThatIsReadOnlyTakesNoFile)
 {
-    const TempFolder folder;
+    const ScratchFolder folder;
     expectFine(inChild([&]() -> std::string {
         if (auto refused = mountSmallFileSystem(folder.path()); !refused.empty()) return refused;
         if (mount("none", folder.path().c_str(), "none", MS_REMOUNT | MS_RDONLY, nullptr) != 0)
             return refusal("a read-only mount");
-        const auto code = this->write(folder.path("packet"));
-        return code == ZelData_FileOpenFailed ? fine : std::to_string(code);
+        return this->notOpened(folder.pathOf("packet"));
     }));
 }
 
@@ -307,7 +289,7 @@ TYPED_TEST(Storage, EachWriteThatFailsIsNotReported)
             hit = writes.troubled() != 0;
         }
         EXPECT_GT(index, 4U);
-        EXPECT_EQ(whole, dateMasked(file.bytes())) << "the last one met no trouble";
+        EXPECT_EQ(whole, dateMasked(file.bytes())) << "the last time nothing failed";
     }
 }
 
@@ -320,7 +302,7 @@ TYPED_TEST(Storage, WritesThatAllFailAreNotReported)
     EXPECT_EQ("", file.bytes());
 }
 
-TYPED_TEST(Storage, ShortWritesAreGoneOnWith)
+TYPED_TEST(Storage, ShortWritesAreContinued)
 {
     const auto whole = this->whole();
     for (const int taken : {1, 7, 4095}) {
@@ -332,7 +314,7 @@ TYPED_TEST(Storage, ShortWritesAreGoneOnWith)
     }
 }
 
-TYPED_TEST(Storage, InterruptedWritesAreMadeAgain)
+TYPED_TEST(Storage, InterruptedWritesAreRepeated)
 {
     const auto whole = this->whole();
     const TempFile file;
@@ -361,11 +343,11 @@ void expectNoFileTouched(const i_ZelInterchangeDataCore& document, ZelDataFormat
                          ZelDataResult_tags code)
 {
     const TempFile file;
-    const TempFolder folder;
+    const ScratchFolder folder;
     file.fill("kept");
     const Writes writes;
     EXPECT_EQ(code, document.writeFile(file.path(), format, false));
-    EXPECT_EQ(code, document.writeFile(folder.path("new"), format, false));
+    EXPECT_EQ(code, document.writeFile(folder.pathOf("new"), format, false));
     EXPECT_EQ("kept", file.bytes());
     EXPECT_TRUE(folder.isEmpty());
     EXPECT_EQ(0U, writes.count());

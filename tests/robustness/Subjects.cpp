@@ -1,16 +1,8 @@
 #include "robustness/Subjects.h"
 
-#include <initializer_list>
-
 namespace ZelInterchangeData {
 
 namespace {
-
-void expectOk(std::initializer_list<ZelDataResult_tags> codes)
-{
-    for (const auto code : codes)
-        EXPECT_EQ(ZelData_Ok, code);
-}
 
 std::unique_ptr<i_ZelDataCaptionItem> captionAt(long long start, const std::string& id)
 {
@@ -37,7 +29,21 @@ std::unique_ptr<i_ZelDataScreenTextItem> screenTextAt(long long start)
     return item;
 }
 
+/// @p item with another text, in the language @p id.
+template <class Item>
+std::unique_ptr<Item> withText(std::unique_ptr<Item> item, const std::string& id)
+{
+    expectOk({item->setTextForLanguage(otherText, id)});
+    return item;
+}
+
 } // namespace
+
+void expectOk(std::initializer_list<ZelDataResult_tags> codes)
+{
+    for (const auto code : codes)
+        EXPECT_EQ(ZelData_Ok, code);
+}
 
 const std::string longText = "a <text> that is too long to be kept inside of a string object";
 const std::string otherText = "another & longer text that is not kept inside of a string object";
@@ -64,16 +70,12 @@ std::unique_ptr<i_ZelDataHeader> filledHeader()
 
 std::unique_ptr<i_ZelDataCaptionItem> filledCaption()
 {
-    auto item = captionAt(1500, firstID);
-    expectOk({item->setTextForLanguage(otherText, secondID)});
-    return item;
+    return withText(captionAt(1500, firstID), secondID);
 }
 
 std::unique_ptr<i_ZelDataCaptionItem> captionWithOtherLanguages()
 {
-    auto item = captionAt(1500, otherID);
-    expectOk({item->setTextForLanguage(otherText, otherID + "-too")});
-    return item;
+    return withText(captionAt(1500, otherID), otherID + "-too");
 }
 
 std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages()
@@ -111,16 +113,12 @@ std::unique_ptr<i_ZelDataCaptions> filledCaptions()
 
 std::unique_ptr<i_ZelDataTocItem> filledEntry()
 {
-    auto item = entryAt(1500, firstID);
-    expectOk({item->setTextForLanguage(otherText, secondID)});
-    return item;
+    return withText(entryAt(1500, firstID), secondID);
 }
 
 std::unique_ptr<i_ZelDataTocItem> entryWithOtherLanguages()
 {
-    auto item = entryAt(1500, otherID);
-    expectOk({item->setTextForLanguage(otherText, otherID + "-too")});
-    return item;
+    return withText(entryAt(1500, otherID), otherID + "-too");
 }
 
 std::unique_ptr<i_ZelDataToc> tocInBothLanguages()
@@ -150,34 +148,6 @@ std::unique_ptr<i_ZelDataScreenText> filledScreenText()
     expectOk({texts->setFrameRate(50), texts->addScreenTextItem(*screenTextAt(6000)),
               texts->addScreenTextItem(*screenTextAt(2000))});
     return texts;
-}
-
-std::unique_ptr<i_ZelDataHeaderFormatter> filledHeaderFormatter()
-{
-    auto formatter = make(&ZelDataUtilities::createHeaderFormatter);
-    expectOk({formatter->setHeader(*filledHeader())});
-    return formatter;
-}
-
-std::unique_ptr<i_ZelDataCaptionFormatter> filledCaptionFormatter()
-{
-    auto formatter = make(&ZelDataUtilities::createCaptionFormatter);
-    expectOk({formatter->setCaptions(*filledCaptions())});
-    return formatter;
-}
-
-std::unique_ptr<i_ZelDataTocFormatter> filledTocFormatter()
-{
-    auto formatter = make(&ZelDataUtilities::createTocFormatter);
-    expectOk({formatter->setToc(*filledToc())});
-    return formatter;
-}
-
-std::unique_ptr<i_ZelDataScreenTextFormatter> filledScreenTextFormatter()
-{
-    auto formatter = make(&ZelDataUtilities::createScreenTextFormatter);
-    expectOk({formatter->setScreenText(*filledScreenText())});
-    return formatter;
 }
 
 } // namespace ZelInterchangeData

@@ -1,5 +1,5 @@
 /// @file
-/// Objects that hold something everywhere, in texts too long for any string to hold without an
+/// Objects with a value in every field. Their texts are too long for a string to hold without an
 /// allocation.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_SUBJECTS_H
@@ -10,29 +10,33 @@
 #include "core/ZelDataCoreXmp.h"
 #include "support/Checks.h"
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
 
+/// Expects all @p codes to be success.
+void expectOk(std::initializer_list<ZelDataResult_tags> codes);
+
 extern const std::string longText;
 extern const std::string otherText;
-/// Languages that the objects below know, in ascending order, and one that they do not know.
+/// Two languages of the objects below, in ascending order, and one that they do not have.
 extern const std::string firstID;
 extern const std::string secondID;
 extern const std::string otherID;
-/// One of the names of the header's contents.
+/// One of the header's content names.
 extern const std::string contentName;
 extern const std::vector<std::string> otherList;
-/// The languages of the objects, the other way round.
+/// The languages of the objects, in reverse order.
 extern const std::vector<std::string> reversedIDs;
 
 std::unique_ptr<i_ZelDataHeader> filledHeader();
 std::unique_ptr<i_ZelDataCaptionItem> filledCaption();
-/// A caption in two languages that filledCaptions() do not list.
+/// A caption in two languages that filledCaptions() does not list.
 std::unique_ptr<i_ZelDataCaptionItem> captionWithOtherLanguages();
-/// Two captions, the later one first. Each lacks the language of the other one.
+/// Two captions, the later one first. Each lacks the other's language.
 std::unique_ptr<i_ZelDataCaptions> filledCaptions();
 /// Three captions in the same two languages.
 std::unique_ptr<i_ZelDataCaptions> captionsInBothLanguages();
@@ -41,7 +45,7 @@ std::unique_ptr<i_ZelDataCaptions> captionsWithLongTexts();
 std::unique_ptr<i_ZelDataTocItem> filledEntry();
 /// An entry in two languages that filledToc() does not list.
 std::unique_ptr<i_ZelDataTocItem> entryWithOtherLanguages();
-/// Two entries, the later one first. Each lacks the language of the other one.
+/// Two entries, the later one first. Each lacks the other's language.
 std::unique_ptr<i_ZelDataToc> filledToc();
 /// Three entries in the same two languages.
 std::unique_ptr<i_ZelDataToc> tocInBothLanguages();
@@ -49,20 +53,26 @@ std::unique_ptr<i_ZelDataScreenTextItem> filledScreenTextItem();
 /// Two texts, the later one first.
 std::unique_ptr<i_ZelDataScreenText> filledScreenText();
 
-std::unique_ptr<i_ZelDataHeaderFormatter> filledHeaderFormatter();
-std::unique_ptr<i_ZelDataCaptionFormatter> filledCaptionFormatter();
-std::unique_ptr<i_ZelDataTocFormatter> filledTocFormatter();
-std::unique_ptr<i_ZelDataScreenTextFormatter> filledScreenTextFormatter();
+constexpr auto filledHeaderFormatter =
+    filledFormatter<&ZelDataUtilities::createHeaderFormatter, &i_ZelDataHeaderFormatter::setHeader,
+                    filledHeader>;
+constexpr auto filledCaptionFormatter =
+    filledFormatter<&ZelDataUtilities::createCaptionFormatter,
+                    &i_ZelDataCaptionFormatter::setCaptions, filledCaptions>;
+constexpr auto filledTocFormatter = filledFormatter<&ZelDataUtilities::createTocFormatter,
+                                                    &i_ZelDataTocFormatter::setToc, filledToc>;
+constexpr auto filledScreenTextFormatter =
+    filledFormatter<&ZelDataUtilities::createScreenTextFormatter,
+                    &i_ZelDataScreenTextFormatter::setScreenText, filledScreenText>;
 
 /// A document of the class @p Document with all four sets.
 template <class Document>
 std::unique_ptr<i_ZelInterchangeDataCore> filledDocument()
 {
     auto document = std::make_unique<Document>();
-    EXPECT_EQ(ZelData_Ok, document->setDataHeader(*filledHeader()));
-    EXPECT_EQ(ZelData_Ok, document->setDataCaptions(*filledCaptions()));
-    EXPECT_EQ(ZelData_Ok, document->setDataToc(*filledToc()));
-    EXPECT_EQ(ZelData_Ok, document->setDataScreenText(*filledScreenText()));
+    expectOk({document->setDataHeader(*filledHeader()),
+              document->setDataCaptions(*filledCaptions()), document->setDataToc(*filledToc()),
+              document->setDataScreenText(*filledScreenText())});
     return document;
 }
 

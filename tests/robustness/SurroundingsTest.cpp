@@ -1,5 +1,5 @@
 /// @file
-/// The library in processes that others have set up in their own way, and what it leaves there.
+/// The library in processes with unusual settings, and what it leaves there.
 
 #include "robustness/ChildProcess.h"
 #include "robustness/Contents.h"
@@ -30,7 +30,7 @@ namespace {
 
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// The outcome of each operation when nothing is special.
+/// The outcome of each operation when nothing is unusual.
 const std::vector<std::string>& plainOutcomes()
 {
     static const std::vector<std::string> outcomes = [] {
@@ -42,7 +42,7 @@ const std::vector<std::string>& plainOutcomes()
     return outcomes;
 }
 
-/// The operations whose outcome is another one with @p around; "fine" when there is none.
+/// The operations whose outcome differs when @p around calls them; "fine" when there is none.
 std::string differing(const Around& around)
 {
     const auto& plain = plainOutcomes();
@@ -56,7 +56,7 @@ std::string differing(const Around& around)
 
 class Surroundings : public ::testing::Test {
 protected:
-    /// A test may empty the environment, and the zone must be the same then.
+    /// A test may empty the environment, which must not change the zone.
     Surroundings()
     {
         unsetenv("TZ");
@@ -64,7 +64,7 @@ protected:
     }
 };
 
-TEST_F(Surroundings, EverySettingIsInPlaceWhereItIsNamed)
+TEST_F(Surroundings, EverySettingTakesEffect)
 {
     const std::string before = sampleText();
     EXPECT_EQ("1234567.5 |1234567.5|ANSI_X3.4-1968|I|3 -3|ax", before);
@@ -128,7 +128,7 @@ TEST_F(Surroundings, AnEmptyEnvironmentChangesNothing)
     }));
 }
 
-TEST_F(Surroundings, TheEnvironmentNamesNoLocale)
+TEST_F(Surroundings, ALocaleInTheEnvironmentChangesNothing)
 {
     plainOutcomes();
     expectFine(inChild([] {
@@ -170,7 +170,7 @@ TEST_F(Surroundings, APacketHasTheDateOfTheZone)
         std::string packet;
         std::string before;
         std::string after;
-        do { // until nothing struck in between
+        do { // until the second does not change in between
             before = ZelDataUtilities::getDateString(nullptr);
             EXPECT_EQ(ZelData_Ok, document->writeString(packet, xmp, false));
             after = ZelDataUtilities::getDateString(nullptr);
@@ -234,7 +234,7 @@ void putInPlaceOf(int stream, const std::string& path)
     close(descriptor);
 }
 
-/// Writes one mark on each road to the standard streams.
+/// Writes one mark in each way to the standard streams.
 void mark()
 {
     std::cout << "1" << std::flush;
@@ -262,10 +262,7 @@ TEST_F(Surroundings, NothingIsPrintedAndNothingRead)
         mark();
         return lseek(STDIN_FILENO, 0, SEEK_CUR) == 0 ? said : "input was read";
     }));
-    EXPECT_EQ(std::string("134526713452"
-                          "67")
-                  .size(),
-              output.bytes().size());
+    EXPECT_EQ(2U * 7U, output.bytes().size()) << "only mark() writes";
     EXPECT_EQ("input", input.bytes());
 }
 
@@ -273,7 +270,7 @@ TEST_F(Surroundings, NothingIsPrintedAndNothingRead)
 
 void handler(int /*signal*/) {}
 
-/// Makes everything other than it is in most processes, so that a library shows that puts it right.
+/// Makes the state of the process unusual, so that a library that corrects it is noticed.
 void makeUnusual(const std::string& folder)
 {
     std::filesystem::current_path(folder);

@@ -1,10 +1,11 @@
 /// @file
-/// Distinct documents in many threads. Each test runs in a process of its own, so that the first
-/// use of everything falls into the race; nothing of the library is used before the threads start.
+/// Distinct documents in many threads. Each test runs in a process of its own and does not use the
+/// library before its threads start, so that they race for the first use of everything.
 
 #include "core/TempFile.h"
 #include "robustness/Contents.h"
 #include "robustness/Operation.h"
+#include "robustness/Subjects.h"
 #include "support/Checks.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +27,7 @@ constexpr std::size_t writeCount = 10000;
 constexpr std::size_t writesPerThread = writeCount / threadCount;
 constexpr auto xmp = ZelDataFormat_Xmp;
 
-/// Lets no thread through before all have arrived.
+/// Lets no thread through until all have arrived.
 class Barrier {
 public:
     void wait()
@@ -57,39 +58,29 @@ void race(const std::function<void(std::size_t)>& work)
         thread.join();
 }
 
-/// Whether all @p codes are success.
-bool allOk(std::initializer_list<ZelDataResult_tags> codes)
-{
-    for (const auto code : codes) {
-        if (code != ZelData_Ok) return false;
-    }
-    return true;
-}
-
 std::string ownText(std::size_t number)
 {
     return "the <text> of the thread with the number " + std::to_string(number);
 }
 
-bool addItems(i_ZelDataCaptions& captions, i_ZelDataToc& toc, i_ZelDataScreenText& screenText,
+void addItems(i_ZelDataCaptions& captions, i_ZelDataToc& toc, i_ZelDataScreenText& screenText,
               std::size_t number)
 {
     const auto caption = make(&ZelDataUtilities::createCaptionItemData);
     const auto entry = make(&ZelDataUtilities::createTocItemData);
     const auto shown = make(&ZelDataUtilities::createScreenTextItemData);
     const auto text = ownText(number);
-    return allOk({caption->setTextForLanguage(text, "de"), caption->setTextForLanguage(text, "cu"),
-                  caption->setDuration(2000), captions.addCaptionItem(*caption),
-                  entry->setTextForLanguage(text, "en"), toc.addTocItem(*entry),
-                  shown->setText(text), shown->setDuration(5),
-                  screenText.addScreenTextItem(*shown)});
+    expectOk({caption->setTextForLanguage(text, "de"), caption->setTextForLanguage(text, "cu"),
+              caption->setDuration(2000), captions.addCaptionItem(*caption),
+              entry->setTextForLanguage(text, "en"), toc.addTocItem(*entry), shown->setText(text),
+              shown->setDuration(5), screenText.addScreenTextItem(*shown)});
 }
 
 std::unique_ptr<i_ZelDataHeader> ownHeader(std::size_t number)
 {
     auto header = make(&ZelDataUtilities::createHeaderData);
-    EXPECT_TRUE(allOk({header->setTitle(ownText(number)), header->setVideoLength(1000 + number),
-                       header->setVideoWidth(640), header->setVideoHeight(480)}));
+    expectOk({header->setTitle(ownText(number)), header->setVideoLength(1000 + number),
+              header->setVideoWidth(640), header->setVideoHeight(480)});
     return header;
 }
 
@@ -99,11 +90,10 @@ std::unique_ptr<i_ZelInterchangeDataCore> ownDocument(std::size_t number)
     const auto captions = make(&ZelDataUtilities::createCaptionData);
     const auto toc = make(&ZelDataUtilities::createTocData);
     const auto screenText = make(&ZelDataUtilities::createScreenTextData);
-    EXPECT_TRUE(addItems(*captions, *toc, *screenText, number));
+    addItems(*captions, *toc, *screenText, number);
     std::unique_ptr<i_ZelInterchangeDataCore> document(ZELDataCreator::createInterchangeData());
-    EXPECT_TRUE(
-        allOk({document->setDataHeader(*ownHeader(number)), document->setDataCaptions(*captions),
-               document->setDataToc(*toc), document->setDataScreenText(*screenText)}));
+    expectOk({document->setDataHeader(*ownHeader(number)), document->setDataCaptions(*captions),
+              document->setDataToc(*toc), document->setDataScreenText(*screenText)});
     return document;
 }
 
@@ -124,7 +114,7 @@ std::string writtenAsFile(const i_ZelInterchangeDataCore& document)
     return dateMasked(bytes.substr(declaration.size()));
 }
 
-/// Writes @p document often; each time must give the same. What it gave.
+/// Writes @p document often, expects the same each time, and returns it.
 std::string writtenOften(const i_ZelInterchangeDataCore& document)
 {
     std::string first = writtenAsString(document);
@@ -137,7 +127,7 @@ std::string writtenOften(const i_ZelInterchangeDataCore& document)
     return first;
 }
 
-/// What the threads wrote must be what one thread alone writes.
+/// Expects that the threads wrote what one thread alone writes.
 void expectAsAlone(const std::vector<std::string>& packets)
 {
     for (std::size_t number = 0; number < threadCount; ++number) {
@@ -153,7 +143,7 @@ TEST(Threads, EachMakesAndWritesItsOwnDocument)
     expectAsAlone(packets);
 }
 
-/// What @p operation gives and leaves in each thread, called in all of them at once.
+/// What @p operation returns and leaves in each thread when all of them call it at once.
 std::vector<std::string> outcomesInThreads(const Operation& operation)
 {
     std::vector<std::string> outcomes(threadCount);
@@ -176,33 +166,32 @@ struct Sets {
     std::unique_ptr<i_ZelDataScreenText> text = make(&ZelDataUtilities::createScreenTextData);
 };
 
-/// Copies that share their items with each other and with nobody else, so that one of the threads
-/// lets go of the last share.
+/// Copies that share their items only with each other, so that one of the threads releases the last
+/// share.
 std::vector<Sets> copiesOfOneSet()
 {
     const Sets original;
-    EXPECT_TRUE(addItems(*original.captions, *original.toc, *original.text, threadCount));
+    addItems(*original.captions, *original.toc, *original.text, threadCount);
     std::vector<Sets> copies(threadCount);
     for (Sets& copy : copies) {
-        EXPECT_TRUE(
-            allOk({copy.captions->copyFrom(*original.captions), copy.toc->copyFrom(*original.toc),
-                   copy.text->copyFrom(*original.text)}));
+        expectOk({copy.captions->copyFrom(*original.captions), copy.toc->copyFrom(*original.toc),
+                  copy.text->copyFrom(*original.text)});
     }
     return copies;
 }
 
-/// Replaces the item that is there by the thread's own.
+/// Replaces the item of each set with the thread's own.
 void change(const Sets& sets, std::size_t number)
 {
-    EXPECT_TRUE(addItems(*sets.captions, *sets.toc, *sets.text, number));
-    EXPECT_TRUE(allOk({sets.captions->removeCaptionItemAt(0), sets.toc->removeTocItemAt(0),
-                       sets.text->removeScreenTextItemAt(0)}));
+    addItems(*sets.captions, *sets.toc, *sets.text, number);
+    expectOk({sets.captions->removeCaptionItemAt(0), sets.toc->removeTocItemAt(0),
+              sets.text->removeScreenTextItemAt(0)});
 }
 
-bool hand(i_ZelInterchangeDataCore& document, const Sets& sets)
+void hand(i_ZelInterchangeDataCore& document, const Sets& sets)
 {
-    return allOk({document.setDataCaptions(*sets.captions), document.setDataToc(*sets.toc),
-                  document.setDataScreenText(*sets.text)});
+    expectOk({document.setDataCaptions(*sets.captions), document.setDataToc(*sets.toc),
+              document.setDataScreenText(*sets.text)});
 }
 
 TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
@@ -212,10 +201,10 @@ TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
     race([&](std::size_t number) {
         const Sets& own = copies[number];
         const auto document = ownDocument(number);
-        EXPECT_TRUE(hand(*document, own));
+        hand(*document, own);
         EXPECT_NE(std::string::npos, writtenAsString(*document).find("the number 16<"));
         change(own, number);
-        EXPECT_TRUE(hand(*document, own));
+        hand(*document, own);
         packets[number] = writtenOften(*document);
     });
     expectAsAlone(packets);

@@ -7,160 +7,138 @@ namespace {
 
 using U = ZelDataUtilities;
 
-/// Adds a function; it returns its results in the arguments.
-Operation& add(OperationList& list, const std::string& name, ZelDataResult_tags (*act)(Outs&))
+constexpr auto xmp = ZelDataFormat_Xmp;
+
+/// Adds functions, which belong to no object, to a list.
+class Functions {
+public:
+    /// Their names begin with @p scope.
+    explicit Functions(OperationList& list, std::string scope = "")
+        : list_(list), scope_(std::move(scope))
+    {
+    }
+
+    /// Adds a function with its arguments, each as argument() takes it.
+    template <class Function, class... Arguments>
+    Operation& add(const std::string& name, Function function, Arguments... arguments) const
+    {
+        const auto call = [function, arguments...](Outs& outs) {
+            return function(argument(outs, arguments)...);
+        };
+        list_.push_back({scope_ + name, [call] {
+                             return Subject{nullptr, call, [] { return std::string(); }};
+                         }});
+        return list_.back();
+    }
+
+    /// Adds a function that returns a text and lets the exception through.
+    template <class Function, class... Arguments>
+    void addText(const std::string& name, Function function, Arguments... arguments) const
+    {
+        const auto call = [function, arguments...](std::string& text) {
+            text = function(arguments...);
+            return ZelData_Ok;
+        };
+        add(name, call, &Outs::text).throws = true;
+    }
+
+private:
+    OperationList& list_;
+    std::string scope_;
+};
+
+void addFactories(const Functions& of)
 {
-    list.push_back({name, [act] { return Subject{nullptr, act, [] { return std::string(); }}; }});
-    return list.back();
+    of.add("createHeaderData", U::createHeaderData, &Outs::header);
+    of.add("createCaptionItemData", U::createCaptionItemData, &Outs::caption);
+    of.add("createCaptionData", U::createCaptionData, &Outs::captions);
+    of.add("createTocItemData", U::createTocItemData, &Outs::entry);
+    of.add("createTocData", U::createTocData, &Outs::toc);
+    of.add("createScreenTextItemData", U::createScreenTextItemData, &Outs::screenTextItem);
+    of.add("createScreenTextData", U::createScreenTextData, &Outs::screenText);
+    of.add("createHeaderFormatter", U::createHeaderFormatter, &Outs::headerFormatter, xmp);
+    of.add("createCaptionFormatter", U::createCaptionFormatter, &Outs::captionFormatter, xmp);
+    of.add("createTocFormatter", U::createTocFormatter, &Outs::tocFormatter, xmp);
+    of.add("createScreenTextFormatter", U::createScreenTextFormatter, &Outs::screenTextFormatter,
+           xmp);
 }
 
-/// Adds a function that returns a text.
-template <class Function>
-void addText(OperationList& list, const std::string& name, Function function)
+void addCodes(const Functions& of)
 {
-    list.push_back({"ZelDataUtilities::" + name, [function] {
-                        return Subject{nullptr,
-                                       [function](Outs& outs) {
-                                           outs.text = function();
-                                           return ZelData_Ok;
-                                       },
-                                       [] { return std::string(); }};
-                    }});
-    list.back().letsThrough();
-}
-
-void addDataFactories(OperationList& list)
-{
-    const std::string of = "ZelDataUtilities::";
-    add(list, of + "createHeaderData",
-        [](Outs& o) { return U::createHeaderData(&o.header.object); });
-    add(list, of + "createCaptionItemData",
-        [](Outs& o) { return U::createCaptionItemData(&o.caption.object); });
-    add(list, of + "createCaptionData",
-        [](Outs& o) { return U::createCaptionData(&o.captions.object); });
-    add(list, of + "createTocItemData",
-        [](Outs& o) { return U::createTocItemData(&o.entry.object); });
-    add(list, of + "createTocData", [](Outs& o) { return U::createTocData(&o.toc.object); });
-    add(list, of + "createScreenTextItemData",
-        [](Outs& o) { return U::createScreenTextItemData(&o.screenTextItem.object); });
-    add(list, of + "createScreenTextData",
-        [](Outs& o) { return U::createScreenTextData(&o.screenText.object); });
-}
-
-void addFormatterFactories(OperationList& list)
-{
-    static constexpr auto xmp = ZelDataFormat_Xmp;
-    const std::string of = "ZelDataUtilities::";
-    add(list, of + "createHeaderFormatter",
-        [](Outs& o) { return U::createHeaderFormatter(&o.headerFormatter.object, xmp); });
-    add(list, of + "createCaptionFormatter",
-        [](Outs& o) { return U::createCaptionFormatter(&o.captionFormatter.object, xmp); });
-    add(list, of + "createTocFormatter",
-        [](Outs& o) { return U::createTocFormatter(&o.tocFormatter.object, xmp); });
-    add(list, of + "createScreenTextFormatter",
-        [](Outs& o) { return U::createScreenTextFormatter(&o.screenTextFormatter.object, xmp); });
-}
-
-/// Old Church Slavonic has names too long for a string to hold them without an allocation.
-void addCodes(OperationList& list)
-{
-    const std::string of = "ZelDataUtilities::";
-    add(list, of + "englishNameForLanguage", [](Outs& o) {
-        static const std::string id = "cu";
-        return U::englishNameForLanguage(id, o.shortText);
-    });
-    add(list, of + "nativeNameForLanguage", [](Outs& o) {
-        static const std::string id = "cu";
-        return U::nativeNameForLanguage(id, o.shortText);
-    });
-    add(list, of + "isValidLanguage", [](Outs& o) { return U::isValidLanguage(o.id); });
-    add(list, of + "isValidLanguage|in capital letters", [](Outs&) {
-        static const std::string id = "IS";
-        return U::isValidLanguage(id);
-    });
-    add(list, of + "verifyUtf8Format", [](Outs& o) { return U::verifyUtf8Format(o.text, true); });
-    add(list, of + "countLinesInUTF8", [](Outs& o) {
-        o.number = U::countLinesInUTF8(o.text);
+    // Old Church Slavonic has names too long for a string to hold them without an allocation.
+    const std::string slavonic = "cu";
+    of.add("englishNameForLanguage", U::englishNameForLanguage, slavonic, &Outs::shortText);
+    of.add("nativeNameForLanguage", U::nativeNameForLanguage, slavonic, &Outs::shortText);
+    of.add("isValidLanguage", U::isValidLanguage, &Outs::id);
+    of.add("isValidLanguage|in capital letters", U::isValidLanguage, std::string("IS"));
+    of.add("verifyUtf8Format", U::verifyUtf8Format, &Outs::text, true);
+    const auto countLines = [](const std::string& text, unsigned long& lines) {
+        lines = U::countLinesInUTF8(text);
         return ZelData_Ok;
-    });
+    };
+    of.add("countLinesInUTF8", countLines, &Outs::text, &Outs::number);
 }
 
-void addTexts(OperationList& list)
+void addTexts(const Functions& of)
 {
-    addText(list, "stripUnsupportedCharacters",
-            [] { return U::stripUnsupportedCharacters(longText); });
-    addText(list, "htmlTagsToText", [] { return U::htmlTagsToText(longText); });
-    addText(list, "htmlTagsFromText", [] { return U::htmlTagsFromText(longText); });
-    addText(list, "getVerticalAlignment", [] { return U::getVerticalAlignment(ZelAlignTop); });
-    addText(list, "getHorizontalAlignment", [] { return U::getHorizontalAlignment(ZelAlignLeft); });
-    addText(list, "getValueString(float)", [] { return U::getValueString(0.5F); });
-    addText(list, "getValueString(unsigned long long)",
-            [] { return U::getValueString(static_cast<unsigned long long>(-1)); });
-    addText(list, "getValueString(unsigned long)",
-            [] { return U::getValueString(static_cast<unsigned long>(-1)); });
-    addText(list, "getRateString", [] { return U::getRateString(static_cast<unsigned long>(-1)); });
-    addText(list, "getVersionString",
-            [] { return U::getVersionString(static_cast<unsigned long>(-1)); });
-    addText(list, "getDateString", [] {
+    constexpr auto greatest = static_cast<unsigned long>(-1);
+    of.addText("stripUnsupportedCharacters", U::stripUnsupportedCharacters, longText);
+    of.addText("htmlTagsToText", U::htmlTagsToText, longText);
+    of.addText("htmlTagsFromText", U::htmlTagsFromText, longText);
+    of.addText("getVerticalAlignment", U::getVerticalAlignment, ZelAlignTop);
+    of.addText("getHorizontalAlignment", U::getHorizontalAlignment, ZelAlignLeft);
+    of.addText("getValueString(float)", [] { return U::getValueString(0.5F); });
+    of.addText("getValueString(unsigned long long)",
+               [] { return U::getValueString(static_cast<unsigned long long>(-1)); });
+    of.addText("getValueString(unsigned long)", [] { return U::getValueString(greatest); });
+    of.addText("getRateString", U::getRateString, greatest);
+    of.addText("getVersionString", U::getVersionString, greatest);
+    of.addText("getDateString", [] {
         long march5 = 1236262029;
         return U::getDateString(&march5);
     });
 }
 
-/// The sets lack texts and are out of order.
-void addFindings(OperationList& list)
+/// Adds the search for problems in a set that lacks texts and is out of order.
+template <class Set>
+void addFindProblems(const Functions& of, const std::string& set, Set& (*given)())
 {
-    const auto name = [](const char* set) {
-        return "findProblems(const " + std::string(set) + "&, std::vector<ZelDataFinding>&)";
-    };
-    add(list, name("i_ZelDataCaptions"), [](Outs& o) {
-        thread_local const auto captions = filledCaptions();
-        return findProblems(*captions, o.findings);
-    });
-    add(list, name("i_ZelDataToc"), [](Outs& o) {
-        thread_local const auto toc = filledToc();
-        return findProblems(*toc, o.findings);
-    });
-    add(list, name("i_ZelDataScreenText"), [](Outs& o) {
-        thread_local const auto screenText = filledScreenText();
-        return findProblems(*screenText, o.findings);
-    });
-    add(list, "describe", [](Outs& o) {
-        thread_local const auto findings = [] {
-            std::vector<ZelDataFinding> found;
-            EXPECT_EQ(ZelData_Ok, findProblems(*filledCaptions(), found));
-            return found;
-        }();
-        o.text = describe(findings.front());
-        return ZelData_Ok;
-    }).letsThrough();
+    ZelDataResult_tags (*const find)(const Set&, std::vector<ZelDataFinding>&) = findProblems;
+    of.add("findProblems(const " + set + "&, std::vector<ZelDataFinding>&)", find, given,
+           &Outs::findings);
+}
+
+std::unique_ptr<ZelDataFinding> firstFinding()
+{
+    std::vector<ZelDataFinding> found;
+    EXPECT_EQ(ZelData_Ok, findProblems(*filledCaptions(), found));
+    return std::make_unique<ZelDataFinding>(found.at(0));
 }
 
 } // namespace
 
 void addUtilityOperations(OperationList& list)
 {
-    addDataFactories(list);
-    addFormatterFactories(list);
-    addCodes(list);
-    addTexts(list);
-    addFindings(list);
-    add(list, "libraryVersion", [](Outs& o) {
-        o.text = getValueString(libraryVersion());
-        return ZelData_Ok;
-    }).letsThrough();
-    add(list, "getValueString", [](Outs& o) {
-        o.text = getValueString(-9223372036854775807L);
-        return ZelData_Ok;
-    }).letsThrough();
-    add(list, "ZELDataCreator::createInterchangeData", [](Outs& o) {
+    const Functions utilities(list, "ZelDataUtilities::");
+    addFactories(utilities);
+    addCodes(utilities);
+    addTexts(utilities);
+    const Functions of(list);
+    addFindProblems(of, "i_ZelDataCaptions", given<filledCaptions>);
+    addFindProblems(of, "i_ZelDataToc", given<filledToc>);
+    addFindProblems(of, "i_ZelDataScreenText", given<filledScreenText>);
+    of.addText("describe", [] { return describe(given<firstFinding>()); });
+    of.addText("libraryVersion", [] { return getValueString(libraryVersion()); });
+    of.addText("getValueString", [] { return getValueString(-9223372036854775807L); });
+    const auto create = [](i_ZelInterchangeDataCore** document) {
         try {
-            o.document.object = ZELDataCreator::createInterchangeData();
+            *document = ZELDataCreator::createInterchangeData();
             return ZelData_Ok;
         } catch (const ZelDataException&) {
             return ZelData_OutOfMemory; // so that it can be treated as the factories are
         }
-    });
+    };
+    of.add("ZELDataCreator::createInterchangeData", create, &Outs::document);
 }
 
 } // namespace ZelInterchangeData

@@ -1,5 +1,5 @@
 /// @file
-/// The write and close functions of this test program. Those of the C library would be called without them.
+/// The write and close functions of this test program, which replace those of the C library.
 
 #include "robustness/Writes.h"
 
@@ -25,7 +25,7 @@ std::size_t troubles = 0;
 bool closesFail = false;
 std::size_t closes = 0;
 
-/// What is to happen at this write, which is counted.
+/// Counts this write and returns what is to happen to it.
 Trouble troubleNow(int descriptor)
 {
     if (!active || descriptor <= STDERR_FILENO) return Trouble::None;
@@ -46,7 +46,7 @@ ssize_t refused(int error)
 
 } // namespace
 
-// Parameters have the names of the declarations.
+// The parameters are named as in the C library's declarations.
 
 extern "C" ssize_t write(int fd, const void* buf, size_t n)
 {

@@ -1,5 +1,5 @@
 /// @file
-/// The system's writes into files, as a test wants them.
+/// Makes the system's writes to files fail in the way that a test asks for.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_WRITES_H
 #define ZELINTERCHANGEDATA_TESTS_ROBUSTNESS_WRITES_H
@@ -14,20 +14,20 @@ enum class Trouble {
     None,
     /// It is refused with an error number.
     Fails,
-    /// A signal came before any byte was taken.
+    /// A signal arrives before any byte is taken.
     Interrupted,
-    /// No more than some bytes are taken.
+    /// Only some of the bytes are taken.
     Short
 };
 
-/// While it lives, the write functions of the system go through it, in this test program and in the
-/// libraries that it loads. One at a time; the standard streams are left alone.
+/// While an object exists, the write functions of the system go through it, in this test program and
+/// in the libraries that it loads, except for the standard streams. Only one may exist at a time.
 class Writes {
 public:
     static constexpr std::size_t every = std::numeric_limits<std::size_t>::max();
 
-    /// @p trouble comes at the write with the index @p at, counted from 0, or at every one; one of
-    /// two writes when it is Trouble::Interrupted, since no write would ever end.
+    /// @p trouble comes at the write with the index @p at, counted from 0, or at every one.
+    /// Trouble::Interrupted then comes at every other write, since no write would ever end.
     ///
     /// @param detail the error number, or how many bytes are taken.
     explicit Writes(Trouble trouble = Trouble::None, std::size_t at = every, int detail = 0);
@@ -41,7 +41,8 @@ public:
     [[nodiscard]] std::size_t troubled() const noexcept;
 };
 
-/// While it lives, closing a file of the C library closes it and then reports an error. One at a time.
+/// While an object exists, fclose() closes the file and then reports an error. Only one may exist at a
+/// time.
 class FailingCloses {
 public:
     FailingCloses();

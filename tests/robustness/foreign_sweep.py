@@ -3,11 +3,11 @@ call and so on, in every way, and compares what happens with the model.
 
 foreign_sweep.py --driver PATH --slots FOLDER [--share N/M]
 
-With a share only each M-th of these points is tried, from the N-th on: the shares 1/M to M/M have all
-of them.
+With a share, it tries only every M-th of these points, starting with the N-th: together the shares 1/M
+to M/M try all of them.
 
-Compared are the code, both last errors, what each side holds afterwards, every call that is made on
-the caller's object and the number of such objects that are alive. Then the operation is called once
+It compares the code, both last errors, what each side holds afterwards, every call that is made on
+the caller's object and the number of such objects that are alive. Then it calls the operation once
 more with the object in order."""
 
 import argparse
@@ -57,7 +57,7 @@ WAYS = [
     ("b", OK, OK), ("x", OK, OK), ("B", OK, OK), ("X", OK, OK),
     ("e", OK, OK), ("k", OK, OK), ("E", OK, OK),
 ]
-# Of a target whose last error cannot be asked for, nothing can be said.
+# A target whose last error cannot be asked for has no result to compare.
 SOURCE_WAYS = WAYS + [("l", 0x80000E11, 0x80000E11), ("m", 0x80000E11, 0x80000E11),
                         ("n", 0x80000E11, 0x80000E11)]
 
@@ -112,7 +112,7 @@ class Script:
         mark = re.compile(r"%s:(?!setLastError)" % re.escape(name))
         return sum(1 for note in self.session.log if mark.match(note))
 
-    # Contents. What is old differs from what is copied, so that it shows what was replaced.
+    # Contents. The old ones differ from what is copied, to show what was replaced.
 
     def fill_item(self, family, slot, old):
         text, other = (b"old", b"old too") if old else (b"<new> & long enough to be kept", b"new")
@@ -200,7 +200,7 @@ class Script:
         else:
             self.make(CALLED, kind.lstrip("f"), kind, old=True)
 
-    # What is there.
+    # Reading it back.
 
     BEFORE = {"S": b"before", "V": [b"before"], "U": 7, "Q": 7, "O": 7, "B": 1, "F": 0, "A": 1}
 
@@ -314,7 +314,7 @@ class Sweep:
         return calls
 
     def difference(self, driver):
-        """What is to be said about the first difference; empty when there is none."""
+        """Describes the first difference; empty when there is none."""
         found = first_difference(driver, self.script.operations, self.script.answers, ZONE)
         if not found:
             return ""

@@ -1,5 +1,5 @@
 /// @file
-/// Screen-text items in one line, and the contents of an item in one value.
+/// Screen-text items from plain values, and back.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
 #define ZELINTERCHANGEDATA_TESTS_SCREENTEXT_ITEMS_H
@@ -40,7 +40,7 @@ inline void PrintTo(const Shown& item, std::ostream* out)
          << " group " << item.group;
 }
 
-/// Makes @p item hold @p shown.
+/// Fills @p item with @p shown.
 inline void fill(i_ZelDataScreenTextItem& item, const Shown& shown)
 {
     EXPECT_EQ(ZelData_Ok, item.setText(shown.text));
@@ -89,6 +89,15 @@ struct ScreenTextKind {
     static constexpr auto order = &Own::orderScreenTextItems;
     static constexpr auto makeConsistent = &Data::makeScreenTextConsistent;
     static constexpr auto setData = &Formatter::setScreenText;
+
+    /// A collection that makes its items with the given function, if there is one.
+    struct Made : Own {
+        Maker<Item> maker;
+        ZelDataResult_tags createScreenTextItem(Item** out) const override
+        {
+            return maker ? maker(out) : Own::createScreenTextItem(out);
+        }
+    };
 };
 
 inline std::unique_ptr<i_ZelDataScreenTextItem> itemOf(const Shown& shown)

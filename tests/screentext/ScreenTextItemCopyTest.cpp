@@ -1,5 +1,5 @@
 /// @file
-/// Copying screen-text items: what concerns them alone. The rest is in sets/CopyContractTest.cpp.
+/// Copying screen-text items: the rules of their own. The rest is in sets/CopyContractTest.cpp.
 
 #include "screentext/Items.h"
 

@@ -58,7 +58,7 @@ TEST_F(ScreenText, EqualStartsAndOverlapsPass)
     EXPECT_EQ(items, itemsOf(*texts_));
 }
 
-TEST(ScreenTextOrder, ComparesStartsAlone)
+TEST(ScreenTextOrder, ComparesOnlyStarts)
 {
     ZelDataScreenText texts;
     add(texts, {{5, 9, "z", "", 0, 0, 9}, {5, 1, "a", "", 0, 0, 1}, {3}});
@@ -69,33 +69,21 @@ TEST(ScreenTextOrder, ComparesStartsAlone)
 
 // Stored items that fail
 
-/// A collection whose items are those of the tests, so that stored ones can fail.
-class ScreenTextOfFailing : public ZelDataScreenText {
-public:
-    ZelDataResult_tags createScreenTextItem(i_ZelDataScreenTextItem** out) const override
-    {
-        auto item = std::make_unique<FailingScreenTextItem>();
-        last_ = item.get();
-        *out = item.release();
-        return ZelData_Ok;
-    }
-    /// Adds @p shown and gives the stored item.
-    FailingScreenTextItem& added(const Shown& shown)
-    {
-        EXPECT_EQ(ZelData_Ok, addScreenTextItem(*itemOf(shown)));
-        return *last_;
-    }
+using ScreenTextOfFailing = CollectionOfFailing<ScreenTextKind, FailingScreenTextItem>;
 
-private:
-    mutable FailingScreenTextItem* last_ = nullptr;
-};
-
-TEST(StoredScreenText, IsAskedForItsValidityOnlyByADeepCheck)
+TEST(StoredScreenText, IsValidatedOnlyByADeepCheck)
 {
     ScreenTextOfFailing texts;
     texts.added({1}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
     EXPECT_CODE(texts, ZelData_Ok, texts.isValid(false));
     EXPECT_CODE(texts, ZelData_NotFound, texts.isValid(true));
+}
+
+TEST(StoredScreenText, IsValidatedStrictly)
+{
+    CollectionOfFailing<ScreenTextKind, StrictlyChecked<ZelDataScreenTextItem>> texts;
+    texts.added({1});
+    EXPECT_CODE(texts, ZelData_WarnItemGuidelines, texts.isValid(true));
 }
 
 TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierOne)
@@ -111,9 +99,9 @@ TEST(StoredScreenText, ItsValidityIsFoundBeforeItsDisorderButNotBeforeAnEarlierO
     EXPECT_CODE(second, ZelData_WarnTiming, second.isValid(true));
 }
 
-// The order is looked at first, so an item is asked for its start a second time.
+// The check of the order asks for each start before, so these fail at the second call.
 
-TEST(StoredScreenText, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
+TEST(StoredScreenText, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {
     ScreenTextOfFailing texts;
     texts.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);
@@ -128,7 +116,7 @@ TEST(StoredScreenText, AStartThatItDoesNotSetCountsAsZero)
     EXPECT_CODE(texts, ZelData_Ok, texts.isValid(false));
 }
 
-TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+TEST(StoredScreenText, EachIsComparedWithAllLaterOnesBeforeTheNextIsChecked)
 {
     ScreenTextOfFailing texts;
     texts.added({100});

@@ -13,7 +13,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// A track of @p markers that states @p rate.
+/// A track of @p markers with the frame rate @p rate.
 std::string track(const std::string& rate, const std::string& markers)
 {
     return R"(<rdf:li><rdf:Description xmpDM:trackType="ScreenText" xmpDM:frameRate=")" + rate +
@@ -21,7 +21,7 @@ std::string track(const std::string& rate, const std::string& markers)
            "</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>";
 }
 
-/// A marker without image and group.
+/// A marker without an image and a group.
 std::string marker(const std::string& name, const std::string& start, const std::string& duration)
 {
     return R"(<rdf:li><rdf:Description xmpDM:name=")" + name + R"(" xmpDM:startTime=")" + start +
@@ -62,7 +62,7 @@ TEST_F(ScreenTextFormatter, WritesTextTimesImageAndGroup)
               written());
 }
 
-TEST_F(ScreenTextFormatter, StatesTheCollectionsOwnFrameRate)
+TEST_F(ScreenTextFormatter, WritesTheFrameRateOfTheCollection)
 {
     give({{1, 2, "a"}}, 25);
     EXPECT_EQ(track("f25", marker("a", "1", "2")), written());
@@ -109,7 +109,7 @@ TEST_F(ScreenTextFormatter, DropsControlCharactersFromTheTextButNotFromTheImage)
               written());
 }
 
-TEST_F(ScreenTextFormatter, WritesTheLargestNumbersWhole)
+TEST_F(ScreenTextFormatter, WritesTheLargestNumbersInFull)
 {
     const auto latest = std::numeric_limits<long long>::max();
     const auto largest = std::numeric_limits<unsigned long>::max();

@@ -1,4 +1,4 @@
-"""The include checker, run on small made-up trees."""
+"""Runs the include checker on small made-up trees."""
 
 import os
 import subprocess
@@ -54,7 +54,7 @@ class CheckIncludes(unittest.TestCase):
         self.assert_refused('include/ZelInterchangeData/Other.h:1: "util/D.h" reaches upward from '
                             "ZelInterchangeData")
 
-    def test_every_pair_of_set_rooms_is_kept_apart(self):
+    def test_no_set_room_may_include_another(self):
         sets = ("captions", "header", "screentext", "toc")
         for room in sets:
             for other in sets:
@@ -63,11 +63,11 @@ class CheckIncludes(unittest.TestCase):
                     self.assertEqual(self.run_checker().returncode, 0 if room == other else 1)
             self.write(f"src/{room}/A.cpp", "")
 
-    def test_blanks_around_the_directive_hide_nothing(self):
+    def test_blanks_do_not_hide_an_include(self):
         self.write("src/xml/A.cpp", '  #  include   "core/B.h"\n')
         self.assert_refused('src/xml/A.cpp:1: "core/B.h" reaches upward from xml')
 
-    def test_angle_brackets_hide_nothing(self):
+    def test_angle_brackets_do_not_hide_an_include(self):
         self.write("src/xml/A.cpp", "#include <core/B.h>\n")
         self.assert_refused(
             "src/xml/A.cpp:1: <core/B.h> belongs to the project, so write it in quotes")
@@ -77,24 +77,24 @@ class CheckIncludes(unittest.TestCase):
         self.assert_refused(
             'src/xml/A.cpp:1: "A.h" is not written from the root of src/ or include/')
 
-    def test_a_way_out_of_the_folder_is_refused(self):
+    def test_a_path_that_leaves_its_folder_is_refused(self):
         self.write("src/xml/A.cpp", '#include "xml/../core/B.h"\n')
         self.assert_refused('src/xml/A.cpp:1: "xml/../core/B.h" leaves its folder')
 
-    def test_a_name_made_by_a_macro_is_refused(self):
+    def test_a_macro_as_the_file_name_is_refused(self):
         self.write("src/xml/A.cpp", "#include CORE_HEADER\n")
         self.assert_refused(
             "src/xml/A.cpp:1: the #include line must name the file itself")
 
-    def test_a_file_outside_the_rooms_is_refused(self):
+    def test_a_file_in_an_unknown_room_is_refused(self):
         self.write("src/attic/A.cpp", "")
         self.assert_refused("src/attic/A.cpp:1: is in no room of the table")
 
-    def test_a_file_beside_the_rooms_is_refused(self):
+    def test_a_file_directly_in_src_is_refused(self):
         self.write("src/A.cpp", "")
         self.assert_refused("src/A.cpp:1: is in no room of the table")
 
-    def test_an_example_uses_the_public_headers_alone(self):
+    def test_an_example_may_include_only_public_headers(self):
         self.write("examples/a.cpp", '#include "ZelInterchangeData/Thing.h"\n#include "own.h"\n')
         self.assert_accepted()
         self.write("examples/a.cpp", '#include "util/Text.h"\n')
@@ -135,7 +135,7 @@ class CheckIncludes(unittest.TestCase):
             self.assert_refused(f"src/util/A.h:1: std::{name} is left to "
                                 "src/util/TextBlock.h and src/util/ValueStrings.cpp")
 
-    def test_an_empty_tree_is_no_success(self):
+    def test_an_empty_tree_is_refused(self):
         (self.root / "include/ZelInterchangeData/Thing.h").unlink()
         self.assert_refused("check-includes: no C++ file found")
 

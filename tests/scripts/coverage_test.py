@@ -1,4 +1,4 @@
-"""The reading of gcov's counts, on made-up ones.
+"""Tests how the coverage script reads gcov's counts, with made-up ones.
 
 The environment names COVERAGE, the script."""
 
@@ -22,7 +22,7 @@ def edge(count, throw=False, fallthrough=False):
 
 
 def call(count):
-    """The edges of a call that may throw."""
+    """The edges of a call that can throw."""
     return [edge(count, fallthrough=True), edge(0, throw=True)]
 
 
@@ -64,15 +64,15 @@ class Lines(unittest.TestCase):
     def test_a_line_that_did_not_run_is_named(self):
         self.assertEqual(self.row("a();\nb();\n", line(1, 3), line(2, 0)).missing, ["2"])
 
-    def test_braces_are_no_line(self):
+    def test_lines_with_only_braces_do_not_count(self):
         row = self.row("a();\n}\n} // end\n});\n", line(1, 1), *(line(i, 0) for i in (2, 3, 4)))
         self.assertEqual((figures(row), row.missing), ((1, 1, 0, 0), []))
 
-    def test_a_line_counts_once_however_many_functions_have_it(self):
+    def test_a_line_in_several_functions_counts_once(self):
         row = rows("a();\n", document([line(1, 0, function="f"), line(1, 2, function="g")]))[0]
         self.assertEqual(figures(row), (1, 1, 0, 0))
 
-    def test_files_outside_of_the_library_do_not_count(self):
+    def test_files_outside_the_library_do_not_count(self):
         self.assertEqual(rows("", document([line(1, 1)], "tests/core/ATest.cpp")), [])
         self.assertEqual(rows("", document([line(1, 1)], "../usr/include/vector")), [])
 
@@ -81,7 +81,7 @@ class Branches(unittest.TestCase):
     def row(self, *documents):
         return rows("if (a) b();\n", *documents)[0]
 
-    def test_both_ways_of_a_decision_count(self):
+    def test_both_branches_of_a_decision_count(self):
         row = self.row(document([line(1, 2, decision(2, 0))]))
         self.assertEqual((figures(row), row.missing), ((1, 1, 1, 2), ["1 (1 of 2 branches)"]))
 
@@ -89,21 +89,21 @@ class Branches(unittest.TestCase):
         row = self.row(document([line(1, 2, call(2) + decision(1, 1) + call(1))]))
         self.assertEqual(figures(row), (1, 1, 2, 2))
 
-    def test_a_decision_before_a_call_is_not_taken_for_one(self):
+    def test_a_decision_before_a_call_is_not_mistaken_for_one(self):
         edges = [edge(1, fallthrough=True), edge(1), *call(1)]
         self.assertEqual(figures(self.row(document([line(1, 1, edges)]))), (1, 1, 2, 2))
 
-    def test_what_one_instance_of_a_template_takes_is_taken(self):
+    def test_a_branch_taken_in_one_template_instance_is_taken(self):
         places = (("f<int>", 1, 1), ("f<char>", 1, 1))
         lines = [line(1, 1, decision(1, 0), "f<int>"), line(1, 1, decision(0, 1), "f<char>")]
         self.assertEqual(figures(self.row(document(lines, functions=places))), (1, 1, 2, 2))
 
-    def test_what_another_function_of_the_line_takes_is_not_taken(self):
+    def test_functions_on_one_line_count_their_branches_separately(self):
         places = (("f", 1, 1), ("lambda", 1, 9))
         lines = [line(1, 1, decision(1, 0), "f"), line(1, 1, decision(0, 1), "lambda")]
         self.assertEqual(figures(self.row(document(lines, functions=places))), (1, 1, 2, 4))
 
-    def test_what_another_program_takes_is_taken(self):
+    def test_a_branch_taken_in_another_program_is_taken(self):
         row = self.row(document([line(1, 1, decision(1, 0))]),
                        document([line(1, 1, decision(0, 1))]))
         self.assertEqual(figures(row), (1, 1, 2, 2))
@@ -117,11 +117,11 @@ class Markers(unittest.TestCase):
         row = self.row("a(); // uncovered line: nobody calls it\n", line(1, 0, decision(0, 0)))
         self.assertEqual((figures(row), row.excluded, row.offences), ((0, 0, 0, 0), 1, []))
 
-    def test_a_marked_branch_leaves_the_line(self):
+    def test_a_marked_branch_does_not_count_but_its_line_does(self):
         row = self.row("if (a) b(); // uncovered branch: always\n", line(1, 1, decision(1, 0)))
         self.assertEqual((figures(row), row.excluded, row.offences), ((1, 1, 0, 0), 1, []))
 
-    def test_a_marker_above_lines_ends_with_them(self):
+    def test_a_marker_above_a_block_covers_the_block(self):
         row = self.row("// uncovered lines: nobody asks\na();\nb();\n\nc();\n",
                        line(2, 0), line(3, 0), line(5, 0))
         self.assertEqual((row.missing, row.excluded, row.offences), (["5"], 2, []))
@@ -134,7 +134,7 @@ class Markers(unittest.TestCase):
                                                 "uncovered and why"])
                 self.assertEqual(row.missing, ["1"])
 
-    def test_a_marker_on_what_is_reached_is_refused(self):
+    def test_a_marker_on_reached_code_is_refused(self):
         for text, count, edges in (("a(); // uncovered line: x\n", 1, []),
                                    ("a(); // uncovered branch: x\n", 1, decision(1, 1)),
                                    ("// uncovered lines: x\na();\n", 1, [])):
@@ -156,16 +156,16 @@ class Gate(unittest.TestCase):
     def test_all_lines_and_19_of_20_branches_pass(self):
         self.assertEqual(self.offences(1000, 1000, 19, 20), [])
 
-    def test_one_line_of_a_thousand_is_missed(self):
+    def test_one_missed_line_in_a_thousand_is_refused(self):
         self.assertEqual(self.offences(999, 1000, 19, 20),
                          ["99.9 % of lines reached, 100.0 % required"])
 
-    def test_a_share_is_not_rounded_up(self):
+    def test_percentages_are_not_rounded_up(self):
         self.assertEqual(self.offences(9999, 10000, 18999, 20000),
                          ["99.9 % of lines reached, 100.0 % required",
                           "94.9 % of branches taken, 95.0 % required"])
 
-    def test_nothing_counted_is_no_success(self):
+    def test_an_empty_count_is_refused(self):
         self.assertEqual(coverage.offences([], 100.0, 100.0), ["nothing was counted"])
 
 

@@ -1,4 +1,4 @@
-"""The check of the pictures, on copies of the project in which something has changed.
+"""Runs scripts/pictures --check on changed copies of the project.
 
 The environment names ROOT, the project's folder."""
 
@@ -45,40 +45,40 @@ class Pictures(unittest.TestCase):
         self.assertEqual(result.returncode, 1, result.stdout)
         self.assertEqual(result.stderr, offence + "; run scripts/pictures\n")
 
-    def test_the_project_as_it_is_passes(self):
+    def test_the_unchanged_project_passes(self):
         self.assert_current()
 
     def test_a_new_arrow_between_rooms_is_noticed(self):
         (self.root / "src/header/A.cpp").write_text('#include "toc/B.h"\n', encoding="utf-8")
         self.assert_offence("docs/pictures/rooms.dot: out of date")
 
-    def test_an_arrow_that_was_there_already_changes_nothing(self):
+    def test_an_existing_arrow_changes_nothing(self):
         (self.root / "src/header/A.cpp").write_text('#include "sets/B.h"\n', encoding="utf-8")
         self.assert_current()
 
-    def test_a_room_that_is_gone_is_noticed(self):
+    def test_a_removed_room_is_noticed(self):
         shutil.rmtree(self.root / "src" / "xml")
         self.assert_offence("docs/pictures/rooms.dot: out of date")
 
-    def test_another_structure_of_the_packet_is_noticed(self):
+    def test_a_changed_packet_structure_is_noticed(self):
         self.change("tests/core/data/header-captions-toc-screentext.xmp", "dc:creator=",
                     "dc:creators=")
         self.assert_offence("docs/pictures/packet.dot: out of date")
 
-    def test_other_values_in_the_packet_change_nothing(self):
+    def test_changed_packet_values_change_nothing(self):
         self.change("tests/core/data/header-captions-toc-screentext.xmp", "Click Save", "Save")
         self.assert_current()
 
-    def test_a_figure_that_changed_is_noticed(self):
+    def test_a_changed_figure_is_noticed(self):
         self.change("bench/figures.md", "| 1000 | shuffled | ", "| 2000 | shuffled | ")
         self.assert_offence("docs/pictures/ratios.gp: out of date")
 
-    def test_a_table_of_the_readme_that_differs_is_noticed(self):
+    def test_a_changed_table_in_the_readme_is_noticed(self):
         self.change("README.md", "| write ÷ straight appender | ≤ 2 | ",
                     "| write ÷ straight appender | ≤ 2 | 0.01, was ")
         self.assert_offence("README.md: out of date")
 
-    def test_a_picture_of_another_source_is_noticed(self):
+    def test_a_picture_drawn_from_another_source_is_noticed(self):
         shutil.copy(self.root / "docs/pictures/rooms.svg", self.root / "docs/pictures/packet.svg")
         self.assert_offence("docs/pictures/packet.svg: not drawn from the current packet.dot")
 

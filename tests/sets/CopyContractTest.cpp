@@ -1,6 +1,6 @@
 /// @file
-/// What a copy does, for the items and the collections of all kinds: the calls in their order, each
-/// of them going wrong, and the languages of the copy.
+/// Copies of the items and collections of all kinds: the order of the calls, the failure of each, and
+/// the languages of the copy.
 
 #include "captions/Captions.h"
 #include "screentext/Items.h"
@@ -24,7 +24,7 @@ constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
 /// The getter of the source and the operation of the target, one of which fails at its nth call, and
-/// what the target holds then. There may be only one of the two.
+/// what the target holds then. One of the two may be absent.
 template <class Contents>
 struct Step {
     const char* getter;
@@ -45,7 +45,7 @@ struct ItemCopies {
 struct CaptionItemCopies : ItemCopies<CaptionKind> {
     static constexpr auto name = "CaptionItem";
     using Fake = FailingCaptionItem;
-    /// An item lets exhausted memory through.
+    /// An item throws std::bad_alloc.
     static constexpr bool letsThrough = true;
 
     static Contents source() { return {1000, 2000, {{"de", "d"}, {"en", "e"}}, 0x22}; }
@@ -247,7 +247,7 @@ private:
     }
 };
 
-/// The frame rate of the target stays; a copy does not ask for that of the source.
+/// The target keeps its frame rate; a copy does not read that of the source.
 struct TocCopies : TocKind {
     static constexpr auto addName = "addTocItem";
     static constexpr auto allName = "getTocItems";
@@ -364,8 +364,8 @@ protected:
         return target.copyFrom(source);
     }
 
-    /// Copies from a source that @p prepare has made fail, for each step of the source, onto an object
-    /// of our own, and expects @p code.
+    /// For each step of the source: copies from one that @p prepare has made fail to an object of our
+    /// own, and expects @p code.
     template <class Prepare>
     static void failEachGetter(ZelDataResult_tags code, const Prepare& prepare)
     {
@@ -404,13 +404,13 @@ protected:
     }
 
 private:
-    /// The code of the copy; exhausted memory has its code also where it must be let through.
+    /// The code of the copy. Exhausted memory that it must let through counts as that code.
     static ZelDataResult_tags outcome(Interface& target, const Interface& source)
     {
         if constexpr (!Copies::letsThrough) return copy(target, source);
         try {
             const auto code = copy(target, source);
-            EXPECT_NE(ZelData_OutOfMemory, code) << "not let through";
+            EXPECT_NE(ZelData_OutOfMemory, code) << "not thrown";
             return code;
         } catch (const std::bad_alloc&) {
             target.setLastError(ZelData_OutOfMemory);
@@ -465,7 +465,7 @@ TYPED_TEST(Copy, LeavesSuccessInTheLastErrorOfTheSource)
     EXPECT_EQ(ZelData_Ok, source.getLastError());
 }
 
-TYPED_TEST(Copy, OntoItselfIsRefusedAndCallsAndChangesNothing)
+TYPED_TEST(Copy, OntoItselfIsRefusedWithoutACallOrAChange)
 {
     typename TypeParam::Fake object;
     TypeParam::fillSource(object);
@@ -480,7 +480,7 @@ TYPED_TEST(Copy, OntoItselfIsRefusedAndCallsAndChangesNothing)
     EXPECT_EQ(before, this->contents(own));
 }
 
-TYPED_TEST(Copy, CallsTheOperationsOfSourceAndTargetInTheirOrder)
+TYPED_TEST(Copy, CallsTheOperationsOfSourceAndTargetInOrder)
 {
     typename TypeParam::Fake source;
     typename TypeParam::Fake target;
@@ -505,7 +505,7 @@ TYPED_TEST(Copy, StopsAtAWarningOfTheSource)
     });
 }
 
-TYPED_TEST(Copy, TakesALastErrorOfZeroOver)
+TYPED_TEST(Copy, TakesOverALastErrorOfZero)
 {
     this->failEachGetter(ZelData_Ok, [](auto& source, const auto& step) {
         source.failAt(step.getter, returnedCode, ZelData_Ok, step.nth);
@@ -519,7 +519,7 @@ TYPED_TEST(Copy, TurnsAnExceptionOfTheSourceIntoACode)
     });
 }
 
-TYPED_TEST(Copy, EndsWhereMemoryOfTheSourceRunsOut)
+TYPED_TEST(Copy, EndsWhenTheSourceRunsOutOfMemory)
 {
     this->failEachGetter(ZelData_OutOfMemory, [](auto& source, const auto& step) {
         source.throwAt(step.getter, std::bad_alloc(), step.nth);
@@ -547,7 +547,7 @@ TYPED_TEST(Copy, TurnsAnExceptionOfTheTargetIntoACode)
     });
 }
 
-TYPED_TEST(Copy, EndsWhereMemoryOfTheTargetRunsOut)
+TYPED_TEST(Copy, EndsWhenTheTargetRunsOutOfMemory)
 {
     this->failEachSetter(ZelData_OutOfMemory, [](auto& target, const auto& step) {
         target.throwAt(step.setter, std::bad_alloc(), step.nth);
@@ -619,7 +619,7 @@ protected:
 using CopiesWithLanguages = testing::Types<CaptionsCopies, TocCopies>;
 TYPED_TEST_SUITE(CopiedLanguages, CopiesWithLanguages, KindName);
 
-TYPED_TEST(CopiedLanguages, AreThoseOfTheItemsInTheOrderOfTheirFirstOccurrence)
+TYPED_TEST(CopiedLanguages, AreThoseOfTheItemsInOrderOfFirstOccurrence)
 {
     EXPECT_EQ(TypeParam::languagesOfItems(), this->languagesOfCopy());
     EXPECT_EQ(TypeParam::listed(), languagesOf(*this->source_));
@@ -642,11 +642,11 @@ TYPED_TEST(CopiedLanguages, IncludeOneThatWasRemovedFromTheList)
 TYPED_TEST(CopiedLanguages, DoNotIncludeOneThatOnlyARemovedItemHad)
 {
     EXPECT_EQ(ZelData_Ok, ((*this->source_).*TypeParam::removeAt)(0));
-    EXPECT_EQ(TypeParam::listed(), languagesOf(*this->source_)) << "the source goes on listing all";
+    EXPECT_EQ(TypeParam::listed(), languagesOf(*this->source_)) << "the source still lists all";
     EXPECT_EQ((IDs{"de", "en"}), this->languagesOfCopy());
 }
 
-TYPED_TEST(CopiedLanguages, AreNoneAfterTheItemsWereCleared)
+TYPED_TEST(CopiedLanguages, AreEmptyAfterTheItemsWereCleared)
 {
     EXPECT_EQ(ZelData_Ok, ((*this->source_).*TypeParam::clear)());
     EXPECT_EQ(IDs{}, this->languagesOfCopy());
@@ -670,16 +670,16 @@ TYPED_TEST(CopiedLanguages, FollowTheNewOrderOfTheItems)
     EXPECT_CODE(source, ZelData_Ok, (source.*TypeParam::order)());
     EXPECT_CODE(*this->target_, ZelData_Ok,
                 this->target_->copyFrom(static_cast<const typename TypeParam::Data&>(source)));
-    EXPECT_EQ("de", languagesOf(*this->target_).front());
+    EXPECT_EQ("de", languagesOf(*this->target_).at(0));
 }
 
 TYPED_TEST(CopiedLanguages, DoNotIncludeOneWhoseTextsWereRemoved)
 {
     const auto source = newCollection<TypeParam>();
     TypeParam::fillTarget(*source); // one item with one language
-    const std::string id = languagesOf(*source).front();
+    const std::string id = languagesOf(*source).at(0);
     EXPECT_EQ(ZelData_Ok, ((*source).*TypeParam::removeLanguage)(id));
-    EXPECT_EQ(IDs{id}, languagesOf(*source)) << "the source goes on listing it";
+    EXPECT_EQ(IDs{id}, languagesOf(*source)) << "the source still lists it";
     EXPECT_CODE(*this->target_, ZelData_Ok, this->target_->copyFrom(*source));
     EXPECT_EQ(IDs{}, languagesOf(*this->target_));
 }

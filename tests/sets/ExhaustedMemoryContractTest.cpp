@@ -31,7 +31,7 @@ template <class Item>
 using Delivering = std::function<Code(const Item&, std::string&)>;
 
 struct CaptionMemory : CaptionKind {
-    /// An item lets exhausted memory through.
+    /// An item throws std::bad_alloc.
     static constexpr bool letsThrough = true;
 
     static Values held() { return {1000, 2000, {{"de", longText}, {"en", longText}}, 0x22}; }
@@ -113,7 +113,7 @@ protected:
     using Data = typename Kind::Data;
     using Item = typename Kind::Item;
 
-    /// A caller's classes: copies of them take every step.
+    /// A caller's classes, which a copy reads through the interface.
     class CallersItem : public Kind::OwnItem {};
     class CallersCollection : public Kind::Own {};
 
@@ -133,8 +133,8 @@ protected:
         EXPECT_EQ(Kind::items(), valuesOf<Kind>(data));
     };
 
-    /// Sweeps an operation of an item. Where the item must let exhausted memory through, that counts
-    /// as the code, and the code itself is refused.
+    /// Sweeps an operation of an item. If the item must throw std::bad_alloc, expects the exception in
+    /// place of the code.
     template <class Create, class Operation, class Check>
     static void sweepItem(const Create& create, Code finalCode, const Operation& operation,
                           const Check& check)
@@ -158,13 +158,13 @@ protected:
 using Kinds = testing::Types<CaptionMemory, TocMemory, ScreenTextMemory>;
 TYPED_TEST_SUITE(WithoutMemory, Kinds, KindName);
 
-TYPED_TEST(WithoutMemory, AnItemKeepsWhatItHeldWhenItCannotStore)
+TYPED_TEST(WithoutMemory, AnItemStaysUnchangedWhenItCannotStore)
 {
     for (const auto& [code, store] : TypeParam::stores())
         this->sweepItem(this->heldItem, code, store, this->itemIsUnchanged);
 }
 
-TYPED_TEST(WithoutMemory, AnItemLeavesATextAloneThatItCannotReplace)
+TYPED_TEST(WithoutMemory, AGetterLeavesTheTextAloneWhenItFails)
 {
     std::string out;
     for (const auto& deliver : TypeParam::deliveries()) {
@@ -192,7 +192,7 @@ TYPED_TEST(WithoutMemory, ACopyOfACallersItemEndsBeforeTheLastValue)
         });
 }
 
-TYPED_TEST(WithoutMemory, AnItemTakesACopyOfAnotherOfOurOwn)
+TYPED_TEST(WithoutMemory, AnItemCanCopyAnotherOfOurOwn)
 {
     const auto source = newItem<TypeParam>(TypeParam::other());
     const auto item = this->heldItem();
@@ -243,7 +243,7 @@ TYPED_TEST(WithoutMemory, AllItemsAreHandedOutOrNone)
         this->collectionIsUnchanged);
 }
 
-TYPED_TEST(WithoutMemory, ACheckDoesNotTakeItForAMissingText)
+TYPED_TEST(WithoutMemory, ACheckDoesNotMistakeItForAMissingText)
 {
     const std::vector<typename TypeParam::Values> consistent = {TypeParam::other()};
     const auto create = [&] { return newCollection<TypeParam>(consistent); };
@@ -257,7 +257,7 @@ TYPED_TEST(WithoutMemory, ACheckDoesNotTakeItForAMissingText)
         isUnchanged);
 }
 
-TYPED_TEST(WithoutMemory, ARepairChangesNoItemAndCanBeMadeAgain)
+TYPED_TEST(WithoutMemory, ARepairChangesNoItemAndCanBeRepeated)
 {
     sweepMemory(
         this->collection, ZelData_Ok,
@@ -269,7 +269,7 @@ TYPED_TEST(WithoutMemory, ARepairChangesNoItemAndCanBeMadeAgain)
         });
 }
 
-TYPED_TEST(WithoutMemory, ACopyOfACallersCollectionEndsAfterSomeItemsAndCanBeMadeAgain)
+TYPED_TEST(WithoutMemory, ACopyOfACallersCollectionEndsAfterSomeItemsAndCanBeRepeated)
 {
     const auto source = std::make_unique<typename TestFixture::CallersCollection>();
     addItems<TypeParam>(*source, TypeParam::items());
@@ -304,7 +304,7 @@ TYPED_TEST(WithoutMemory, AFormatterLeavesTheTextAloneAndWritesItWholeLater)
     EXPECT_EQ(0U, out.find("<rdf:li><rdf:Description "));
 }
 
-TYPED_TEST(WithoutMemory, AFormatterTakesACollectionAtTheNextAttempt)
+TYPED_TEST(WithoutMemory, AFormatterAcceptsTheCollectionAtTheNextAttempt)
 {
     const auto data = this->collection();
     sweepMemory([] { return make(TypeParam::makeFormatter); }, ZelData_Ok,
@@ -314,7 +314,7 @@ TYPED_TEST(WithoutMemory, AFormatterTakesACollectionAtTheNextAttempt)
                 });
 }
 
-TEST(ScreenTextWithoutMemory, TakesACopyOfAnotherOfOurOwn)
+TEST(ScreenTextWithoutMemory, CanCopyAnotherOfOurOwn)
 {
     const auto source = newCollection<ScreenTextKind>(ScreenTextMemory::items());
     const auto texts = newCollection<ScreenTextKind>();

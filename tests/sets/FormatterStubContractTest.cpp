@@ -1,5 +1,5 @@
 /// @file
-/// What formatters refuse: one contract for the header's and the three tracks'.
+/// What all formatters refuse: one contract for the header and the three tracks.
 
 #include "captions/Captions.h"
 #include "screentext/Items.h"
@@ -18,7 +18,7 @@ const ZelDataFormatType_tags otherFormats[] = {static_cast<ZelDataFormatType_tag
                                                static_cast<ZelDataFormatType_tags>(2),
                                                static_cast<ZelDataFormatType_tags>(0xFFFFFFFF)};
 
-/// A file name in a folder of its own, which goes with it.
+/// A file name in a folder of its own, which the destructor removes.
 class Path {
 public:
     Path() : folder_(std::filesystem::path(testing::TempDir()) / folderName())
@@ -39,7 +39,7 @@ public:
     }
 
 private:
-    /// The tests of a suite may run at the same time, each in a process of its own.
+    /// The tests of a suite may run at the same time in several processes.
     static std::string folderName()
     {
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
@@ -77,7 +77,7 @@ struct Header {
     }
 };
 
-/// What the sets that are written as tracks have in common.
+/// What all sets with tracks have in common.
 template <class Kind>
 struct Track : Kind {
     static constexpr auto emptyWriteFile = ZelData_InvalidData;
@@ -133,7 +133,7 @@ TYPED_TEST(FormatterStubContract, SettingTheDataSucceedsEachTime)
         EXPECT_CODE(*this->empty_, ZelData_Ok, ((*this->empty_).*TypeParam::set)(*this->data_));
 }
 
-TYPED_TEST(FormatterStubContract, GivesNoDataBack)
+TYPED_TEST(FormatterStubContract, ReturnsNoData)
 {
     const auto mark = TypeParam::mark(*this->data_);
     ASSERT_NE(0U, mark);
@@ -212,7 +212,7 @@ TYPED_TEST(FormatterStubContract, LeavesAnExistingFileAlone)
     EXPECT_EQ("precious", path.text());
 }
 
-TYPED_TEST(FormatterStubContract, AFileWithoutDataGetsTheCodeOfTheWritingExceptFromTheHeader)
+TYPED_TEST(FormatterStubContract, AFileWithoutDataReturnsTheCodeOfWriteStringExceptForTheHeader)
 {
     const Path path;
     EXPECT_CODE(*this->empty_, TypeParam::emptyWriteFile,

@@ -28,8 +28,8 @@ using Texts = std::map<std::string, std::string>;
 constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
 constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-/// What a kind has besides: collections that make other items and that hand out a null pointer, and a
-/// text that marks an item.
+/// More about a kind: collections that make other items or hand out a null pointer, and a text that
+/// marks an item.
 template <class Kind>
 struct TextByLanguage : Kind {
     using typename Kind::Item;
@@ -46,27 +46,17 @@ struct TextByLanguage : Kind {
     }
 };
 
-/// A function that makes an item, which a collection may be given.
-template <class Item>
-using Maker = std::function<ZelDataResult_tags(Item**)>;
-
 struct Captions : TextByLanguage<CaptionKind> {
     using Fake = FailingCaptions;
     using FakeItem = FailingCaptionItem;
     static constexpr auto ofLanguage = &Data::getCaptionItemsForLanguage;
 
     static Values item(long long start, const Texts& texts) { return {start, 1000, texts}; }
-    /// Something that clearing the items leaves.
+    /// Sets something that clearing the items keeps.
     static void mark(Data& captions) { EXPECT_EQ(ZelData_Ok, captions.setFontSize(30)); }
     static bool isMarked(const Data& captions) { return styleOf(captions).fontSize == 30; }
 
-    /// A collection that makes its items with the given function, if there is one.
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createCaptionItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createCaptionItem(out);
-        }
+    struct Made : CaptionKind::Made {
         /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { style_.frameRate.value = rate; }
     };
@@ -97,12 +87,7 @@ struct Toc : TextByLanguage<TocKind> {
     static void mark(Data& toc) { EXPECT_EQ(ZelData_Ok, toc.setImageFile("t.png")); }
     static bool isMarked(const Data& toc) { return imageOf(toc) == "t.png"; }
 
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createTocItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createTocItem(out);
-        }
+    struct Made : TocKind::Made {
         /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
@@ -118,12 +103,7 @@ struct Toc : TextByLanguage<TocKind> {
 };
 
 struct ScreenText : ScreenTextKind {
-    struct Made : Own {
-        Maker<Item> maker;
-        ZelDataResult_tags createScreenTextItem(Item** out) const override
-        {
-            return maker ? maker(out) : Own::createScreenTextItem(out);
-        }
+    struct Made : ScreenTextKind::Made {
         /// Sets a rate that no setter would take.
         void forceRate(unsigned long rate) { frameRate_.value = rate; }
     };
@@ -149,7 +129,7 @@ struct ScreenText : ScreenTextKind {
     }
 };
 
-/// An item whose start is what a test wants it to be, and which knows how many of it live.
+/// An item that takes its start from the test and counts the living objects of its class.
 template <class Kind>
 class OddItem : public Kind::OwnItem {
 public:
@@ -177,7 +157,7 @@ private:
     std::function<ZelDataResult_tags(long long&)> start_;
 };
 
-/// An item that cannot be filled: its start fails with one code and its last error is another.
+/// An item that cannot be filled: setting its start returns one code and stores another.
 template <class Kind>
 class UnfillableItem : public OddItem<Kind> {
 public:
@@ -235,12 +215,13 @@ protected:
 
     Owned itemAt(unsigned long index)
     {
-        Item* out = nullptr;
-        EXPECT_CODE(collection_, ZelData_Ok, (collection_.*Kind::at)(&out, index));
-        return Owned(out);
+        return created<Item>([&](Item** out) {
+            EXPECT_CODE(collection_, ZelData_Ok, (collection_.*Kind::at)(out, index));
+            return collection_.getLastError();
+        });
     }
 
-    /// From now on the collection makes good items, and at call @p nth one that cannot be filled.
+    /// Makes the collection create good items from now on, and one that cannot be filled at call @p nth.
     void makeUnfillable(int nth)
     {
         collection_.maker = [nth](Item** out) mutable {
@@ -265,7 +246,7 @@ TYPED_TEST(ItemCollection, StartsEmpty)
     EXPECT_TRUE(this->contents().empty());
 }
 
-TYPED_TEST(ItemCollection, AMadeItemBelongsToTheCallerAndIsNotAdded)
+TYPED_TEST(ItemCollection, ANewItemBelongsToTheCallerAndIsNotAdded)
 {
     typename TypeParam::Item* out = nullptr;
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::create)(&out));
@@ -286,7 +267,7 @@ TYPED_TEST(ItemCollection, AnItemIsMadeOnlyIntoAnEmptyPointer)
                 (this->collection_.*TypeParam::create)(nullptr));
 }
 
-TYPED_TEST(ItemCollection, KeepsItemsInTheOrderOfTheirAddition)
+TYPED_TEST(ItemCollection, KeepsItemsInOrderOfAddition)
 {
     this->add(this->three_);
     EXPECT_EQ(3UL, this->count());
@@ -295,7 +276,7 @@ TYPED_TEST(ItemCollection, KeepsItemsInTheOrderOfTheirAddition)
         EXPECT_EQ(this->three_[i], this->contentsOf(*this->itemAt(i)));
 }
 
-TYPED_TEST(ItemCollection, StoresACopyOfWhatIsAdded)
+TYPED_TEST(ItemCollection, StoresACopyOfTheItem)
 {
     typename TypeParam::OwnItem item;
     this->fill(item, {1, "a"});
@@ -337,7 +318,7 @@ TYPED_TEST(ItemCollection, HandsOutOnlyIntoAnEmptyPointerAndBelowTheCount)
     EXPECT_EQ(nullptr, empty);
 }
 
-TYPED_TEST(ItemCollection, HandingAllOutReplacesTheVectorAndDestroysNothingOfIt)
+TYPED_TEST(ItemCollection, GettingAllItemsReplacesTheVectorWithoutDestroyingItsItems)
 {
     this->add({{1, "a"}});
     typename TypeParam::OwnItem mine;
@@ -349,7 +330,7 @@ TYPED_TEST(ItemCollection, HandingAllOutReplacesTheVectorAndDestroysNothingOfIt)
     EXPECT_CODE(mine, ZelData_Ok, mine.setStart(5));
 }
 
-TYPED_TEST(ItemCollection, HandingOutNothingEmptiesTheVector)
+TYPED_TEST(ItemCollection, GettingNoItemsEmptiesTheVector)
 {
     std::vector<typename TypeParam::Item*> items{nullptr};
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::all)(items));
@@ -385,7 +366,7 @@ TYPED_TEST(ItemCollection, ClearingRemovesAllItems)
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::clear)());
 }
 
-TYPED_TEST(ItemCollection, DestroysItsItemsWhenTheyAreRemovedClearedOrItEndsItself)
+TYPED_TEST(ItemCollection, DestroysItsItemsWhenRemovedClearedOrDestroyed)
 {
     using Counted = OddItem<TypeParam>;
     const long before = Counted::alive();
@@ -484,7 +465,7 @@ TYPED_TEST(ItemCollection, ACopyThatCannotBeFilledIsDestroyedAndItsLastErrorTake
     EXPECT_EQ(before, OddItem<TypeParam>::alive());
 }
 
-TYPED_TEST(ItemCollection, WhenOneOfAllCopiesFailsTheOthersAreDestroyedAndTheVectorIsEmpty)
+TYPED_TEST(ItemCollection, WhenOneCopyFailsTheOthersAreDestroyedAndTheVectorIsEmpty)
 {
     this->add(this->three_);
     const long before = OddItem<TypeParam>::alive();
@@ -498,9 +479,9 @@ TYPED_TEST(ItemCollection, WhenOneOfAllCopiesFailsTheOthersAreDestroyedAndTheVec
     }
 }
 
-// Items that change their collection while it looks at them
+// Items that change their collection while it reads them
 
-/// Three items, the first of which changes its collection when it is first asked for its start.
+/// Three items, the first of which changes its collection when its start is first read.
 template <class Kind>
 class Meddled {
 public:
@@ -554,7 +535,7 @@ void clearAll(typename Kind::Made& collection)
     EXPECT_EQ(ZelData_Ok, (collection.*Kind::clear)());
 }
 
-TYPED_TEST(ItemCollection, AnItemMayChangeItsCollectionWhileThatIsRead)
+TYPED_TEST(ItemCollection, AnItemMayChangeItsCollectionDuringARead)
 {
     for (const auto& [change, left] :
          {std::pair(&addMany<TypeParam>, 103UL), std::pair(&clearAll<TypeParam>, 0UL)}) {
@@ -594,7 +575,7 @@ TYPED_TEST(ItemCollection, AnItemThatChangesItsCollectionStopsTheOrdering)
 
 // Copies of whole collections
 
-TYPED_TEST(ItemCollection, ACopyOfTheCollectionHoldsCopiesOfTheItemsAlone)
+TYPED_TEST(ItemCollection, ACopyOfTheCollectionReplacesTheItemsWithCopies)
 {
     this->add({{9, "old"}});
     typename TypeParam::Own source;
@@ -638,8 +619,8 @@ TYPED_TEST(ItemCollection, CopyingOntoItselfIsAnErrorThatChangesNothing)
 
 // Order
 
-/// The expected order, computed step by step: each place in turn takes every smaller start that comes
-/// after it.
+/// The expected order, step by step: each place in turn is exchanged with every smaller start after
+/// it.
 void exchangeSort(std::vector<Timed>& items)
 {
     for (std::size_t i = 0; i + 1 < items.size(); ++i)
@@ -647,7 +628,7 @@ void exchangeSort(std::vector<Timed>& items)
             if (items[j].first < items[i].first) std::swap(items[i], items[j]);
 }
 
-TYPED_TEST(ItemCollection, EqualStartsMayChangePlacesWhenASmallerOnePasses)
+TYPED_TEST(ItemCollection, EqualStartsMaySwapPlacesWhenASmallerOnePasses)
 {
     this->add({{5, "first"}, {5, "second"}, {3, "early"}});
     EXPECT_CODE(this->collection_, ZelData_Ok, (this->collection_.*TypeParam::order)());
@@ -678,7 +659,7 @@ TYPED_TEST(ItemCollection, OrdersNothingAndOneItem)
     EXPECT_EQ((std::vector<Timed>{{1, "a"}}), this->contents());
 }
 
-TYPED_TEST(ItemCollection, ThousandsOfRandomOrdersAreThoseOfTheExchangeSort)
+TYPED_TEST(ItemCollection, RandomOrdersMatchTheExchangeSort)
 {
     std::mt19937 random(20090305);
     for (int round = 0; round < 3000; ++round) {
@@ -754,8 +735,8 @@ TYPED_TEST(ItemCollection, AFrameRateOutOfRangeIsRepairedToTheStandardRateAndAny
     }
 }
 
-/// A copy of a table of contents does not ask for the rate.
-TYPED_TEST(ItemCollection, AFrameRateOutOfRangeEndsACopyThatTakesIt)
+/// A copy of a table of contents does not read the rate.
+TYPED_TEST(ItemCollection, AFrameRateOutOfRangeEndsACopyThatReadsIt)
 {
     this->add(this->three_);
     this->collection_.forceRate(0);
@@ -795,7 +776,7 @@ TYPED_TEST(ItemLanguages, AreListedInByteOrderAfterTheListedOnes)
     EXPECT_EQ((IDs{"fr", "EN", "de", "en", "cs"}), languagesOf(*this->collection_));
 }
 
-TYPED_TEST(ItemLanguages, ThatAreListedAlreadyDoNotWarn)
+TYPED_TEST(ItemLanguages, ThatAreAlreadyListedDoNotWarn)
 {
     EXPECT_EQ(ZelData_Ok, this->collection_->addLanguage("en"));
     const auto item = newItem<TypeParam>(this->item(0, {{"en", ""}}));
@@ -814,7 +795,7 @@ TYPED_TEST(ItemLanguages, StayInTheItemsWhenTheyAreRemovedFromTheList)
     EXPECT_EQ(std::vector{item}, this->items());
 }
 
-TYPED_TEST(ItemLanguages, ThatAreNotListedAreNeitherMissedNorFilledIn)
+TYPED_TEST(ItemLanguages, ThatAreNotListedAreNeitherReportedMissingNorFilledIn)
 {
     const std::vector items{this->item(0, {{"de", "d"}, {"en", "e"}}),
                             this->item(1000, {{"en", "f"}})};
@@ -888,14 +869,14 @@ TYPED_TEST(ItemLanguages, LoseTheirTextsInItemsOfEveryClass)
     }
 }
 
-TYPED_TEST(ItemLanguages, AreNotMissedInACollectionWithoutItems)
+TYPED_TEST(ItemLanguages, AreNotReportedMissingWithoutItems)
 {
     for (const char* id : {"fr", "xx"})
         EXPECT_CODE(*this->collection_, ZelData_Ok,
                     ((*this->collection_).*TypeParam::removeLanguage)(id));
 }
 
-TYPED_TEST(ItemLanguages, HandOutNoItems)
+TYPED_TEST(ItemLanguages, CannotBeUsedToGetItems)
 {
     typename TypeParam::OwnItem kept;
     std::vector<typename TypeParam::Item*> items{&kept};
@@ -920,7 +901,7 @@ TYPED_TEST(ItemLanguages, ThatAreRefusedKeepTheItemOutAndTheEarlierOnesIn)
     EXPECT_EQ(IDs{"de"}, languagesOf(collection));
 }
 
-TYPED_TEST(ItemLanguages, AreNotFilledInWhereMemoryForAskingRunsOut)
+TYPED_TEST(ItemLanguages, AreNotFilledInWhenLookingForThemRunsOutOfMemory)
 {
     using FakeItem = typename TypeParam::FakeItem;
     const auto returns = [](FakeItem& item) {

@@ -1,6 +1,6 @@
 /// @file
-/// What the items of all kinds have in common: their start, their assignment and, where they have
-/// texts by language, those.
+/// What the items of all kinds have in common: their start, their assignment and their texts by
+/// language, if they have any.
 
 #include "captions/Captions.h"
 #include "screentext/Items.h"
@@ -48,7 +48,7 @@ TYPED_TEST(Item, StartsEmpty)
     EXPECT_EQ(typename TypeParam::Values(), contentsOf(*item));
 }
 
-TYPED_TEST(Item, KeepsAStartFromZeroOn)
+TYPED_TEST(Item, AcceptsAStartFromZeroUp)
 {
     for (const long long start : {5LL, 0LL, most}) {
         EXPECT_CODE(this->item_, ZelData_Ok, this->item_.setStart(start));
@@ -136,7 +136,7 @@ TYPED_TEST(ItemTexts, MayBeAnyUtf8)
     }
 }
 
-TYPED_TEST(ItemTexts, AreRefusedWhereTheyAreNoUtf8)
+TYPED_TEST(ItemTexts, AreRefusedIfTheyAreNotUtf8)
 {
     const auto item = this->itemWith({{"en", "x"}});
     for (const char* id : {"en", "de", "a\xC3"})
@@ -155,7 +155,7 @@ TYPED_TEST(ItemTexts, AreRefusedForALanguageThatIsUnknownOrMalformed)
     this->expectTexts({{"en", "x"}}, *item);
 }
 
-TYPED_TEST(ItemTexts, HaveLanguagesThatAreTheSameOnlyByteForByte)
+TYPED_TEST(ItemTexts, CompareLanguagesByteForByte)
 {
     const Texts texts{{"EN", "1"}, {"en", "2"}, {"en-GB", "3"}, {"en-US", "4"}};
     const auto item = this->itemWith({});
@@ -164,7 +164,7 @@ TYPED_TEST(ItemTexts, HaveLanguagesThatAreTheSameOnlyByteForByte)
     this->expectTexts(texts, *item);
 }
 
-TYPED_TEST(ItemTexts, ThatAreAbsentAreABadArgumentAndLeaveTheOutTextAlone)
+TYPED_TEST(ItemTexts, ThatAreAbsentReturnABadArgumentAndLeaveTheOutTextAlone)
 {
     const auto item = this->itemWith({{"en", "x"}});
     std::string text = "before";
@@ -182,7 +182,7 @@ TYPED_TEST(ItemTexts, AreRemovedOneByOne)
     this->expectTexts({{"en", "e"}}, *item);
 }
 
-TYPED_TEST(ItemTexts, AreNotFoundWhereOneToRemoveIsAbsent)
+TYPED_TEST(ItemTexts, ReturnNotFoundIfTheOneToRemoveIsAbsent)
 {
     const auto item = this->itemWith({{"en", "e"}});
     for (const char* id : {"de", "EN", "en-us", ""})
@@ -190,7 +190,7 @@ TYPED_TEST(ItemTexts, AreNotFoundWhereOneToRemoveIsAbsent)
     this->expectTexts({{"en", "e"}}, *item);
 }
 
-TYPED_TEST(ItemTexts, AreClearedAloneAndMoreThanOnce)
+TYPED_TEST(ItemTexts, CanBeClearedTwiceWithoutChangingOtherFields)
 {
     const auto item = this->itemWith({{"de", "d"}, {"en", "e"}});
     for (int time = 0; time < 2; ++time) {
@@ -199,7 +199,7 @@ TYPED_TEST(ItemTexts, AreClearedAloneAndMoreThanOnce)
     }
 }
 
-TYPED_TEST(ItemTexts, AreListedInTheByteOrderOfTheirLanguages)
+TYPED_TEST(ItemTexts, AreListedInByteOrderOfTheirLanguages)
 {
     const auto item = this->itemWith({});
     for (const char* id : {"en", "de", "en-GB", "EN"})

@@ -1,5 +1,5 @@
 /// @file
-/// The order of timed items against the exchange sort that defines it.
+/// Compares the order of timed items with the exchange sort that defines it.
 
 #include "sets/ItemOrder.h"
 
@@ -23,7 +23,7 @@ Places inPlace(std::size_t size)
     return places;
 }
 
-/// The definition: for each item, each later one changes places with it when it starts earlier.
+/// The definition: each item swaps places with each later one that starts earlier.
 Places exchanged(Starts starts)
 {
     Places places = inPlace(starts.size());
@@ -67,7 +67,16 @@ TEST(ExchangeOrder, TiesThatASmallerStartJumpsOverAreRotated)
     EXPECT_EQ((Places{1, 0}), exchangeOrder({2, 1}));
 }
 
-TEST(ExchangeOrder, IsThatOfTheExchangeSortForRandomStarts)
+TEST(ExchangeOrder, EveryBitOfTheDistanceBetweenStartsCounts)
+{
+    for (int bit = 0; bit < 63; ++bit) {
+        const long long distance = 1LL << bit;
+        EXPECT_EQ((Places{2, 1, 0}), exchangeOrder({distance, distance - 1, distance - 2})) << bit;
+        EXPECT_EQ((Places{2, 0, 1}), exchangeOrder({distance - 1, distance, -1})) << bit;
+    }
+}
+
+TEST(ExchangeOrder, MatchesTheExchangeSortForRandomStarts)
 {
     std::mt19937 random(20);
     for (int round = 0; round < 20000; ++round) {
@@ -77,7 +86,7 @@ TEST(ExchangeOrder, IsThatOfTheExchangeSortForRandomStarts)
     }
 }
 
-TEST(ExchangeOrder, IsThatOfTheExchangeSortForLongGroupsOfTies)
+TEST(ExchangeOrder, MatchesTheExchangeSortForLongGroupsOfTies)
 {
     std::mt19937 random(21);
     for (const long long distinct : {1, 2, 3, 10, 100, 100000}) {
@@ -86,7 +95,7 @@ TEST(ExchangeOrder, IsThatOfTheExchangeSortForLongGroupsOfTies)
     }
 }
 
-TEST(ExchangeOrder, TakesTheExtremesOfStarts)
+TEST(ExchangeOrder, HandlesExtremeStarts)
 {
     constexpr long long largest = std::numeric_limits<long long>::max();
     constexpr long long smallest = std::numeric_limits<long long>::min();
@@ -94,9 +103,9 @@ TEST(ExchangeOrder, TakesTheExtremesOfStarts)
     EXPECT_EQ(exchanged(starts), ordered(starts));
 }
 
-TEST(ExchangeOrder, TwoStartsInTurnTakeNoQuadraticTime)
+TEST(ExchangeOrder, TwoAlternatingStartsDoNotTakeQuadraticTime)
 {
-    // A million items: comparing each with each would not come to an end here.
+    // A million items: comparing all pairs would take 500 billion steps.
     Starts starts(1000000);
     for (std::size_t i = 0; i < starts.size(); ++i) {
         starts[i] = i % 2 == 0 ? 1 : 0;
@@ -116,7 +125,7 @@ TEST(EarliestLaterStarts, AreTheSmallestOfThoseThatFollow)
     EXPECT_TRUE(earliestLaterStarts({}).empty());
 }
 
-/// The definition: each item against each later one.
+/// The definition: compares each item with each later one.
 Places firstBelow(const Starts& bounds, const Starts& starts)
 {
     Places found;
@@ -137,7 +146,7 @@ TEST(FirstLaterStartsBelow, AreTheNearestAndNotTheSmallest)
     EXPECT_TRUE(firstLaterStartsBelow({}, {}).empty());
 }
 
-TEST(FirstLaterStartsBelow, AreThoseOfTheDefinition)
+TEST(FirstLaterStartsBelow, MatchTheDefinition)
 {
     std::mt19937 random(22);
     for (int round = 0; round < 20000; ++round) {
@@ -149,9 +158,9 @@ TEST(FirstLaterStartsBelow, AreThoseOfTheDefinition)
     }
 }
 
-TEST(FirstLaterStartsBelow, TakeNoQuadraticTime)
+TEST(FirstLaterStartsBelow, DoNotTakeQuadraticTime)
 {
-    // A million items without any: comparing each with each would not come to an end here.
+    // A million items without any: comparing all pairs would take 500 billion steps.
     const std::size_t size = 1000000;
     Starts starts(size);
     std::iota(starts.begin(), starts.end(), 1);

@@ -18,10 +18,10 @@ namespace {
 
 using IDs = std::vector<std::string>;
 
-/// The last error before an operation of which the test sees how it stores its code.
+/// The last error before an operation, to see whether the operation stores its code.
 constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
 
-/// A list as a caller might write it: it checks nothing and takes every ID.
+/// A list as a caller might write it: it checks nothing and accepts every ID.
 class UncheckedList : public i_ZelDataLanguage {
 public:
     UncheckedList() = default;
@@ -90,7 +90,7 @@ void add(i_ZelDataLanguage& list, const IDs& ids)
         EXPECT_CODE(list, ZelData_Ok, list.addLanguage(id));
 }
 
-/// What removing an absent language gives.
+/// What removing an absent language returns.
 template <class Owner>
 constexpr ZelDataResult_tags absentCode = ZelData_NotFound;
 template <>
@@ -122,7 +122,7 @@ TYPED_TEST(LanguageListContract, ClearingEmptiesTheList)
     EXPECT_EQ(IDs(), idsOf(this->list()));
 }
 
-TYPED_TEST(LanguageListContract, IDsAreKeptAsGivenInTheOrderOfTheirAddition)
+TYPED_TEST(LanguageListContract, IDsAreKeptAsGivenInOrderOfAddition)
 {
     add(this->list(),
         {"en", "de", "EN", "en-US", "pt-BR", "aa-", "en-GB", "fr-<&\">", "ja-\xF0\x9F\x98\x80"});
@@ -159,7 +159,7 @@ TYPED_TEST(LanguageListContract, MalformedBytesAreFoundBeforeTheLanguageIsLooked
     EXPECT_EQ(IDs(), idsOf(this->list()));
 }
 
-TYPED_TEST(LanguageListContract, RemovingTakesTheIdenticalEntryAlone)
+TYPED_TEST(LanguageListContract, RemovingRemovesOnlyTheIdenticalEntry)
 {
     add(this->list(), {"en", "EN", "en-GB"});
     EXPECT_CODE(this->list(), ZelData_Ok, this->list().removeLanguage("EN"));
@@ -167,7 +167,7 @@ TYPED_TEST(LanguageListContract, RemovingTakesTheIdenticalEntryAlone)
 }
 
 /// A header warns, the other two report an error.
-TYPED_TEST(LanguageListContract, RemovingAnAbsentLanguageGivesTheOwnersCode)
+TYPED_TEST(LanguageListContract, RemovingAnAbsentLanguageReturnsTheOwnersCode)
 {
     add(this->list(), {"en", "FR"});
     for (const char* id : {"fr", "", "\xFF"}) {
@@ -201,7 +201,7 @@ TYPED_TEST(LanguageListContract, AnOrderOfAnotherLengthOrWithAnUnlistedEntryIsRe
     }
 }
 
-/// The oddity of the check: it does not ask whether each listed ID is in the new order.
+/// Deliberate: the check does not require every listed ID in the new order.
 TYPED_TEST(LanguageListContract, AnOrderWithADuplicateIsAcceptedAndDropsTheOtherEntry)
 {
     add(this->list(), {"en", "de"});
@@ -298,7 +298,7 @@ TYPED_TEST(LanguageListContract, CopyingADuplicateStopsThereWithAWarning)
     EXPECT_EQ(IDs({"en"}), idsOf(this->list()));
 }
 
-TYPED_TEST(LanguageListContract, CopyingChecksEachIDAnew)
+TYPED_TEST(LanguageListContract, CopyingChecksEachIDAgain)
 {
     add(this->list(), {"fr"});
     EXPECT_CODE(this->list(), ZelData_UnknownLanguage,
@@ -309,7 +309,7 @@ TYPED_TEST(LanguageListContract, CopyingChecksEachIDAnew)
     EXPECT_EQ(IDs({"de", "en"}), idsOf(this->list()));
 }
 
-/// A step that goes wrong, the code of the copy then, and the list that is left.
+/// A step that fails, the code of the copy and the remaining list.
 struct FailingStep {
     const char* operation;
     Misdeed misdeed;
@@ -333,7 +333,7 @@ TYPED_TEST(LanguageListContract, CopyingEndsWithTheSourcesLastErrorWhenItsListCa
     }
 }
 
-/// The last error of the source is taken as it is; the target's list is empty by then.
+/// The copy takes over the last error of the source; it has already emptied the target's list.
 TYPED_TEST(LanguageListContract, CopyingEndsWithSuccessWhenTheFailingSourceKeptSuccess)
 {
     ScriptedLanguages<UncheckedList> source;
@@ -345,8 +345,8 @@ TYPED_TEST(LanguageListContract, CopyingEndsWithSuccessWhenTheFailingSourceKeptS
     EXPECT_EQ(IDs(), idsOf(this->list()));
 }
 
-/// Clearing ends with its code, adding with the target's last error. Both go into the field of the
-/// base and not through setLastError().
+/// A failed clearing ends the copy with its code, a failed adding with the target's last error. The
+/// copy stores both without calling setLastError().
 TYPED_TEST(LanguageListContract, CopyingEndsWithTheTargetsOwnFailures)
 {
     for (const auto& [operation, misdeed, expected, left] :
@@ -370,8 +370,7 @@ TYPED_TEST(LanguageListContract, CopyingEndsWithTheTargetsOwnFailures)
     }
 }
 
-// The names come from the catalogue, which knows each listed language. That one is missing can only
-// be seen with another catalogue.
+// The catalogue has a name for every listed language, so only another catalogue can miss one.
 
 ZelDataResult_tags allButGerman(const std::string& id, std::string& name)
 {
@@ -403,7 +402,7 @@ TEST_F(LanguageListNames, AMissingNameIsAnErrorAndTheOthersStay)
     EXPECT_EQ(IDs({"name of en", "name of fr"}), names_);
 }
 
-TEST_F(LanguageListNames, ExhaustedMemoryIsNotTakenForAMissingName)
+TEST_F(LanguageListNames, ExhaustedMemoryIsNotMistakenForAMissingName)
 {
     EXPECT_EQ(ZelData_OutOfMemory, list_.names(names_, &noMemoryForGerman));
     EXPECT_EQ(IDs({"name of en"}), names_);

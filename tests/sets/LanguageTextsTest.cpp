@@ -26,6 +26,15 @@ Map mapOf(const LanguageTexts& texts)
     return map;
 }
 
+TEST(LanguageTexts, CanHaveAnyCharactersInTheIDAndInTheText)
+{
+    const std::string smile = "\U0001F600";
+    EXPECT_EQ(ZelData_Ok, LanguageTexts::check(smile, "en-" + smile));
+    EXPECT_EQ(ZelData_InvalidItem, LanguageTexts::check(smile, "en-\x80"));
+    EXPECT_EQ(ZelData_InvalidItem, LanguageTexts::check("\x80", "en"));
+    EXPECT_EQ(ZelData_InvalidItem, LanguageTexts::check(smile, smile));
+}
+
 TEST(LanguageTexts, NewOnesAreEmptyAndTakeNoMemory)
 {
     const FailingAllocation failing(0);
@@ -36,7 +45,7 @@ TEST(LanguageTexts, NewOnesAreEmptyAndTakeNoMemory)
     EXPECT_FALSE(copy.find("en").has_value());
 }
 
-TEST(LanguageTexts, StandInAscendingOrderOfTheIDs)
+TEST(LanguageTexts, AreInAscendingOrderOfIDs)
 {
     LanguageTexts texts;
     for (const char* id : {"en", "de", "pt-BR", "pt", "de-AT"})
@@ -47,7 +56,7 @@ TEST(LanguageTexts, StandInAscendingOrderOfTheIDs)
     EXPECT_EQ("text pt", texts.find("pt"));
 }
 
-TEST(LanguageTexts, TheirCharactersAreThoseOfIDsAndTexts)
+TEST(LanguageTexts, CountTheCharactersOfIDsAndTexts)
 {
     LanguageTexts texts;
     EXPECT_EQ(ZelData_Ok, texts.set("four", "en"));
@@ -98,7 +107,7 @@ TEST(LanguageTexts, WithoutMemoryAChangeChangesNothing)
     EXPECT_EQ((Map{{"de", "zwei"}, {"en", "one"}}), mapOf(texts));
 }
 
-TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
+TEST(LanguageTexts, MatchMapsUnderRandomChangesOfSharingCopies)
 {
     std::mt19937 random(20);
     const std::vector<std::string> ids = {"de", "de-AT", "en", "en-US", "fr", "ja", "zh"};
@@ -108,7 +117,7 @@ TEST(LanguageTexts, RandomChangesOfSharingCopiesGiveWhatMapsGive)
         const std::string& id = ids[random() % ids.size()];
         switch (random() % 4) {
         case 0: {
-            // Now and then a text that is too long to be packed.
+            // Sometimes a text that is too long to be packed.
             const std::size_t length = random() % 8 == 0 ? 9000 : random() % 40;
             const std::string text(length, static_cast<char>('a' + random() % 26));
             const bool replaces = map.count(id) != 0;
@@ -148,7 +157,7 @@ TEST(LanguageTexts, MissingOnesAreAddedEmptyAndOnceEach)
     EXPECT_EQ((Map{{"de", ""}, {"zh", ""}}), mapOf(none));
 }
 
-TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
+TEST(LanguageTexts, StaySharedIfNoneIsMissing)
 {
     LanguageTexts texts;
     EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));
@@ -157,7 +166,7 @@ TEST(LanguageTexts, WithoutMissingOnesGoOnSharing)
     EXPECT_EQ(copy.find("de")->data(), texts.find("de")->data());
 }
 
-TEST(LanguageTexts, MissingOnesComeAllOrNot)
+TEST(LanguageTexts, MissingOnesAreAddedAllOrNone)
 {
     LanguageTexts texts;
     EXPECT_EQ(ZelData_Ok, texts.set("Hallo", "de"));

@@ -52,7 +52,7 @@ protected:
     {
         EXPECT_CODE(*formatter_, ZelData_Ok, set(*newCollection<Kind>(items)));
     }
-    /// What is written in the place of "replaced".
+    /// What the formatter writes, in place of "replaced".
     std::string written(bool flag = true)
     {
         std::string out = "replaced";
@@ -83,7 +83,7 @@ void expectTags(const std::vector<std::string>& tags, const std::string& track)
 using Kinds = testing::Types<Captions, Toc, ScreenText>;
 TYPED_TEST_SUITE(TrackFormatter, Kinds, KindName);
 
-TYPED_TEST(TrackFormatter, OfACollectionWithoutItemsWritesNothing)
+TYPED_TEST(TrackFormatter, WritesNothingForAnEmptyCollection)
 {
     EXPECT_EQ("replaced", this->trackOf({}));
     EXPECT_CODE(*this->formatter_, ZelData_NotImplemented,
@@ -109,7 +109,7 @@ TYPED_TEST(TrackFormatter, WritesItemsWithEqualStartsInTheOrderOfTheExchangeSort
                               TypeParam::item(3, "early")}));
 }
 
-TYPED_TEST(TrackFormatter, SortsTheHeldCopyAlone)
+TYPED_TEST(TrackFormatter, SortsOnlyTheHeldCopy)
 {
     const std::vector items{TypeParam::item(500, "b"), TypeParam::item(100, "a")};
     const auto data = newCollection<TypeParam>(items);
@@ -139,7 +139,7 @@ TYPED_TEST(TrackFormatter, HoldsACopyThatTheNextCollectionReplaces)
     EXPECT_EQ("replaced", this->trackOf({}));
 }
 
-TYPED_TEST(TrackFormatter, AsksTheGivenCollectionForNoValidity)
+TYPED_TEST(TrackFormatter, DoesNotValidateTheGivenCollection)
 {
     typename TypeParam::Fake data;
     data.failAt("isValid", ZelData_InvalidData, ZelData_InvalidData);
@@ -147,7 +147,7 @@ TYPED_TEST(TrackFormatter, AsksTheGivenCollectionForNoValidity)
     EXPECT_EQ("replaced", this->written());
 }
 
-TYPED_TEST(TrackFormatter, HoldsWhatCouldBeCopiedAndGivesTheLastErrorOfTheCopy)
+TYPED_TEST(TrackFormatter, HoldsWhatCouldBeCopiedAndReturnsTheLastErrorOfTheCopy)
 {
     this->give({TypeParam::item(1, "former")});
     typename TypeParam::Fake data;
@@ -173,7 +173,7 @@ class LanguageTrackFormatter : public TrackFormatter<Kind> {
 using KindsWithLanguages = testing::Types<Captions, Toc>;
 TYPED_TEST_SUITE(LanguageTrackFormatter, KindsWithLanguages, KindName);
 
-TYPED_TEST(LanguageTrackFormatter, HoldsNothingWhereALanguageIsListedTwice)
+TYPED_TEST(LanguageTrackFormatter, HoldsNothingIfALanguageIsListedTwice)
 {
     this->give({TypeParam::item(1, "former")});
     const auto data = newCollection<TypeParam>({TypeParam::item(1, "latter")});

@@ -109,7 +109,7 @@ TEST(DescribeFinding, OrderAndOverlapNameTheLaterItem)
         describe(withLater(limited(ZelDataFinding_OutOfOrder, entry, 1, 2000, 1000), 2, 1000)));
 }
 
-TEST(DescribeFinding, CollectionsAreNamedWhereNoItemIs)
+TEST(DescribeFinding, CollectionsAreNamedIfNoItemIs)
 {
     const auto rate = [](ZelDataFindingSubject_tags subject, long long value, long long limit) {
         return describe(limited(ZelDataFinding_FrameRateOutOfRange, subject, ZelDataFinding::noItem,
@@ -121,8 +121,8 @@ TEST(DescribeFinding, CollectionsAreNamedWhereNoItemIs)
     EXPECT_EQ("screen texts: frame rate out of range (0, at least 1)", rate(screenText, 0, 1));
 }
 
-// No search gives such findings, but anybody may make them.
-TEST(DescribeFinding, AValueAtItsLimitIsSaidToBeAtMostThat)
+// findProblems() never makes such findings, but callers can.
+TEST(DescribeFinding, AValueAtItsLimitIsDescribedAsAtMostTheLimit)
 {
     EXPECT_EQ("captions: frame rate out of range (7, at most 7)",
               describe(limited(ZelDataFinding_FrameRateOutOfRange, caption, ZelDataFinding::noItem,
@@ -152,10 +152,11 @@ TEST(DescribeFinding, ALanguageStaysOnItsLine)
     EXPECT_EQ("entry 0 at 0: no text in en-\\x0A\\x1F\\x7F~ ", line("en-\n\x1F\x7F~ "));
     EXPECT_EQ("entry 0 at 0: no text in en-\\x00", line(std::string("en-\0", 4)));
     EXPECT_EQ("entry 0 at 0: no text in en-\u00fc", line("en-\u00fc"));
-    EXPECT_EQ("entry 0 at 0: no text in en-\\xFC", line("en-\xFC"));
+    EXPECT_EQ("entry 0 at 0: no text in en-\U0001F600", line("en-\U0001F600"));
+    EXPECT_EQ("entry 0 at 0: no text in en-\\x80\\xFC", line("en-\x80\xFC"));
 }
 
-TEST(DescribeFinding, ExtremesAreWhole)
+TEST(DescribeFinding, ExtremesAreWrittenInFull)
 {
     constexpr auto most = std::numeric_limits<long long>::max();
     constexpr auto least = std::numeric_limits<long long>::min();
@@ -166,7 +167,7 @@ TEST(DescribeFinding, ExtremesAreWhole)
               describe(finding));
 }
 
-TEST(DescribeFinding, WhatIsNoKindIsUnknown)
+TEST(DescribeFinding, AnUndefinedKindIsUnknown)
 {
     EXPECT_EQ("collection: unknown finding", describe(ZelDataFinding()));
     EXPECT_EQ("item 3 at 5: unknown finding",

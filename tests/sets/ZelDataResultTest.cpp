@@ -1,5 +1,5 @@
 /// @file
-/// The codes, the two tests on them, and the last error.
+/// The codes, their two predicates, and the last error.
 
 #include "support/Checks.h"
 
@@ -15,7 +15,7 @@ public:
     ZelDataResult_tags takeFrom(const i_ZelDataResult& other) { return storeFrom(other); }
 };
 
-/// An object that always says the same.
+/// An object whose last error is always the same.
 class Stubborn : public OwnObject {
 public:
     ZelDataResult_tags getLastError() const override { return ZelData_NoData; }
@@ -72,7 +72,7 @@ TEST(ZelDataResult, ACodeIsAnErrorWhenItIsNegativeAsASignedNumber)
         EXPECT_EQ(static_cast<std::int32_t>(value) < 0, isError(code));
 }
 
-TEST(ZelDataResult, AWarningIsAFailureButNoError)
+TEST(ZelDataResult, AWarningIsAFailureButNotAnError)
 {
     EXPECT_TRUE(failed(static_cast<ZelDataResult_tags>(0x40000001U)));
     EXPECT_FALSE(isError(static_cast<ZelDataResult_tags>(0x40000001U)));
@@ -100,7 +100,7 @@ TEST(ZelDataResult, TheLastErrorOfAConstObjectCanBeSet)
     EXPECT_EQ(ZelData_Ok, object.getLastError());
 }
 
-TEST(ZelDataResult, AnyValueTravelsUnharmedAsTheLastError)
+TEST(ZelDataResult, AnyValueIsKeptAsTheLastError)
 {
     const OwnObject object;
     object.setLastError(static_cast<ZelDataResult_tags>(0xFEDCBA98U));
@@ -117,14 +117,14 @@ TEST(ZelDataResult, AFailingConstOperationLeavesItsCodeInAConstObject)
     EXPECT_CODE(constHeader, ZelData_InvalidArgument, constHeader.isValid());
 }
 
-TEST(ZelDataResult, AnotherObjectsLastErrorIsTakenThroughItsOwnOperation)
+TEST(ZelDataResult, AnotherObjectsLastErrorIsReadThroughItsOwnOperation)
 {
     OwnObject object;
     const Stubborn stubborn;
     EXPECT_CODE(object, ZelData_NoData, object.takeFrom(stubborn));
 }
 
-TEST(ZelDataResult, AnotherObjectsSuccessIsTakenAsItIs)
+TEST(ZelDataResult, AnotherObjectsSuccessIsTakenOver)
 {
     OwnObject object;
     EXPECT_CODE(object, ZelData_Ok, object.takeFrom(OwnObject()));

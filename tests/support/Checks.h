@@ -11,6 +11,7 @@
 #include <iomanip>
 #include <memory>
 #include <ostream>
+#include <stdexcept>
 
 namespace ZelInterchangeData {
 
@@ -23,9 +24,8 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
 
 } // namespace ZelInterchangeData
 
-/// Expects that @p call, an operation of @p object, gives @p expected and stores it. The last error
-/// is set to a value that no operation produces first, so that an operation that stores nothing is
-/// noticed.
+/// Expects that @p call, an operation of @p object, returns @p expected and stores it. First sets the
+/// last error to a value that no operation produces, to catch an operation that stores nothing.
 #define EXPECT_CODE(object, expected, call)                                                        \
     do {                                                                                           \
         const auto& checkedObject_ = (object);                                                     \
@@ -36,27 +36,42 @@ inline void PrintTo(ZelDataResult_tags code, std::ostream* out)
         EXPECT_EQ(expectedCode_, checkedObject_.getLastError()) << "last error of " #object;       \
     } while (false)
 
-/// Takes the code of a call that an object may refuse: what it then holds is a part of the test.
+/// Ignores the code of a call that an object may refuse: the test looks at what it then holds.
 inline void mayRefuse(::ZelInterchangeData::ZelDataResult_tags /*code*/) {}
+
+/// The object that @p create puts into an out-pointer. If it puts none, the test fails and ends.
+template <class Interface, class Create>
+std::unique_ptr<Interface> created(const Create& create)
+{
+    Interface* made = nullptr;
+    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, create(&made));
+    if (made == nullptr) throw std::runtime_error("no object was made");
+    return std::unique_ptr<Interface>(made);
+}
 
 /// A new object from @p create, a factory that takes an out-pointer.
 template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(Interface**))
 {
-    Interface* made = nullptr;
-    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, create(&made));
-    return std::unique_ptr<Interface>(made);
+    return created<Interface>(create);
 }
 
-/// A new formatter from @p create.
+/// Makes a formatter with @p create.
 template <class Interface>
 std::unique_ptr<Interface> make(::ZelInterchangeData::ZelDataResult_tags (*create)(
     Interface**, ::ZelInterchangeData::ZelDataFormatType_tags))
 {
-    Interface* made = nullptr;
-    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok,
-              create(&made, ::ZelInterchangeData::ZelDataFormat_Xmp));
-    return std::unique_ptr<Interface>(made);
+    return created<Interface>(
+        [create](Interface** out) { return create(out, ::ZelInterchangeData::ZelDataFormat_Xmp); });
+}
+
+/// A formatter that @p create makes and that @p set gives what @p source makes.
+template <auto create, auto set, auto source>
+auto filledFormatter()
+{
+    auto formatter = make(create);
+    EXPECT_EQ(::ZelInterchangeData::ZelData_Ok, ((*formatter).*set)(*source()));
+    return formatter;
 }
 
 #endif

@@ -10,7 +10,7 @@
 
 namespace ZelInterchangeData {
 
-/// A generator by xorshift; the seed is not 0.
+/// An xorshift generator; the seed must not be 0.
 class Dice {
 public:
     explicit Dice(std::uint64_t seed) noexcept : state_(seed) {}

@@ -56,7 +56,7 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept
     return allocate(size);
 }
 
-// The forms for arrays end in those for one object; a sanitizer's own would not.
+// The array forms forward to those for one object; a sanitizer's own would not.
 
 void* operator new[](std::size_t size)
 {

@@ -10,24 +10,24 @@
 
 namespace ZelInterchangeData {
 
-/// What happens at the allocations after the one that failed. When they succeed, an operation that
-/// took the failure for something else goes on and has memory again, and is noticed.
+/// Whether the allocations after the first failure fail as well. If they succeed, a test notices an
+/// operation that mistook the failure for something else and went on.
 enum class Shortage { Lasting, Once };
 
-/// As long as it lives, the first allocations of this thread are granted and then one or all fail.
-/// One at a time. Nothing of the test framework may run under it.
+/// While it lives, grants the first allocations of this thread and then makes one or all fail. Only
+/// one may exist at a time, and the test framework must not run meanwhile.
 class FailingAllocation {
 public:
     static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
 
-    /// The allocation after the first @p granted ones fails; none does without a number.
+    /// Fails the allocation after the first @p granted ones, or none without a number.
     explicit FailingAllocation(std::size_t granted = unlimited,
                                Shortage shortage = Shortage::Lasting) noexcept;
     ~FailingAllocation();
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 
-    /// The allocations so far, failed ones included.
+    /// The number of allocations so far, including failed ones.
     [[nodiscard]] std::size_t count() const noexcept;
     /// Whether an allocation failed.
     [[nodiscard]] bool failed() const noexcept;
@@ -36,7 +36,7 @@ public:
 /// The number of blocks of this thread that are allocated and not yet freed.
 long long liveAllocations() noexcept;
 
-/// Whether @p action ended with exhausted memory when only @p granted allocations were granted.
+/// Whether @p action runs out of memory if only @p granted allocations succeed.
 template <class Action>
 bool runsOutOfMemory(std::size_t granted, Action&& action)
 {

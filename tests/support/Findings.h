@@ -1,5 +1,5 @@
 /// @file
-/// What findProblems() gives, for comparisons, and its ways to fail.
+/// Compares what findProblems() finds, and makes it fail.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FINDINGS_H
@@ -65,7 +65,7 @@ inline ZelDataFinding inLanguage(ZelDataFinding finding, const std::string& lang
     return finding;
 }
 
-/// @p finding with the later item that its value is measured by.
+/// @p finding with the later item that its value refers to.
 inline ZelDataFinding withLater(ZelDataFinding finding, std::size_t item, long long start)
 {
     finding.laterItem = static_cast<unsigned long>(item);
@@ -85,7 +85,7 @@ inline ZelDataFinding outOfOrder(ZelDataFindingSubject_tags subject, std::size_t
 template <class Collection>
 Findings findingsOf(const Collection& collection)
 {
-    Findings findings(1); // what was there before must go
+    Findings findings(1); // must be replaced
     EXPECT_EQ(ZelData_Ok, findProblems(collection, findings));
     return findings;
 }
@@ -124,10 +124,29 @@ inline ZelDataResult_tags codeFor(ZelDataFinding_tags kind)
     return ZelData_NotImplemented;
 }
 
-/// The code that isValid(true) must give where @p findings are all there are.
+/// The code that isValid(true) must return for @p findings.
 inline ZelDataResult_tags codeFor(const Findings& findings)
 {
     return findings.empty() ? ZelData_Ok : codeFor(findings.front().kind);
+}
+
+/// Expects of many random collections that findProblems() finds what must be found and agrees with
+/// isValid(true). @p next returns a collection and what must be found in it. At least a tenth of the
+/// collections are valid, and less than @p mostValid of them.
+template <class Next>
+void expectAgreement(double mostValid, const Next& next)
+{
+    constexpr int rounds = 100000;
+    int valid = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const auto [collection, expected] = next();
+        const Findings findings = findingsOf(*collection);
+        ASSERT_EQ(expected, findings) << "round " << round;
+        ASSERT_EQ(collection->isValid(true), codeFor(findings)) << "round " << round;
+        valid += findings.empty() ? 1 : 0;
+    }
+    EXPECT_GT(valid, rounds / 10);
+    EXPECT_LT(valid, rounds * mostValid);
 }
 
 /// Expects that @p code is what findProblems() gives for @p collection, and nothing is found.
@@ -157,7 +176,7 @@ void expectFailuresPass(const Collection& collection, const std::string& operati
     expectNoAnswer(ZelData_InternalError, collection);
 }
 
-/// Expects that findProblems() of @p collection copes with each of its allocations failing in turn.
+/// Makes each allocation of findProblems() fail in turn, and expects that it reports each failure.
 template <class Collection>
 void expectMemoryFailuresPass(const Collection& collection)
 {

@@ -7,12 +7,18 @@
 
 #include "support/Checks.h"
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
+
+/// A function that makes an item for a collection.
+template <class Item>
+using Maker = std::function<ZelDataResult_tags(Item**)>;
 
 /// A new item that holds @p values.
 template <class Kind>
@@ -54,6 +60,40 @@ std::vector<typename Kind::Values> valuesOf(const typename Kind::Data& collectio
     }
     return values;
 }
+
+/// A collection of failing items that a test can reach.
+template <class Kind, class FailingItem>
+class CollectionOfFailing : public Kind::Made {
+public:
+    CollectionOfFailing()
+    {
+        this->maker = [this](typename Kind::Item** out) {
+            *out = last_ = new FailingItem;
+            return ZelData_Ok;
+        };
+    }
+    /// Adds an item of @p values and returns the stored one.
+    FailingItem& added(const typename Kind::Values& values)
+    {
+        if (failed((this->*Kind::add)(*newItem<Kind>(values))))
+            throw std::runtime_error("the item was not added");
+        return *last_;
+    }
+
+private:
+    FailingItem* last_ = nullptr;
+};
+
+/// An item in which only a strict check finds something.
+template <class Item>
+class StrictlyChecked : public Item {
+public:
+    ZelDataResult_tags isValid(bool strict) const override
+    {
+        this->setLastError(strict ? ZelData_WarnItemGuidelines : ZelData_Ok);
+        return this->getLastError();
+    }
+};
 
 /// The texts of @p item by language.
 template <class Item>

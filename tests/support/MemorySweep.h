@@ -1,5 +1,5 @@
 /// @file
-/// An operation whose memory runs out at each of its allocations in turn.
+/// Makes each allocation of an operation fail in turn.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_MEMORYSWEEP_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_MEMORYSWEEP_H
@@ -15,8 +15,8 @@
 namespace ZelInterchangeData {
 
 /// Calls @p operation with ever more allocations granted, each time on a new object from @p create,
-/// until it ends with @p finalCode. Before that each call must give and store exhausted memory; then
-/// @p check looks at the object. An operation that never allocates is a failure of the test.
+/// until it returns @p finalCode. Each earlier call must return and store exhausted memory; @p check
+/// then checks the object. The test fails if the operation never allocates.
 template <class Create, class Operation, class Check>
 void sweepMemory(const Create& create, ZelDataResult_tags finalCode, const Operation& operation,
                  const Check& check)

@@ -1,6 +1,6 @@
 /// @file
-/// What most tests include. The build may compile it once for all of them, so it includes nothing of
-/// the project; each test still includes what it uses.
+/// The headers that most tests include. The build may precompile it for all of them, so it includes no
+/// header of the project; each test still includes what it uses.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_PRECOMPILEDHEADERS_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_PRECOMPILEDHEADERS_H

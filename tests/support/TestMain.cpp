@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Prints the command behind each failed test.
+/// Prints that command after each failed test.
 class CommandOfFailedTest : public testing::EmptyTestEventListener {
 public:
     explicit CommandOfFailedTest(std::string program) : program_(std::move(program)) {}

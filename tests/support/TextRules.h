@@ -1,5 +1,5 @@
 /// @file
-/// The rules for texts, stated in the plainest way, to compare the library with.
+/// Plain models of the rules for texts, to compare the library with.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_TEXTRULES_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_TEXTRULES_H
@@ -19,9 +19,8 @@ inline int leadingOnes(unsigned byte)
     return ones;
 }
 
-/// The length that a lead byte announces: as many bytes as it has ones at its head. A single one
-/// marks a continuation byte, seven and eight announce nothing, and C0 and C1 could only encode one
-/// byte.
+/// The length that a lead byte announces: its number of leading ones. A single one marks a
+/// continuation byte, seven and eight announce nothing, and C0 and C1 could only encode one byte.
 inline int announcedLength(unsigned lead)
 {
     const int ones = leadingOnes(lead);
@@ -29,7 +28,7 @@ inline int announcedLength(unsigned lead)
     return announcesNothing ? 0 : (ones == 0 ? 1 : ones);
 }
 
-/// What the check of UTF-8 sequences gives for @p text.
+/// The code that the check of UTF-8 sequences must return for @p text.
 inline ZelDataResult_tags utf8Code(std::string_view text, bool bmpOnly)
 {
     int missing = 0;

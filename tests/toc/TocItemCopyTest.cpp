@@ -1,5 +1,5 @@
 /// @file
-/// Copying entries: what concerns them alone. The rest is in sets/CopyContractTest.cpp.
+/// Copying entries: the rules of their own. The rest is in sets/CopyContractTest.cpp.
 
 #include "toc/Entries.h"
 

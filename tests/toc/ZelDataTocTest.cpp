@@ -74,7 +74,7 @@ TEST_F(Toc, AMissingTextIsAnErrorUntilTheTableIsMadeConsistent)
     EXPECT_CODE(*toc_, ZelData_Ok, toc_->isValid(false));
 }
 
-TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsLookedAt)
+TEST_F(Toc, EachEntryIsComparedWithAllLaterOnesBeforeTheNextIsChecked)
 {
     add(*toc_, {{100, {{"en", "a"}}}, {100}, {50, {{"en", "c"}}}});
     EXPECT_CODE(*toc_, ZelData_WarnTiming, toc_->isValid(false));
@@ -96,28 +96,9 @@ TEST(TocOrder, OrderingEndsWithSuccessAndFillsNothing)
 
 // Stored entries that fail
 
-/// A table whose entries are those of the tests, so that stored ones can fail.
-class TocOfFailing : public ZelDataToc {
-public:
-    ZelDataResult_tags createTocItem(i_ZelDataTocItem** out) const override
-    {
-        auto item = std::make_unique<FailingTocItem>();
-        last_ = item.get();
-        *out = item.release();
-        return ZelData_Ok;
-    }
-    /// Adds @p entry and gives the stored one.
-    FailingTocItem& added(const Entry& entry)
-    {
-        EXPECT_EQ(ZelData_Ok, addTocItem(*itemOf(entry)));
-        return *last_;
-    }
+using TocOfFailing = CollectionOfFailing<TocKind, FailingTocItem>;
 
-private:
-    mutable FailingTocItem* last_ = nullptr;
-};
-
-TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
+TEST(StoredEntry, IsValidatedOnlyByADeepCheck)
 {
     TocOfFailing toc;
     toc.added({0, {{"en", "a"}}}).failAt("isValid", ZelData_InvalidItem, ZelData_NotFound);
@@ -125,7 +106,14 @@ TEST(StoredEntry, IsAskedForItsValidityOnlyByADeepCheck)
     EXPECT_CODE(toc, ZelData_NotFound, toc.isValid(true));
 }
 
-TEST(StoredEntry, AWarningOfItsValidityCountsAsFinding)
+TEST(StoredEntry, IsValidatedStrictly)
+{
+    CollectionOfFailing<TocKind, StrictlyChecked<ZelDataTocItem>> toc;
+    toc.added({});
+    EXPECT_CODE(toc, ZelData_WarnItemGuidelines, toc.isValid(true));
+}
+
+TEST(StoredEntry, AWarningWhenItIsValidatedFailsTheCheck)
 {
     TocOfFailing toc;
     toc.added({}).failAt("isValid", ZelData_WarnItemGuidelines, ZelData_WarnItemGuidelines);
@@ -148,9 +136,9 @@ TEST(StoredEntry, TheLastErrorOfAFailingTextIsTakenOver)
     EXPECT_CODE(toc, ZelData_NoData, toc.isValid(false));
 }
 
-// The order is looked at first, so an entry is asked for its start a second time.
+// The check of the order asks for each start before, so these fail at the second call.
 
-TEST(StoredEntry, TheLastErrorOfOneThatDoesNotGiveItsStartIsTakenOver)
+TEST(StoredEntry, TheLastErrorOfOneWhoseStartCannotBeReadIsTakenOver)
 {
     TocOfFailing toc;
     toc.added({0}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 2);

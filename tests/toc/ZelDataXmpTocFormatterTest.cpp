@@ -24,7 +24,7 @@ std::string track(const std::string& image, const std::string& markers)
            "</rdf:Seq></xmpDM:markers></rdf:Description></rdf:li>";
 }
 
-/// A marker without thumbnail.
+/// A marker without a thumbnail.
 std::string marker(const std::string& name, const std::string& start)
 {
     return R"(<rdf:li><rdf:Description xmpDM:name=")" + name + R"(" xmpDM:startTime=")" + start +
@@ -34,7 +34,7 @@ std::string marker(const std::string& name, const std::string& start)
 
 class TocFormatter : public testing::Test {
 protected:
-    /// Hands @p entries and @p image over.
+    /// Sets a table with @p entries and @p image.
     void give(const std::vector<Entry>& entries, const std::string& image = "")
     {
         const auto toc = tocOf(entries);
@@ -76,7 +76,7 @@ TEST_F(TocFormatter, WritesEntriesInTheOrderOfTheirStarts)
     EXPECT_EQ(track("", marker("a", "9") + marker("b", "100") + marker("c", "500")), written());
 }
 
-TEST_F(TocFormatter, StatesTheStandardFrameRateWhateverTheTableHas)
+TEST_F(TocFormatter, WritesTheStandardFrameRateWhateverTheTableHas)
 {
     const auto toc = tocOf({{1, {{"en", "a"}}}});
     EXPECT_EQ(ZelData_Ok, toc->setFrameRate(30));
@@ -84,13 +84,13 @@ TEST_F(TocFormatter, StatesTheStandardFrameRateWhateverTheTableHas)
     EXPECT_EQ(track("", marker("a", "1")), written());
 }
 
-TEST_F(TocFormatter, WritesTheTitleOfTheFirstLanguageAlone)
+TEST_F(TocFormatter, WritesOnlyTheTitleInTheFirstLanguage)
 {
     give({{1, {{"fr", "Un"}, {"de", "Eins"}}}});
     EXPECT_EQ(track("", marker("Eins", "1")), written());
 }
 
-TEST_F(TocFormatter, TheFirstLanguageIsThatOfTheFirstEntryGivenNotOfTheOrderSet)
+TEST_F(TocFormatter, TheFirstLanguageComesFromTheFirstEntryNotFromTheOrderSet)
 {
     const auto toc = tocOf({{8, {{"fr", "Deux"}, {"it", "Due"}}}, {1, {{"de", "Eins"}}}});
     EXPECT_EQ(ZelData_Ok, toc->setOrderedLanguageIDs({"de", "it", "fr"}));
@@ -128,7 +128,7 @@ TEST_F(TocFormatter, DropsControlCharactersFromTitlesButNotFromImages)
               written());
 }
 
-TEST_F(TocFormatter, WritesTheLargestNumbersWhole)
+TEST_F(TocFormatter, WritesTheLargestNumbersInFull)
 {
     const auto largest = std::numeric_limits<unsigned long>::max();
     give({{std::numeric_limits<long long>::max(),
@@ -168,7 +168,7 @@ TEST(TocList, SkipsLanguagesWithoutTitleAndReturnsFalse)
               out);
 }
 
-TEST(TocList, DoesNotTakeExhaustedMemoryForAMissingTitle)
+TEST(TocList, DoesNotMistakeExhaustedMemoryForAMissingTitle)
 {
     FailingTocItem item;
     fill(item, {0, {{"de", "Eins"}}});

@@ -13,7 +13,7 @@ TEST(ByteBlocks, TheFirstByteOfATextIsTheLowest)
     EXPECT_EQ(0x6867666564636261U, loadBlock("abcdefgh"));
 }
 
-TEST(ByteBlocks, TheLastBytesStandAtTheBottomWithZerosAboveThem)
+TEST(ByteBlocks, TheLastBytesAreTheLowestWithZerosAbove)
 {
     const std::string text = "ABCDEFGHIJKLM\xFF";
     for (std::size_t size = 0; size <= text.size(); ++size) {
@@ -37,7 +37,7 @@ TEST(ByteBlocks, HighBitsAndZeroBytesAreFound)
     }
 }
 
-TEST(ByteBlocks, BothWaysOfCountingAgree)
+TEST(ByteBlocks, BothImplementationsCountTheSameBytes)
 {
     std::mt19937_64 random(20);
     for (int round = 0; round < 100000; ++round) {

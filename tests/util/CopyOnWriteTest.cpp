@@ -1,5 +1,5 @@
 /// @file
-/// Values that are shared until one of their owners changes its own.
+/// Values that owners share until one of them changes its own.
 
 #include "util/CopyOnWrite.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 using Text = CopyOnWrite<std::string>;
 
-TEST(CopyOnWrite, BeginsWithAValueAsConstructed)
+TEST(CopyOnWrite, StartsWithADefaultValue)
 {
     const Text text;
     EXPECT_EQ("", text.read());
@@ -29,7 +29,7 @@ TEST(CopyOnWrite, CopiesShareOneValue)
     EXPECT_TRUE(text.isShared());
 }
 
-TEST(CopyOnWrite, AChangeReachesNoOtherOwner)
+TEST(CopyOnWrite, AChangeDoesNotAffectOtherOwners)
 {
     Text text(std::string("a"));
     Text copy(text);
@@ -68,7 +68,7 @@ TEST(CopyOnWrite, AssigningToItselfKeepsTheValue)
     EXPECT_FALSE(text.isShared());
 }
 
-TEST(CopyOnWrite, OwnersInSeveralThreadsEachChangeTheirOwn)
+TEST(CopyOnWrite, OwnersInSeveralThreadsChangeOnlyTheirOwnValues)
 {
     const Text text(std::string("a"));
     std::vector<std::thread> threads;

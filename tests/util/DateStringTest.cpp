@@ -15,8 +15,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-// The sign of these is the one that POSIX wants: the zones east of Greenwich have a minus. On Windows, a
-// name has three letters.
+// POSIX gives zones east of Greenwich a negative sign. On Windows, a name has three letters.
 const char* const utc = "UTC0";
 const char* const twoHoursEast = "EET-2";
 const char* const fiveHoursWest = "EST5";
@@ -37,14 +36,14 @@ TEST(GetDateString, WritesTheUtcDateAndTheLocalHours)
     EXPECT_EQ(dateIn(fiveHoursWest, march5), "2009-03-05T14:07:09-5:00");
 }
 
-TEST(GetDateString, WritesAMinusWhereTheHoursAgree)
+TEST(GetDateString, WritesAMinusIfTheHoursAreEqual)
 {
     EXPECT_EQ(dateIn(utc, march5), "2009-03-05T14:07:09-0:00");
     EXPECT_EQ(dateIn("HLF-0:30", march5), "2009-03-05T14:07:09-0:00");
     EXPECT_EQ(dateIn(utc, 0), "1970-01-01T00:00:00-0:00");
 }
 
-TEST(GetDateString, TakesNoMinutesIntoTheOffset)
+TEST(GetDateString, LeavesMinutesOutOfTheOffset)
 {
     EXPECT_EQ(dateIn(fiveAndAHalfHoursEast, march5), "2009-03-05T14:07:09+5:00");
     EXPECT_EQ(dateIn(fiveAndAHalfHoursEast, 1236264300), "2009-03-05T14:45:00+6:00");
@@ -64,7 +63,7 @@ TEST(GetDateString, FollowsSummerTime)
     EXPECT_EQ(dateIn(centralEurope, 1246406400), "2009-07-01T00:00:00+2:00");
 }
 
-TEST(GetDateString, FillsTheFieldsWithZeros)
+TEST(GetDateString, PadsTheFieldsWithZeros)
 {
     EXPECT_EQ(dateIn(utc, 951782400), "2000-02-29T00:00:00-0:00");
 }
@@ -95,17 +94,17 @@ TEST(GetDateString, WritesTheFirstAndTheLastDateOfTheCalendar)
     EXPECT_EQ(dateIn(utc, -67768040609740800), "-2147481748-01-01T00:00:00-0:00");
 }
 
-TEST(GetDateString, IsEmptyWhereUtcHasNoDate)
+TEST(GetDateString, IsEmptyIfUtcHasNoDate)
 {
     EXPECT_EQ(dateIn(utc, 67768036191676800), "");
     EXPECT_EQ(dateIn(utc, -67768040609740801), "");
     EXPECT_EQ(dateIn(utc, LONG_MAX), "");
     EXPECT_EQ(dateIn(utc, LONG_MIN), "");
-    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "the local date alone exists";
-    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "the local date alone exists";
+    EXPECT_EQ(dateIn(fiveHoursWest, 67768036191676800), "") << "only the local date exists";
+    EXPECT_EQ(dateIn(twoHoursEast, -67768040609740801), "") << "only the local date exists";
 }
 
-TEST(GetDateString, IsEmptyWhereTheZoneHasNoDate)
+TEST(GetDateString, IsEmptyIfTheZoneHasNoDate)
 {
     EXPECT_EQ(dateIn(twoHoursEast, 67768036191676799), "");
     EXPECT_EQ(dateIn(fiveHoursWest, -67768040609740800), "");
@@ -113,7 +112,7 @@ TEST(GetDateString, IsEmptyWhereTheZoneHasNoDate)
 
 #endif
 
-TEST(GetDateString, TakesTheCurrentTimeForNull)
+TEST(GetDateString, UsesTheCurrentTimeForNull)
 {
     const TimeZone timeZone(twoHoursEast);
     const auto before = static_cast<long>(std::time(nullptr));
@@ -125,7 +124,7 @@ TEST(GetDateString, TakesTheCurrentTimeForNull)
         found = now == ZelDataUtilities::getDateString(&argument);
     }
     EXPECT_TRUE(found) << now;
-    EXPECT_GT(before, march5) << "set the clock: this test needs it";
+    EXPECT_GT(before, march5) << "this test needs a set clock";
 }
 
 TEST(GetDateString, LeavesTheArgumentAlone)
@@ -135,7 +134,7 @@ TEST(GetDateString, LeavesTheArgumentAlone)
     EXPECT_EQ(seconds, march5);
 }
 
-TEST(GetDateString, LetsExhaustedMemoryThrough)
+TEST(GetDateString, PropagatesExhaustedMemory)
 {
     long seconds = march5;
     bool thrown = false;

@@ -22,7 +22,7 @@ std::vector<int> numbersIn(const Vector& vector)
     return numbers;
 }
 
-TEST(FrontVector, RandomChangesGiveWhatAVectorGives)
+TEST(FrontVector, MatchesAVectorUnderRandomChanges)
 {
     std::mt19937 random(3);
     Vector vector;
@@ -63,7 +63,7 @@ TEST(FrontVector, AnErasedElementIsDestroyedAtOnce)
     }
 }
 
-TEST(FrontVector, ErasingAllFromTheFrontMovesEachElementAFewTimesAtMost)
+TEST(FrontVector, ErasingAllFromTheFrontMovesEachElementOnlyAFewTimes)
 {
     struct Counted {
         explicit Counted(long* counter) : moves(counter) {}

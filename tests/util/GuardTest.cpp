@@ -17,7 +17,7 @@ auto thrower(Exception exception)
     return [=]() -> ZelDataResult_tags { throw exception; };
 }
 
-TEST(Guard, TheCodeOfAnOperationPasses)
+TEST(Guard, ReturnsTheCodeOfTheOperation)
 {
     EXPECT_EQ(ZelData_WarnTiming, guarded([] { return ZelData_WarnTiming; }));
     EXPECT_EQ(ZelData_NoData, guardedButForMemory([] { return ZelData_NoData; }));
@@ -28,7 +28,7 @@ TEST(Guard, ExhaustedMemoryBecomesItsCode)
     EXPECT_EQ(ZelData_OutOfMemory, guarded(thrower(std::bad_alloc())));
 }
 
-TEST(Guard, AKindOfExhaustedMemoryBecomesItsCodeToo)
+TEST(Guard, AnExceptionDerivedFromBadAllocBecomesThatCodeToo)
 {
     EXPECT_EQ(ZelData_OutOfMemory, guarded(thrower(std::bad_array_new_length())));
 }
@@ -39,7 +39,7 @@ TEST(Guard, AnyOtherExceptionIsAnInternalError)
     EXPECT_EQ(ZelData_InternalError, guarded(thrower(42)));
 }
 
-TEST(Guard, TheOtherGuardLetsExhaustedMemoryThrough)
+TEST(Guard, TheOtherGuardPropagatesExhaustedMemory)
 {
     EXPECT_THROW(static_cast<void>(guardedButForMemory(thrower(std::bad_alloc()))), std::bad_alloc);
 }

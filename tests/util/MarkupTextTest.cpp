@@ -1,5 +1,5 @@
 /// @file
-/// Text on its way into markup, against the two utilities that define it.
+/// Compares text written into markup with the two utilities that define it.
 
 #include "support/TextRules.h"
 #include "util/TextUtilities.h"
@@ -21,7 +21,7 @@ void expectBoth(const std::string& text)
     ASSERT_EQ("before" + markupOf(text, true), stripped);
 }
 
-TEST(MarkupText, EveryByteAtEveryPlaceOfABlockBecomesWhatItShould)
+TEST(MarkupText, MatchesTheUtilitiesForEveryByteAtEveryPositionOfABlock)
 {
     for (int byte = 0; byte < 256; ++byte) {
         for (std::size_t place = 0; place < 20; ++place) {
@@ -32,7 +32,7 @@ TEST(MarkupText, EveryByteAtEveryPlaceOfABlockBecomesWhatItShould)
     }
 }
 
-TEST(MarkupText, EveryPairOfBytesBecomesWhatItShould)
+TEST(MarkupText, MatchesTheUtilitiesForEveryPairOfBytes)
 {
     for (int pair = 0; pair < 65536; ++pair) {
         std::string text("aaaaaaa");
@@ -42,7 +42,7 @@ TEST(MarkupText, EveryPairOfBytesBecomesWhatItShould)
     }
 }
 
-TEST(MarkupText, RandomTextsBecomeWhatTheyShould)
+TEST(MarkupText, MatchesTheUtilitiesForRandomTexts)
 {
     std::mt19937 random(22);
     const std::string likely = "\"&'<>\n\t\r\x01\x1F\x7F abc";

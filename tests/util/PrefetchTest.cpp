@@ -5,8 +5,8 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// The sanitizers see what is done with the addresses.
-TEST(Prefetch, TakesAddressesThatNobodyMayRead)
+/// The sanitizers notice an access to the addresses.
+TEST(Prefetch, AcceptsUnreadableAddresses)
 {
     const int value = 7;
     prefetch(nullptr, 0);

@@ -32,7 +32,7 @@ TEST(SharedBytes, NoBytesHaveNoAddress)
     EXPECT_EQ(nullptr, copy.data());
 }
 
-TEST(SharedBytes, CopiesShareThemUntilTheLastOneGoes)
+TEST(SharedBytes, CopiesShareThemUntilTheLastIsDestroyed)
 {
     SharedBytes last;
     {
@@ -54,7 +54,7 @@ TEST(SharedBytes, MovingLeavesNone)
 {
     SharedBytes from = bytesOf("abc");
     const SharedBytes to(std::move(from));
-    EXPECT_EQ(nullptr, from.data()); // NOLINT(bugprone-use-after-move): this is what is asked
+    EXPECT_EQ(nullptr, from.data()); // NOLINT(bugprone-use-after-move): this is what is tested
     EXPECT_EQ("abc", textOf(to, 3));
 }
 
@@ -75,7 +75,7 @@ TEST(SharedBytes, PrefetchingChangesNothingAndTakesAnySize)
     EXPECT_EQ("abc", textOf(bytes, 3));
 }
 
-TEST(SharedBytes, OwnersMayLetGoInSeveralThreads)
+TEST(SharedBytes, CanBeReleasedInSeveralThreads)
 {
     for (int round = 0; round < 200; ++round) {
         std::vector<std::thread> threads;

@@ -31,7 +31,7 @@ TEST(SharedText, KeepsEveryByte)
     EXPECT_EQ(text, SharedText(text).view());
 }
 
-TEST(SharedText, IsEmptyWhenItHasBeenMovedAway)
+TEST(SharedText, IsEmptyAfterAMove)
 {
     SharedText text("one");
     const SharedText moved(std::move(text));

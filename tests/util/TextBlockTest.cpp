@@ -11,13 +11,13 @@
 namespace ZelInterchangeData {
 namespace {
 
-TEST(TextBlock, GivesThePiecesToTheEndOfTheStringWhenItIsFlushed)
+TEST(TextBlock, AppendsThePiecesToTheStringWhenFlushed)
 {
     std::string text = "before";
     TextBlock block(text);
     block.append("ab");
     block.append("");
-    block.append(std::string_view()); // points nowhere
+    block.append(std::string_view()); // a null view
     block.append("c");
     EXPECT_EQ(3U, block.position());
     block.flush();
@@ -37,7 +37,7 @@ TEST(TextBlock, WritesNumbersInDecimal)
     EXPECT_EQ("-9223372036854775808 18446744073709551615", text);
 }
 
-TEST(TextBlock, TakesPiecesOfEverySizeInTheirOrder)
+TEST(TextBlock, KeepsPiecesOfEverySizeInOrder)
 {
     std::mt19937 random(23);
     for (int round = 0; round < 200; ++round) {

@@ -25,7 +25,7 @@ TextList listOf(std::size_t count)
     return list;
 }
 
-TEST(TextList, RandomChangesGiveWhatAVectorGives)
+TEST(TextList, MatchesAVectorUnderRandomChanges)
 {
     std::mt19937 random(7);
     TextList list;
@@ -53,7 +53,7 @@ TEST(TextList, RandomChangesGiveWhatAVectorGives)
             if (random() % 3 == 0) {
                 EXPECT_EQ(found != expected.end(), list.remove(text));
                 if (found != expected.end()) expected.erase(found);
-            } else { // also a text that is there already
+            } else { // possibly a duplicate
                 list.append(text);
                 expected.push_back(text);
             }

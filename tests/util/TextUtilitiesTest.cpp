@@ -59,7 +59,7 @@ TEST(CountLinesInUTF8, CountsNoLineAfterTheLastLineFeed)
     EXPECT_EQ(lines("\n\n\n"), 3U);
 }
 
-TEST(CountLinesInUTF8, GivesZeroForATextWithoutLineFeed)
+TEST(CountLinesInUTF8, ReturnsZeroForATextWithoutALineFeed)
 {
     EXPECT_EQ(lines("one line"), 0U);
     EXPECT_EQ(lines("abc"), 0U);
@@ -74,7 +74,7 @@ TEST(CountLinesInUTF8, IgnoresCarriageReturns)
     EXPECT_EQ(lines("a\n\r"), 2U);
 }
 
-TEST(CountLinesInUTF8, GivesZeroForWhatIsNotUtf8)
+TEST(CountLinesInUTF8, ReturnsZeroForInvalidUtf8)
 {
     EXPECT_EQ(lines("a\nb\xC3"), 0U);
     EXPECT_EQ(lines("a\n\x80\n"), 0U);
@@ -120,7 +120,7 @@ TEST(StripUnsupportedCharacters, ReservesTheLengthOfTheInput)
     EXPECT_GE(result.capacity(), 5001U);
 }
 
-TEST(StripUnsupportedCharacters, LetsExhaustedMemoryThrough)
+TEST(StripUnsupportedCharacters, PropagatesExhaustedMemory)
 {
     const std::string text(1000, 'x');
     EXPECT_TRUE(runsOutOfMemory(0, [&] { strip(text); }));
@@ -148,12 +148,12 @@ TEST(HtmlTagsToText, CopiesEveryOtherByte)
     }
 }
 
-TEST(HtmlTagsToText, EscapesWhatIsEscapedAlready)
+TEST(HtmlTagsToText, EscapesEscapedTextAgain)
 {
     EXPECT_EQ(escape("&lt;"), "&amp;lt;");
 }
 
-TEST(HtmlTagsToText, EscapesLongTextsOfNothingButMarkup)
+TEST(HtmlTagsToText, EscapesLongTextsOfMarkupOnly)
 {
     for (const std::size_t length : {4095U, 4096U, 5000U, 70000U}) {
         std::string expected;
@@ -165,12 +165,12 @@ TEST(HtmlTagsToText, EscapesLongTextsOfNothingButMarkup)
     }
 }
 
-TEST(HtmlTagsToText, GivesAnEmptyTextForAnEmptyOne)
+TEST(HtmlTagsToText, LeavesAnEmptyTextEmpty)
 {
     EXPECT_EQ(escape(""), "");
 }
 
-TEST(HtmlTagsToText, LetsExhaustedMemoryThrough)
+TEST(HtmlTagsToText, PropagatesExhaustedMemory)
 {
     const std::string text(1000, '&');
     // the reservation succeeds, the growth fails
@@ -195,7 +195,7 @@ TEST(HtmlTagsFromText, DoesNotDecodeAnEntityAtTheVeryEnd)
     EXPECT_EQ(unescape("&lt;&lt;"), "<&t;");
 }
 
-TEST(HtmlTagsFromText, DropsTheSecondByteOfWhatIsNoEntity)
+TEST(HtmlTagsFromText, DropsTheSecondByteOfAnUnknownEntity)
 {
     EXPECT_EQ(unescape("&nbsp;"), "&bsp;");
     EXPECT_EQ(unescape("&lx"), "&x");
@@ -224,7 +224,7 @@ TEST(HtmlTagsFromText, CopiesAnAmpersandAtTheEndWithTheAThatFollows)
     EXPECT_EQ(unescape("b&a"), "b&a");
 }
 
-TEST(HtmlTagsFromText, DoesNotLookAtTheDroppedByteAgain)
+TEST(HtmlTagsFromText, DoesNotScanTheDroppedByteAgain)
 {
     EXPECT_EQ(unescape("&&lt;x"), "&lt;x");
     EXPECT_EQ(unescape("&&&"), "&&");
@@ -245,13 +245,13 @@ TEST(HtmlTagsFromText, CopiesEveryOtherByte)
     EXPECT_EQ(unescape(""), "");
 }
 
-TEST(HtmlTagsFromText, RestoresWhatWasEscapedWhenTextFollows)
+TEST(HtmlTagsFromText, RestoresEscapedTextThatOtherTextFollows)
 {
     const std::string text = allBytes() + "<\"&'>" + allBytes() + ".";
     EXPECT_EQ(unescape(escape(text)), text);
 }
 
-/// One step of decoding at a "&", told byte by byte: where the scan goes on is left in @p at.
+/// Decodes one "&", byte by byte, and sets @p at to where the scan continues.
 std::string decodedAt(const std::string& text, std::size_t& at)
 {
     const auto byte = [&text](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
@@ -289,7 +289,7 @@ std::string expectedDecoding(const std::string& text)
     return result;
 }
 
-/// Compares all texts that continue @p text by up to @p pieces of the pieces of entities.
+/// Compares the decoding of all texts that extend @p text by up to @p pieces pieces of entities.
 void expectDecoding(const std::string& text, int pieces)
 {
     static const std::vector<std::string> all = {
@@ -301,12 +301,12 @@ void expectDecoding(const std::string& text, int pieces)
         expectDecoding(text + piece, pieces - 1);
 }
 
-TEST(HtmlTagsFromText, DecodesEveryMixOfPiecesAsTheByteByByteStatementDoes)
+TEST(HtmlTagsFromText, MatchesTheByteByByteModelForEveryMixOfPieces)
 {
     expectDecoding("", 4);
 }
 
-TEST(HtmlTagsFromText, LetsExhaustedMemoryThrough)
+TEST(HtmlTagsFromText, PropagatesExhaustedMemory)
 {
     const std::string text(1000, 'x');
     EXPECT_TRUE(runsOutOfMemory(0, [&] { unescape(text); }));

@@ -1,5 +1,5 @@
 /// @file
-/// The check of UTF-8 sequences against a statement of the encoding in bits.
+/// Compares the check of UTF-8 sequences with a model of the encoding in bits.
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "support/FailingAllocation.h"
@@ -41,7 +41,7 @@ bool agrees(const std::string& text, bool bmpOnly)
     return ZelDataUtilities::verifyUtf8Format(text, bmpOnly) == utf8Code(text, bmpOnly);
 }
 
-/// Goes over all texts that replace the last @p free bytes of @p text.
+/// Compares the results for all texts with other values in the last @p free bytes of @p text.
 void expectAgreement(std::string& text, std::size_t free, bool bmpOnly)
 {
     if (free == 0) {
@@ -74,7 +74,7 @@ TEST_P(VerifyUtf8FormatOfAll, TextsOfThreeBytes)
     expectAgreement(text, 3, GetParam());
 }
 
-TEST_P(VerifyUtf8FormatOfAll, LongerTextsOfTellingBytes)
+TEST_P(VerifyUtf8FormatOfAll, LongerTextsOfBoundaryBytes)
 {
     // The borders of all ranges of lead and continuation bytes, continuation bytes more often.
     const std::string bytes =
@@ -90,7 +90,7 @@ TEST_P(VerifyUtf8FormatOfAll, LongerTextsOfTellingBytes)
     }
 }
 
-TEST_P(VerifyUtf8FormatOfAll, LongTextsOfWholeSequencesWithAByteChanged)
+TEST_P(VerifyUtf8FormatOfAll, LongTextsOfWholeSequencesWithOneChangedByte)
 {
     const std::vector<std::string> sequences = {
         "a",
@@ -176,7 +176,7 @@ TEST(VerifyUtf8Format, RefusesHighLeadsWithinTheBmpWhateverFollows)
     }
 }
 
-TEST(VerifyUtf8Format, GivesTheCodeOfTheFirstOffenceFromTheLeft)
+TEST(VerifyUtf8Format, ReturnsTheCodeOfTheFirstOffence)
 {
     EXPECT_EQ(checkBmp("\xF0\x9F\x98\x80\x80"), ZelData_UnsupportedCharacter);
     EXPECT_EQ(checkBmp("\x80\xF0\x9F\x98\x80"), ZelData_InvalidUtf8);
@@ -208,7 +208,7 @@ TEST(VerifyUtf8Format, AcceptsTheOldFormsOfFiveAndSixBytes)
     EXPECT_EQ(check("\xFD\xBF\xBF\xBF\xBF\xBF"), ZelData_Ok);
 }
 
-TEST(VerifyUtf8Format, AcceptsLongFormsOfTheirExactLengthOnly)
+TEST(VerifyUtf8Format, AcceptsLongFormsOnlyAtTheirExactLength)
 {
     forEachLongLead([](std::size_t length, const std::string& lead) {
         for (std::size_t following = 0; following <= 7; ++following) {
@@ -220,7 +220,7 @@ TEST(VerifyUtf8Format, AcceptsLongFormsOfTheirExactLengthOnly)
     });
 }
 
-TEST(VerifyUtf8Format, LooksAtEveryContinuationByteOfTheLongForms)
+TEST(VerifyUtf8Format, ChecksEveryContinuationByteOfTheLongForms)
 {
     forEachLongLead([](std::size_t length, const std::string& lead) {
         for (std::size_t position = 1; position < length; ++position) {
@@ -229,6 +229,21 @@ TEST(VerifyUtf8Format, LooksAtEveryContinuationByteOfTheLongForms)
                 text[position] = static_cast<char>(byte);
                 const bool continues = byte >= 0x80 && byte <= 0xBF;
                 EXPECT_EQ(check(text), continues ? ZelData_Ok : ZelData_InvalidUtf8) << hexOf(text);
+            }
+        }
+    });
+}
+
+TEST(VerifyUtf8Format, RefusesASequenceWithOtherCharactersInside)
+{
+    forEachLongLead([](std::size_t length, const std::string& lead) {
+        for (std::size_t before = 0; before < 16; ++before) {
+            for (std::size_t inside = 1; inside <= 24; ++inside) {
+                const std::string begun = std::string(before, 'a') + lead;
+                const std::string rest(length - 1, '\x9F');
+                EXPECT_EQ(check(begun + rest + "b"), ZelData_Ok);
+                EXPECT_EQ(check(begun + std::string(inside, 'i') + rest + "b"), ZelData_InvalidUtf8)
+                    << before << ' ' << inside;
             }
         }
     });

@@ -21,7 +21,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// What a default stream of the classic locale writes.
+/// Writes numbers as a default stream of the classic locale does.
 class ClassicStream {
 public:
     ClassicStream() { stream_.imbue(std::locale::classic()); }
@@ -72,7 +72,7 @@ TEST(GetValueStringOfFloat, WritesSixSignificantDigits)
     EXPECT_EQ(ofFloat(0.00001F), "1e-05");
 }
 
-TEST(GetValueStringOfFloat, WritesWhatIsNoOrdinaryNumber)
+TEST(GetValueStringOfFloat, WritesInfinityNanAndMinusZero)
 {
     EXPECT_EQ(ofFloat(std::numeric_limits<float>::infinity()), "inf");
     EXPECT_EQ(ofFloat(-std::numeric_limits<float>::infinity()), "-inf");
@@ -164,7 +164,7 @@ TEST(GetValueStringOfLong, WritesAMinusBeforeNegativeValues)
     EXPECT_EQ(getValueString(-2147483648L), "-2147483648");
 }
 
-TEST(GetValueStringOfLong, CutsNoValue)
+TEST(GetValueStringOfLong, TruncatesNoValue)
 {
     EXPECT_EQ(getValueString(LONG_MAX), hasLongNumbers ? "9223372036854775807" : "2147483647");
     EXPECT_EQ(getValueString(LONG_MIN), hasLongNumbers ? "-9223372036854775808" : "-2147483648");
@@ -183,7 +183,7 @@ TEST(GetValueStringOfUnsignedLong, WritesPlainDecimal)
     EXPECT_EQ(ZelDataUtilities::getValueString(4294967295UL), "4294967295");
 }
 
-TEST(GetValueStringOfUnsignedLong, CutsNoValue)
+TEST(GetValueStringOfUnsignedLong, TruncatesNoValue)
 {
     EXPECT_EQ(ZelDataUtilities::getValueString(above32Bits(0)),
               hasLongNumbers ? "4294967296" : "4294967295");
@@ -207,13 +207,13 @@ TEST(GetVersionString, JoinsMajorMinorAndPatch)
     EXPECT_EQ(ZelDataUtilities::getVersionString(0), "0.0.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x00020103), "2.1.3");
     EXPECT_EQ(ZelDataUtilities::getVersionString(66048), "1.2.0");
-    EXPECT_EQ(ZelDataUtilities::getVersionString(10200), "0.39.216"); // packed in another way
+    EXPECT_EQ(ZelDataUtilities::getVersionString(10200), "0.39.216"); // packed differently
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x010A00FF), "266.0.255");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0x0000FF00), "0.255.0");
     EXPECT_EQ(ZelDataUtilities::getVersionString(0xFFFFFFFF), "65535.255.255");
 }
 
-TEST(GetVersionString, TakesAllHigherBitsAsMajor)
+TEST(GetVersionString, UsesAllHigherBitsAsMajor)
 {
     EXPECT_EQ(ZelDataUtilities::getVersionString(above32Bits(0)),
               hasLongNumbers ? "65536.0.0" : "65535.255.255");
@@ -223,7 +223,7 @@ TEST(GetVersionString, TakesAllHigherBitsAsMajor)
 
 // Locales
 
-/// Groups digits by twos with blanks and writes a comma before the decimals.
+/// Separates pairs of digits with blanks and uses a decimal comma.
 class OddPunctuation : public std::numpunct<char> {
 protected:
     char do_decimal_point() const override { return ','; }
@@ -251,7 +251,7 @@ TEST(ValueStrings, DependOnNoLocale)
     const OddLocale odd;
     std::ostringstream stream;
     stream << 12345.5;
-    ASSERT_EQ(stream.str(), "1 23 45,5") << "the locale must show in a stream";
+    ASSERT_EQ(stream.str(), "1 23 45,5") << "the locale must affect streams";
     EXPECT_EQ(ofFloat(12345.5F), "12345.5");
     EXPECT_EQ(getValueString(-1234567L), "-1234567");
     EXPECT_EQ(ZelDataUtilities::getValueString(1234567UL), "1234567");

@@ -18,13 +18,11 @@ namespace {
 /// Too long for any string to hold it without an allocation.
 const char* const longName = "a-name-that-is-too-long-to-be-kept-inside-a-string-object";
 
-/// Lets @p verb run out of memory at each of its allocations in turn, each time on a new tree that
-/// holds one "first", and hands the tree and its text before that to @p check afterwards. The number
-/// of failures.
+/// Makes each allocation of @p verb fail in turn, each time on a new tree with a child "first", then
+/// passes the tree and its earlier text to @p check. Returns the number of failures.
 ///
-/// A tree takes its memory from pieces and asks for another one when a piece is used up. The name of
-/// an attribute uses up more and more of the first piece, so that its end comes at each place where
-/// the verb needs memory.
+/// A tree allocates its memory in pieces. The name of an attribute fills more and more of the first
+/// piece, so that the piece runs out at each place where the verb needs memory.
 template <class Verb, class Check>
 std::size_t failAtEachAllocation(const Verb& verb, const Check& check)
 {
@@ -40,13 +38,13 @@ std::size_t failAtEachAllocation(const Verb& verb, const Check& check)
             ++failures;
             check(*tree, text);
             tree.reset();
-            EXPECT_EQ(liveAllocations() - 1, before) << "the text alone is left";
+            EXPECT_EQ(liveAllocations() - 1, before) << "only the text is left";
         }
     }
     return failures;
 }
 
-TEST(ExhaustedMemory, AChildIsThereForBothLookupAndWritingOrForNeither)
+TEST(ExhaustedMemory, ANewChildIsBothFoundAndWrittenOrNeither)
 {
     const std::string made = std::string("<") + longName + "></" + longName + ">";
     const auto failures =
@@ -83,7 +81,7 @@ TEST(ExhaustedMemory, ANewGroupTakesNoMemory)
     EXPECT_EQ(tree.getXml(false), "<first></first><first></first>");
 }
 
-TEST(ExhaustedMemory, AnAttributeThatCouldNotBeMadeIsNotThere)
+TEST(ExhaustedMemory, AnAttributeThatCannotBeMadeIsNotAdded)
 {
     const auto failures =
         failAtEachAllocation([](ZelDataXmlStream& tree) { tree < attributeVerb; },
@@ -106,7 +104,7 @@ TEST(ExhaustedMemory, ANamedAttributeIsWritableAtEachStage)
     EXPECT_GE(failures, 4U);
 }
 
-TEST(ExhaustedMemory, ATextThatCouldNotBeKeptLeavesTheOldOne)
+TEST(ExhaustedMemory, ATextThatCannotBeStoredLeavesTheOldOne)
 {
     ZelDataXmlNode node(nullptr);
     ZelDataXmlNode child(&node);
@@ -115,7 +113,7 @@ TEST(ExhaustedMemory, ATextThatCouldNotBeKeptLeavesTheOldOne)
     EXPECT_EQ(written(child), "<>old</>");
 }
 
-TEST(ExhaustedMemory, ARootWhoseTextLeadsNowhereStaysWhole)
+TEST(ExhaustedMemory, SettingTheTextOfARootLeavesTheTreeAsItWas)
 {
     const auto failures =
         failAtEachAllocation([](ZelDataXmlStream& tree) { (tree = 5L) < "lost"; },
@@ -155,7 +153,7 @@ TEST(ExhaustedMemory, ReplacingLeavesTheSubjectAsItWas)
     EXPECT_EQ(subject, "a-b-c");
 }
 
-TEST(ExhaustedMemory, ATrackThatCouldNotBeMadeLeaksNothing)
+TEST(ExhaustedMemory, ATrackThatCannotBeMadeLeaksNothing)
 {
     const long long before = liveAllocations();
     std::size_t granted = 0;

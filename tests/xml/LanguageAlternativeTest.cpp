@@ -17,7 +17,7 @@ TEST(LanguageAlternative, AnItemNamesItsLanguageAndHoldsItsText)
     EXPECT_EQ(markup, "<rdf:li xml:lang=\"en\">Intro</rdf:li>");
 }
 
-TEST(LanguageAlternative, ItemsAreAppendedWithNothingBetween)
+TEST(LanguageAlternative, ItemsAreAppendedWithoutASeparator)
 {
     std::string markup = "before";
     appendLanguageItem(markup, "en", "English");

@@ -10,7 +10,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-TEST(MarkerWriter, WritesAttributesInTheirOrderWithABlankAfterEach)
+TEST(MarkerWriter, WritesAttributesInOrderWithABlankAfterEach)
 {
     std::string text = "before";
     MarkerWriter markers(text);
@@ -33,7 +33,7 @@ TEST(MarkerWriter, WritesTheExtremesOfNumbers)
                     "b=\"18446744073709551615\" ></rdf:Description></rdf:li>");
 }
 
-TEST(MarkerWriter, EscapesAndStripsOnlyWhereItIsAskedTo)
+TEST(MarkerWriter, EscapesAndStripsOnlyOnRequest)
 {
     std::string text;
     MarkerWriter markers(text);
@@ -47,7 +47,7 @@ TEST(MarkerWriter, EscapesAndStripsOnlyWhereItIsAskedTo)
                     "</rdf:Description></rdf:li>");
 }
 
-TEST(MarkerWriter, TheContentStandsBetweenTheTags)
+TEST(MarkerWriter, WritesTheContentBetweenTheTags)
 {
     std::string text;
     MarkerWriter markers(text);

@@ -1,5 +1,5 @@
 /// @file
-/// The rules of the element tree, stated plainly and recursively.
+/// A plain, recursive model of the element tree.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_XML_PLAINTREE_H
 #define ZELINTERCHANGEDATA_TESTS_XML_PLAINTREE_H
@@ -12,7 +12,7 @@
 
 namespace ZelInterchangeData {
 
-/// What a node is, stated plainly.
+/// A node of the model.
 struct PlainNode {
     PlainNode* parent = nullptr;
     std::string name;

@@ -1,5 +1,5 @@
 /// @file
-/// Random trees against a plain, recursive statement of the rules of the tree.
+/// Compares random trees with a plain, recursive model.
 
 #include "xml/ZelDataXmlNode.h"
 
@@ -20,7 +20,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-/// Does the same to a tree and to its plain statement, and compares what the verbs return.
+/// Applies the same verbs to a tree and to its model, and compares what they return.
 class TwinTrees {
 public:
     explicit TwinTrees(unsigned seed) : random_(seed) { known_.emplace_back(&tree_, &plain_); }
@@ -94,7 +94,7 @@ private:
         expectPair(returned, plainPath(plain, path));
     }
 
-    /// Neither of the two may ever have been the counterpart of another one.
+    /// Expects that neither of the two was ever the counterpart of another node.
     void expectPair(ZelDataXmlNode& node, PlainNode& plain)
     {
         const auto toPlain = plainOf_.emplace(&node, &plain);
@@ -112,7 +112,7 @@ private:
     std::map<PlainNode*, ZelDataXmlNode*> nodeOf_{{&plain_, &tree_}};
 };
 
-TEST(RandomTree, IsWhatTheRecursiveRulesMakeOfTheSameVerbs)
+TEST(RandomTree, MatchesTheRecursiveModel)
 {
     for (unsigned seed = 1; seed <= 400 && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));

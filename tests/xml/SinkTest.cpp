@@ -1,5 +1,5 @@
 /// @file
-/// The node that replaces one that is missing.
+/// The node that replaces a missing one.
 
 #include "xml/Sink.h"
 
@@ -15,7 +15,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-TEST(Sink, StaysOnItselfWhateverThePath)
+TEST(Sink, EveryPathReturnsTheSink)
 {
     Sink sink;
     ZelDataXmlNode& node = sink;
@@ -35,7 +35,7 @@ TEST(Sink, IsItsOwnParent)
     EXPECT_EQ(&sink.text("t"), &sink);
 }
 
-TEST(Sink, StaysOnItselfWithEachOfTheOtherVerbs)
+TEST(Sink, EveryOtherVerbReturnsTheSink)
 {
     Sink sink;
     ZelDataXmlNode& node = sink;
@@ -45,7 +45,7 @@ TEST(Sink, StaysOnItselfWithEachOfTheOtherVerbs)
     EXPECT_EQ(&(node < textVerb < "t"), &node);
 }
 
-TEST(Sink, StandsInForANullNodeAndIsMadeOnce)
+TEST(Sink, ReplacesANullNodeAndIsMadeOnce)
 {
     std::unique_ptr<ZelDataXmlNode> sink;
     ZelDataXmlNode& made = orSink(nullptr, sink);
@@ -53,7 +53,7 @@ TEST(Sink, StandsInForANullNodeAndIsMadeOnce)
     EXPECT_EQ(&orSink(nullptr, sink), &made);
 }
 
-TEST(Sink, IsNotMadeWhereThereIsANode)
+TEST(Sink, IsNotMadeForAnExistingNode)
 {
     ZelDataXmlNode node(nullptr);
     std::unique_ptr<ZelDataXmlNode> sink;

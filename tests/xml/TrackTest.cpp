@@ -23,7 +23,7 @@ std::string textOf(const Track& track)
     return textOf(track, [](MarkerWriter&) {});
 }
 
-TEST(Track, IsAppendedToWhatStandsThere)
+TEST(Track, IsAppendedToTheText)
 {
     const Track track;
     std::string packet = "before";
@@ -47,7 +47,7 @@ TEST(Track, AttributesOfTheDescriptionDescribeTheTrack)
                              "</rdf:Description></rdf:li>");
 }
 
-TEST(Track, EachMarkerIsAnItemOfItsOwnInTheOrderOfTheirMaking)
+TEST(Track, EachMarkerIsAnItemInOrderOfCreation)
 {
     const Track track;
     const std::string text = textOf(track, [](MarkerWriter& markers) {
@@ -87,7 +87,7 @@ TEST(Track, PropertiesFollowTheMarkers)
                     "<zel:bgColor></zel:bgColor></rdf:Description></rdf:li>");
 }
 
-TEST(Track, APropertyOfTheSameNameStandsInsideTheFirst)
+TEST(Track, APropertyOfTheSameNameIsNestedInTheFirst)
 {
     Track track;
     track.addProperty("zel:x");
@@ -97,7 +97,7 @@ TEST(Track, APropertyOfTheSameNameStandsInsideTheFirst)
                              "</rdf:Description></rdf:li>");
 }
 
-TEST(Track, TheTextMayBeAskedForAgain)
+TEST(Track, TheTextCanBeWrittenAgain)
 {
     Track track;
     EXPECT_EQ(textOf(track), textOf(track));

@@ -1,5 +1,5 @@
 /// @file
-/// The verbs that an argument's type selects, by name, and the text of a tree.
+/// Names for the verbs that an argument's type selects, and the text of a tree.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_XML_TREEVERBS_H
 #define ZELINTERCHANGEDATA_TESTS_XML_TREEVERBS_H

@@ -63,7 +63,7 @@ TEST(ZelDataXmlAttribute, ReturnsItsOnlyValueWhenItIsNamed)
     EXPECT_EQ(text(attribute), "new=\"v\" ");
 }
 
-TEST(ZelDataXmlAttribute, TakesANullNameAsEmpty)
+TEST(ZelDataXmlAttribute, TreatsANullNameAsEmpty)
 {
     ZelDataXmlAttribute attribute(nullptr);
     const char* none = nullptr;
@@ -72,14 +72,14 @@ TEST(ZelDataXmlAttribute, TakesANullNameAsEmpty)
     EXPECT_EQ(text(attribute), "=\"v\" ");
 }
 
-TEST(ZelDataXmlAttribute, ItsNamedValueLeadsBackToTheOwner)
+TEST(ZelDataXmlAttribute, SettingItsNamedValueReturnsTheOwner)
 {
     ZelDataXmlNode owner(nullptr);
     ZelDataXmlAttribute attribute(&owner);
     EXPECT_EQ(&(attribute < "k" < "v"), &owner);
 }
 
-TEST(ZelDataXmlAttribute, WithoutOwnerItsValueLeadsOutsideEveryTree)
+TEST(ZelDataXmlAttribute, WithoutAnOwnerSettingItsValueReturnsANodeOutsideEveryTree)
 {
     ZelDataXmlAttribute attribute(nullptr);
     ZelDataXmlNode& returned = attribute < "k" < "v";

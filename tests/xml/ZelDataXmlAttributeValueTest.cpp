@@ -20,7 +20,7 @@ namespace {
 static_assert(!std::is_polymorphic_v<ZelDataXmlAttributeValue>);
 static_assert(!std::is_copy_constructible_v<ZelDataXmlAttributeValue>);
 
-/// The value after it was set to @p given.
+/// The value after setting it to @p given.
 template <class Given>
 std::string valueOf(const Given& given)
 {
@@ -41,7 +41,7 @@ TEST(ZelDataXmlAttributeValue, KeepsTextsAsTheyAre)
     EXPECT_EQ(valueOf(std::string("a\0b", 3)), std::string("a\0b", 3));
 }
 
-TEST(ZelDataXmlAttributeValue, TakesANullTextAsEmpty)
+TEST(ZelDataXmlAttributeValue, TreatsANullTextAsEmpty)
 {
     const char* none = nullptr;
     ZelDataXmlAttributeValue value;
@@ -82,7 +82,7 @@ TEST(ZelDataXmlAttributeValue, WritesNumbersTheSameInEveryLocale)
     EXPECT_EQ(valueOf(123456.0), "123456");
 }
 
-TEST(ZelDataXmlAttributeValue, ReplacesTheValueBefore)
+TEST(ZelDataXmlAttributeValue, ReplacesTheOldValue)
 {
     ZelDataXmlAttributeValue value;
     value < "a long value that stood there before";
@@ -103,7 +103,7 @@ TEST(ZelDataXmlAttributeValue, ReturnsItsNodeFromEverySetter)
     EXPECT_EQ(&(value < 0.5), &node);
 }
 
-TEST(ZelDataXmlAttributeValue, ReturnsANodeOfItsOwnWhereItHasNone)
+TEST(ZelDataXmlAttributeValue, ReturnsANodeOfItsOwnIfItHasNone)
 {
     ZelDataXmlAttributeValue value;
     ZelDataXmlNode& returned = value < "v";

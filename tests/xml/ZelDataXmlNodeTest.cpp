@@ -49,7 +49,7 @@ TEST(ZelDataXmlNode, TwoPathsWithTheSameFirstStepShareIt)
     EXPECT_EQ(root.getXml(false), "<a><b></b><c></c></a>");
 }
 
-TEST(ZelDataXmlNode, AStringPathIsWalkedAsACharacterPathIs)
+TEST(ZelDataXmlNode, AStringPathWorksLikeACharacterPath)
 {
     ZelDataXmlStream root;
     (root < std::string("a/b")).attribute("last", "yes");
@@ -110,7 +110,7 @@ TEST(ZelDataXmlNode, AskingThreeTimesForANameNestsThreeElements)
     EXPECT_EQ(root.getXml(false), R"(<a><a><a last="yes" ></a></a></a>)");
 }
 
-TEST(ZelDataXmlNode, ARepeatedPathNestsItsLastStepAlone)
+TEST(ZelDataXmlNode, ARepeatedPathNestsOnlyItsLastStep)
 {
     ZelDataXmlStream root;
     root < "a/b";
@@ -118,7 +118,7 @@ TEST(ZelDataXmlNode, ARepeatedPathNestsItsLastStepAlone)
     EXPECT_EQ(root.getXml(false), R"(<a><b><b last="yes" ></b></b></a>)");
 }
 
-TEST(ZelDataXmlNode, ARepeatedNameGoesBelowTheExistingChildBesideWhatIsThere)
+TEST(ZelDataXmlNode, ARepeatedNameIsAddedToTheExistingChild)
 {
     ZelDataXmlStream root;
     root < "a/x";
@@ -152,14 +152,14 @@ TEST(ZelDataXmlNode, NamesAreComparedByteForByte)
     EXPECT_EQ(root.getXml(false), "<a></a><A></A><a ></a >");
 }
 
-/// A path on an empty root; the texts have a mark at the element that the last call returned.
+/// A path on an empty root; the texts mark the element that the last call returned.
 struct EmptySteps {
     const char* path;
     const char* once;
     const char* twice;
 };
 
-TEST(ZelDataXmlNode, EmptyStepsNameElementsWithoutName)
+TEST(ZelDataXmlNode, EmptyStepsMakeNamelessElements)
 {
     const std::vector<EmptySteps> cases{
         {"", "< r=\"1\" ></>", "<>< r=\"1\" ></></>"},
@@ -254,7 +254,7 @@ TEST(ZelDataXmlNode, InANewGroupAnInnerStepMakesANewElement)
     EXPECT_EQ(root.getXml(false), "<a><b></b></a><a><c></c><d></d></a>");
 }
 
-TEST(ZelDataXmlNode, ANewGroupIsTheNodesOwnAndNotItsChildrens)
+TEST(ZelDataXmlNode, ANewGroupDoesNotAffectTheChildren)
 {
     ZelDataXmlStream root;
     ZelDataXmlNode& a = root < "a";
@@ -264,7 +264,7 @@ TEST(ZelDataXmlNode, ANewGroupIsTheNodesOwnAndNotItsChildrens)
     EXPECT_EQ(root.getXml(false), R"(<a><x><x last="yes" ></x></x></a>)");
 }
 
-TEST(ZelDataXmlNode, ChildrenOfAllGroupsAreWrittenInTheOrderOfTheirMaking)
+TEST(ZelDataXmlNode, ChildrenOfAllGroupsAreWrittenInOrderOfCreation)
 {
     ZelDataXmlStream root;
     root < "c";
@@ -301,7 +301,7 @@ TEST(ZelDataXmlNode, EveryAttributeIsFollowedByOneBlank)
     EXPECT_EQ(root.getXml(false), R"(<rdf:li a="1" b="2" ></rdf:li>)");
 }
 
-TEST(ZelDataXmlNode, OneExpressionAddsAttributesInItsOrder)
+TEST(ZelDataXmlNode, OneExpressionAddsAttributesInOrder)
 {
     ZelDataXmlStream root;
     ZelDataXmlNode& node = root < "n";
@@ -313,7 +313,7 @@ TEST(ZelDataXmlNode, OneExpressionAddsAttributesInItsOrder)
     EXPECT_EQ(root.getXml(false), R"(<n xmpDM:name="Intro" xmpDM:startTime="1500" ></n>)");
 }
 
-TEST(ZelDataXmlNode, AnAttributeNameIsAppendedAgainWhenItIsGivenAgain)
+TEST(ZelDataXmlNode, ARepeatedAttributeNameIsAppendedAgain)
 {
     ZelDataXmlStream root;
     (root < "n").attribute("k", "1").attribute("k", "2");
@@ -429,7 +429,7 @@ TEST(ZelDataXmlNode, AssigningANumberBeforeTheTextVerbReturnsANodeOutsideTheTree
     EXPECT_EQ(root.getXml(false), "<a>7</a>");
 }
 
-TEST(ZelDataXmlNode, TheTextOfARootLeadsOutsideTheTree)
+TEST(ZelDataXmlNode, SettingTheTextOfARootReturnsANodeOutsideTheTree)
 {
     ZelDataXmlStream root;
     root < "a";
@@ -450,7 +450,7 @@ TEST(ZelDataXmlNode, ARootWithoutAStreamWritesItsOwnText)
 
 // Writing
 
-TEST(ZelDataXmlNode, ANodeWithoutAnythingIsAPairOfTags)
+TEST(ZelDataXmlNode, AnEmptyNodeIsAPairOfTags)
 {
     const ZelDataXmlNode node(nullptr);
     EXPECT_EQ(written(node), "<></>");
@@ -626,7 +626,7 @@ TEST(ZelDataXmlNode, APathOfAMillionStepsIsBuiltWrittenAndDestroyed)
     EXPECT_TRUE(written(renamed) == expected);
 }
 
-TEST(ZelDataXmlNode, ANameAskedForThousandsOfTimesNestsAsDeep)
+TEST(ZelDataXmlNode, AskingThousandsOfTimesForANameNestsAsDeep)
 {
     constexpr int depth = 3000;
     ZelDataXmlStream root;

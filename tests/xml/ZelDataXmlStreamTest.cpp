@@ -39,7 +39,7 @@ TEST(ZelDataXmlStream, WritesNothingBetweenDeclarationAndFirstElement)
     EXPECT_EQ(stream.getXml(true), "<?xml version=\"1.0\" encoding=\"utf-8\" ?><a></a>");
 }
 
-TEST(ZelDataXmlStream, WritesItsChildrenInTheOrderOfTheirMaking)
+TEST(ZelDataXmlStream, WritesItsChildrenInOrderOfCreation)
 {
     ZelDataXmlStream stream;
     stream < "a";
@@ -57,7 +57,7 @@ TEST(ZelDataXmlStream, NeverWritesItsOwnTagsAttributesAndText)
     EXPECT_EQ(stream.getXml(false), "<a></a>");
 }
 
-TEST(ZelDataXmlStream, TakesANumberAsItsTextAndNeverWritesIt)
+TEST(ZelDataXmlStream, AcceptsANumberAsItsTextAndNeverWritesIt)
 {
     ZelDataXmlStream stream;
     (stream = 5L) < "lost";
@@ -109,7 +109,7 @@ TEST(ZelDataXmlStream, EscapingWorksOnACopy)
     EXPECT_EQ(text, "<");
 }
 
-TEST(ReplaceAll, DoesNotSearchWhatItPutIn)
+TEST(ReplaceAll, DoesNotSearchTheReplacement)
 {
     std::string subject = "aaa";
     EXPECT_EQ(replaceAll(subject, "a", "aa"), "aaaaaa");
@@ -122,7 +122,7 @@ TEST(ReplaceAll, WorksInPlaceAndReturnsItsSubject)
     EXPECT_EQ(subject, "a+b+c");
 }
 
-TEST(ReplaceAll, LeavesASubjectWithoutOccurrenceAlone)
+TEST(ReplaceAll, LeavesASubjectWithoutAnOccurrenceAlone)
 {
     std::string subject = "abc";
     EXPECT_EQ(&replaceAll(subject, "x", "y"), &subject);
@@ -137,7 +137,7 @@ TEST(ReplaceAll, RemovesWithAnEmptyReplacement)
     EXPECT_EQ(replaceAll(subject, "-", ""), "ab");
 }
 
-TEST(ReplaceAll, TakesOccurrencesFromTheLeftWithoutOverlap)
+TEST(ReplaceAll, ReplacesFromTheLeftWithoutOverlap)
 {
     std::string subject = "aaa";
     EXPECT_EQ(replaceAll(subject, "aa", "b"), "ba");

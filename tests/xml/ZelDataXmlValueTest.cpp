@@ -40,7 +40,7 @@ TEST(ZelDataXmlValue, KeepsAStringWithItsZeroBytes)
     EXPECT_EQ(value.getValue(), text);
 }
 
-TEST(ZelDataXmlValue, TakesANullTextAsEmpty)
+TEST(ZelDataXmlValue, TreatsANullTextAsEmpty)
 {
     ZelDataXmlValue value;
     value < "t";
@@ -77,7 +77,7 @@ TEST(ZelDataXmlValue, WritesNumbersTheSameInEveryLocale)
     EXPECT_EQ(value.getValue(), "1234567");
 }
 
-TEST(ZelDataXmlValue, ReplacesTheTextBefore)
+TEST(ZelDataXmlValue, ReplacesTheOldText)
 {
     ZelDataXmlValue value;
     value < "a long text that stood there before";
@@ -108,7 +108,7 @@ TEST(ZelDataXmlValue, FollowsItsNodeWhenThatChanges)
     EXPECT_EQ(&(value < "t"), &child);
 }
 
-TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnWhereItBelongsToNone)
+TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnIfItBelongsToNone)
 {
     ZelDataXmlValue value;
     ZelDataXmlNode& returned = value < "t";
@@ -117,7 +117,7 @@ TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnWhereItBelongsToNone)
     EXPECT_EQ(value.getValue(), "1");
 }
 
-TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnWhereItsNodeIsARoot)
+TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnIfItsNodeIsARoot)
 {
     ZelDataXmlNode root(nullptr);
     ZelDataXmlValue value;
@@ -128,7 +128,7 @@ TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnWhereItsNodeIsARoot)
     EXPECT_EQ(written(root), "<></>");
 }
 
-TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnAgainWhenItsNodeIsTakenAway)
+TEST(ZelDataXmlValue, ReturnsANodeOfItsOwnAgainWhenItsNodeIsRemoved)
 {
     ZelDataXmlNode root(nullptr);
     ZelDataXmlNode child(&root);

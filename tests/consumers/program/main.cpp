@@ -1,5 +1,5 @@
-// What every consumer project builds: a document is made, filled and written, and the one exception of
-// the library is caught on this side of its boundary.
+// The program of every consumer project: makes, fills and writes a document, and catches the library's
+// exception outside the library.
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
 
@@ -53,7 +53,7 @@ std::string titleIn(const std::string& packet)
     return packet.substr(first, packet.find('"', first) - first);
 }
 
-// What the exception says when there is no memory for a document.
+// Returns the message of the exception that the creator throws when memory runs out.
 std::string messageWithoutMemory()
 {
     memoryIsExhausted = true;
@@ -71,7 +71,7 @@ std::string messageWithoutMemory()
 
 } // namespace
 
-// The library allocates its documents with this operator, so a program can make it fail.
+// The library allocates documents with this operator, so the program can make the allocation fail.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     return memoryIsExhausted ? nullptr : std::malloc(size);

@@ -24,7 +24,7 @@ inline constexpr bool isItemList = false;
 template <class I>
 inline constexpr bool isItemList<std::vector<I*>> = true;
 
-/// A pointer that is never followed: what stood in an out-argument before.
+/// A pointer that nobody may follow: the value of an out-argument before the call.
 template <class I>
 I* sentinel()
 {
@@ -32,7 +32,7 @@ I* sentinel()
     return reinterpret_cast<I*>(&place);
 }
 
-/// A value. It is not reported.
+/// A value. The answer does not report it.
 template <class T, class = void>
 class Argument {
 public:
@@ -62,7 +62,7 @@ private:
     T value_;
 };
 
-/// Another object, by its number. Its last error is reported.
+/// Another object, by its number. The answer reports its last error.
 template <class I>
 class Argument<I&, std::enable_if_t<isObject<I>>> {
 public:
@@ -77,7 +77,7 @@ private:
     std::remove_const_t<I>& object_;
 };
 
-/// An out-pointer: "null", "full" or the number under which the new object is kept.
+/// An out-pointer: "null", "full" or the number that the new object gets.
 template <class I>
 class Argument<I**, void> {
 public:
@@ -102,7 +102,8 @@ private:
     I* value_ = nullptr;
 };
 
-/// A vector of items, with so many in it before. Those that are new are described and destroyed.
+/// A vector of items; the script says how many it holds before the call. The answer describes the
+/// new ones, which are destroyed.
 template <class I>
 class Argument<std::vector<I*>&, void> {
 public:

@@ -14,7 +14,7 @@ using namespace ZelInterchangeData;
 
 namespace {
 
-/// Takes the code of a getter: one that goes wrong shows in the value that it leaves.
+/// Ignores the code of a getter: if it fails, the value that it leaves shows it.
 void goOn(ZelDataResult_tags /*code*/) {}
 
 template <class I, class T>

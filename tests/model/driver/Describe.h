@@ -1,5 +1,5 @@
 /// @file
-/// All that an item holds, as one word group of an answer.
+/// All that an item holds, as a part of an answer.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_MODEL_DESCRIBE_H
 #define ZELINTERCHANGEDATA_TESTS_MODEL_DESCRIBE_H
@@ -14,7 +14,7 @@ class i_ZelDataTocItem;
 
 namespace model {
 
-/// The last error, then what the getters give; "(throws)" when one of them throws.
+/// The last error, then the values of the getters; "(throws)" if one of them throws.
 std::string described(const ZelInterchangeData::i_ZelDataCaptionItem& item);
 std::string described(const ZelInterchangeData::i_ZelDataTocItem& item);
 std::string described(const ZelInterchangeData::i_ZelDataScreenTextItem& item);

@@ -81,7 +81,7 @@ ZelDataResult_tags FakeControl::goWrong(const Work& work, const std::function<vo
     ++wentWrong_;
     const char mode = script_.mode;
     if (half && isOneOf(mode, "hBXE")) half();
-    if (mode == 'd') static_cast<void>(work()); // the code of the script counts
+    if (mode == 'd') static_cast<void>(work()); // returns the script's code
     if (isOneOf(mode, "bB")) throw std::bad_alloc();
     if (mode == 'x') throw std::runtime_error("foreign");
     if (mode == 'X') throw 42;

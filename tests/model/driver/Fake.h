@@ -20,13 +20,13 @@ namespace model {
 
 using ZelInterchangeData::ZelDataResult_tags;
 
-/// What the n-th call does; 0 for nothing.
+/// What call number `at` does instead of its work; 0 for no call.
 ///
 /// c: fails; d: does its work, then fails; h: hands out half of the items, then fails; b, x: throws
-/// exhausted memory, something else; B, X: the same after handing out half of the items; l, m:
-/// fails, and from then on getLastError() throws exhausted memory, something else; e, k: ends its
-/// thread, which exits or is cancelled; E: exits after handing out half of the items; n: fails, and
-/// from then on getLastError() ends its thread.
+/// bad_alloc, something else; B, X: the same after handing out half of the items; l, m: fails, and
+/// from then on getLastError() throws bad_alloc, something else; e, k: ends its thread, which exits
+/// or is cancelled; E: exits after handing out half of the items; n: fails, and from then on
+/// getLastError() ends its thread.
 struct FakeScript {
     unsigned long at = 0;
     char mode = 'c';
@@ -63,14 +63,14 @@ public:
 
     /// How many fakes there are.
     static int alive() { return alive_; }
-    /// How many calls of all fakes did what a script says.
+    /// How many calls of all fakes went wrong as a script said.
     static unsigned long wentWrong() { return wentWrong_; }
-    /// Whether a script that ends a thread was set after the last one that did.
+    /// Whether the last script that was set can end a thread.
     static bool mayEndThread() { return mayEndThread_; }
 
     virtual ~FakeControl() { --alive_; }
 
-    /// Calls are noted in @p notes under @p name; null for no notes. Counting starts anew.
+    /// Notes calls in @p notes under @p name, or nowhere if it is null. Starts counting again.
     void begin(const std::string& name, Notes* notes);
     void setScript(const FakeScript& script);
 
@@ -107,7 +107,7 @@ private:
     mutable char lastErrorThrows_ = 0;
 };
 
-/// A fake of @p Interface. It keeps its last error in the interface's field or in one of its own.
+/// A fake of @p Interface. It keeps its last error in the interface's field or in its own.
 template <class Interface>
 class Fake : public Interface, public FakeControl {
 public:

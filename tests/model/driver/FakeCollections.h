@@ -18,19 +18,29 @@
 
 namespace model {
 
-/// Something to which a fake item can be added as it is.
+/// A collection that accepts a fake item as it is.
 class FakeItemHolder {
 public:
     virtual ~FakeItemHolder() = default;
-    /// Whether @p item is of the right kind; a clone of it is kept.
+    /// Keeps a clone of @p item, if that is of the right kind, and returns whether it is.
     virtual bool addClone(const FakeControl& item) = 0;
 };
 
-/// The item operations of a fake collection on top of @p Base. What it hands out are clones whose
-/// calls are noted, too.
-template <class Base, class ItemInterface, class Item>
-class FakeItemOperations : public Base, public FakeItemHolder {
+/// What all fake collections have in common, on top of @p Base. They hand out clones of their
+/// items, which note their calls too.
+template <class Interface, class Base, class ItemInterface, class Item>
+class FakeCollection : public Base, public FakeItemHolder {
 public:
+    using Number = unsigned long;
+
+    Code isValid(bool strict) const override { return this->done("isValid", notedList(strict)); }
+    Code setFrameRate(Number v) override { return this->put("setFrameRate", rate_, v); }
+    Code getFrameRate(Number& v) const override { return this->fetch("getFrameRate", rate_, v); }
+    using Interface::copyFrom;
+    Code copyFrom(const Interface& other) override
+    {
+        return this->call("copyFrom", [&] { return Interface::copyFrom(other); });
+    }
     bool addClone(const FakeControl& item) override
     {
         const auto* own = dynamic_cast<const Item*>(&item);
@@ -74,6 +84,11 @@ protected:
             },
             notedList(index));
     }
+    Code ofLanguage(const std::string& operation, const Text& id) const
+    {
+        return this->call(
+            operation, [] { return ZelInterchangeData::ZelData_NotImplemented; }, notedList(id));
+    }
     Code all(const std::string& operation, Items& out) const
     {
         return this->call(operation, this->doing([&] { handOut(out, items_.size()); }), {},
@@ -112,21 +127,25 @@ private:
         return ZelInterchangeData::ZelData_Ok;
     }
 
+    Number rate_ = 1000;
     std::vector<std::unique_ptr<Item>> items_;
+};
+
+/// What captions and tables of contents have in common.
+template <class Interface, class ItemInterface, class Item>
+class FakeTranslatedCollection
+    : public FakeCollection<Interface, FakeLanguageOperations<Interface>, ItemInterface, Item> {
+    void forgetLanguages() override { this->languages_.clear(); }
 };
 
 /// Captions that check nothing.
 class FakeCaptions
-    : public FakeItemOperations<FakeLanguageOperations<ZelInterchangeData::i_ZelDataCaptions>,
-                                ZelInterchangeData::i_ZelDataCaptionItem, FakeCaptionItem> {
+    : public FakeTranslatedCollection<ZelInterchangeData::i_ZelDataCaptions,
+                                      ZelInterchangeData::i_ZelDataCaptionItem, FakeCaptionItem> {
 public:
     using CaptionItem = ZelInterchangeData::i_ZelDataCaptionItem;
-    using Number = unsigned long;
 
-    Code isValid(bool strict) const override { return done("isValid", notedList(strict)); }
     Code makeCaptionsConsistent() override { return done("makeCaptionsConsistent"); }
-    Code setFrameRate(Number v) override { return put("setFrameRate", rate_, v); }
-    Code getFrameRate(Number& v) const override { return fetch("getFrameRate", rate_, v); }
     Code setFontFamily(const Text& v) override { return put("setFontFamily", font_, v); }
     Code getFontFamily(Text& v) const override { return fetch("getFontFamily", font_, v); }
     Code setFontSize(Number v) override { return put("setFontSize", size_, v); }
@@ -174,20 +193,12 @@ public:
     Code getCaptionItems(Items& out) const override { return all("getCaptionItems", out); }
     Code getCaptionItemsForLanguage(Items&, const Text& id) const override
     {
-        return call(
-            "getCaptionItemsForLanguage", [] { return ZelInterchangeData::ZelData_NotImplemented; },
-            notedList(id));
-    }
-    using i_ZelDataCaptions::copyFrom;
-    Code copyFrom(const i_ZelDataCaptions& other) override
-    {
-        return call("copyFrom", [&] { return i_ZelDataCaptions::copyFrom(other); });
+        return ofLanguage("getCaptionItemsForLanguage", id);
     }
 
 private:
     using Color = std::array<float, 3>;
 
-    void forgetLanguages() override { languages_.clear(); }
     Code putColor(const std::string& operation, Color& field, const Color& color)
     {
         return call(operation, doing([&] { field = color; }),
@@ -202,7 +213,6 @@ private:
                     }));
     }
 
-    Number rate_ = 1000;
     Text font_ = "Font";
     Number size_ = 20;
     Color foreground_{1, 1, 1};
@@ -211,16 +221,12 @@ private:
 };
 
 /// A table of contents that checks nothing.
-class FakeToc : public FakeItemOperations<FakeLanguageOperations<ZelInterchangeData::i_ZelDataToc>,
-                                          ZelInterchangeData::i_ZelDataTocItem, FakeTocItem> {
+class FakeToc : public FakeTranslatedCollection<ZelInterchangeData::i_ZelDataToc,
+                                                ZelInterchangeData::i_ZelDataTocItem, FakeTocItem> {
 public:
     using TocItem = ZelInterchangeData::i_ZelDataTocItem;
-    using Number = unsigned long;
 
-    Code isValid(bool deep) const override { return done("isValid", notedList(deep)); }
     Code makeTocConsistent() override { return done("makeTocConsistent"); }
-    Code setFrameRate(Number v) override { return put("setFrameRate", rate_, v); }
-    Code getFrameRate(Number& v) const override { return fetch("getFrameRate", rate_, v); }
     Code setImageFile(const Text& v) override { return put("setImageFile", file_, v); }
     Code getImageFile(Text& v) const override { return fetch("getImageFile", file_, v); }
     Code clearTocItems() override { return clear("clearTocItems"); }
@@ -239,35 +245,22 @@ public:
     Code getTocItems(Items& out) const override { return all("getTocItems", out); }
     Code getTocItemsForLanguage(Items&, const Text& id) const override
     {
-        return call(
-            "getTocItemsForLanguage", [] { return ZelInterchangeData::ZelData_NotImplemented; },
-            notedList(id));
-    }
-    using i_ZelDataToc::copyFrom;
-    Code copyFrom(const i_ZelDataToc& other) override
-    {
-        return call("copyFrom", [&] { return i_ZelDataToc::copyFrom(other); });
+        return ofLanguage("getTocItemsForLanguage", id);
     }
 
 private:
-    void forgetLanguages() override { languages_.clear(); }
-
-    Number rate_ = 1000;
     Text file_;
 };
 
 /// A screen text collection that checks nothing.
 class FakeScreenText
-    : public FakeItemOperations<Fake<ZelInterchangeData::i_ZelDataScreenText>,
-                                ZelInterchangeData::i_ZelDataScreenTextItem, FakeScreenTextItem> {
+    : public FakeCollection<ZelInterchangeData::i_ZelDataScreenText,
+                            Fake<ZelInterchangeData::i_ZelDataScreenText>,
+                            ZelInterchangeData::i_ZelDataScreenTextItem, FakeScreenTextItem> {
 public:
     using TextItem = ZelInterchangeData::i_ZelDataScreenTextItem;
-    using Number = unsigned long;
 
-    Code isValid(bool deep) const override { return done("isValid", notedList(deep)); }
     Code makeScreenTextConsistent() override { return done("makeScreenTextConsistent"); }
-    Code setFrameRate(Number v) override { return put("setFrameRate", rate_, v); }
-    Code getFrameRate(Number& v) const override { return fetch("getFrameRate", rate_, v); }
     Code clearScreenTextItems() override { return clear("clearScreenTextItems"); }
     Code addScreenTextItem(const TextItem& item) override { return add("addScreenTextItem", item); }
     Code createScreenTextItem(TextItem** out) const override
@@ -284,13 +277,6 @@ public:
         return at("getScreenTextItemAt", out, index);
     }
     Code getScreenTextItems(Items& out) const override { return all("getScreenTextItems", out); }
-    Code copyFrom(const i_ZelDataScreenText& other) override
-    {
-        return call("copyFrom", [&] { return i_ZelDataScreenText::copyFrom(other); });
-    }
-
-private:
-    Number rate_ = 1000;
 };
 
 } // namespace model

@@ -20,8 +20,8 @@ namespace model {
 using Code = ZelDataResult_tags;
 using Text = std::string;
 
-/// Makes a copy of an item with all it holds, its script included; its calls are noted under @p
-/// name.
+/// Makes a copy of an item with all that it holds, its script included. It notes its calls under
+/// @p name.
 template <class Item>
 std::unique_ptr<Item> cloned(const Item& item, const std::string& name, FakeControl::Notes* notes)
 {
@@ -39,13 +39,62 @@ public:
     void restart() { this->forgetCodes(); }
 
     Code isValid(bool strict) const override { return this->done("isValid", notedList(strict)); }
+    Code setStart(long long v) override { return this->put("setStart", start_, v); }
+    Code getStart(long long& v) const override { return this->fetch("getStart", start_, v); }
+    Code copyFrom(const Interface& other) override
+    {
+        return this->call("copyFrom", [&] { return Interface::copyFrom(other); });
+    }
+
+private:
+    long long start_ = 0;
 };
 
-/// Something to which raw texts can be given.
+/// The end and the duration of an item; the end need not fit the start and the duration.
+template <class Base>
+class FakeSpan : public Base {
+public:
+    Code setEnd(long long v) override { return this->put("setEnd", end_, v); }
+    Code setDuration(long long v) override { return this->put("setDuration", duration_, v); }
+    Code getEnd(long long& v) const override { return this->fetch("getEnd", end_, v); }
+    Code getDuration(long long& v) const override
+    {
+        return this->fetch("getDuration", duration_, v);
+    }
+
+private:
+    long long end_ = 0;
+    long long duration_ = 0;
+};
+
+/// The image of an item.
+template <class Base>
+class FakeImage : public Base {
+public:
+    using Index = unsigned long;
+    using Offset = unsigned long long;
+
+    Code setImageFile(const Text& v) override { return this->put("setImageFile", file_, v); }
+    Code setImageIndex(Index v) override { return this->put("setImageIndex", index_, v); }
+    Code setImageOffset(Offset v) override { return this->put("setImageOffset", offset_, v); }
+    Code getImageFile(Text& v) const override { return this->fetch("getImageFile", file_, v); }
+    Code getImageIndex(Index& v) const override { return this->fetch("getImageIndex", index_, v); }
+    Code getImageOffset(Offset& v) const override
+    {
+        return this->fetch("getImageOffset", offset_, v);
+    }
+
+private:
+    Text file_;
+    Index index_ = 0;
+    Offset offset_ = 0;
+};
+
+/// An item that accepts raw texts.
 class FakeTexts {
 public:
     virtual ~FakeTexts() = default;
-    /// Appends without looking, so a language may be there twice.
+    /// Appends without checking, so a language may be there twice.
     void append(const Text& text, const Text& language) { texts_.emplace_back(language, text); }
 
 protected:
@@ -72,7 +121,7 @@ private:
     }
 };
 
-/// The operations on texts per language, kept in the order of their coming.
+/// The operations on texts by language, which stay in the order in which they came.
 template <class Interface>
 class FakeTextItem : public FakeItem<Interface>, public FakeTexts {
 public:
@@ -130,100 +179,36 @@ private:
     }
 };
 
-/// A caption item that checks nothing; its end need not fit its start and duration.
-class FakeCaptionItem : public FakeTextItem<ZelInterchangeData::i_ZelDataCaptionItem> {
+/// A caption item that checks nothing.
+class FakeCaptionItem : public FakeSpan<FakeTextItem<ZelInterchangeData::i_ZelDataCaptionItem>> {
 public:
     using Alignment = ZelInterchangeData::ZelAlignment_tags;
 
-    Code setStart(long long v) override { return put("setStart", start_, v); }
-    Code setEnd(long long v) override { return put("setEnd", end_, v); }
-    Code setDuration(long long v) override { return put("setDuration", duration_, v); }
     Code setAlignment(Alignment v) override { return put("setAlignment", alignment_, v); }
-    Code getStart(long long& v) const override { return fetch("getStart", start_, v); }
-    Code getEnd(long long& v) const override { return fetch("getEnd", end_, v); }
-    Code getDuration(long long& v) const override { return fetch("getDuration", duration_, v); }
     Code getAlignment(Alignment& v) const override { return fetch("getAlignment", alignment_, v); }
-    Code copyFrom(const i_ZelDataCaptionItem& other) override
-    {
-        return call("copyFrom", [&] { return i_ZelDataCaptionItem::copyFrom(other); });
-    }
 
 private:
-    long long start_ = 0;
-    long long end_ = 0;
-    long long duration_ = 0;
     Alignment alignment_ = ZelInterchangeData::ZelAlignCenter;
 };
 
 /// An entry of a table of contents that checks nothing.
-class FakeTocItem : public FakeTextItem<ZelInterchangeData::i_ZelDataTocItem> {
-public:
-    using Offset = unsigned long long;
-
-    Code setStart(long long v) override { return put("setStart", start_, v); }
-    Code setImageFile(const Text& v) override { return put("setImageFile", file_, v); }
-    Code setImageIndex(unsigned long v) override { return put("setImageIndex", index_, v); }
-    Code setImageOffset(Offset v) override { return put("setImageOffset", offset_, v); }
-    Code getStart(long long& v) const override { return fetch("getStart", start_, v); }
-    Code getImageFile(Text& v) const override { return fetch("getImageFile", file_, v); }
-    Code getImageIndex(unsigned long& v) const override
-    {
-        return fetch("getImageIndex", index_, v);
-    }
-    Code getImageOffset(Offset& v) const override { return fetch("getImageOffset", offset_, v); }
-    Code copyFrom(const i_ZelDataTocItem& other) override
-    {
-        return call("copyFrom", [&] { return i_ZelDataTocItem::copyFrom(other); });
-    }
-
-private:
-    long long start_ = 0;
-    Text file_;
-    unsigned long index_ = 0;
-    Offset offset_ = 0;
-};
+class FakeTocItem : public FakeImage<FakeTextItem<ZelInterchangeData::i_ZelDataTocItem>> {};
 
 /// A screen text item that checks nothing.
-class FakeScreenTextItem : public FakeItem<ZelInterchangeData::i_ZelDataScreenTextItem> {
+class FakeScreenTextItem
+    : public FakeSpan<FakeImage<FakeItem<ZelInterchangeData::i_ZelDataScreenTextItem>>> {
 public:
-    using Offset = unsigned long long;
-
     Code clearText() override
     {
         return call("clearText", doing([&] { text_.clear(); }));
     }
     Code setText(const Text& v) override { return put("setText", text_, v); }
-    Code setStart(long long v) override { return put("setStart", start_, v); }
-    Code setEnd(long long v) override { return put("setEnd", end_, v); }
-    Code setDuration(long long v) override { return put("setDuration", duration_, v); }
-    Code setImageFile(const Text& v) override { return put("setImageFile", file_, v); }
-    Code setImageIndex(unsigned long v) override { return put("setImageIndex", index_, v); }
-    Code setImageOffset(Offset v) override { return put("setImageOffset", offset_, v); }
     Code setGroupId(unsigned long v) override { return put("setGroupId", group_, v); }
     Code getText(Text& v) const override { return fetch("getText", text_, v); }
-    Code getStart(long long& v) const override { return fetch("getStart", start_, v); }
-    Code getEnd(long long& v) const override { return fetch("getEnd", end_, v); }
-    Code getDuration(long long& v) const override { return fetch("getDuration", duration_, v); }
-    Code getImageFile(Text& v) const override { return fetch("getImageFile", file_, v); }
-    Code getImageIndex(unsigned long& v) const override
-    {
-        return fetch("getImageIndex", index_, v);
-    }
-    Code getImageOffset(Offset& v) const override { return fetch("getImageOffset", offset_, v); }
     Code getGroupId(unsigned long& v) const override { return fetch("getGroupId", group_, v); }
-    Code copyFrom(const i_ZelDataScreenTextItem& other) override
-    {
-        return call("copyFrom", [&] { return i_ZelDataScreenTextItem::copyFrom(other); });
-    }
 
 private:
     Text text_;
-    long long start_ = 0;
-    long long end_ = 0;
-    long long duration_ = 0;
-    Text file_;
-    unsigned long index_ = 0;
-    Offset offset_ = 0;
     unsigned long group_ = 0;
 };
 

@@ -1,5 +1,5 @@
 /// @file
-/// A language list that checks nothing, alone and as a base of the fakes that have one.
+/// A language list that checks nothing: a fake of its own and the base of fakes that have one.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_MODEL_FAKELANGUAGE_H
 #define ZELINTERCHANGEDATA_TESTS_MODEL_FAKELANGUAGE_H
@@ -79,7 +79,7 @@ protected:
     Texts languages_;
 };
 
-/// Nothing but a language list.
+/// A language list alone.
 class FakeLanguage : public FakeLanguageOperations<ZelInterchangeData::i_ZelDataLanguage> {};
 
 } // namespace model

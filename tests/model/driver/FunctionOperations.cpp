@@ -36,7 +36,7 @@ std::string entryWord(const LanguageInfo& info)
     return shown(std::vector<std::string>{info.englishName, info.nativeName, info.code});
 }
 
-/// A lookup that gives a whole entry of the catalogue.
+/// A lookup that returns a whole entry of the catalogue.
 Session::Operation lookup(LanguageInfo (*body)(const std::string&))
 {
     return [body](Session& session) {

@@ -1,5 +1,5 @@
 /// @file
-/// The operations that a script can name, and how a member or a static function becomes one.
+/// The operations that a script can name, made from members and static functions.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
 #define ZELINTERCHANGEDATA_TESTS_MODEL_OPERATIONS_H
@@ -16,23 +16,20 @@
 
 namespace model {
 
-/// Operations on the four data sets and their items.
-void addLanguageOperations(Operations& operations);
-void addHeaderOperations(Operations& operations);
-void addCaptionOperations(Operations& operations);
-void addTocOperations(Operations& operations);
-void addScreenTextOperations(Operations& operations);
-/// Operations on formatters and documents.
-void addDocumentOperations(Operations& operations);
+/// The operations of objects, from the list of the model.
+void addMemberOperations(Operations& operations);
 /// The static functions.
 void addFunctionOperations(Operations& operations);
 /// Operations on an element tree.
 void addTreeOperations(Operations& operations);
-/// Making and destroying objects, and the script of a fake.
+/// Operations that make and destroy objects and prepare fakes.
 void addObjectOperations(Operations& operations);
 
-/// The code that @p call gives as eight digits, or the kind of exception that it throws, or "ended"
-/// where it ends its thread.
+/// Writes the kind of file that the script wants, and answers with its contents.
+void writeFile(Session& session);
+
+/// The code that @p call returns, as eight digits; "bad_alloc" or "exception" if it throws, "ended"
+/// if it ends its thread.
 template <class Call>
 std::string codeOf(Call&& call)
 {
@@ -63,7 +60,7 @@ void callMember(Session& session, Method method)
     std::apply([&](auto&... argument) { (argument.report(session), ...); }, arguments);
 }
 
-/// The operation that calls @p method on an object: its number first, then the arguments.
+/// The operation that calls @p method. The script names the object, then the arguments.
 template <class I, class... Args>
 Session::Operation member(ZelInterchangeData::ZelDataResult_tags (I::*method)(Args...))
 {
@@ -86,6 +83,20 @@ Session::Operation copying()
         static_cast<ZelInterchangeData::ZelDataResult_tags (I::*)(const I&)>(&I::copyFrom));
 }
 
+/// The operation that assigns one @p Item to another.
+template <class Item>
+Session::Operation assigning()
+{
+    return [](Session& session) {
+        auto& target = session.object<Item>(session.script().read<int>());
+        const auto& source = session.object<Item>(session.script().read<int>());
+        target = source;
+        session.answer("-");
+        session.answer(lastError(target));
+        session.answer("e" + lastError(source));
+    };
+}
+
 inline std::string resultWord(const std::string& result)
 {
     return shown(result);
@@ -95,7 +106,7 @@ inline std::string resultWord(unsigned long result)
     return hexadecimal(result);
 }
 
-/// The operation that calls a static function with the arguments.
+/// The operation that calls a static function.
 template <class Result, class... Args>
 Session::Operation function(Result (*body)(Args...))
 {

@@ -16,10 +16,10 @@
 
 namespace model {
 
-/// The script names an object that is not there or not of the wanted kind.
+/// The script names an object that does not exist or is of another kind.
 class MissingObject : public std::exception {};
 
-/// The words of a line, read one after the other. A line that does not fit ends the program.
+/// The words of a line, read one after the other. Throws if the line lacks one.
 class Script {
 public:
     explicit Script(const std::string& line) : words_(line) {}

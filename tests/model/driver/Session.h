@@ -1,5 +1,5 @@
 /// @file
-/// The objects that a script works on, and the answer to the line that is being run.
+/// The objects of a script, and the answer to its current line.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_MODEL_SESSION_H
 #define ZELINTERCHANGEDATA_TESTS_MODEL_SESSION_H
@@ -16,7 +16,7 @@
 
 namespace model {
 
-/// What @p call gives, or "ended" where it ends its thread, which is another one than this.
+/// Runs @p call in a thread of its own and returns its result, or "ended" if it ends the thread.
 std::string inThread(const std::function<std::string()>& call);
 
 /// The last error of @p object as eight digits, "throws" or "ended".
@@ -25,7 +25,7 @@ std::string lastError(const ZelInterchangeData::i_ZelDataResult& object);
 /// Objects by number, the notes of the fakes, and the words of script and answer.
 class Session {
 public:
-    /// Files are written below @p folder.
+    /// Operations write files below @p folder.
     explicit Session(std::string folder) : folder_(std::move(folder)) {}
 
     const std::string& folder() const { return folder_; }
@@ -35,10 +35,10 @@ public:
 
     /// Appends @p word to the answer.
     void answer(const std::string& word) { answer_ += word + " "; }
-    /// Starts the answer anew.
+    /// Empties the answer.
     void forget() { answer_.clear(); }
 
-    /// The object number @p slot as an @p I; throws MissingObject when it is none.
+    /// Object number @p slot as an @p I. Throws MissingObject if there is none.
     template <class I>
     I& object(int slot)
     {
@@ -47,12 +47,12 @@ public:
         if (!object) throw MissingObject();
         return *object;
     }
-    /// Makes @p object number @p slot and destroys the one that was.
+    /// Gives @p object the number @p slot and destroys the object that had it.
     void keep(int slot, std::unique_ptr<ZelInterchangeData::i_ZelDataResult> object);
-    /// Whether there was an object number @p slot, which is destroyed.
+    /// Destroys object number @p slot and returns whether there was one.
     bool drop(int slot) { return objects_.erase(slot) != 0; }
 
-    /// Runs one line with @p operations and gives the whole answer.
+    /// Runs one line with @p operations and returns the whole answer.
     using Operation = std::function<void(Session&)>;
     std::string run(const std::string& line, const std::map<std::string, Operation>& operations);
 

@@ -18,7 +18,7 @@ struct KnownAttribute {
     ZelDataXmlAttributeValue* value = nullptr;
 };
 
-/// One stream, its nodes and attributes in the order in which they were first handed out.
+/// A stream, with its nodes and attributes in the order in which it first returned them.
 class Tree {
 public:
     Tree() { nodes_.push_back(&stream_); }
@@ -32,14 +32,14 @@ public:
         attributes_.push_back({&attribute, nullptr});
         return "a" + std::to_string(attributes_.size() - 1);
     }
-    /// The number of @p node, which is a new one when it was not seen before.
+    /// The number of @p node; a node that was never returned before gets a new one.
     std::string made(ZelDataXmlNode& node)
     {
         if (known(node) == "none") nodes_.push_back(&node);
         return known(node);
     }
-    /// The number of @p node, which setting the text of @p of gave, or "none" for a node outside
-    /// the tree, which is then built upon: that must never show.
+    /// The number of @p node, which was returned when the text of @p of was set. For a node outside
+    /// the tree "none"; it gets children, which must never appear in the tree.
     std::string returned(ZelDataXmlNode& node, const ZelDataXmlNode& of)
     {
         if (&node == of.parent()) return made(node);
@@ -68,7 +68,7 @@ private:
     std::vector<KnownAttribute> attributes_;
 };
 
-/// The tree of the session, and the words of the script as the verbs need them.
+/// The tree of the session, and the objects in it that the script names.
 class TreeSession {
 public:
     TreeSession() : tree_(std::make_unique<Tree>()) {}
@@ -86,7 +86,7 @@ private:
 
 using SharedTree = std::shared_ptr<TreeSession>;
 
-/// Gives @p target the text of the script as characters or as a string.
+/// Sets the text of @p target to the script's, as characters or as a string.
 template <class Target>
 decltype(auto) giveText(Target& target, Session& session)
 {

@@ -1,5 +1,5 @@
 /// @file
-/// Runs a script of operations from standard input, one a line, and prints what each one did.
+/// Runs a script from standard input, one operation a line, and prints what each one did.
 
 #include "Operations.h"
 
@@ -14,12 +14,7 @@ namespace {
 model::Operations allOperations()
 {
     model::Operations operations;
-    model::addLanguageOperations(operations);
-    model::addHeaderOperations(operations);
-    model::addCaptionOperations(operations);
-    model::addTocOperations(operations);
-    model::addScreenTextOperations(operations);
-    model::addDocumentOperations(operations);
+    model::addMemberOperations(operations);
     model::addFunctionOperations(operations);
     model::addTreeOperations(operations);
     model::addObjectOperations(operations);
@@ -32,7 +27,7 @@ void runAll(const std::string& folder)
     model::Session session(folder);
     std::string line;
     while (std::getline(std::cin, line)) {
-        // Flushed, so that the answers up to a crash are there.
+        // Flushes, so that no answer from before a crash is lost.
         std::cout << session.run(line, operations) << std::endl;
     }
 }

@@ -1,5 +1,5 @@
 /// @file
-/// The calls of a fake: written down, and one of them made to go wrong.
+/// Logs the calls of a fake, and makes one of them fail.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_CALLSCRIPT_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_CALLSCRIPT_H
@@ -14,29 +14,29 @@
 
 namespace ZelInterchangeData {
 
-/// How a call goes wrong.
+/// How a call fails.
 enum class Misdeed { ReturnsCode, ThrowsBadAlloc, ThrowsOther };
 
-/// A failing call returns one code while the last error is another one, so that a caller who takes
-/// the wrong one of the two is noticed.
+/// A failing call returns one code while the last error is another one, so that a test notices a
+/// caller that uses the wrong one.
 class CallScript {
 public:
     static constexpr auto returnedCode = static_cast<ZelDataResult_tags>(0x80000E11);
     static constexpr auto keptCode = static_cast<ZelDataResult_tags>(0x40000E22);
 
-    /// Calls are written into @p log from now on.
+    /// Logs all further calls into @p log.
     void logTo(std::vector<std::string>& log) { log_ = &log; }
-    /// The @p nth call of @p operation, counted from 1, goes wrong.
+    /// Makes the @p nth call of @p operation, counted from 1, fail.
     void failAt(std::string operation, Misdeed misdeed = Misdeed::ReturnsCode, int nth = 1)
     {
         operation_ = std::move(operation);
         misdeed_ = misdeed;
         callsLeft_ = nth;
     }
-    /// What getLastError() says after the failing call.
+    /// Sets what getLastError() returns after the failing call.
     void keep(ZelDataResult_tags code) { kept_ = code; }
 
-    /// Does @p work, or goes wrong instead.
+    /// Does @p work, or fails instead.
     template <class Work>
     ZelDataResult_tags run(const std::string& operation, Work&& work) const
     {

@@ -20,8 +20,8 @@ inline std::function<void()>& beforeEachCall()
     return called;
 }
 
-/// A @p Base that fails where a test asks for it. A class that derives from it overrides operations
-/// and passes each through run(). It counts the objects of its kind that are alive.
+/// A @p Base that fails where a test wants it. A class that derives from it overrides operations and
+/// passes each through run(). It counts the living objects of its kind.
 template <class Base>
 class Failing : public Base {
 public:
@@ -32,8 +32,8 @@ public:
     Failing& operator=(const Failing&) = delete;
     ~Failing() override { --alive(); }
 
-    /// Makes call number @p nth of @p operation do nothing but return @p returned; from then on the
-    /// last error reads @p lastError.
+    /// Makes call number @p nth of @p operation only return @p returned; from then on the last error
+    /// is @p lastError.
     void failAt(std::string operation, ZelDataResult_tags returned, ZelDataResult_tags lastError,
                 int nth = 1)
     {
@@ -61,10 +61,10 @@ public:
         return tripped_ ? lastError_ : Base::getLastError();
     }
 
-    /// What the library stored, whatever getLastError() was made to read.
+    /// The code that the library stored, whatever getLastError() returns.
     ZelDataResult_tags storedError() const { return Base::getLastError(); }
 
-    /// Hands a list of items out before the operation fails.
+    /// From now on a getter delivers its value before it fails.
     void handOutBeforeFailing() { handsOut_ = true; }
 
     /// The operations that were called so far, in order.
@@ -86,13 +86,11 @@ protected:
         if (name != operation_ || --remaining_ != 0) return operation();
         return action_();
     }
-    /// Hands a list of items out with @p operation; before a failure too where a test asks for it.
     template <class Operation>
-    ZelDataResult_tags runHandingOut(const char* name, Operation&& operation) const
+    ZelDataResult_tags runGetter(const char* name, Operation&& operation) const
     {
         if (!handsOut_) return run(name, operation);
-        static_cast<void>(operation());
-        return run(name, [] { return ZelData_Ok; });
+        return run(name, [code = operation()] { return code; });
     }
 
 private:

@@ -1,5 +1,5 @@
 /// @file
-/// Caption items and captions that fail where a test asks for it.
+/// Caption items and captions that fail where a test wants it.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILINGCAPTIONS_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILINGCAPTIONS_H
@@ -18,43 +18,25 @@ namespace ZelInterchangeData {
 /// A caption item, each operation of which can fail.
 class FailingCaptionItem : public FailingTexts<FailingSpan<FailingItem<ZelDataCaptionItem>>> {
 public:
-    ZelDataResult_tags setAlignment(ZelAlignment_tags alignment) override
-    {
-        return run("setAlignment", [&] { return Own::setAlignment(alignment); });
-    }
-    ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const override
-    {
-        return run("getAlignment", [&] { return Own::getAlignment(alignment); });
-    }
+    OVERRIDE_SETTER(setAlignment, ZelAlignment_tags)
+    OVERRIDE_GETTER(getAlignment, ZelAlignment_tags)
 };
 
-/// Captions, each operation of which that a copy uses can fail. Their items are failing ones too.
+/// Captions: each operation that a copy calls can fail. The items that they make can fail too.
 class FailingCaptions : public FailingLanguages<FailingCollection<ZelDataCaptions>> {
     using Text = const std::string&;
 
 public:
-    /// Every item that is made from now on is handed to @p prepare first.
+    /// Calls @p prepare with every item that is made from now on.
     void prepareItems(std::function<void(FailingCaptionItem&)> prepare)
     {
         prepare_ = std::move(prepare);
     }
 
-    ZelDataResult_tags setFontFamily(Text family) override
-    {
-        return run("setFontFamily", [&] { return Own::setFontFamily(family); });
-    }
-    ZelDataResult_tags getFontFamily(std::string& family) const override
-    {
-        return run("getFontFamily", [&] { return Own::getFontFamily(family); });
-    }
-    ZelDataResult_tags setFontSize(unsigned long size) override
-    {
-        return run("setFontSize", [&] { return Own::setFontSize(size); });
-    }
-    ZelDataResult_tags getFontSize(unsigned long& size) const override
-    {
-        return run("getFontSize", [&] { return Own::getFontSize(size); });
-    }
+    OVERRIDE_SETTER(setFontFamily, Text)
+    OVERRIDE_GETTER(getFontFamily, std::string)
+    OVERRIDE_SETTER(setFontSize, unsigned long)
+    OVERRIDE_GETTER(getFontSize, unsigned long)
     ZelDataResult_tags setForegroundColor(float red, float green, float blue) override
     {
         return run("setForegroundColor", [&] { return Own::setForegroundColor(red, green, blue); });
@@ -71,22 +53,10 @@ public:
     {
         return run("getBackgroundColor", [&] { return Own::getBackgroundColor(red, green, blue); });
     }
-    ZelDataResult_tags setBackgroundOpacity(float opacity) override
-    {
-        return run("setBackgroundOpacity", [&] { return Own::setBackgroundOpacity(opacity); });
-    }
-    ZelDataResult_tags getBackgroundOpacity(float& opacity) const override
-    {
-        return run("getBackgroundOpacity", [&] { return Own::getBackgroundOpacity(opacity); });
-    }
-    ZelDataResult_tags clearCaptionItems() override
-    {
-        return run("clearCaptionItems", [&] { return Own::clearCaptionItems(); });
-    }
-    ZelDataResult_tags addCaptionItem(const i_ZelDataCaptionItem& item) override
-    {
-        return run("addCaptionItem", [&] { return Own::addCaptionItem(item); });
-    }
+    OVERRIDE_SETTER(setBackgroundOpacity, float)
+    OVERRIDE_GETTER(getBackgroundOpacity, float)
+    OVERRIDE_ACTION(clearCaptionItems)
+    OVERRIDE_SETTER(addCaptionItem, const i_ZelDataCaptionItem&)
     ZelDataResult_tags createCaptionItem(i_ZelDataCaptionItem** out) const override
     {
         return run("createCaptionItem", [&] {
@@ -96,10 +66,7 @@ public:
             return ZelData_Ok;
         });
     }
-    ZelDataResult_tags getCaptionItems(std::vector<i_ZelDataCaptionItem*>& items) const override
-    {
-        return runHandingOut("getCaptionItems", [&] { return Own::getCaptionItems(items); });
-    }
+    OVERRIDE_GETTER(getCaptionItems, std::vector<i_ZelDataCaptionItem*>)
 
 private:
     std::function<void(FailingCaptionItem&)> prepare_;

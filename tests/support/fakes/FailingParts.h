@@ -6,6 +6,7 @@
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILINGPARTS_H
 
 #include "support/fakes/Failing.h"
+#include "support/fakes/Overrides.h"
 
 #include <string>
 #include <vector>
@@ -16,22 +17,15 @@ namespace ZelInterchangeData {
 template <class Class>
 class FailingItem : public Failing<Class> {
 public:
+    using Own = Class;
+
     ZelDataResult_tags isValid(bool deep) const override
     {
-        return this->run("isValid", [&] { return Class::isValid(deep); });
+        return this->run("isValid", [&] { return Own::isValid(deep); });
     }
-    ZelDataResult_tags clearText() override
-    {
-        return this->run("clearText", [&] { return Class::clearText(); });
-    }
-    ZelDataResult_tags setStart(long long start) override
-    {
-        return this->run("setStart", [&] { return Class::setStart(start); });
-    }
-    ZelDataResult_tags getStart(long long& start) const override
-    {
-        return this->run("getStart", [&] { return Class::getStart(start); });
-    }
+    OVERRIDE_ACTION(clearText)
+    OVERRIDE_SETTER(setStart, long long)
+    OVERRIDE_GETTER(getStart, long long)
 };
 
 /// The end and the duration of an item.
@@ -40,22 +34,10 @@ class FailingSpan : public Base {
 public:
     using Own = typename Base::Own;
 
-    ZelDataResult_tags setEnd(long long end) override
-    {
-        return this->run("setEnd", [&] { return Own::setEnd(end); });
-    }
-    ZelDataResult_tags setDuration(long long duration) override
-    {
-        return this->run("setDuration", [&] { return Own::setDuration(duration); });
-    }
-    ZelDataResult_tags getEnd(long long& end) const override
-    {
-        return this->run("getEnd", [&] { return Own::getEnd(end); });
-    }
-    ZelDataResult_tags getDuration(long long& duration) const override
-    {
-        return this->run("getDuration", [&] { return Own::getDuration(duration); });
-    }
+    OVERRIDE_SETTER(setEnd, long long)
+    OVERRIDE_SETTER(setDuration, long long)
+    OVERRIDE_GETTER(getEnd, long long)
+    OVERRIDE_GETTER(getDuration, long long)
 };
 
 /// The texts of an item by language.
@@ -70,14 +52,8 @@ public:
     {
         return this->run("setTextForLanguage", [&] { return Own::setTextForLanguage(text, id); });
     }
-    ZelDataResult_tags removeTextForLanguage(Text id) override
-    {
-        return this->run("removeTextForLanguage", [&] { return Own::removeTextForLanguage(id); });
-    }
-    ZelDataResult_tags getLanguageIDs(std::vector<std::string>& ids) const override
-    {
-        return this->run("getLanguageIDs", [&] { return Own::getLanguageIDs(ids); });
-    }
+    OVERRIDE_SETTER(removeTextForLanguage, Text)
+    OVERRIDE_GETTER(getLanguageIDs, std::vector<std::string>)
     ZelDataResult_tags getTextForLanguage(std::string& text, Text id) const override
     {
         return this->run("getTextForLanguage", [&] { return Own::getTextForLanguage(text, id); });
@@ -90,48 +66,26 @@ class FailingImage : public Base {
 public:
     using Own = typename Base::Own;
 
-    ZelDataResult_tags setImageFile(const std::string& name) override
-    {
-        return this->run("setImageFile", [&] { return Own::setImageFile(name); });
-    }
-    ZelDataResult_tags setImageIndex(unsigned long index) override
-    {
-        return this->run("setImageIndex", [&] { return Own::setImageIndex(index); });
-    }
-    ZelDataResult_tags setImageOffset(unsigned long long offset) override
-    {
-        return this->run("setImageOffset", [&] { return Own::setImageOffset(offset); });
-    }
-    ZelDataResult_tags getImageFile(std::string& name) const override
-    {
-        return this->run("getImageFile", [&] { return Own::getImageFile(name); });
-    }
-    ZelDataResult_tags getImageIndex(unsigned long& index) const override
-    {
-        return this->run("getImageIndex", [&] { return Own::getImageIndex(index); });
-    }
-    ZelDataResult_tags getImageOffset(unsigned long long& offset) const override
-    {
-        return this->run("getImageOffset", [&] { return Own::getImageOffset(offset); });
-    }
+    OVERRIDE_SETTER(setImageFile, const std::string&)
+    OVERRIDE_SETTER(setImageIndex, unsigned long)
+    OVERRIDE_SETTER(setImageOffset, unsigned long long)
+    OVERRIDE_GETTER(getImageFile, std::string)
+    OVERRIDE_GETTER(getImageIndex, unsigned long)
+    OVERRIDE_GETTER(getImageOffset, unsigned long long)
 };
 
 /// A collection: its validity and its frame rate.
 template <class Class>
 class FailingCollection : public Failing<Class> {
 public:
+    using Own = Class;
+
     ZelDataResult_tags isValid(bool deep) const override
     {
-        return this->run("isValid", [&] { return Class::isValid(deep); });
+        return this->run("isValid", [&] { return Own::isValid(deep); });
     }
-    ZelDataResult_tags setFrameRate(unsigned long rate) override
-    {
-        return this->run("setFrameRate", [&] { return Class::setFrameRate(rate); });
-    }
-    ZelDataResult_tags getFrameRate(unsigned long& rate) const override
-    {
-        return this->run("getFrameRate", [&] { return Class::getFrameRate(rate); });
-    }
+    OVERRIDE_SETTER(setFrameRate, unsigned long)
+    OVERRIDE_GETTER(getFrameRate, unsigned long)
 };
 
 /// The languages of a collection, as far as copies use them.
@@ -140,18 +94,9 @@ class FailingLanguages : public Base {
 public:
     using Own = typename Base::Own;
 
-    ZelDataResult_tags clearLanguages() override
-    {
-        return this->run("clearLanguages", [&] { return Own::clearLanguages(); });
-    }
-    ZelDataResult_tags addLanguage(const std::string& id) override
-    {
-        return this->run("addLanguage", [&] { return Own::addLanguage(id); });
-    }
-    ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const override
-    {
-        return this->run("getOrderedLanguageIDs", [&] { return Own::getOrderedLanguageIDs(ids); });
-    }
+    OVERRIDE_ACTION(clearLanguages)
+    OVERRIDE_SETTER(addLanguage, const std::string&)
+    OVERRIDE_GETTER(getOrderedLanguageIDs, std::vector<std::string>)
 };
 
 } // namespace ZelInterchangeData

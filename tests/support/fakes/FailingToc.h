@@ -1,5 +1,5 @@
 /// @file
-/// Entries and tables of contents that fail where a test asks for it.
+/// Entries and tables of contents that fail where a test wants it.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILINGTOC_H
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_FAILINGTOC_H
@@ -16,29 +16,14 @@ namespace ZelInterchangeData {
 /// An entry, each operation of which can fail.
 class FailingTocItem : public FailingTexts<FailingImage<FailingItem<ZelDataTocItem>>> {};
 
-/// A table, whose operations that others call can fail.
+/// A table: each operation that a copy calls can fail.
 class FailingToc : public FailingLanguages<FailingCollection<ZelDataToc>> {
 public:
-    ZelDataResult_tags setImageFile(const std::string& name) override
-    {
-        return run("setImageFile", [&] { return Own::setImageFile(name); });
-    }
-    ZelDataResult_tags getImageFile(std::string& name) const override
-    {
-        return run("getImageFile", [&] { return Own::getImageFile(name); });
-    }
-    ZelDataResult_tags clearTocItems() override
-    {
-        return run("clearTocItems", [&] { return Own::clearTocItems(); });
-    }
-    ZelDataResult_tags addTocItem(const i_ZelDataTocItem& item) override
-    {
-        return run("addTocItem", [&] { return Own::addTocItem(item); });
-    }
-    ZelDataResult_tags getTocItems(std::vector<i_ZelDataTocItem*>& items) const override
-    {
-        return runHandingOut("getTocItems", [&] { return Own::getTocItems(items); });
-    }
+    OVERRIDE_SETTER(setImageFile, const std::string&)
+    OVERRIDE_GETTER(getImageFile, std::string)
+    OVERRIDE_ACTION(clearTocItems)
+    OVERRIDE_SETTER(addTocItem, const i_ZelDataTocItem&)
+    OVERRIDE_GETTER(getTocItems, std::vector<i_ZelDataTocItem*>)
 };
 
 } // namespace ZelInterchangeData

@@ -5,16 +5,19 @@
 #define ZELINTERCHANGEDATA_TESTS_SUPPORT_FAKES_SCRIPTEDLANGUAGES_H
 
 #include "support/fakes/CallScript.h"
+#include "support/fakes/Overrides.h"
 
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
 
-/// @p Base with the operations that a copy of its languages calls put under a script.
+/// A @p Base with a script for each operation that a copy of its languages calls.
 template <class Base>
 class ScriptedLanguages : public Base {
 public:
+    using Own = Base;
+
     void setLastError(ZelDataResult_tags code) const override
     {
         static_cast<void>(script.run("setLastError", [] { return ZelData_Ok; }));
@@ -24,25 +27,27 @@ public:
     {
         return script.lastErrorOr(Base::getLastError());
     }
-    /// The last error in the field of the base class, whatever getLastError() says.
+    /// The last error in the field of the base class, whatever getLastError() returns.
     ZelDataResult_tags storedCode() const { return Base::getLastError(); }
 
-    ZelDataResult_tags clearLanguages() override
-    {
-        return script.run("clearLanguages", [&] { return Base::clearLanguages(); });
-    }
-    ZelDataResult_tags addLanguage(const std::string& id) override
-    {
-        return script.run("addLanguage", [&] { return Base::addLanguage(id); });
-    }
-    /// A failing call hands the list out all the same.
-    ZelDataResult_tags getOrderedLanguageIDs(std::vector<std::string>& ids) const override
-    {
-        const auto code = Base::getOrderedLanguageIDs(ids);
-        return script.run("getOrderedLanguageIDs", [code] { return code; });
-    }
+    OVERRIDE_ACTION(clearLanguages)
+    OVERRIDE_SETTER(addLanguage, const std::string&)
+    OVERRIDE_GETTER(getOrderedLanguageIDs, std::vector<std::string>)
 
     CallScript script;
+
+protected:
+    template <class Operation>
+    ZelDataResult_tags run(const char* name, Operation&& operation) const
+    {
+        return script.run(name, operation);
+    }
+    /// A failing getter still delivers its value.
+    template <class Operation>
+    ZelDataResult_tags runGetter(const char* name, Operation&& operation) const
+    {
+        return script.run(name, [code = operation()] { return code; });
+    }
 };
 
 } // namespace ZelInterchangeData

@@ -1,8 +1,8 @@
 /// @file
-/// A folder for files with hostile names.
+/// A folder for the files of a test.
 
-#ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_SCRATCHFOLDER_H
-#define ZELINTERCHANGEDATA_TESTS_HOSTILE_SCRATCHFOLDER_H
+#ifndef ZELINTERCHANGEDATA_TESTS_SUPPORT_SCRATCHFOLDER_H
+#define ZELINTERCHANGEDATA_TESTS_SUPPORT_SCRATCHFOLDER_H
 
 #include "core/TempFile.h"
 
@@ -15,23 +15,25 @@ namespace ZelInterchangeData {
 /// A new folder, removed at the end with all that is in it.
 class ScratchFolder {
 public:
-    ScratchFolder() { std::filesystem::create_directory(place_.path()); }
+    ScratchFolder() { std::filesystem::create_directory(path()); }
     ~ScratchFolder()
     {
         std::error_code ignored;
-        std::filesystem::remove_all(place_.path(), ignored);
+        std::filesystem::remove_all(path(), ignored);
     }
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
 
+    const std::string& path() const { return place_.path(); }
     /// The path of a file named @p name, which is used as it is.
-    std::string pathOf(const std::string& name) const { return place_.path() + "/" + name; }
+    std::string pathOf(const std::string& name) const { return path() + "/" + name; }
 
+    bool isEmpty() const { return std::filesystem::is_empty(path()); }
     /// The names of all files, byte for byte.
     std::vector<std::string> names() const
     {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(place_.path()))
+        for (const auto& entry : std::filesystem::directory_iterator(path()))
             names.push_back(entry.path().filename().native());
         return names;
     }
