@@ -16,7 +16,7 @@ namespace ZelInterchangeData {
 /// byte and writes a wide character up to 255 as that byte. It is not open if the file cannot be
 /// opened, or if @p path is empty or contains a zero byte; then no file was changed.
 ///
-/// Destroying it writes what is left, unless an earlier write failed.
+/// Destroying it writes the rest of its buffer, unless an earlier write failed.
 ///
 /// Allocates all memory before it opens the file: after `std::bad_alloc`, no file was changed.
 std::unique_ptr<std::wofstream> createWofstreamWithFile(const std::string& path);

@@ -37,8 +37,8 @@ std::string stripped(std::uint32_t point)
     return point < 0x20 && point != 0x0A ? std::string() : encoded(point);
 }
 
-/// What is left of the code point and a letter b after an ampersand: the byte that shows that no
-/// entity begins here goes. After an a that is the byte that follows it.
+/// What the library keeps of the code point and a letter b after an ampersand: it drops the byte that
+/// shows that no entity begins here. After an a, that is the byte after it.
 std::string leftAfterAmpersand(std::uint32_t point)
 {
     return point == 'a' ? "a" : encoded(point).substr(1) + "b";

@@ -57,7 +57,7 @@ void addControlCharacters(Texts& texts)
         addBoth(texts, "C1 character " + std::to_string(c), bytes);
     }
     addBoth(texts, "line ends", "\r\n\n\r\n\t");
-    addBoth(texts, "nothing but what is stripped", "\x01\t\r\x1F");
+    addBoth(texts, "only what is stripped", "\x01\t\r\x1F");
 }
 
 void addZeroBytes(Texts& texts)

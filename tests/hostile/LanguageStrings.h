@@ -26,7 +26,7 @@ void addLanguageLookups(StringParameters& list, const std::string& of,
     addLookup<Object>(
         list, of + "doesLanguageExist 1", languages,
         {asking(&Object::doesLanguageExist), {ZelData_Ok, "no"}, {ZelData_Ok, "yes"}});
-    // The text is wanted first, in the place of the last language.
+    // Asks for the text first, instead of the last language.
     const auto reorder = [](Object& object, const std::string& id, std::string& /*found*/) {
         Texts ids = delivered<i_ZelDataLanguage>(object, &Object::getOrderedLanguageIDs);
         ids.back() = id;

@@ -27,7 +27,7 @@ std::string packetWith(const Fill& fill)
     return masked;
 }
 
-/// The packet of a document with a collection that has nothing but @p item.
+/// The packet of a document with a collection that has only @p item.
 template <class Kind>
 std::string packetWithItem(const typename Kind::Item& item)
 {

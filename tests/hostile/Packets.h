@@ -1,5 +1,5 @@
 /// @file
-/// Objects with nothing but what they need, and the packets that they make.
+/// Objects with only what they need, and their packets.
 
 #ifndef ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETS_H
 #define ZELINTERCHANGEDATA_TESTS_HOSTILE_PACKETS_H

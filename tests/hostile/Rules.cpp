@@ -6,7 +6,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// A list of languages tells the two errors apart, an item does not.
+/// A list of languages distinguishes the two errors, an item does not.
 ZelDataResult_tags languageCode(const std::string& id)
 {
     if (utf8Code(id, false) != ZelData_Ok) return ZelData_InvalidUtf8;

@@ -24,7 +24,7 @@ using Texts = std::vector<std::string>;
 template <class Object>
 struct Kept {
     Make<Object> make;
-    /// Makes the object hold a text, in the place of the others or beside them.
+    /// Makes the object hold a text, instead of the others or in addition to them.
     std::function<ZelDataResult_tags(Object&, const std::string&)> put;
     /// All texts that it holds.
     std::function<Texts(const Object&)> get;
@@ -136,7 +136,7 @@ struct Lookup {
     std::function<ZelDataResult_tags(Object&, const std::string&, std::string&)> look;
     Answer absent;
     Answer present;
-    /// What is left of the texts when the one looked for was there.
+    /// The texts that remain if the one looked for was there.
     Texts (*left)(const Texts& texts) = all;
 };
 

@@ -71,7 +71,7 @@ void checkFailure(const Operation& operation, const Subject& subject, const Endi
     if (subject.object) checkLastError(operation, ending, lastErrorOf(subject));
 }
 
-/// Calls @p operation on a new object with one of its allocations failing, looks at what is left,
+/// Calls @p operation on a new object with one of its allocations failing, checks the state,
 /// and calls it once more on the same object. Returns whether an allocation failed.
 bool failsAt(std::size_t granted, Shortage shortage, const Operation& operation,
              const std::string& expected)

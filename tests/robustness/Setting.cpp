@@ -188,7 +188,7 @@ class ThrowingConversion : public std::codecvt<wchar_t, char, std::mbstate_t> {
     result do_unshift(std::mbstate_t&, char*, char*, char*&) const override { refuse(); }
 };
 
-/// The classic locale with @p facets, which it owns, in the place of its own.
+/// The classic locale with @p facets, which it owns, instead of its own.
 template <class... Facets>
 std::locale classicWith(Facets*... facets)
 {

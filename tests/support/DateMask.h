@@ -8,7 +8,7 @@
 
 namespace ZelInterchangeData {
 
-/// @p packet with DATE in the place of the moment of its writing, if it has one.
+/// @p packet with DATE instead of its date, if it has one.
 inline std::string dateMasked(std::string packet)
 {
     // Only the title comes before the date, and its quotation marks are escaped.
