@@ -29,16 +29,7 @@ std::optional<std::string_view> LanguageTexts::Map::find(std::string_view langua
 
 bool LanguageTexts::Map::set(std::string_view text, std::string_view languageID)
 {
-    const auto place = texts.lower_bound(languageID);
-    std::string copy(text);
-    if (place == texts.end() || place->first != languageID) {
-        characters += texts.emplace_hint(place, languageID, std::move(copy))->second.size();
-        characters += languageID.size();
-        return false;
-    }
-    characters += copy.size() - place->second.size();
-    place->second = std::move(copy);
-    return true;
+    return !texts.insert_or_assign(std::string(languageID), std::string(text)).second;
 }
 
 LanguageTexts::Map LanguageTexts::unpacked() const
@@ -51,11 +42,6 @@ LanguageTexts::Map LanguageTexts::unpacked() const
 std::size_t LanguageTexts::count() const noexcept
 {
     return many_ ? many_->read().texts.size() : few_.count();
-}
-
-std::size_t LanguageTexts::characters() const noexcept
-{
-    return many_ ? many_->read().characters : few_.characters();
 }
 
 void LanguageTexts::clear() noexcept
@@ -115,9 +101,7 @@ void LanguageTexts::finishRemoval(std::string_view languageID, PackedTexts left)
     few_ = std::move(left);
     if (!many_) return;
     Map& map = many_->write();
-    const auto place = map.texts.find(languageID);
-    map.characters -= place->first.size() + place->second.size();
-    map.texts.erase(place);
+    map.texts.erase(map.texts.find(languageID));
     if (map.texts.empty()) many_.reset();
 }
 

@@ -21,8 +21,8 @@ namespace ZelInterchangeData {
 /// The texts of an item by language ID, in ascending byte order. Copies share them until one of
 /// them changes. If memory runs out, an operation throws `std::bad_alloc` and changes nothing.
 ///
-/// They are packed as long as a change copies few bytes, as for nearly every item. More or longer
-/// texts are in a map, so that a change stays fast.
+/// They are packed as long as a change copies few bytes. More or longer texts are in a map, so that a
+/// change stays fast.
 class LanguageTexts {
 public:
     /// #ZelData_Ok if both are UTF-8 and the language is in the catalogue, otherwise
@@ -35,8 +35,6 @@ public:
     {
         return many_ ? many_->read().find(languageID) : few_.find(languageID);
     }
-    /// The number of bytes in all language IDs and texts.
-    std::size_t characters() const noexcept;
     /// Calls @p visit with each language ID and its text.
     template <class Visit>
     void forEach(Visit&& visit) const
@@ -81,7 +79,6 @@ private:
         bool set(std::string_view text, std::string_view languageID);
 
         std::map<std::string, std::string, std::less<>> texts;
-        std::size_t characters = 0;
     };
 
     Map unpacked() const;

@@ -9,10 +9,10 @@ namespace {
 /// The size of what is stored.
 struct Size {
     std::size_t entries;
-    std::size_t characters; // of all IDs and texts
+    std::size_t textBytes; // of all IDs and texts
 };
 
-std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
+std::size_t bytesOf(const PackedTexts::Entry& entry) noexcept
 {
     return entry.languageID.size() + entry.text.size();
 }
@@ -44,11 +44,11 @@ struct Layout {
     const std::size_t* count;
 };
 
-/// New bytes for entries whose number and characters are known, filled from first to last.
+/// New bytes for entries whose number and bytes are known, filled from first to last.
 class Filling {
 public:
     explicit Filling(Size size)
-        : bytes_(sizeof(std::size_t) + size.entries * sizeof(Span) + size.characters),
+        : bytes_(sizeof(std::size_t) + size.entries * sizeof(Span) + size.textBytes),
           spans_(reinterpret_cast<Span*>(bytes_.mutableData() + sizeof(std::size_t))),
           characters_(reinterpret_cast<char*>(spans_ + size.entries))
     {
@@ -99,14 +99,14 @@ struct Edit {
 
 Size sizeAfter(const PackedTexts& texts, const Edit& edit)
 {
-    Size size{texts.count(), texts.characters()};
+    Size size{texts.count(), texts.byteCount()};
     for (std::size_t i = edit.first; i < edit.last; ++i) {
         --size.entries;
-        size.characters -= charactersOf(texts[i]);
+        size.textBytes -= bytesOf(texts[i]);
     }
     if (edit.added != nullptr) {
         ++size.entries;
-        size.characters += charactersOf(*edit.added);
+        size.textBytes += bytesOf(*edit.added);
     }
     return size;
 }
@@ -131,14 +131,14 @@ std::size_t PackedTexts::count() const noexcept
     return bytes_.data() == nullptr ? 0 : *Layout(bytes_).count;
 }
 
-std::size_t PackedTexts::characters() const noexcept
+std::size_t PackedTexts::byteCount() const noexcept
 {
     return bytes_.data() == nullptr ? 0 : Layout(bytes_).beginOf(count());
 }
 
 std::size_t PackedTexts::bytesWith(std::size_t added) const noexcept
 {
-    return sizeof(std::size_t) + (count() + 1) * sizeof(Span) + characters() + added;
+    return sizeof(std::size_t) + (count() + 1) * sizeof(Span) + byteCount() + added;
 }
 
 PackedTexts::Entry PackedTexts::operator[](std::size_t index) const noexcept

@@ -31,7 +31,7 @@ public:
     /// The text for @p languageID; none if there is no such text.
     std::optional<std::string_view> find(std::string_view languageID) const noexcept;
     /// The number of bytes in all IDs and texts.
-    std::size_t characters() const noexcept;
+    std::size_t byteCount() const noexcept;
     /// The number of bytes that adding a text of @p added bytes, including its ID, copies.
     std::size_t bytesWith(std::size_t added) const noexcept;
 

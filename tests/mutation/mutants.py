@@ -11,7 +11,8 @@ from dataclasses import dataclass
 
 # Everything that is not code; removed before the search for tokens.
 BLANKED = re.compile(
-    r"""//[^\n]*|/\*.*?\*/                      # comments
+    r"""^\#(?:ifdef[ ]_WIN32|ifndef[ ]__cpp_lib_to_chars)\b.*?^\#(?:else|endif)\b   # other systems
+      | //[^\n]*|/\*.*?\*/                      # comments
       | ^[ \t]*\#(?:[^\n\\]|\\.|\\\n)*          # directives
       | \bstatic_assert\b[^;]*;
       | R"(?P<mark>[^(]*)\(.*?\)(?P=mark)"      # string and character literals

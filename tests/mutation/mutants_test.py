@@ -22,6 +22,10 @@ class Mutants(unittest.TestCase):
             with self.subTest(old):
                 self.assertEqual(changes(f"return a {old} b;"), [f"{old} -> {new}"])
 
+    def test_code_of_other_systems_is_skipped(self):
+        text = "#ifdef _WIN32\nf(1);\n#else\nf(2);\n#endif\nf(3);\n"
+        self.assertEqual(changes(text), ["2 -> 3", "3 -> 4"])
+
     def test_and_becomes_or_and_back(self):
         self.assertEqual(changes("return a && b || c;"), ["&& -> ||", "|| -> &&"])
 

@@ -154,7 +154,7 @@ class Verdicts(unittest.TestCase):
         self.assertEqual((result, len(self.seen)), (("noticed", "header_tests"), 4))
 
     def test_a_program_that_runs_too_long_has_noticed(self):
-        self.assertEqual(self.verdict(test=lambda program: None), ("noticed", "util_tests"))
+        self.assertEqual(self.verdict(test=lambda program: None), ("noticed", "util_tests, time limit"))
 
     def test_what_the_compiler_refuses_is_not_compiled(self):
         output = "[1/9] x\nFAILED: src/CMakeFiles/zel_objects.dir/util/A.cpp.o \nerror\n"

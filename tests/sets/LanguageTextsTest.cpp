@@ -41,7 +41,6 @@ TEST(LanguageTexts, NewOnesAreEmptyAndTakeNoMemory)
     const LanguageTexts texts;
     const LanguageTexts copy(texts);
     EXPECT_EQ(0U, copy.count());
-    EXPECT_EQ(0U, copy.characters());
     EXPECT_FALSE(copy.find("en").has_value());
 }
 
@@ -54,14 +53,6 @@ TEST(LanguageTexts, AreInAscendingOrderOfIDs)
     EXPECT_EQ(ZelData_Ok, texts.getLanguageIDs(ids));
     EXPECT_EQ((std::vector<std::string>{"de", "de-AT", "en", "pt", "pt-BR"}), ids);
     EXPECT_EQ("text pt", texts.find("pt"));
-}
-
-TEST(LanguageTexts, CountTheCharactersOfIDsAndTexts)
-{
-    LanguageTexts texts;
-    EXPECT_EQ(ZelData_Ok, texts.set("four", "en"));
-    EXPECT_EQ(ZelData_Ok, texts.set("", "de"));
-    EXPECT_EQ(8U, texts.characters());
 }
 
 TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
@@ -192,13 +183,10 @@ TEST(LanguageTexts, AreTheSameTextsWhenTheyAreManyOrLong)
 {
     LanguageTexts texts;
     Map map;
-    std::size_t characters = 0;
     for (int i = 0; i < 2000; ++i) {
         const std::string id = "en-" + std::to_string(i * 7 % 2000);
         EXPECT_EQ(ZelData_Ok, texts.set("text of " + id, id));
         map[id] = "text of " + id;
-        characters += 2 * id.size() + 8;
-        ASSERT_EQ(characters, texts.characters());
     }
     EXPECT_EQ(map, mapOf(texts));
     std::vector<std::string> ids;
@@ -215,7 +203,6 @@ TEST(LanguageTexts, LongOnesAreSharedUntilACopyChanges)
     EXPECT_EQ(ZelData_WarnAlreadyExists, texts.set("short", "en"));
     EXPECT_EQ(9000U, copy.find("en")->size());
     EXPECT_EQ((Map{{"de", "zwei"}, {"en", "short"}}), mapOf(texts));
-    EXPECT_EQ(13U, texts.characters());
 }
 
 TEST(LanguageTexts, LongOnesCanAllBeRemoved)
@@ -223,7 +210,6 @@ TEST(LanguageTexts, LongOnesCanAllBeRemoved)
     LanguageTexts texts = unpackedTexts();
     EXPECT_EQ(ZelData_NotFound, texts.remove("fr"));
     EXPECT_EQ(ZelData_Ok, texts.remove("en"));
-    EXPECT_EQ(6U, texts.characters());
     EXPECT_EQ(ZelData_Ok, texts.remove("de"));
     EXPECT_EQ(0U, texts.count());
     EXPECT_EQ(ZelData_NotFound, texts.remove("de"));
@@ -259,7 +245,6 @@ TEST(LanguageTexts, WithoutMemoryAChangeOfLongOnesChangesNothing)
         ZelDataResult_tags code = ZelData_NoData;
         while (runsOutOfMemory(granted, [&] { code = change(texts); })) {
             EXPECT_EQ(before, mapOf(texts));
-            EXPECT_EQ(shared.characters(), texts.characters());
             ++granted;
         }
         EXPECT_LT(0U, granted);

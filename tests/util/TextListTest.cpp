@@ -85,7 +85,8 @@ TEST(TextList, ACopyIsIndependent)
 TEST(TextList, WithoutMemoryNothingIsAppended)
 {
     for (std::size_t count = 0; count < 40; ++count) {
-        TextList list = listOf(count);
+        const TextList original = listOf(count);
+        TextList list(original); // without room for more
         const Texts before = list.texts();
         const std::string text = numbered(count);
         std::size_t granted = 0;

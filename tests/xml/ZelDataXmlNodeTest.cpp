@@ -3,6 +3,7 @@
 
 #include "xml/ZelDataXmlNode.h"
 
+#include "support/FailingAllocation.h"
 #include "support/LongNumbers.h"
 #include "xml/TreeVerbs.h"
 #include "xml/ZelDataXmlStream.h"
@@ -636,6 +637,16 @@ TEST(ZelDataXmlNode, AskingThousandsOfTimesForANameNestsAsDeep)
         expected = "<a>" + expected + "</a>";
     }
     EXPECT_EQ(root.getXml(false), expected);
+}
+
+TEST(ZelDataXmlNode, ManyChildrenTakeMemoryInProportion)
+{
+    // Each piece of memory is larger than the one before: 18 of them are about 12 megabytes.
+    ZelDataXmlStream root;
+    const FailingAllocation watch;
+    for (int child = 0; child < 5000; ++child)
+        root.newGroup().element("a");
+    EXPECT_LE(watch.count(), 18U);
 }
 
 TEST(ZelDataXmlNode, ATreeThatIsDeepAndWideIsDestroyed)
