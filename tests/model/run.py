@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Compares the library with the model, answer by answer, over random scripts.
 
-run.py --seeds A..B --driver PATH [--length N] [--keep-going] [--no-shrink]
+run.py --seeds A..B --driver PATH [--length N] [--keep-going] [--no-shrink] [--emulator WORD...]
 
 At the first difference, it removes from the script what the difference does not need, and shows the
 rest with both answers. The exit status is 1 if there is a difference.
@@ -75,10 +75,10 @@ def same(expected, actual, moment):
 
 
 def answers(driver, script, zone_name):
-    """The lines that the driver prints, one for each operation, and one more if it crashed."""
+    """The lines that the driver, a command, prints, one for each operation, and one more if it crashed."""
     with tempfile.TemporaryDirectory() as folder:
         done = subprocess.run(
-            [driver, folder],
+            [*driver, folder],
             input="".join(line_of(operation) + "\n" for operation in script).encode(),
             stdout=subprocess.PIPE,
             stderr=subprocess.PIPE,
@@ -159,26 +159,29 @@ def show(driver, script, zone):
 def arguments():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--seeds", required=True, help="first and last seed, as in 1..100")
-    parser.add_argument("--driver", required=True, help="path of the driver program")
     parser.add_argument("--length", type=int, default=400, help="operations in a script")
     parser.add_argument("--no-shrink", action="store_true", help="show no script, only its seed")
     parser.add_argument("--keep-going", action="store_true", help="show every script that differs")
+    parser.add_argument("--driver", required=True, help="path of the driver program")
+    parser.add_argument("--emulator", nargs=argparse.REMAINDER, default=[],
+                        help="what runs the driver; all words that follow")
     return parser.parse_args()
 
 
 def main():
     options = arguments()
+    driver = [*options.emulator, options.driver]
     first, _, last = options.seeds.partition("..")
     operations = differences = 0
     for seed in range(int(first), int(last or first) + 1):
         zone = ZONES[seed % len(ZONES)]
         script, expected = Generator(seed, zone[1], options.length).make()
         operations += len(script)
-        if first_difference(options.driver, script, expected, zone):
+        if first_difference(driver, script, expected, zone):
             differences += 1
             print("seed %d differs" % seed)
             if not options.no_shrink:
-                show(options.driver, shrunk(options.driver, script, zone), zone)
+                show(driver, shrunk(driver, script, zone), zone)
             if not options.keep_going:
                 break
     print("%d operations compared, %d scripts differ" % (operations, differences))

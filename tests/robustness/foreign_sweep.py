@@ -359,7 +359,7 @@ def main():
             scene_count += 1
             points += len(sweep.points) - 1
             steps += len(sweep.script.operations)
-            if difference := sweep.difference(options.driver):
+            if difference := sweep.difference([options.driver]):
                 print(difference)
                 return 1
         calls += reached
