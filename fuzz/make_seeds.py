@@ -73,9 +73,9 @@ def structured(rng, number):
 
 
 def foreign(rng, number):
-    """One input, for a kind of object, a road and a way to fail."""
-    kind, road = number % 7, number // 7
-    return bytes([kind, road, rng.randrange(12), number % 10, rng.randrange(7), 1, 0,
+    """One input, for a kind of object, a route and a way to fail."""
+    kind, route = number % 7, number // 7
+    return bytes([kind, route, rng.randrange(12), number % 10, rng.randrange(7), 1, 0,
                   rng.randrange(2)]) + filled(rng, 12)
 
 

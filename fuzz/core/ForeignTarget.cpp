@@ -300,24 +300,24 @@ Code fatalCode(const FakeScript& script)
 }
 
 /// Whether @p outcome is what @p trouble must lead to.
-template <class Road>
+template <class Route>
 bool isRight(const Outcome& outcome, const Trouble& trouble)
 {
     const Code expected = fatalCode(trouble.script);
     const bool isMemory = expected == ZelData_OutOfMemory && trouble.script.mode != 'c' &&
                           trouble.script.mode != 'd' && trouble.script.mode != 'h';
-    if (isMemory && Road::throwsBadAlloc) return outcome.wasThrown;
+    if (isMemory && Route::throwsBadAlloc) return outcome.wasThrown;
     if (outcome.wasThrown) return false;
     // A target with a last error of its own need not know how its inherited functions ended.
-    if (Road::isTargetForeign && trouble.script.keepsOwn) return true;
+    if (Route::isTargetForeign && trouble.script.keepsOwn) return true;
     // If the last error is not a failure, the caller continues.
-    const bool mayGoOn = (!Road::isDirect || trouble.isInItems) && !failed(expected);
+    const bool mayGoOn = (!Route::isDirect || trouble.isInItems) && !failed(expected);
     if (mayGoOn || outcome.code == expected) return true;
     // For a header that is copied to, the setter's own code counts.
-    return Road::isTargetForeign && outcome.code == trouble.script.code;
+    return Route::isTargetForeign && outcome.code == trouble.script.code;
 }
 
-template <class Road>
+template <class Route>
 void checkOutcome(const Outcome& outcome, const Trouble& trouble)
 {
     require(outcome.wasThrown || outcome.lastError == outcome.code,
@@ -325,27 +325,27 @@ void checkOutcome(const Outcome& outcome, const Trouble& trouble)
     if (!outcome.wentWrong) {
         require(!outcome.wasThrown, "an exception from nowhere");
     } else if (isFatal(trouble.script)) {
-        require(isRight<Road>(outcome, trouble), "the failure of a caller's object is lost");
+        require(isRight<Route>(outcome, trouble), "the failure of a caller's object is lost");
     }
 }
 
 /// Adding twice leaves two items.
-template <class Road>
+template <class Route>
 inline constexpr bool isRepeatable = true;
 template <class Kind>
 inline constexpr bool isRepeatable<CollectionAdds<Kind>> = false;
 
-template <class Road>
+template <class Route>
 void tryRoad(Input& input)
 {
     const Trouble trouble = readTrouble(input);
     Input forTwin = input;
-    Road tested(input);
-    Road twin(forTwin);
+    Route tested(input);
+    Route twin(forTwin);
     const Outcome plain = twin.run(input, {});
     const Outcome outcome = tested.run(input, trouble);
-    checkOutcome<Road>(outcome, trouble);
-    if (!isRepeatable<Road> && !failed(outcome.code)) return; // it would add a second item
+    checkOutcome<Route>(outcome, trouble);
+    if (!isRepeatable<Route> && !failed(outcome.code)) return; // it would add a second item
     const Outcome again = tested.run(input, {});
     require(again.code == plain.code, "after the failure the operation returns another code");
     if (failed(plain.code)) return; // a partial state depends on what was there before

@@ -109,7 +109,7 @@ std::locale byteLocale()
 
 #ifdef _WIN32
 
-/// Opens the file at @p path, which is UTF-8; any other text names no file.
+/// Opens the file at @p path. Opens nothing if @p path is not UTF-8.
 template <class Stream>
 void openFile(Stream& stream, const std::string& path)
 {

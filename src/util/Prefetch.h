@@ -21,7 +21,7 @@ inline void prefetch([[maybe_unused]] const void* address,
     };
     constexpr std::uintptr_t cacheLine = 64;
     const auto first = reinterpret_cast<std::uintptr_t>(address);
-    const auto last = first + size; // may be in a further line
+    const auto last = first + size; // may be in another cache line
     for (std::uintptr_t line = first; line < last; line += cacheLine)
         askFor(line);
     askFor(last);

@@ -46,7 +46,7 @@ public:
     /// The number of bytes appended so far.
     std::size_t position() const noexcept { return flushed_ + size_; }
 
-    /// Appends the pieces that the string still lacks.
+    /// Appends the remaining pieces to the string.
     void flush()
     {
         out_.append(block_.data(), size_);

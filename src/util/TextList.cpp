@@ -7,7 +7,7 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Up to this many texts are compared one by one, which is faster than any index.
+/// Up to this many texts are compared one by one, without an index.
 constexpr std::size_t fewTexts = 16;
 
 } // namespace

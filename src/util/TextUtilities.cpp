@@ -257,7 +257,7 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
-    // Most texts are valid, and checking that is faster than finding the first error.
+    // For a valid text, this is faster than looking for the first error.
     if (!bmpOnly && isWellFormed(text)) return ZelData_Ok;
     const char* position = text.data();
     const char* const end = position + text.size();

@@ -51,7 +51,7 @@ std::string finiteText(double value)
 
 #else
 
-// Without the macro std::to_chars may take no floating-point number, or only on newer systems.
+// Without the macro, std::to_chars may not accept floating-point numbers, or only on newer systems.
 std::string finiteText(double value)
 {
     std::ostringstream stream;
@@ -130,7 +130,7 @@ std::string decimalText(unsigned long long value)
 std::string generalText(double value)
 {
     if (std::isfinite(value)) return finiteText(value);
-    // Here and there std::to_chars writes "-nan(ind)".
+    // Some implementations of std::to_chars write "-nan(ind)".
     return std::string(std::signbit(value) ? "-" : "").append(std::isnan(value) ? "nan" : "inf");
 }
 

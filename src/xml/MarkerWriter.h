@@ -87,7 +87,7 @@ public:
     /// Closes a marker after its content().
     void endContent() { text_.append("</rdf:Description></rdf:li>"); }
 
-    /// Appends what the text still lacks.
+    /// Appends the remaining bytes to the text.
     void finish() { text_.flush(); }
 
 private:

@@ -15,7 +15,7 @@ STATIC = "lib/libZelInterchangeData.a"
 
 
 def copy_of_the_tree(folder):
-    """The sources alone, without what was built among them."""
+    """The tree without build output."""
     built = {path.parent for path in SOURCE.rglob("CMakeCache.txt")}
     shutil.copytree(SOURCE, folder, ignore=lambda parent, names: [
         name for name in names if name == ".git" or SOURCE.joinpath(parent, name) in built])
@@ -23,7 +23,7 @@ def copy_of_the_tree(folder):
 
 
 def packages(tree):
-    """What the project looks for, the packages of its consumers excepted."""
+    """The packages that the project looks for, except those of its consumers."""
     return {package for path in tree.rglob("CMakeLists.txt") if "consumers" not in path.relative_to(tree).parts
             for package in PACKAGE.findall(path.read_text(encoding="utf-8"))}
 

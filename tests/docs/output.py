@@ -11,7 +11,7 @@ DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
 
 
 def in_one_line(block):
-    """The shown packet as written: no blank between two tags, one before an attribute."""
+    """The shown packet as written: no space between two tags, one before an attribute."""
     lines = [line.strip() for line in block.splitlines()]
     text = lines[0]
     for line in lines[1:]:

@@ -178,7 +178,7 @@ TEST_F(HeaderFormatter, LeavesEveryOtherByteOfATextUnchanged)
     EXPECT_EQ("\xFF\n\t\x01\xC3\xA9", attribute(written(values), "dc:title"));
 }
 
-TEST_F(HeaderFormatter, JoinsKeywordsWithCommaAndBlank)
+TEST_F(HeaderFormatter, JoinsKeywordsWithCommaAndSpace)
 {
     HeaderValues values = plainValues();
     values.keywords = {"a", "b & c"};

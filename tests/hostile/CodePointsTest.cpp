@@ -78,7 +78,7 @@ TEST(EveryCodePoint, IsEscapedWhenItIsMarkupAndOnlyThen)
     expectOfAll(U::htmlTagsToText, escaped);
 }
 
-TEST(EveryCodePoint, IsStrippedWhenItIsAControlCharacterBelowTheBlank)
+TEST(EveryCodePoint, IsStrippedWhenItIsAControlCharacterBelowTheSpace)
 {
     expectOfAll(U::stripUnsupportedCharacters, stripped);
 }

@@ -91,7 +91,7 @@ std::unique_ptr<i_ZelDataScreenText> screenTextOf(const PacketModel& model)
 }
 
 /// The value of an attribute as a reader gives it: a line end counts as one character, and all white
-/// space becomes blanks.
+/// space becomes spaces.
 std::string inAttribute(const std::string& text)
 {
     std::string read;

@@ -3,7 +3,7 @@
 Every operation returns its code and keeps it as the last error; a body that returns none has
 succeeded. Values are delivered through `Ref` objects, so a test sees whether one was left alone.
 The interface classes hold the copies, which call only the operations of both objects; the classes
-behind them hold everything else.
+that derive from them hold everything else.
 """
 
 import functools
@@ -128,7 +128,7 @@ def getter(field, wrap=operation):
 
 
 def field_of(name):
-    """The attribute behind the operations on `name`: "app_name" for "AppName"."""
+    """The attribute that the operations use for `name`: "app_name" for "AppName"."""
     return re.sub("(?<=[a-z])(?=[A-Z])", "_", name).lower()
 
 

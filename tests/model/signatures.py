@@ -245,7 +245,7 @@ SIGNATURES = {
         createDataScreenText p:S
         """
     ),
-    # Operations of the classes behind the interfaces.
+    # Operations of the classes that implement the interfaces.
     "ZCI": table("assign c:ZCI"),
     "ZTI": table("assign c:ZTI"),
     "ZSI": table("assign c:ZSI"),

@@ -107,7 +107,7 @@ def language_names(language):
 
 
 def language_key(code):
-    """Two blanks and the two bytes as one number; only ASCII letters become lower case."""
+    """Two spaces and the two bytes as one number; only ASCII letters become lower case."""
     first, second = code.lower()
     return 0x20200000 + first * 256 + second
 

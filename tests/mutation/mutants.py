@@ -2,7 +2,7 @@
 each.
 
 A mutant changes a comparison, a boolean connective or value, a whole number or a result code
-outside comments, string literals, directives and static assertions. Operators have a blank on both
+outside comments, string literals, directives and static assertions. Operators have a space on both
 sides, which distinguishes them from template brackets and references."""
 
 import re
@@ -63,7 +63,7 @@ class Mutant:
 
 
 def code_of(text):
-    """The text with blanks in place of everything that is not code, so that positions stay the same."""
+    """The text with spaces in place of everything that is not code, so that positions stay the same."""
     return BLANKED.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
 
 

@@ -3,7 +3,7 @@
 ///
 ///     packet_maker DESCRIPTION PACKET
 ///
-/// Each line of a description is a key and its words, separated by blanks. A text is "=" followed by
+/// Each line of a description is a key and its words, separated by spaces. A text is "=" followed by
 /// its characters, those other than letters and digits as %XX. A caption and an entry end with any
 /// number of pairs of a language and a text.
 ///

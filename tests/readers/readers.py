@@ -114,7 +114,7 @@ def data_of_rdf_xml(text):
     return without_date(structure(description[0]))
 
 
-def line_feeds_as_blanks(text):
+def line_feeds_as_spaces(text):
     """The text as XML readers normalise it in an attribute."""
     return text.replace("\n", " ")
 
@@ -134,7 +134,7 @@ class Xmllint:
 
     @staticmethod
     def shown(data):
-        return changed(data, line_feeds_as_blanks, same)
+        return changed(data, line_feeds_as_spaces, same)
 
 
 class Rapper:
@@ -200,7 +200,7 @@ class Rapper:
 
     @staticmethod
     def folded(text):
-        """In attributes it strips blanks at both ends and collapses runs of them."""
+        """In attributes it strips spaces at both ends and collapses runs of them."""
         return re.sub(r"[ \n]+", " ", text).strip(" ")
 
 
@@ -217,7 +217,7 @@ class Exempi:
 
     @classmethod
     def shown(cls, data):
-        data = changed(data, lambda text: cls.without_delete(line_feeds_as_blanks(text)),
+        data = changed(data, lambda text: cls.without_delete(line_feeds_as_spaces(text)),
                        lambda item: Item(cls.canonical(item.language),
                                          cls.without_delete(item.text)))
         # Their namespace defines these two as lists.
@@ -227,7 +227,7 @@ class Exempi:
 
     @staticmethod
     def without_delete(text):
-        """It replaces U+007F with a blank."""
+        """It replaces U+007F with a space."""
         return text.replace("\x7f", " ")
 
     @staticmethod

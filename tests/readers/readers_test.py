@@ -35,7 +35,7 @@ EMOJI = {"en": "👋🏽 👩‍👩‍👧‍👦 🇩🇪 ❤️", "de": "😀
 SPECIAL = {"en": "\"a\" & 'b' < c > d", "de": "&amp; &lt;b&gt; &#65; <![CDATA[x]]>",
            "fr": "]]>&&<<>>''\"\""}
 LINE_FEEDS = {"en": "one\ntwo\n\nfour", "de": "\nAnfang", "fr": "fin\n"}
-BLANKS = {"en": " one  two ", "de": "\u00a0Rand\u3000", "fr": "a \n b"}
+SPACES = {"en": " one  two ", "de": "\u00a0Rand\u3000", "fr": "a \n b"}
 EMPTY = {"en": "", "de": "da", "fr": ""}
 LOOK_ALIKES = {"en": "12", "de": "true", "fr": "FALSE", "it": "1/2",
                "es": "-1.5e3", "pt": "{\\rtf1 }"}
@@ -127,8 +127,8 @@ class ReaderTest(unittest.TestCase):
     def test_line_feeds(self):
         self.assert_read(everywhere(LINE_FEEDS))
 
-    def test_blanks(self):
-        self.assert_read(everywhere(BLANKS))
+    def test_spaces(self):
+        self.assert_read(everywhere(SPACES))
 
     def test_empty_texts(self):
         self.assert_read(everywhere(EMPTY))

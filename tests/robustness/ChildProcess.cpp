@@ -18,7 +18,7 @@ namespace {
 
 const std::string refused = "refused by this machine: ";
 
-/// The child's part: writes @p said to the pipe and ends without cleaning up what is the parent's.
+/// The child's part: writes @p said to the pipe and ends without cleaning up what belongs to the parent.
 [[noreturn]] void answer(int pipe, const std::string& said)
 {
     const auto written = write(pipe, said.data(), said.size());

@@ -22,7 +22,7 @@ std::size_t openDescriptors();
 /// What a child reports when the machine refuses @p what. The reason is in errno.
 std::string refusal(const std::string& what);
 
-/// Expects that a child was fine. Prints a refusal, so that CTest counts the test as skipped.
+/// Expects that a child succeeded. Prints a refusal, so that CTest counts the test as skipped.
 void expectFine(const std::string& said);
 
 } // namespace ZelInterchangeData

@@ -37,7 +37,7 @@ public:
 
     /// How many writes there were.
     [[nodiscard]] std::size_t count() const noexcept;
-    /// How many of them met the trouble.
+    /// How many of them failed.
     [[nodiscard]] std::size_t troubled() const noexcept;
 };
 

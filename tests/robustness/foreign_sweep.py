@@ -46,7 +46,7 @@ OWN = {"L": ["H", "C", "T"], "D": ["D", "X"]}
 # What goes wrong: the model's letter for it, the code returned and the code kept. A known error and
 # a known warning, unknown ones, both bits at once, a failure that is kept as success, a code that is
 # no failure; a failure after the work was done or half of the items were handed out; exhausted
-# memory, an exception, a number thrown; the end of the thread; a last error that cannot be asked for
+# memory, an exception, a number thrown; the end of the thread; a last error that cannot be read
 # any more.
 WAYS = [
     ("c", INVALID_ARGUMENT, WARN_TIMING), ("c", WARN_TIMING, INVALID_ARGUMENT),
@@ -57,7 +57,7 @@ WAYS = [
     ("b", OK, OK), ("x", OK, OK), ("B", OK, OK), ("X", OK, OK),
     ("e", OK, OK), ("k", OK, OK), ("E", OK, OK),
 ]
-# A target whose last error cannot be asked for has no result to compare.
+# A target whose last error cannot be read has no result to compare.
 SOURCE_WAYS = WAYS + [("l", 0x80000E11, 0x80000E11), ("m", 0x80000E11, 0x80000E11),
                         ("n", 0x80000E11, 0x80000E11)]
 
@@ -225,7 +225,7 @@ class Script:
             self.look_at(kind.lstrip("f"), CALLED)
 
 
-# Who is called, whose calls go wrong: the argument's, its items' or those of the called one, and
+# Which object is called, and whose calls fail: those of the argument, its items or the called object, and
 # whether the argument is one of ours.
 Scene = namedtuple("Scene", "operation called wrong own_argument")
 

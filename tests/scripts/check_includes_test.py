@@ -63,7 +63,7 @@ class CheckIncludes(unittest.TestCase):
                     self.assertEqual(self.run_checker().returncode, 0 if room == other else 1)
             self.write(f"src/{room}/A.cpp", "")
 
-    def test_blanks_do_not_hide_an_include(self):
+    def test_spaces_do_not_hide_an_include(self):
         self.write("src/xml/A.cpp", '  #  include   "core/B.h"\n')
         self.assert_refused('src/xml/A.cpp:1: "core/B.h" reaches upward from xml')
 

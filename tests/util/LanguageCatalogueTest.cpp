@@ -188,7 +188,7 @@ TEST(FindLanguage, AllocatesNothing)
 
 // The key
 
-TEST(IntForISO6391Code, JoinsTwoBlanksAndTheLowerCaseLetters)
+TEST(IntForISO6391Code, JoinsTwoSpacesAndTheLowerCaseLetters)
 {
     int key = 0;
     EXPECT_TRUE(intForISO6391Code("en", key));

@@ -92,7 +92,7 @@ TEST(StripUnsupportedCharacters, DropsTabAndCarriageReturnAndKeepsTheLineFeed)
     EXPECT_EQ(strip("a\tb\r\nc"), "ab\nc");
 }
 
-TEST(StripUnsupportedCharacters, DropsTheBytesBelowTheBlankAndKeepsAllOthers)
+TEST(StripUnsupportedCharacters, DropsTheBytesBelowTheSpaceAndKeepsAllOthers)
 {
     std::string expected = "\n";
     for (int byte = 0x20; byte < 256; ++byte)

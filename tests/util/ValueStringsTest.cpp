@@ -223,7 +223,7 @@ TEST(GetVersionString, UsesAllHigherBitsAsMajor)
 
 // Locales
 
-/// Separates pairs of digits with blanks and uses a decimal comma.
+/// Separates pairs of digits with spaces and uses a decimal comma.
 class OddPunctuation : public std::numpunct<char> {
 protected:
     char do_decimal_point() const override { return ','; }

@@ -10,7 +10,7 @@
 namespace ZelInterchangeData {
 namespace {
 
-TEST(MarkerWriter, WritesAttributesInOrderWithABlankAfterEach)
+TEST(MarkerWriter, WritesAttributesInOrderWithASpaceAfterEach)
 {
     std::string text = "before";
     MarkerWriter markers(text);

@@ -30,7 +30,7 @@ TEST(ZelDataXmlAttribute, BeginsWithoutNameAndValue)
     EXPECT_EQ(text(attribute), "=\"\" ");
 }
 
-TEST(ZelDataXmlAttribute, WritesNameAndQuotedValueAndOneBlank)
+TEST(ZelDataXmlAttribute, WritesNameAndQuotedValueAndOneSpace)
 {
     ZelDataXmlAttribute attribute(nullptr);
     attribute < "xml:lang" < "en";

@@ -286,7 +286,7 @@ TEST(ZelDataXmlNode, EmptyGroupsAddNothing)
 
 // Attributes
 
-TEST(ZelDataXmlNode, AttributeAndTextAreWrittenWithABlankBeforeTheBracket)
+TEST(ZelDataXmlNode, AttributeAndTextAreWrittenWithASpaceBeforeTheBracket)
 {
     ZelDataXmlStream root;
     ZelDataXmlNode& n = root < "n";
@@ -295,7 +295,7 @@ TEST(ZelDataXmlNode, AttributeAndTextAreWrittenWithABlankBeforeTheBracket)
     EXPECT_EQ(root.getXml(false), R"(<n k="v" >t</n>)");
 }
 
-TEST(ZelDataXmlNode, EveryAttributeIsFollowedByOneBlank)
+TEST(ZelDataXmlNode, EveryAttributeIsFollowedByOneSpace)
 {
     ZelDataXmlStream root;
     (root < "rdf:li") < attributeVerb < "a" < "1" < attributeVerb < "b" < "2";

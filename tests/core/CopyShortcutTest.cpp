@@ -1,6 +1,6 @@
 /// @file
-/// A copy between objects of exactly our own classes takes a short road; every other copy calls the
-/// interfaces. These tests take both roads with the same random contents. Both must lead to the same
+/// A copy between objects of exactly our own classes takes a shortcut; every other copy calls the
+/// interfaces. These tests copy both ways with the same random contents. Both must lead to the same
 /// codes, last errors on both sides, contents of the target, and written track.
 
 #include "captions/Captions.h"
@@ -181,7 +181,7 @@ std::string written(const typename Kind::Data& data)
 
 constexpr std::uint64_t seeds = 3000;
 
-/// Copies with an object of a derived class on either side have the result of the short road.
+/// Copies with an object of a derived class on either side have the result of the shortcut.
 template <class Kind, class Interface, class Own>
 void expectTheSameCopies()
 {
@@ -199,23 +199,23 @@ void expectTheSameCopies()
 }
 
 template <class Kind>
-class BothRoads : public testing::Test {
+class CopyShortcut : public testing::Test {
 };
 
 using Kinds = testing::Types<RandomCaptions, RandomToc, RandomScreenText>;
-TYPED_TEST_SUITE(BothRoads, Kinds, KindName);
+TYPED_TEST_SUITE(CopyShortcut, Kinds, KindName);
 
-TYPED_TEST(BothRoads, CopiesOfItemsAreTheSame)
+TYPED_TEST(CopyShortcut, CopiesOfItemsAreTheSame)
 {
     expectTheSameCopies<TypeParam, typename TypeParam::Item, typename TypeParam::OwnItem>();
 }
 
-TYPED_TEST(BothRoads, CopiesOfCollectionsAreTheSame)
+TYPED_TEST(CopyShortcut, CopiesOfCollectionsAreTheSame)
 {
     expectTheSameCopies<TypeParam, typename TypeParam::Data, typename TypeParam::Own>();
 }
 
-TYPED_TEST(BothRoads, TracksAreTheSame)
+TYPED_TEST(CopyShortcut, TracksAreTheSame)
 {
     for (std::uint64_t seed = 1; seed <= seeds; ++seed) {
         const auto write = [seed](typename TypeParam::Data&& source) {
@@ -235,7 +235,7 @@ struct Pretender : ZelDataCaptionItem {
     ZelDataResult_tags getLastError() const override { return ZelData_Ok; }
 };
 
-TEST(BothRoadsOfCaptions, ACaptionWithoutLengthStopsBoth)
+TEST(CopyShortcutOfCaptions, ACaptionWithoutLengthStopsBoth)
 {
     const auto results = [](i_ZelDataCaptions&& source) {
         Pretender pretender;
