@@ -145,6 +145,9 @@ class Verdicts(unittest.TestCase):
         self.assertEqual(set(self.seen), {"f(2);\n"})
         self.assertEqual(self.path.read_text(encoding="utf-8"), "f(1);\n")
 
+    def test_the_models_driver_is_not_built_for_each_mutant(self):
+        self.verdict(make=lambda program: self.assertNotEqual(program, mutate.MODEL))
+
     def test_what_all_programs_let_pass_has_survived(self):
         self.assertEqual(self.verdict(), ("survived", ""))
         self.assertEqual(len(self.seen), len(mutate.programs_for(self.mutant.file)))
