@@ -1,13 +1,11 @@
 /// @file
-/// See OutputFile.h.
+/// See OutputFile.h and System.h: for POSIX systems.
 
 #include "OutputFile.h"
-
-#include "PublishError.h"
-#include "Text.h"
+#include "System.h"
 
 #include <cerrno>
-#include <cstdio>
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,12 +18,6 @@ namespace publish {
 namespace fs = std::filesystem;
 
 namespace {
-
-[[noreturn]] void failToWrite(const std::string& output, int error)
-{
-    throw PublishError(printable(output) +
-                       ": cannot be written: " + std::generic_category().message(error));
-}
 
 fs::path folderOf(const fs::path& file, const std::string& output)
 {
@@ -136,6 +128,22 @@ void ReplacementFile::replace()
     if (::fchmod(descriptor_, permissionsFor(replaced_)) != 0) failToWrite(output_, errno);
     if (std::rename(path_.c_str(), replaced_.c_str()) != 0) failToWrite(output_, errno);
     path_.clear();
+}
+
+std::vector<std::string> commandLine(int argc, char** argv)
+{
+    return {argv, argv + argc};
+}
+
+void prepareStreams()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+std::FILE* openToRead(const std::string& path)
+{
+    return std::fopen(path.c_str(), "rb");
 }
 
 } // namespace publish
