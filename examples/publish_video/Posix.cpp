@@ -1,6 +1,8 @@
 /// @file
 /// See OutputFile.h and System.h: for POSIX systems.
 
+#ifndef _WIN32
+
 #include "OutputFile.h"
 #include "System.h"
 
@@ -147,3 +149,5 @@ std::FILE* openToRead(const std::string& path)
 }
 
 } // namespace publish
+
+#endif

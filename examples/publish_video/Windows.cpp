@@ -1,6 +1,8 @@
 /// @file
 /// See OutputFile.h and System.h: for Windows. Paths are UTF-8; the system gets them as wide texts.
 
+#ifdef _WIN32
+
 #include "OutputFile.h"
 #include "PublishError.h"
 #include "System.h"
@@ -127,11 +129,11 @@ ReplacementFile::ReplacementFile(fs::path replaced, std::string output)
     const std::string name = ".publish_video." + std::to_string(::GetCurrentProcessId()) + ".";
     int error = EEXIST;
     for (int number = 0; error == EEXIST && number < mostNames; ++number) {
-        const fs::path path = replaced_.parent_path() / (name + std::to_string(number));
-        error = ::_wsopen_s(&descriptor_, path.c_str(),
+        const fs::path file = replaced_.parent_path() / (name + std::to_string(number));
+        error = ::_wsopen_s(&descriptor_, file.c_str(),
                             _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT, _SH_DENYNO,
                             _S_IREAD | _S_IWRITE);
-        path_ = path.u8string();
+        path_ = file.u8string();
     }
     if (error != 0) failToWrite(output_, error);
 }
@@ -182,3 +184,5 @@ std::FILE* openToRead(const std::string& path)
 }
 
 } // namespace publish
+
+#endif

@@ -86,8 +86,8 @@ void publishVideo(const Options& options)
 Options readOptions(const std::vector<std::string>& words)
 {
     std::vector<const char*> arguments;
-    for (const std::string& word : words)
-        arguments.push_back(word.c_str());
+    std::transform(words.begin(), words.end(), std::back_inserter(arguments),
+                   [](const std::string& word) { return word.c_str(); });
     return parseOptions(static_cast<int>(arguments.size()), arguments.data());
 }
 
