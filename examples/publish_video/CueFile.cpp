@@ -5,6 +5,7 @@
 
 #include "PlainText.h"
 #include "PublishError.h"
+#include "System.h"
 #include "Text.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ struct FileCloser {
 /// folder, from the end of the file.
 std::string contentsOf(const std::string& path, const std::string& name)
 {
-    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
+    const std::unique_ptr<std::FILE, FileCloser> file(openToRead(path));
     if (file == nullptr) failToRead(name);
     std::string bytes;
     char block[65536];

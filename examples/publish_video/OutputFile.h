@@ -12,10 +12,15 @@
 
 namespace publish {
 
+/// Throws a PublishError: @p output cannot be written for this @p reason.
+[[noreturn]] void failToWrite(const std::string& output, const std::string& reason);
+/// As above, for the reason that errno gives as @p error.
+[[noreturn]] void failToWrite(const std::string& output, int error);
+
 /// Returns the regular file that @p output names, directly or through symbolic links; it need not
 /// exist. `std::nullopt` for anything that must be written in place: a device, a pipe, a file that
 /// is already open (`/dev/stdout`). Throws PublishError for a folder and for a file without write
-/// permission.
+/// permission. On Windows, a link that leads to no file counts as the file.
 std::optional<std::filesystem::path> replaceableFile(const std::string& output);
 
 /// Appends @p bytes to the existing @p output; throws PublishError.
@@ -34,7 +39,7 @@ public:
     const std::string& path() const { return path_; }
     std::size_t size() const;
     /// Replaces the other file and takes over its permissions, or those of a new file if there is
-    /// none.
+    /// none. On Windows, the file always has the permissions of a new file in its folder.
     void replace();
 
 private:

@@ -5,7 +5,6 @@
 
 #include "Check.h"
 #include "OutputFile.h"
-#include "PublishError.h"
 #include "Text.h"
 
 namespace publish {
@@ -30,7 +29,7 @@ void checkSize(std::size_t size, std::size_t expected, const i_ZelInterchangeDat
     // The date's offset may gain or lose a digit when the hour changes between the two writes, so
     // compare once more.
     if (size != expected && size != fileContents(document).size())
-        throw PublishError(printable(output) + ": cannot be written: the file is not complete");
+        failToWrite(output, "the file is not complete");
 }
 
 std::size_t replaceFile(const i_ZelInterchangeDataCore& document, const std::filesystem::path& file,

@@ -8,12 +8,12 @@
 #include "PacketWriter.h"
 #include "PublishError.h"
 #include "Report.h"
+#include "System.h"
 #include "Text.h"
 
 #include "ZelInterchangeData/ZelInterchangeData.h"
 
 #include <algorithm>
-#include <csignal>
 #include <exception>
 #include <iostream>
 #include <iterator>
@@ -83,10 +83,18 @@ void publishVideo(const Options& options)
     std::cerr << bytes << " bytes written to " << printable(options.output) << '\n';
 }
 
+Options readOptions(const std::vector<std::string>& words)
+{
+    std::vector<const char*> arguments;
+    std::transform(words.begin(), words.end(), std::back_inserter(arguments),
+                   [](const std::string& word) { return word.c_str(); });
+    return parseOptions(static_cast<int>(arguments.size()), arguments.data());
+}
+
 int run(int argc, char** argv)
 {
     try {
-        const Options options = parseOptions(argc, argv);
+        const Options options = readOptions(commandLine(argc, argv));
         if (options.help)
             std::cout << usage();
         else
@@ -104,9 +112,6 @@ int run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    // Makes writing to a closed pipe, or beyond the allowed file size, fail instead of ending the
-    // program.
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
+    publish::prepareStreams();
     return publish::run(argc, argv);
 }

@@ -4,6 +4,12 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATACHECK_H
 #define ZELINTERCHANGEDATA_ZELDATACHECK_H
 
+// Every header that throws includes this one first.
+#if !defined(__cpp_exceptions) && !defined(_CPPUNWIND)
+#error                                                                                             \
+    "This header throws exceptions. Without them, include ZelInterchangeData/ZelInterchangeData.h"
+#endif
+
 #include "ZelInterchangeData/ZelDataError.h"
 #include "ZelInterchangeData/ZelDataExport.h"
 

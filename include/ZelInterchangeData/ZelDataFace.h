@@ -4,7 +4,8 @@
 ///
 /// Nothing here is part of the binary interface: all of it is compiled into the caller. It is a
 /// separate header so that programs that handle the codes themselves can use short names such as
-/// check and items for their own functions.
+/// check and items for their own functions. It needs exceptions: a program that is compiled without
+/// them includes ZelInterchangeData.h.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAFACE_H
 #define ZELINTERCHANGEDATA_ZELDATAFACE_H

@@ -150,6 +150,9 @@ public:
     /// The offset is the local hour minus the UTC hour, nothing else: no minutes, no day boundary,
     /// no leading zero, and "-0:00" if the hours are equal. The function uses the time zone of the
     /// process without calling `tzset`.
+    ///
+    /// Where `long` has 32 bits, @p seconds reaches from 1901-12-13 to 2038-01-19. On Windows, the
+    /// text is empty for instants before 1970, because the system does not convert them to local time.
     static std::string getDateString(long* seconds);
     /// @}
 };

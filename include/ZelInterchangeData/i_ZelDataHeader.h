@@ -46,7 +46,8 @@ public:
     virtual ZelDataResult_tags setKeywords(const std::vector<std::string>& keywords) = 0;
     /// Marks the video as explicit for portable players. Default false.
     virtual ZelDataResult_tags setIPodExplicit(bool isExplicit) = 0;
-    /// Length in milliseconds, at least 1; 0 by default, which is not valid.
+    /// Length in milliseconds, at least 1; 0 by default, which is not valid. Where `long` has 32
+    /// bits, at most 4294967295: 49 days.
     /// - #ZelData_InvalidArgument: @p milliseconds is 0.
     virtual ZelDataResult_tags setVideoLength(unsigned long milliseconds) = 0;
     /// Frame width in pixels, at least 1; 0 by default, which is not valid.

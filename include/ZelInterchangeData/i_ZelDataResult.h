@@ -20,6 +20,8 @@ namespace ZelInterchangeData {
 /// - Getters store their value in a reference argument and leave it unchanged if they fail.
 /// - An operation that fails leaves the object unchanged. Operations of several steps (`copyFrom`
 ///   and others that say so) keep what they did before the failure.
+/// - Where `long` has 32 bits, as on Windows and on 32-bit processors, 4294967295 is the largest
+///   `unsigned long`.
 /// - Setters and getters copy data; no object keeps a caller's pointer.
 /// - The caller owns and deletes what an operation returns through a pointer argument. The argument
 ///   must point to a null pointer; otherwise, the operation returns #ZelData_InvalidArgument.

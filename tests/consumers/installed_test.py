@@ -2,6 +2,7 @@
 
 import os
 import re
+import shutil
 import subprocess
 import unittest
 from pathlib import Path
@@ -18,6 +19,34 @@ STATIC = "ZelInterchangeDataStatic"
 STRICT = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wsign-conversion",
           "-Wold-style-cast", "-Woverloaded-virtual", "-Wnon-virtual-dtor", "-Wundef", "-Werror",
           "-fvisibility=hidden", "-fvisibility-inlines-hidden"]
+STANDARDS = ("c++17", "c++20", "c++2b") # the oldest of the compilers know C++23 as C++2b
+# The headers that throw, and what the compiler must say about each where exceptions are off.
+THROWING = re.compile(r"ZelData(Check.*|Factories|Items|Face)\.h")
+BARE_LANGUAGE = ["-fno-exceptions", "-fno-rtti"]
+NO_EXCEPTIONS = "Without them, include ZelInterchangeData/ZelInterchangeData.h"
+# Returns 0 if it has written the packet of a header.
+BARE_PROGRAM = """
+#include "ZelInterchangeData/ZelInterchangeData.h"
+
+using namespace ZelInterchangeData;
+
+int main()
+{
+    i_ZelDataHeader* header = nullptr;
+    if (failed(ZelDataUtilities::createHeaderData(&header))) return 1;
+    const auto document = ZELDataCreator::createInterchangeData();
+    std::string packet;
+    const bool isWritten = !failed(header->setTitle("Intro")) &&
+                           !failed(header->setVideoLength(1)) && !failed(header->setVideoWidth(1)) &&
+                           !failed(header->setVideoHeight(1)) &&
+                           !failed(document->setDataHeader(*header)) &&
+                           !failed(document->writeString(packet, ZelDataFormat_Xmp, false));
+    delete document;
+    delete header;
+    return isWritten && packet.find("Intro") != std::string::npos ? 0 : 1;
+}
+"""
+COMPLETE_DOCUMENT = (SOURCE / "tests/face/data/complete_document.xmp").read_text(encoding="utf-8")
 
 
 def find_package_project(name, library, build_type, prefix=PREFIX):
@@ -27,6 +56,13 @@ def find_package_project(name, library, build_type, prefix=PREFIX):
               f"-DCONSUMER_LIBRARY={library}", f"-DCMAKE_BUILD_TYPE={build_type}")
     build(folder)
     return folder / "consumer"
+
+
+def written_by(program, folder, library_folder):
+    """The packet that examples/complete_document writes into the folder, without its date."""
+    run(program, cwd=folder, env=dict(os.environ, LD_LIBRARY_PATH=str(library_folder)))
+    packet = (folder / "intro.xmp").read_text(encoding="utf-8")
+    return re.sub(r'dc:date="[^"]+"', 'dc:date=""', packet) + "\n"
 
 
 class FindPackage(ChecksOfPrograms, unittest.TestCase):
@@ -166,10 +202,26 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
             name = f"ZelInterchangeData/{header.name}"
             source = folder / f"{header.stem}.cpp"
             source.write_text(f'#include "{name}"\n', encoding="utf-8")
-            for standard in ("c++17", "c++20"):
+            for standard in STANDARDS:
                 with self.subTest(f"{name} {standard}"):
                     run(CXX, *CXXFLAGS, f"-std={standard}", *STRICT, "-I", PREFIX / "include",
                         "-fsyntax-only", source)
+
+    def test_without_exceptions_and_type_information(self):
+        """All headers but those that throw compile; these name the one to use instead."""
+        folder = fresh_folder(self.id())
+        for header in sorted((PREFIX / "include" / "ZelInterchangeData").iterdir()):
+            source = folder / f"{header.stem}.cpp"
+            source.write_text(f'#include "ZelInterchangeData/{header.name}"\n', encoding="utf-8")
+            with self.subTest(header.name):
+                checked = subprocess.run(
+                    [CXX, *CXXFLAGS, "-std=c++17", *STRICT, *BARE_LANGUAGE, "-I", PREFIX / "include",
+                     "-fsyntax-only", source], capture_output=True, text=True, check=False)
+                if THROWING.fullmatch(header.name):
+                    errors = re.findall("error:.*", checked.stderr)
+                    self.assertIn(NO_EXCEPTIONS, errors[0] if errors else "no error")
+                else:
+                    self.assertEqual((checked.returncode, checked.stderr), (0, ""))
 
     def test_the_version_header_compiles_as_c(self):
         source = fresh_folder(self.id()) / "version.c"
@@ -182,6 +234,43 @@ class StrictConsumer(ChecksOfPrograms, unittest.TestCase):
                                        "ZelInterchangeData", flags=STRICT)
         self.assert_needs(program, RELEASE_LIBRARY)
         self.assert_works(program, PREFIX / "lib")
+
+
+class Compilers(ChecksOfPrograms, unittest.TestCase):
+    """Consumers in each standard, compiled by each compiler that is installed."""
+
+    def check(self, compiler):
+        if shutil.which(compiler) is None:
+            self.skipTest(f"{compiler} is not installed")
+        self.folder = fresh_folder(self.id())
+        bare = self.folder / "bare.cpp"
+        bare.write_text(BARE_PROGRAM, encoding="utf-8")
+        for standard in STANDARDS:
+            with self.subTest(standard):
+                self.assert_works(self.compiled(compiler, standard, CONSUMERS / "program/main.cpp"),
+                                  PREFIX / "lib")
+                face = self.compiled(compiler, standard, SOURCE / "examples/complete_document/main.cpp")
+                self.assertEqual(written_by(face, self.folder, PREFIX / "lib"), COMPLETE_DOCUMENT)
+                run(self.compiled(compiler, standard, bare, *BARE_LANGUAGE),
+                    env=dict(os.environ, LD_LIBRARY_PATH=str(PREFIX / "lib")))
+
+    def compiled(self, compiler, standard, source, *flags):
+        program = self.folder / "program"
+        run(compiler, *CXXFLAGS, f"-std={standard}", *STRICT, *flags, source,
+            "-I", PREFIX / "include", "-L", PREFIX / "lib", "-lZelInterchangeData", "-o", program)
+        return program
+
+    def test_g_11(self):
+        self.check("g++-11")
+
+    def test_g_12(self):
+        self.check("g++-12")
+
+    def test_clang_14(self):
+        self.check("clang++-14")
+
+    def test_clang_16(self):
+        self.check("clang++-16")
 
 
 class RebuiltLibrary(unittest.TestCase):
@@ -204,17 +293,14 @@ class RebuiltLibrary(unittest.TestCase):
         """The libraries that the loader lists for the program, and the packet that it writes."""
         environment = dict(os.environ, LD_LIBRARY_PATH=str(library_folder))
         loaded = run(self.folder / "program", env=dict(environment, LD_TRACE_LOADED_OBJECTS="1"))
-        run(self.folder / "program", cwd=self.folder, env=environment)
-        packet = (self.folder / "intro.xmp").read_text(encoding="utf-8")
-        return loaded, re.sub(r'dc:date="[^"]+"', 'dc:date=""', packet) + "\n"
+        return loaded, written_by(self.folder / "program", self.folder, library_folder)
 
     def test_a_program_that_was_not_rebuilt_writes_the_same(self):
-        expected = (SOURCE / "tests/face/data/complete_document.xmp").read_text(encoding="utf-8")
         for library_folder in (PREFIX / "lib", *(self.folder / name for name in self.rebuilt)):
             with self.subTest(library_folder.name):
                 loaded, written = self.written_with(library_folder)
                 self.assertIn(f"{RELEASE_LIBRARY} => {library_folder}/", loaded)
-                self.assertEqual(written, expected)
+                self.assertEqual(written, COMPLETE_DOCUMENT)
 
 
 class MovedPrefix(ChecksOfPrograms, unittest.TestCase):

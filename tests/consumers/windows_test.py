@@ -1,0 +1,137 @@
+"""The library for Windows, cross-compiled and installed, and programs that use it, run under Wine."""
+
+import os
+import re
+import shutil
+import subprocess
+import unittest
+from pathlib import Path
+
+from support import CONSUMERS, EXPECTED_OUTPUT, SOURCE, WORK, build, fresh_folder, install, run
+
+TRIPLE = "x86_64-w64-mingw32"
+NEEDED = (f"{TRIPLE}-g++-posix", f"{TRIPLE}-objdump", "wine")
+TREE = WORK / "windows"
+DLL = "libZelInterchangeData.dll"
+DATA = SOURCE / "examples" / "data"
+INPUT = "日本é.srt"
+OPTIONS = ("--size", "640x480", "--length", "32000", "--title", "Vidéo “日本” 😀 * \\\"")
+
+
+def cross_configure(source, tree, *definitions):
+    run("cmake", "-S", source, "-B", tree, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
+        f"-DCMAKE_TOOLCHAIN_FILE={SOURCE}/cmake/toolchains/mingw64.cmake", *definitions)
+
+
+def compilers_folder(library):
+    file = run(f"{TRIPLE}-g++-posix", f"-print-file-name={library}").strip()
+    return Path(file).resolve().parent
+
+
+def wine(program, *arguments, libraries, folder):
+    """Runs the program, which finds DLLs in these folders."""
+    folders = [*libraries, *map(compilers_folder, ("libstdc++-6.dll", "libwinpthread-1.dll"))]
+    environment = dict(os.environ, LC_ALL="C.UTF-8", WINEDEBUG="-all",
+                       WINEPATH=";".join(f"Z:{folder}" for folder in folders))
+    return subprocess.run(["wine", program, *arguments], cwd=folder, env=environment,
+                          capture_output=True, check=False)
+
+
+def imported_libraries(program):
+    return re.findall(r"DLL Name: (libZel\S+)", run(f"{TRIPLE}-objdump", "-p", program))
+
+
+class Windows(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        missing = [program for program in NEEDED if shutil.which(program) is None]
+        if missing:
+            raise unittest.SkipTest(f"{', '.join(missing)}: not installed")
+        cross_configure(SOURCE, TREE, "-DZELINTERCHANGEDATA_TESTS=OFF", "-DCMAKE_INSTALL_LIBDIR=lib",
+                        "-DZELINTERCHANGEDATA_WERROR=ON")
+        build(TREE)
+        cls.prefix = fresh_folder(cls.__name__) / "prefix"
+        cls.installed = install(TREE, cls.prefix)
+
+    def test_the_library_is_in_bin_and_what_links_it_in_lib(self):
+        files = {path for path in self.installed if not path.startswith(("include/", "lib/cmake/"))}
+        self.assertEqual(files, {f"bin/{DLL}", f"lib/{DLL}.a", "lib/libZelInterchangeData.a",
+                                 "lib/pkgconfig/ZelInterchangeData.pc"})
+        headers = {f"include/ZelInterchangeData/{path.name}"
+                   for path in (SOURCE / "include/ZelInterchangeData").iterdir()}
+        self.assertLess(headers, self.installed)
+
+    def check_consumer(self, library, imported, expected):
+        folder = fresh_folder(self.id())
+        cross_configure(CONSUMERS / "find_package", folder, f"-DCONSUMER_LIBRARY={library}",
+                        f"-DZelInterchangeData_DIR={self.prefix}/lib/cmake/ZelInterchangeData")
+        build(folder)
+        self.assertEqual(imported_libraries(folder / "consumer.exe"), imported)
+        done = wine(folder / "consumer.exe", libraries=[self.prefix / "bin"], folder=folder)
+        self.assertEqual(done.stdout.decode().replace("\r\n", "\n"), expected)
+
+    def test_a_consumer_of_the_shared_library(self):
+        # A DLL does not call the program's operator new, so the program cannot make it fail.
+        self.check_consumer("ZelInterchangeData", [DLL],
+                            EXPECTED_OUTPUT.replace("Out of memory", "no exception"))
+
+    def test_a_consumer_of_the_static_library(self):
+        self.check_consumer("ZelInterchangeDataStatic", [], EXPECTED_OUTPUT)
+
+    def same(self, *arguments):
+        """Runs publish_video on both systems, each in a folder with the same files, and checks that it
+        ends, says and writes the same; returns its status and the files."""
+        results = []
+        for system in ("here", "windows"):
+            folder = fresh_folder(self.id()) / system
+            folder.mkdir()
+            shutil.copy(DATA / "paper-boat.en.srt", folder / INPUT)
+            (folder / "old.xmp").write_text("old", encoding="utf-8")
+            if system == "here":
+                done = subprocess.run([os.environ["PUBLISH_VIDEO"], *arguments], cwd=folder,
+                                      capture_output=True, check=False)
+            else:
+                program = TREE / "examples/publish_video/publish_video.exe"
+                done = wine(program, *arguments, libraries=[TREE / "src"], folder=folder)
+            files = {path.name: re.sub(rb'dc:date="[^"]+"', b"", path.read_bytes())
+                     for path in folder.iterdir()}
+            results.append((done.returncode, done.stdout, done.stderr, files))
+        self.assertEqual(results[0], results[1])
+        status, output, message, files = results[1]
+        self.assertTrue(output or message)
+        return status, files
+
+    def test_publish_video_writes_the_same_packet_under_any_name(self):
+        for name in ("vidéo-日本.xmp", "old.xmp", "-"):
+            with self.subTest(name):
+                status, files = self.same("-o", name, *OPTIONS, f"en={INPUT}")
+                self.assertEqual((status, set(files)), (0, {name, "old.xmp", INPUT}))
+                self.assertIn("日本” 😀".encode(), files[name])
+
+    def test_publish_video_prints_the_same_help(self):
+        self.assertEqual(self.same("--help")[0], 0)
+
+    def test_publish_video_fails_in_the_same_way(self):
+        for arguments in (("-o", "old.xmp", *OPTIONS, "en=missing.srt"),
+                          ("-o", "missing/x.xmp", *OPTIONS),
+                          ("-o", ".", *OPTIONS),
+                          ("-o", "old.xmp", "--size", "日本")):
+            with self.subTest(arguments):
+                status, files = self.same(*arguments)
+                self.assertEqual((status, set(files)), (2, {"old.xmp", INPUT}))
+                self.assertEqual(files["old.xmp"], b"old")
+
+    def test_publish_video_leaves_a_file_that_is_read_only(self):
+        folder = fresh_folder(self.id())
+        output = folder / "out.xmp"
+        output.write_text("old", encoding="utf-8")
+        output.chmod(0o444)
+        done = wine(TREE / "examples/publish_video/publish_video.exe", "-o", output.name, *OPTIONS,
+                    libraries=[TREE / "src"], folder=folder)
+        self.assertEqual(done.stderr, b"publish_video: out.xmp: cannot be written: Permission denied\n")
+        self.assertEqual((done.returncode, output.read_text(encoding="utf-8")), (2, "old"))
+        self.assertEqual(list(folder.iterdir()), [output])
+
+
+if __name__ == "__main__":
+    unittest.main()
