@@ -92,13 +92,37 @@ private:
     mutable bool isDropping_ = false; // facets are const; each stream has its own
 };
 
-/// @p base with a @p Facet in place of its own. Deletes the facet if the locale cannot be created.
+/// A facet that tells its maker when it is deleted.
+template <class Facet>
+class WatchedFacet : public Facet {
+public:
+    explicit WatchedFacet(bool& isDeleted) : isDeleted_(&isDeleted) {}
+    ~WatchedFacet() override
+    {
+        if (isDeleted_ != nullptr) *isDeleted_ = true;
+    }
+    WatchedFacet(const WatchedFacet&) = delete;
+    WatchedFacet& operator=(const WatchedFacet&) = delete;
+
+    void stopTelling() noexcept { isDeleted_ = nullptr; }
+
+private:
+    bool* isDeleted_;
+};
+
+/// @p base with a @p Facet in place of its own. If the locale cannot be created, deletes the facet,
+/// unless the standard library has done so: some do.
 template <class Facet>
 std::locale withFacet(const std::locale& base)
 {
-    auto facet = std::make_unique<Facet>();
+    bool isDeleted = false;
+    const auto deleteOnce = [&isDeleted](WatchedFacet<Facet>* facet) {
+        if (!isDeleted) delete facet;
+    };
+    std::unique_ptr<WatchedFacet<Facet>, decltype(deleteOnce)> facet(
+        new WatchedFacet<Facet>(isDeleted), deleteOnce);
     std::locale combined(base, facet.get());
-    static_cast<void>(facet.release()); // the locale owns it from here on
+    facet.release()->stopTelling(); // the locale owns it from here on
     return combined;
 }
 
@@ -132,19 +156,22 @@ void openFile(Stream& stream, const std::string& path)
 
 #endif
 
-/// A base class, so that it outlives the stream, which is built after it.
+/// The buffer of a stream, which may otherwise allocate one after opening the file. A base class, so that
+/// it outlives the stream, which is built after it.
 struct StreamBuffer {
     std::array<wchar_t, 4096> buffer{};
 };
 
-/// A file stream that has its buffer and locale before it opens the file: a stream allocates its
-/// own buffer only after opening, which empties the file.
+/// A file stream that has its buffer and locale before it opens the file, which empties the file.
 template <class Stream>
 class ByteFileStream : private StreamBuffer, public Stream {
 public:
     explicit ByteFileStream(const std::string& path)
     {
-        this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+        // Deliberate: libc++ frees its own buffer twice if an allocation for the new one is refused. For a
+        // buffer of one character it allocates nothing, and has no own one afterwards.
+        for (const std::size_t size : {std::size_t{1}, buffer.size()})
+            this->rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(size));
         this->imbue(byteLocale());
         // The system ends a path at its first zero byte, so it would open another file.
         if (path.find('\0') == std::string::npos) openFile<Stream>(*this, path);

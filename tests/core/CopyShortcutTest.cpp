@@ -8,6 +8,7 @@
 #include "support/Dice.h"
 #include "toc/Entries.h"
 
+#include <cstddef>
 #include <limits>
 #include <sstream>
 
@@ -41,6 +42,11 @@ std::map<std::string, std::string> randomTexts(Dice& dice)
     return texts;
 }
 
+unsigned long numberBelow(Dice& dice, std::size_t count)
+{
+    return static_cast<unsigned long>(dice.below(count));
+}
+
 long long randomTime(Dice& dice)
 {
     return static_cast<long long>(dice.below(4));
@@ -67,9 +73,9 @@ struct RandomCaptions : CaptionKind {
     }
     static void change(Data& captions, Dice& dice)
     {
-        mayRefuse(captions.setFrameRate(dice.below(4)));
+        mayRefuse(captions.setFrameRate(numberBelow(dice, 4)));
         mayRefuse(captions.setFontFamily(randomText(dice)));
-        mayRefuse(captions.setFontSize(dice.below(600)));
+        mayRefuse(captions.setFontSize(numberBelow(dice, 600)));
         mayRefuse(captions.setForegroundColor(static_cast<float>(dice.below(3)) / 2, 0.25F, 1));
         mayRefuse(captions.setBackgroundOpacity(
             dice.once(4) ? std::numeric_limits<float>::quiet_NaN() : 0.5F));
@@ -84,12 +90,12 @@ struct RandomCaptions : CaptionKind {
 struct RandomToc : TocKind {
     static Entry item(Dice& dice)
     {
-        return {randomTime(dice), randomTexts(dice), randomText(dice), dice.below(9),
-                dice.below(9)};
+        return {randomTime(dice), randomTexts(dice), randomText(dice), numberBelow(dice, 9),
+                numberBelow(dice, 9)};
     }
     static void change(Data& toc, Dice& dice)
     {
-        mayRefuse(toc.setFrameRate(dice.below(4)));
+        mayRefuse(toc.setFrameRate(numberBelow(dice, 4)));
         EXPECT_EQ(ZelData_Ok, toc.setImageFile(randomText(dice)));
         stirLanguages(toc, dice);
     }
@@ -102,12 +108,12 @@ struct RandomToc : TocKind {
 struct RandomScreenText : ScreenTextKind {
     static Shown item(Dice& dice)
     {
-        return {randomTime(dice), randomTime(dice), randomText(dice), randomText(dice),
-                dice.below(9),    dice.below(9),    dice.below(9)};
+        return {randomTime(dice),     randomTime(dice),     randomText(dice),    randomText(dice),
+                numberBelow(dice, 9), numberBelow(dice, 9), numberBelow(dice, 9)};
     }
     static void change(Data& screenText, Dice& dice)
     {
-        mayRefuse(screenText.setFrameRate(dice.below(4)));
+        mayRefuse(screenText.setFrameRate(numberBelow(dice, 4)));
     }
     static std::string settings(const Data& screenText)
     {

@@ -22,28 +22,35 @@ inline std::string bytesOf(const std::filesystem::path& path)
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// A path that no other test uses. The destructor removes what is there.
+/// A path that no other test uses, in UTF-8 and with characters outside ASCII. The destructor removes what is
+/// there.
 class TempFile {
 public:
     TempFile()
-        : path_(::testing::TempDir() + "document-" + std::to_string(std::random_device()()) + "-" +
+        : path_(::testing::TempDir() + "vid\u00E9o-\u65E5\u672C-" +
+                std::to_string(std::random_device()()) + "-" +
                 std::to_string(std::random_device()()))
     {
     }
     ~TempFile()
     {
         std::error_code ignored;
-        std::filesystem::remove(path_, ignored);
+        std::filesystem::remove(systemPath(), ignored);
     }
     TempFile(const TempFile&) = delete;
     TempFile& operator=(const TempFile&) = delete;
 
     const std::string& path() const { return path_; }
-    bool exists() const { return std::filesystem::exists(path_); }
-    std::string bytes() const { return bytesOf(path_); }
-    void fill(const std::string& bytes) const { std::ofstream(path_, std::ios::binary) << bytes; }
+    bool exists() const { return std::filesystem::exists(systemPath()); }
+    std::string bytes() const { return bytesOf(systemPath()); }
+    void fill(const std::string& bytes) const
+    {
+        std::ofstream(systemPath(), std::ios::binary) << bytes;
+    }
 
 private:
+    std::filesystem::path systemPath() const { return std::filesystem::u8path(path_); }
+
     std::string path_;
 };
 

@@ -1,8 +1,12 @@
-"""Tests the example of a complete document: its length, the file it writes, and its symbols."""
+"""Tests the example of a complete document: its length, the file it writes, and its symbols.
+
+The arguments are the words of the command that runs the program, if it needs one.
+"""
 
 import os
 import re
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
@@ -11,22 +15,24 @@ PROGRAM = os.environ["PROGRAM"]
 SOURCE = Path(os.environ["SOURCE"])
 EXPECTED = Path(os.environ["EXPECTED"])
 NM = os.environ["NM"]
-DATE = re.compile(r'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
+EMULATOR = sys.argv[1:]
+DATE = re.compile(rb'dc:date="\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+]\d{1,2}:00"')
 LONGEST = 25
 
 
 class CompleteDocument(unittest.TestCase):
     def run_in(self, folder):
-        return subprocess.run([PROGRAM], cwd=folder, capture_output=True, text=True, check=False)
+        return subprocess.run([*EMULATOR, PROGRAM], cwd=folder, capture_output=True, text=True, check=False)
 
     def test_the_program_writes_the_expected_file(self):
         with tempfile.TemporaryDirectory() as folder:
             result = self.run_in(folder)
             self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
-            packet = (Path(folder) / "intro.xmp").read_text(encoding="utf-8")
-        packet, count = DATE.subn('dc:date=""', packet)
+            packet = (Path(folder) / "intro.xmp").read_bytes()
+        packet, count = DATE.subn(b'dc:date=""', packet)
         self.assertEqual(count, 1)
-        self.assertEqual(packet + "\n", EXPECTED.read_text(encoding="utf-8"))
+        self.assertEqual(packet + b"\n", EXPECTED.read_bytes())
+        print("1 packet compared")
 
     def test_a_file_that_cannot_be_opened_is_reported(self):
         with tempfile.TemporaryDirectory() as folder:
@@ -39,6 +45,7 @@ class CompleteDocument(unittest.TestCase):
     def test_the_program_is_short(self):
         self.assertLessEqual(len(SOURCE.read_text(encoding="utf-8").splitlines()), LONGEST)
 
+    @unittest.skipIf(PROGRAM.endswith(".exe"), "Windows has no weak symbols")
     def test_the_face_defines_only_inline_functions(self):
         """Weak symbols let several parts of a program use the face without collisions."""
         result = subprocess.run([NM, "--defined-only", "--demangle", PROGRAM],
@@ -51,4 +58,4 @@ class CompleteDocument(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    unittest.main(argv=sys.argv[:1])

@@ -73,10 +73,14 @@ FORMATTERS = {"HF": "H", "CF": "C", "TF": "T", "SF": "S"}
 
 
 class Generator:
-    def __init__(self, seed, zone, length):
+    """Where `long` has fewer than 64 bits, its numbers are cut. No instant is before the first."""
+
+    def __init__(self, seed, zone, length, long_bits=64, first_instant=-MAX - 1):
         self.random = random.Random(seed)
         self.session = Session(zone)
         self.length = length
+        self.long_bits = long_bits
+        self.first_instant = first_instant
         self.script = []
         self.expected = []
         # Some scripts hold nothing odd, so that long sequences are accepted.
@@ -124,6 +128,14 @@ class Generator:
             return self.random.randint(0, 20) * 500
         return self.pick(TIMES, ODD_TIMES)
 
+    def time_as(self, kind):
+        return self.long(self.time()) if kind == "l" else self.time()
+
+    def long(self, number):
+        """The lowest bits of the number, as many as a `long` has."""
+        half = 2 ** (self.long_bits - 1)
+        return (number + half) % (2 * half) - half
+
     def float_bits(self):
         if self.odd():
             return self.random.choice([self.random.getrandbits(32), self.random.choice(ODD_FLOATS)])
@@ -136,7 +148,9 @@ class Generator:
             if operation == "setOrderedLanguageIDs":
                 return self.languages(slot)
             return [self.words() for _ in range(self.random.randint(0, 3))]
-        if kind in "uo":
+        if kind == "u":
+            return self.number(operation, slot) % 2**self.long_bits
+        if kind == "o":
             return self.number(operation, slot)
         if kind == "q":
             return self.time()
@@ -159,7 +173,8 @@ class Generator:
 
     def plain_value(self, kind):
         if kind == "l":
-            return self.random.choice([self.time(), self.time(), -self.random.getrandbits(40)])
+            number = self.random.choice([self.time(), self.time(), -self.random.getrandbits(40)])
+            return self.long(number)
         if kind == "b":
             return self.random.randint(0, 1)
         if kind == "f":
@@ -216,11 +231,12 @@ class Generator:
         return self.value(kind, operation, slot)
 
     def instant(self):
-        return self.random.choice(
+        instant = self.random.choice(
             [0, -1, 951782400, -62135596800, -62167219201, 253402300800, MAX, -MAX - 1]
             + [67767976233532799, 67768036191676799, 67768036191676800, -67768040609740800]
             + [-67768040609740801, 2**53, -(2**53), self.random.getrandbits(56)]
         )
+        return max(self.long(instant), self.first_instant)
 
     # Steps.
 
@@ -490,9 +506,10 @@ class Generator:
         if verb == "text":
             return self.emit("X.text", node, self.tree_text(), form)
         if verb == "number":
-            return self.emit("X.textnumber", node, self.random.choice("lq"), self.time())
+            kind = self.random.choice("lq")
+            return self.emit("X.textnumber", node, kind, self.time_as(kind))
         if verb == "assign":
-            return self.emit("X.assign", node, self.time())
+            return self.emit("X.assign", node, self.time_as("l"))
         return self.emit("X.write", node, b"before")
 
     def path(self):
@@ -517,7 +534,7 @@ class Generator:
             number = self.random.choice([self.random.getrandbits(64), 0x3FE0000000000000, 1 << 63])
             number = self.random.choice([number, 0xFFF8000000000000, 0x4132D68700000000])
         else:
-            number = self.time()
+            number = self.time_as(kind)
         return self.emit("X.attrnumber", attribute, kind, number)
 
     def renew(self):

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Compares the library with the model, answer by answer, over random scripts.
 
-run.py --seeds A..B --driver PATH [--length N] [--keep-going] [--no-shrink] [--emulator WORD...]
+run.py --seeds A..B --driver PATH [--length N] [--keep-going] [--no-shrink] [--long-bits N]
+    [--first-instant SECONDS] [--emulator WORD...]
 
 At the first difference, it removes from the script what the difference does not need, and shows the
 rest with both answers. The exit status is 1 if there is a difference.
@@ -17,7 +18,7 @@ import time
 
 sys.dont_write_bytecode = True
 
-from generator import Generator
+from generator import Generator, MAX
 from packet import DATE
 from session import Session
 import text as texts
@@ -42,6 +43,10 @@ def word(value):
 
 def line_of(operation):
     return " ".join(word(part) for part in operation)
+
+
+# The first element of a packet, in an answer.
+PACKET = b"<x:xmpmeta ".hex()
 
 
 class Moment:
@@ -163,6 +168,9 @@ def arguments():
     parser.add_argument("--no-shrink", action="store_true", help="show no script, only its seed")
     parser.add_argument("--keep-going", action="store_true", help="show every script that differs")
     parser.add_argument("--driver", required=True, help="path of the driver program")
+    parser.add_argument("--long-bits", type=int, default=64, help="how many bits a long has")
+    parser.add_argument("--first-instant", type=int, default=-MAX - 1,
+                        help="the first instant that the system converts, in seconds since 1970")
     parser.add_argument("--emulator", nargs=argparse.REMAINDER, default=[],
                         help="what runs the driver; all words that follow")
     return parser.parse_args()
@@ -172,11 +180,13 @@ def main():
     options = arguments()
     driver = [*options.emulator, options.driver]
     first, _, last = options.seeds.partition("..")
-    operations = differences = 0
+    operations = packets = differences = 0
     for seed in range(int(first), int(last or first) + 1):
         zone = ZONES[seed % len(ZONES)]
-        script, expected = Generator(seed, zone[1], options.length).make()
+        script, expected = Generator(seed, zone[1], options.length, options.long_bits,
+                                     options.first_instant).make()
         operations += len(script)
+        packets += sum(PACKET in answer for answer in expected)
         if first_difference(driver, script, expected, zone):
             differences += 1
             print("seed %d differs" % seed)
@@ -184,7 +194,8 @@ def main():
                 show(driver, shrunk(driver, script, zone), zone)
             if not options.keep_going:
                 break
-    print("%d operations compared, %d scripts differ" % (operations, differences))
+    print("%d operations and %d packets compared, %d scripts differ"
+          % (operations, packets, differences))
     return 1 if differences else 0
 
 

@@ -2,6 +2,7 @@
 
 #include "ZelInterchangeData/i_ZelDataFormatterBase.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -16,14 +17,14 @@ std::string pathOf(const std::string& where, const std::string& folder)
     if (where == "missing") return folder + "/no such folder/packet.xmp";
     if (where == "zero") return folder + "/cut" + '\0' + "tail";
     std::string path = folder + "/p\xC3\xA4" + "cket.xmp";
-    std::ofstream(path, std::ios::binary) << "before";
+    std::ofstream(std::filesystem::u8path(path), std::ios::binary) << "before";
     return path;
 }
 
 /// The contents of the file at @p path, which ends at its first zero byte.
 std::string contentOf(const std::string& path)
 {
-    std::ifstream in(path.c_str(), std::ios::binary);
+    std::ifstream in(std::filesystem::u8path(path.c_str()), std::ios::binary);
     if (!in) return "nofile";
     return shown(std::string(std::istreambuf_iterator<char>(in), {}));
 }
