@@ -18,7 +18,7 @@ inline bool utcCalendar(long long seconds, std::tm& utc) noexcept
     constexpr long long eraDays = 146097;
     constexpr long long daysTo1970 = 719468;
     const long long ofDay = (seconds % perDay + perDay) % perDay;
-    const long long days = (seconds - ofDay) / perDay + daysTo1970;
+    const long long days = seconds / perDay - (seconds % perDay < 0 ? 1 : 0) + daysTo1970;
     const long long dayOfEra = (days % eraDays + eraDays) % eraDays;
     const long long yearOfEra =
         (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;

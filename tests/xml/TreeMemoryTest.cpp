@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -30,7 +31,7 @@ TEST(TreeMemory, HandsOutAlignedMemoryThatOverlapsNothing)
     }
     for (std::size_t i = 0; i < places.size(); ++i) {
         const std::vector<char> expected(places[i].second, static_cast<char>(i % 251));
-        ASSERT_EQ(std::memcmp(places[i].first, expected.data(), expected.size()), 0) << i;
+        ASSERT_TRUE(std::equal(expected.begin(), expected.end(), places[i].first)) << i;
     }
 }
 
