@@ -17,7 +17,7 @@ namespace ZelInterchangeData {
 template <class Item>
 struct ItemCopy {
     std::unique_ptr<Item> item;
-    ZelDataResult_tags code = ZelData_Ok;
+    ZelDataResult_tags code;
 };
 
 /// Copies @p source into an item that @p create, a factory, stores in its out-pointer.

@@ -29,10 +29,10 @@ struct TimeSpan {
         return true;
     }
 
-    /// Returns false, and changes nothing, if the end is negative or not after the start.
+    /// Returns false, and changes nothing, if the end is not after the start.
     constexpr bool setEnd(long long value) noexcept
     {
-        if (value < 0 || value <= start) return false;
+        if (value <= start) return false;
         duration = value - start;
         return true;
     }

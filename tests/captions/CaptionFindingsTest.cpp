@@ -392,6 +392,8 @@ TEST(CaptionFindings, ATimeThatAnItemDoesNotSetCountsAsZero)
             [&](FailingCaptionItem& item) { item.failAt(getter, ZelData_Ok, ZelData_Ok); });
         return linesOf(captions);
     };
+    EXPECT_EQ(Lines{"caption 0 at 0 ms: overlap: it ends at 1000 ms, caption 1 starts at 0 ms"},
+              linesWithout("getStart"));
     EXPECT_EQ(Lines{}, linesWithout("getEnd"));
     EXPECT_EQ("caption 0 at 0 ms: no duration (0 ms, at least 1 ms)",
               linesWithout("getDuration").at(0));

@@ -153,6 +153,24 @@ TEST(StoredEntry, AStartThatItDoesNotSetCountsAsZero)
     EXPECT_CODE(toc, ZelData_Ok, toc.isValid(false));
 }
 
+TEST(StoredEntry, WhoseStartCannotBeReadAtFirstCountsAsOneThatStartsAtZero)
+{
+    for (const long long start : {0, 1}) {
+        TocOfFailing toc;
+        toc.added({start});
+        toc.added({5}).failAt("getStart", ZelData_NotFound, ZelData_NoData, 1);
+        EXPECT_CODE(toc, start == 0 ? ZelData_Ok : ZelData_WarnTiming, toc.isValid(false));
+    }
+}
+
+TEST(StoredEntry, OfAnotherClassLosesItsText)
+{
+    TocOfFailing toc;
+    toc.added({0, {{"en", "a"}}});
+    EXPECT_CODE(toc, ZelData_Ok, toc.removeTocItemsForLanguage("en"));
+    EXPECT_EQ((std::vector<Entry>{{0}}), entriesOf(toc));
+}
+
 TEST(StoredEntry, ThatCannotLoseItsTextEndsTheRemoval)
 {
     TocOfFailing toc;
