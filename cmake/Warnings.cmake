@@ -15,5 +15,7 @@ function(zel_warnings target)
     endif()
     if(ZELINTERCHANGEDATA_WERROR)
         target_compile_options(${target} PRIVATE -Werror)
+        target_link_options(${target} PRIVATE
+            LINKER:$<IF:$<PLATFORM_ID:Darwin>,-fatal_warnings,--fatal-warnings>)
     endif()
 endfunction()

@@ -6,6 +6,7 @@
 #include "core/WatchedDocument.h"
 #include "support/Checks.h"
 
+#include <filesystem>
 #include <new>
 #include <stdexcept>
 
@@ -386,6 +387,24 @@ TEST_F(ZelDataCoreXmpTest, AFileThatCannotBeOpenedIsReported)
     EXPECT_CODE(document_, ZelData_FileOpenFailed,
                 document_.writeFile(::testing::TempDir(), xmp, false));
     EXPECT_CODE(document_, ZelData_FileOpenFailed, document_.writeFile("", xmp, false));
+}
+
+TEST_F(ZelDataCoreXmpTest, APathThatIsTooLongOrReservedIsReportedOrWritten)
+{
+    setHeader(*plainHeader());
+    EXPECT_CODE(document_, ZelData_FileOpenFailed,
+                document_.writeFile(::testing::TempDir() + std::string(300, 'x'), xmp, false));
+#ifdef _WIN32
+    // Devices, and names that hold what no name of a file may hold.
+    for (const std::string name :
+         {"NUL", "aux.xmp", "com9", "a<b.xmp", "a|b.xmp", "a?.xmp", "x.xmp. "}) {
+        const std::string path = ::testing::TempDir() + name;
+        const auto code = document_.writeFile(path, xmp, false);
+        EXPECT_TRUE(code == ZelData_Ok || code == ZelData_FileOpenFailed) << name << ": " << code;
+        std::error_code ignored;
+        std::filesystem::remove(path, ignored);
+    }
+#endif
 }
 
 TEST_F(ZelDataCoreXmpTest, APathWithAZeroByteCannotBeOpenedAndNoFileIsTouched)
