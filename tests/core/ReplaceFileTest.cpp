@@ -1,0 +1,269 @@
+/// @file
+/// Replacing a file, as on every system.
+
+#include "ZelInterchangeData/ZelDataReplaceFile.h"
+
+#include "core/SampleSets.h"
+#include "core/ZelDataCore.h"
+#include "core/ZelDataCoreXmp.h"
+#include "support/Checks.h"
+#include "support/FailingAllocation.h"
+#include "support/ScratchFolder.h"
+
+#include <functional>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace ZelInterchangeData {
+namespace {
+
+constexpr auto xmp = ZelDataFormat_Xmp;
+constexpr auto untouched = static_cast<ZelDataResult_tags>(0x7E57);
+using Names = std::vector<std::string>;
+
+/// A document that writes what a test says.
+class Scripted : public ZelDataCoreXmp {
+public:
+    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                   bool append) const override
+    {
+        EXPECT_EQ(xmp, format);
+        EXPECT_FALSE(append);
+        setLastError(ZelData_NoData);
+        return write(out);
+    }
+
+    std::function<ZelDataResult_tags(std::string&)> write = [](std::string& out) {
+        out = "text";
+        return ZelData_Ok;
+    };
+};
+
+/// A folder with the file of a test.
+class ReplaceFile : public ::testing::Test {
+protected:
+    /// Expects that replacing the file with @p document gives @p code and no error of the system, and
+    /// leaves the folder as it was.
+    void expectRefused(ZelDataResult_tags code, const i_ZelInterchangeDataCore& document,
+                       ZelDataFormatType_tags format = xmp) const
+    {
+        put("kept");
+        int systemError = -1;
+        EXPECT_EQ(code, replaceFile(document, path(), systemError, format));
+        EXPECT_EQ(0, systemError);
+        EXPECT_EQ("kept", bytes());
+        EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+    }
+
+    /// The error of the system that writing to @p path gives.
+    std::error_code errorAt(const std::string& path) const
+    {
+        int systemError = -1;
+        EXPECT_EQ(ZelData_FileOpenFailed, replaceFile(Scripted(), path, systemError)) << path;
+        return {systemError, std::system_category()};
+    }
+
+    std::string path() const { return folder_.pathOf("talk.xmp"); }
+    std::string bytes() const { return bytesOf(std::filesystem::u8path(path())); }
+    void put(const std::string& bytes) const
+    {
+        std::ofstream(std::filesystem::u8path(path()), std::ios::binary) << bytes;
+    }
+
+    ScratchFolder folder_;
+};
+
+/// Expects that @p document writes the same bytes to @p path as to another file.
+void expectBytesOfWriteFile(const i_ZelInterchangeDataCore& document, const std::string& path)
+{
+    const TempFile other;
+    int systemError = -1;
+    EXPECT_EQ(ZelData_Ok, document.writeFile(other.path(), xmp, false));
+    EXPECT_EQ(ZelData_Ok, replaceFile(document, path, systemError));
+    EXPECT_EQ(0, systemError);
+    EXPECT_EQ(withoutDate(other.bytes()), withoutDate(bytesOf(std::filesystem::u8path(path))));
+}
+
+template <class Document>
+void expectBytesOfWriteFile(const std::string& path)
+{
+    Document document;
+    const auto header = sampleHeader();
+    EXPECT_EQ(ZelData_Ok, document.setDataHeader(*header));
+    EXPECT_EQ(ZelData_Ok, document.setDataCaptions(*sampleCaptions()));
+    expectBytesOfWriteFile(document, path);
+    EXPECT_EQ(ZelData_Ok, header->setAppName(std::string("Ann\0Bo", 6)));
+    EXPECT_EQ(ZelData_Ok, document.setDataHeader(*header));
+    expectBytesOfWriteFile(document, path);
+}
+
+TEST_F(ReplaceFile, WritesTheBytesOfWriteFile)
+{
+    expectBytesOfWriteFile<ZelDataCore>(path());
+    expectBytesOfWriteFile<ZelDataCoreXmp>(path());
+}
+
+TEST_F(ReplaceFile, EndsAtTheFirstZeroByteOfThePacket)
+{
+    Scripted document;
+    document.write = [](std::string& out) {
+        out = std::string("te\0xt", 5);
+        return ZelData_Ok;
+    };
+    int systemError = -1;
+    EXPECT_EQ(ZelData_Ok, replaceFile(document, path(), systemError));
+    EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\" ?>te", bytes());
+}
+
+TEST_F(ReplaceFile, ReplacesALongerFileAndLeavesNothingElse)
+{
+    put(std::string(100000, '?'));
+    int systemError = -1;
+    EXPECT_EQ(ZelData_Ok, replaceFile(Scripted(), path(), systemError));
+    EXPECT_EQ(0, systemError);
+    EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\" ?>text", bytes());
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+
+TEST_F(ReplaceFile, TakesAPathInUtf8)
+{
+    const std::string name = "vid\u00E9o \u65E5\u672C\U0001F3AC.xmp";
+    for (int times = 0; times != 2; ++times) {
+        int systemError = -1;
+        EXPECT_EQ(ZelData_Ok, replaceFile(Scripted(), folder_.pathOf(name), systemError));
+        EXPECT_EQ(Names{name}, folder_.names());
+    }
+}
+
+TEST_F(ReplaceFile, WritesInTheWorkingFolder)
+{
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(std::filesystem::u8path(folder_.path()));
+    int systemError = -1;
+    EXPECT_EQ(ZelData_Ok, replaceFile(Scripted(), "talk.xmp", systemError));
+    EXPECT_EQ(ZelData_Ok, replaceFile(Scripted(), "talk.xmp", systemError));
+    std::filesystem::current_path(before);
+    EXPECT_EQ(0, systemError);
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+
+TEST_F(ReplaceFile, ReturnsTheCodeOfADocumentThatCannotBeWritten)
+{
+    expectRefused(ZelData_InvalidArgument, ZelDataCore());
+    expectRefused(ZelData_InvalidArgument, ZelDataCoreXmp());
+    expectRefused(ZelData_UnsupportedFormat, ZelDataCore(), static_cast<ZelDataFormatType_tags>(2));
+    Scripted document;
+    document.write = [](std::string&) { return ZelData_WarnTiming; };
+    expectRefused(ZelData_WarnTiming, document);
+}
+
+TEST_F(ReplaceFile, TurnsExceptionsOfADocumentIntoCodes)
+{
+    Scripted document;
+    document.write = [](std::string&) -> ZelDataResult_tags { throw std::runtime_error(""); };
+    expectRefused(ZelData_InternalError, document);
+    document.write = [](std::string&) -> ZelDataResult_tags { throw std::bad_alloc(); };
+    expectRefused(ZelData_OutOfMemory, document);
+}
+
+TEST_F(ReplaceFile, StoresNoLastErrorItself)
+{
+    ZelDataCore document;
+    EXPECT_EQ(ZelData_Ok, document.setDataHeader(*plainHeader()));
+    document.setLastError(untouched);
+    int systemError = -1;
+    EXPECT_EQ(ZelData_Ok, replaceFile(document, path(), systemError));
+    EXPECT_EQ(ZelData_FileOpenFailed, replaceFile(document, "", systemError));
+    EXPECT_EQ(untouched, document.getLastError());
+    const Scripted other;
+    EXPECT_EQ(ZelData_Ok, replaceFile(other, path(), systemError));
+    EXPECT_EQ(ZelData_NoData, other.getLastError());
+}
+
+TEST_F(ReplaceFile, ReportsWhyTheFileCannotBeMade)
+{
+    using std::errc;
+    EXPECT_EQ(errc::no_such_file_or_directory, errorAt(folder_.pathOf("missing/talk.xmp")));
+    EXPECT_EQ(errc::no_such_file_or_directory, errorAt(""));
+    EXPECT_NE(std::error_code(), errorAt(folder_.pathOf(std::string(300, 'n'))));
+    EXPECT_NE(std::error_code(), errorAt(folder_.pathOf(std::string(100000, 'n'))));
+    EXPECT_TRUE(folder_.isEmpty());
+}
+
+TEST_F(ReplaceFile, RefusesAFolder)
+{
+#ifdef _WIN32
+    constexpr auto expected = std::errc::permission_denied;
+#else
+    constexpr auto expected = std::errc::is_a_directory;
+#endif
+    EXPECT_EQ(expected, errorAt(folder_.path()));
+    EXPECT_EQ(expected, errorAt(folder_.path() + "/"));
+    EXPECT_EQ(expected, errorAt("."));
+    EXPECT_TRUE(folder_.isEmpty());
+}
+
+TEST_F(ReplaceFile, RefusesAPathWithAZeroByteAndTouchesNoFile)
+{
+    put("kept");
+    EXPECT_NE(std::error_code(), errorAt(path() + std::string("\0.xmp", 5)));
+    EXPECT_NE(std::error_code(), errorAt(std::string(1, '\0') + path()));
+    EXPECT_EQ("kept", bytes());
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+
+#ifdef _WIN32
+TEST_F(ReplaceFile, RefusesAPathThatIsNotUtf8)
+{
+    for (const char* name : {"\xFF", "\xC3", "\xED\xA0\x80", "\xC0\xAF"})
+        EXPECT_NE(std::error_code(), errorAt(folder_.pathOf(name)));
+    EXPECT_TRUE(folder_.isEmpty());
+}
+
+TEST_F(ReplaceFile, RefusesADeviceAndAFileThatIsReadOnly)
+{
+    EXPECT_EQ(std::errc::not_supported, errorAt("NUL"));
+    put("kept");
+    const auto file = std::filesystem::u8path(path());
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    EXPECT_EQ(std::errc::permission_denied, errorAt(path()));
+    std::filesystem::permissions(file, std::filesystem::perms::all);
+    EXPECT_EQ("kept", bytes());
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+#endif
+
+TEST_F(ReplaceFile, WithoutMemoryLeavesTheFolderAsItWas)
+{
+    put("kept");
+    ZelDataCore document;
+    EXPECT_EQ(ZelData_Ok, document.setDataHeader(*sampleHeader()));
+    int systemError = -1;
+    EXPECT_EQ(ZelData_FileOpenFailed, replaceFile(document, "", systemError)); // what stays once
+    for (const auto shortage : {Shortage::Once, Shortage::Lasting}) {
+        std::size_t granted = 0;
+        for (bool failed = true; failed; ++granted) {
+            SCOPED_TRACE(granted);
+            auto code = untouched;
+            const auto live = liveAllocations();
+            {
+                const FailingAllocation failing(granted, shortage);
+                code = replaceFile(document, path(), systemError);
+                failed = failing.failed();
+            }
+            EXPECT_EQ(live, liveAllocations());
+            ASSERT_EQ(failed ? ZelData_OutOfMemory : ZelData_Ok, code);
+            EXPECT_EQ(0, systemError);
+            EXPECT_EQ(failed, bytes() == "kept");
+            EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+        }
+        EXPECT_GT(granted, 10U);
+        put("kept");
+    }
+}
+
+} // namespace
+} // namespace ZelInterchangeData
