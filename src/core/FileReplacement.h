@@ -17,8 +17,8 @@ namespace ZelInterchangeData {
 /// Makes the file at @p path hold @p parts and returns 0, or returns the number of the system's error.
 /// The public replaceFile() documents what it replaces and what it leaves after a failure.
 ///
-/// Throws `std::bad_alloc` if memory runs out; then nothing has changed. No other exception and no
-/// end of the thread leaves it.
+/// Throws `std::bad_alloc` if memory runs out; then nothing has changed. Throws nothing else, and a
+/// cancelled thread ends only after it.
 [[nodiscard]] int replaceFileWith(const FileParts& parts, const std::string& path);
 
 /// How many names are tried before the folder counts as unable to take a new file.
