@@ -33,6 +33,13 @@ std::size_t writeInPlace(const i_ZelInterchangeDataCore& document, const std::st
     return contents.size();
 }
 
+/// Whether @p error says that there is a file, but none that can be replaced.
+bool isNotReplaceable(const std::error_code& error)
+{
+    // The standard libraries for Windows do not agree on what ERROR_NOT_SUPPORTED means.
+    return error == std::errc::not_supported || error == std::errc::function_not_supported;
+}
+
 } // namespace
 
 std::size_t writePacket(const i_ZelInterchangeDataCore& document, const std::string& output)
@@ -44,7 +51,7 @@ std::size_t writePacket(const i_ZelInterchangeDataCore& document, const std::str
     int systemError = 0;
     const auto code = replaceFile(document, output, systemError);
     const std::error_code error(systemError, std::system_category());
-    if (error == std::errc::not_supported) return writeInPlace(document, output);
+    if (isNotReplaceable(error)) return writeInPlace(document, output);
     if (error) failToWrite(output, error);
     check(code, "writing the packet");
     return static_cast<std::size_t>(std::filesystem::file_size(file));

@@ -35,9 +35,9 @@ class i_ZelInterchangeDataCore;
 ///   header; a @p format other than #ZelDataFormat_Xmp is one of its failures. @p systemError is 0.
 /// - #ZelData_FileOpenFailed: the file cannot be opened, written, flushed or replaced.
 ///   @p systemError is the number of the system's error, never 0: an errno value, on Windows one of
-///   GetLastError(). Its text is that of `std::system_category()`. What is not a regular file gives
-///   `std::errc::is_a_directory` or `std::errc::not_supported`, on Windows a folder gives
-///   `std::errc::permission_denied`.
+///   GetLastError(). `std::system_category()` knows its text. A folder gives EISDIR, anything else
+///   that is not a regular file ENOTSUP; on Windows, these are ERROR_ACCESS_DENIED and
+///   ERROR_NOT_SUPPORTED.
 /// - #ZelData_OutOfMemory, or #ZelData_InternalError if a class of yours throws another exception:
 ///   @p systemError is 0.
 ///
