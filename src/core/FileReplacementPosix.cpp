@@ -79,11 +79,11 @@ public:
     /// nothing to wait for.
     int flush() const
     {
-        while (flushOnce() != 0) {
-            if (errno == EINVAL || errno == ENOTSUP) return 0;
-            if (errno != EINTR) return errno;
-        }
-        return 0;
+        int result = 0;
+        do {
+            result = flushOnce();
+        } while (result != 0 && errno == EINTR);
+        return result == 0 || errno == EINVAL || errno == ENOTSUP ? 0 : errno;
     }
 
     int close()
@@ -143,7 +143,7 @@ int followLinks(std::string& path)
         if (leadsToAnOpenFile(status)) return ENOTSUP;
         if (const int error = followLink(path)) return error;
     }
-    return ELOOP;
+    return ELOOP; // uncovered line: stat() has refused that many
 }
 
 /// Replacing a file needs no permission on the file itself, so that is checked here.
@@ -243,7 +243,7 @@ int openFolder(const Target& target, Descriptor& folder)
 
 int replaceFileWith(const FileParts& parts, const std::string& path)
 {
-    const Uncancelled uncancelled;
+    [[maybe_unused]] const Uncancelled uncancelled;
     Target target;
     target.path = path;
     if (const int error = find(target)) return error;

@@ -11,11 +11,21 @@
 #include "support/ScratchFolder.h"
 
 #include <functional>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
 #include <system_error>
 #include <vector>
+
+#ifndef _WIN32
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace ZelInterchangeData {
 namespace {
@@ -215,28 +225,6 @@ TEST_F(ReplaceFile, RefusesAPathWithAZeroByteAndTouchesNoFile)
     EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
 }
 
-#ifdef _WIN32
-TEST_F(ReplaceFile, RefusesAPathThatIsNotUtf8)
-{
-    for (const char* name : {"\xFF", "\xC3", "\xED\xA0\x80", "\xC0\xAF"})
-        EXPECT_NE(std::error_code(), errorAt(folder_.pathOf(name)));
-    EXPECT_TRUE(folder_.isEmpty());
-}
-
-TEST_F(ReplaceFile, RefusesADeviceAndAFileThatIsReadOnly)
-{
-    constexpr int notSupported = 50; // ERROR_NOT_SUPPORTED
-    EXPECT_EQ(notSupported, errorAt("NUL").value());
-    put("kept");
-    const auto file = std::filesystem::u8path(path());
-    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-    EXPECT_EQ(std::errc::permission_denied, errorAt(path()));
-    std::filesystem::permissions(file, std::filesystem::perms::all);
-    EXPECT_EQ("kept", bytes());
-    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
-}
-#endif
-
 TEST_F(ReplaceFile, WithoutMemoryLeavesTheFolderAsItWas)
 {
     put("kept");
@@ -265,6 +253,177 @@ TEST_F(ReplaceFile, WithoutMemoryLeavesTheFolderAsItWas)
         put("kept");
     }
 }
+
+#ifdef _WIN32
+TEST_F(ReplaceFile, RefusesAPathThatIsNotUtf8)
+{
+    for (const char* name : {"\xFF", "\xC3", "\xED\xA0\x80", "\xC0\xAF"})
+        EXPECT_NE(std::error_code(), errorAt(folder_.pathOf(name)));
+    EXPECT_TRUE(folder_.isEmpty());
+}
+
+TEST_F(ReplaceFile, RefusesADeviceAndAFileThatIsReadOnly)
+{
+    constexpr int notSupported = 50; // ERROR_NOT_SUPPORTED
+    EXPECT_EQ(notSupported, errorAt("NUL").value());
+    put("kept");
+    const auto file = std::filesystem::u8path(path());
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    EXPECT_EQ(std::errc::permission_denied, errorAt(path()));
+    std::filesystem::permissions(file, std::filesystem::perms::all);
+    EXPECT_EQ("kept", bytes());
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+#else
+// Links, permissions, and what is no regular file
+
+namespace fs = std::filesystem;
+
+class ReplacePosixFile : public ReplaceFile {
+protected:
+    ReplacePosixFile() { put("old"); }
+
+    /// The number of the system's error, or 0 if the file was written.
+    static int replace(const std::string& path)
+    {
+        int systemError = -1;
+        const auto code = replaceFile(Scripted(), path, systemError);
+        EXPECT_EQ(systemError == 0 ? ZelData_Ok : ZelData_FileOpenFailed, code);
+        return systemError;
+    }
+    static void expectWritten(const std::string& path)
+    {
+        EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\" ?>text", bytesOf(path));
+    }
+};
+
+mode_t permissionsOf(const std::string& path)
+{
+    struct stat status {};
+    EXPECT_EQ(0, stat(path.c_str(), &status)) << path;
+    return status.st_mode & 07777U;
+}
+
+TEST_F(ReplacePosixFile, KeepsThePermissions)
+{
+    for (const mode_t mode : {0600U, 0640U, 0664U, 0666U, 0755U, 0777U}) {
+        ASSERT_EQ(0, chmod(path().c_str(), mode));
+        EXPECT_EQ(0, replace(path()));
+        EXPECT_EQ(mode, permissionsOf(path()));
+    }
+}
+
+TEST_F(ReplacePosixFile, GivesANewFileThePermissionsOfNewFiles)
+{
+    for (const mode_t mask : {0U, 0027U, 0077U, 0777U}) {
+        fs::remove(path());
+        const mode_t before = umask(mask);
+        EXPECT_EQ(0, replace(path()));
+        EXPECT_EQ(mask, umask(before));
+        EXPECT_EQ(0666U & ~mask, permissionsOf(path()));
+    }
+}
+
+TEST_F(ReplacePosixFile, LeavesAnotherNameOfTheFileAlone)
+{
+    fs::create_hard_link(path(), folder_.pathOf("other"));
+    EXPECT_EQ(0, replace(path()));
+    expectWritten(path());
+    EXPECT_EQ("old", bytesOf(folder_.pathOf("other")));
+}
+
+TEST_F(ReplacePosixFile, FollowsLinks)
+{
+    fs::create_directory(folder_.pathOf("sub"));
+    fs::create_symlink("../talk.xmp", folder_.pathOf("sub/relative"));
+    fs::create_symlink(fs::absolute(folder_.pathOf("sub/relative")), folder_.pathOf("absolute"));
+    EXPECT_EQ(0, replace(folder_.pathOf("absolute")));
+    EXPECT_TRUE(fs::is_symlink(folder_.pathOf("absolute")));
+    EXPECT_TRUE(fs::is_symlink(folder_.pathOf("sub/relative")));
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(path())));
+    expectWritten(path());
+    EXPECT_EQ(3U, folder_.names().size());
+}
+
+TEST_F(ReplacePosixFile, MakesTheFileThatALinkLeadsTo)
+{
+    fs::create_directory(folder_.pathOf("sub"));
+    fs::create_symlink("sub/new", folder_.pathOf("link"));
+    EXPECT_EQ(0, replace(folder_.pathOf("link")));
+    EXPECT_TRUE(fs::is_symlink(folder_.pathOf("link")));
+    expectWritten(folder_.pathOf("sub/new"));
+}
+
+TEST_F(ReplacePosixFile, RefusesLinksInACircleAndThoseToAFolder)
+{
+    fs::create_symlink("b", folder_.pathOf("a"));
+    fs::create_symlink("a", folder_.pathOf("b"));
+    EXPECT_EQ(ELOOP, replace(folder_.pathOf("a")));
+    fs::create_symlink(".", folder_.pathOf("here"));
+    EXPECT_EQ(EISDIR, replace(folder_.pathOf("here")));
+    EXPECT_EQ(4U, folder_.names().size());
+}
+
+// If it opened the pipe, the test would wait for a reader forever.
+TEST_F(ReplacePosixFile, RefusesDevicesAndPipesWithoutOpeningThem)
+{
+    const std::string pipe = folder_.pathOf("pipe");
+    ASSERT_EQ(0, mkfifo(pipe.c_str(), 0600));
+    EXPECT_EQ(ENOTSUP, replace(pipe));
+    EXPECT_EQ(ENOTSUP, replace("/dev/null"));
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(2U, folder_.names().size());
+}
+
+#ifdef __linux__
+TEST_F(ReplacePosixFile, RefusesLinksToOpenFiles)
+{
+    const int file = ::open(path().c_str(), O_WRONLY);
+    ASSERT_GE(file, 0);
+    const std::string number = std::to_string(file);
+    fs::create_symlink("/dev/fd/" + number, folder_.pathOf("link"));
+    EXPECT_EQ(ENOTSUP, replace("/dev/fd/" + number));
+    EXPECT_EQ(ENOTSUP, replace("/proc/self/fd/" + number));
+    EXPECT_EQ(ENOTSUP, replace(folder_.pathOf("link")));
+    EXPECT_EQ("old", bytes());
+    fs::remove(path());
+    EXPECT_EQ(ENOTSUP, replace("/dev/fd/" + number));
+    ::close(file);
+    EXPECT_EQ(Names{"link"}, folder_.names());
+}
+#endif
+
+TEST_F(ReplacePosixFile, DoesNotTakeAFileForAFolder)
+{
+    EXPECT_EQ(ENOTDIR, replace(path() + "/file"));
+    EXPECT_EQ(ENOTDIR, replace(path() + "/"));
+    EXPECT_EQ(ENOENT, replace(folder_.pathOf("missing/")));
+    EXPECT_EQ("old", bytes());
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+
+TEST_F(ReplacePosixFile, TakesTheLongestName)
+{
+    EXPECT_EQ(0, replace(folder_.pathOf(std::string(255, 'n'))));
+    EXPECT_EQ(ENAMETOOLONG, replace(folder_.pathOf(std::string(256, 'n'))));
+    EXPECT_EQ(2U, folder_.names().size());
+}
+
+TEST_F(ReplacePosixFile, ReportsALimitOfFileSizesAndLeavesTheFolderAsItWas)
+{
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual = {};
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &usual));
+    const rlimit small = {20, usual.rlim_max};
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &small));
+    const int found = replace(path());
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(EFBIG, found);
+    EXPECT_EQ("old", bytes());
+    EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+#endif
 
 } // namespace
 } // namespace ZelInterchangeData
