@@ -10,9 +10,6 @@
 #include <string_view>
 #include <utility>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 namespace ZelInterchangeData {
@@ -174,7 +171,8 @@ private:
         constexpr std::size_t most = 0x100000;
         while (!bytes.empty()) {
             DWORD count = 0;
-            const auto size = static_cast<DWORD>(std::min(bytes.size(), most));
+            // In parentheses, because <windows.h> may define a macro of this name.
+            const auto size = static_cast<DWORD>((std::min)(bytes.size(), most));
             if (::WriteFile(file_.get(), bytes.data(), size, &count, nullptr) == 0)
                 return errorUnless(false);
             bytes.remove_prefix(count);
