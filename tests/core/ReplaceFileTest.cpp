@@ -228,6 +228,7 @@ TEST_F(ReplaceFile, RefusesAPathWithAZeroByteAndTouchesNoFile)
 TEST_F(ReplaceFile, WithoutMemoryLeavesTheFolderAsItWas)
 {
     put("kept");
+    const std::string path = this->path(); // needs memory itself
     ZelDataCore document;
     EXPECT_EQ(ZelData_Ok, document.setDataHeader(*sampleHeader()));
     int systemError = -1;
@@ -240,7 +241,7 @@ TEST_F(ReplaceFile, WithoutMemoryLeavesTheFolderAsItWas)
             const auto live = liveAllocations();
             {
                 const FailingAllocation failing(granted, shortage);
-                code = replaceFile(document, path(), systemError);
+                code = replaceFile(document, path, systemError);
                 failed = failing.failed();
             }
             EXPECT_EQ(live, liveAllocations());
