@@ -365,13 +365,13 @@ TEST_F(ReplacePosixFile, RefusesLinksInACircleAndThoseToAFolder)
     EXPECT_EQ(4U, folder_.names().size());
 }
 
-// If it opened the pipe, the test would wait for a reader forever.
-TEST_F(ReplacePosixFile, RefusesDevicesAndPipesWithoutOpeningThem)
+// If it opened the pipe, the test would wait for a reader forever. Not with a device of the machine: a
+// library with a defect, run as root, would replace it.
+TEST_F(ReplacePosixFile, RefusesAPipeWithoutOpeningIt)
 {
     const std::string pipe = folder_.pathOf("pipe");
     ASSERT_EQ(0, mkfifo(pipe.c_str(), 0600));
     EXPECT_EQ(ENOTSUP, replace(pipe));
-    EXPECT_EQ(ENOTSUP, replace("/dev/null"));
     EXPECT_TRUE(fs::is_fifo(pipe));
     EXPECT_EQ(2U, folder_.names().size());
 }
