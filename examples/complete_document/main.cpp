@@ -18,7 +18,8 @@ try {
     checked(*screenText).addScreenTextItem(*createScreenTextItem(45000, 60000, "File > New", 1));
     const auto document = createDocument();
     checked(*document).setDataHeader(*header).setDataCaptions(*captions).setDataToc(*toc);
-    checked(*document).setDataScreenText(*screenText).writeFile("intro.xmp");
+    checked(*document).setDataScreenText(*screenText);
+    replaceFile(*document, "intro.xmp");
 } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return 1;

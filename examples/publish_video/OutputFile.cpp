@@ -6,18 +6,18 @@
 #include "PublishError.h"
 #include "Text.h"
 
-#include <system_error>
-
 namespace publish {
 
-void failToWrite(const std::string& output, const std::string& reason)
+void failToWrite(const std::string& output, const std::error_code& error)
 {
-    throw PublishError(printable(output) + ": cannot be written: " + reason);
+    // The words that all systems share, where they have them.
+    throw PublishError(printable(output) +
+                       ": cannot be written: " + error.default_error_condition().message());
 }
 
 void failToWrite(const std::string& output, int error)
 {
-    failToWrite(output, std::generic_category().message(error));
+    failToWrite(output, std::error_code(error, std::generic_category()));
 }
 
 } // namespace publish

@@ -1,6 +1,6 @@
 /// @file
 /// The interfaces of ZelInterchangeData.h, and the face over them: factories that return the new
-/// object, operations that throw instead of returning a code, loops over items.
+/// object, operations that throw instead of returning a code, loops over items, safe files.
 ///
 /// Nothing here is part of the binary interface: all of it is compiled into the caller. It is a
 /// separate header so that programs that handle the codes themselves can use short names such as
@@ -28,6 +28,7 @@
 #include "ZelInterchangeData/ZelDataCheckedTocItem.h"
 #include "ZelInterchangeData/ZelDataError.h"
 #include "ZelInterchangeData/ZelDataFactories.h"
+#include "ZelInterchangeData/ZelDataFiles.h"
 #include "ZelInterchangeData/ZelDataItems.h"
 #include "ZelInterchangeData/ZelInterchangeData.h"
 

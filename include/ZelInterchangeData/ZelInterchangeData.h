@@ -13,6 +13,7 @@
 #include "ZelInterchangeData/ZelDataFinding_tags.h"
 #include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataReplaceFile.h"
 #include "ZelInterchangeData/ZelDataResultText.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"
 #include "ZelInterchangeData/ZelDataStandardLibrary.h"

@@ -127,6 +127,11 @@ void addUtilityOperations(OperationList& list)
     addFindProblems(of, "i_ZelDataCaptions", given<filledCaptions>);
     addFindProblems(of, "i_ZelDataToc", given<filledToc>);
     addFindProblems(of, "i_ZelDataScreenText", given<filledScreenText>);
+    const auto replace = [](const std::string& path) {
+        int systemError = 0;
+        return replaceFile(given<filledDocument<ZelDataCore>>(), path, systemError);
+    };
+    of.add("replaceFile", replace, &Outs::file);
     of.addText("describe", [] { return describe(given<firstFinding>()); });
     of.addText("libraryVersion", [] { return getValueString(libraryVersion()); });
     of.addText("getValueString", [] { return getValueString(-9223372036854775807L); });
