@@ -265,10 +265,6 @@ public:
 
 TEST(DocumentFindings, CaptionsThatCannotBeCopiedCanNeitherBeCheckedNorWritten)
 {
-    EndlessItem item;
-    fill(item, {0, 1000, {{"en", "a"}}});
-    const auto captions = captionsOf({});
-    ASSERT_EQ(ZelData_Ok, captions->addCaptionItem(item));
     // Only captions of another class are copied item by item.
     class Callers : public ZelDataCaptions {
     public:
