@@ -62,10 +62,11 @@ public:
     void spoil(TextsByLanguage& texts)
     {
         TextsByLanguage spoiled;
-        for (auto [language, text] : texts) {
-            if (strikes()) spoil(language);
-            spoil(text);
-            spoiled[language] = text;
+        for (const auto& [language, text] : texts) {
+            std::string id = language;
+            if (strikes()) spoil(id);
+            spoil(spoiled[id] = text);
+            if (strikes()) spoiled[id] += "\n\n\n\n\n";
         }
         texts = spoiled;
     }
