@@ -57,7 +57,7 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataScreenText
 /// @name Finding problems of the packet
 /// Each replaces @p findings with what makes a document impossible to write or its packet impossible
 /// to read, and with what its author probably did not want. severityOf() tells the two apart: for a
-/// document of the library without a finding of #ZelDataFindingSeverity_Error, `writeString` returns
+/// document of the library without a finding of ZelDataFindingSeverity_Error, `writeString` returns
 /// ZelData_Ok unless memory runs out, the packet is well-formed XML, and an XML parser reads from it
 /// every value that the document holds, apart from what the format leaves out or changes.
 ///
@@ -81,7 +81,7 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataScreenText
 
 /// Checks sizes, texts, content names and languages of a header. The findings come in this order:
 /// missing sizes; application name and version, title, creator, description, keywords and content
-/// names, each with its faults in the order of #ZelDataFinding_tags; content names listed twice;
+/// names, each with its faults in the order of ZelDataFinding_tags; content names listed twice;
 /// languages.
 ///
 /// For the library's own headers, `isValid()` fails if and only if a size is missing. The faults of
@@ -107,9 +107,9 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelInterchangeDat
 /// a kind. Never null; valid until the library is unloaded.
 ZELINTERCHANGEDATA_API const char* toString(ZelDataFinding_tags kind) noexcept;
 
-/// How serious @p finding is: #ZelDataFindingSeverity_Error if the document does not accept or does
+/// How serious @p finding is: ZelDataFindingSeverity_Error if the document does not accept or does
 /// not write what it is about, or if its packet is not read; otherwise, and for a kind that does not
-/// exist, #ZelDataFindingSeverity_Warning.
+/// exist, ZelDataFindingSeverity_Warning.
 ZELINTERCHANGEDATA_API ZelDataFindingSeverity_tags
 severityOf(const ZelDataFinding& finding) noexcept;
 
