@@ -9,6 +9,7 @@
 #include "ZelInterchangeData/ZelDataException.h"
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFinding.h"
+#include "ZelInterchangeData/ZelDataFindingSeverity_tags.h"
 #include "ZelInterchangeData/ZelDataFindingSubject_tags.h"
 #include "ZelInterchangeData/ZelDataFinding_tags.h"
 #include "ZelInterchangeData/ZelDataFindings.h"
