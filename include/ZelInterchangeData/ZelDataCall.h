@@ -254,10 +254,7 @@ struct ZelDataCall {
         return *value;
     }
     /// The text at @p index.
-    const std::string& text(std::size_t index = 0) const
-    {
-        return *get<const std::string*>(index);
-    }
+    const std::string& text(std::size_t index = 0) const { return *get<const std::string*>(index); }
 
     /// The arguments that can be shown, in parentheses; empty if there are none.
     std::string shownArguments() const

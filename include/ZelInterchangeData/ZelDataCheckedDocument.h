@@ -130,11 +130,12 @@ private:
     /// Whether the document has captions, or might have some.
     bool hasCaptions() const
     {
-        const std::string none = ZelDataMessages::asking(this->object(), [&] {
+        using namespace ZelDataMessages;
+        const auto ask = [&] {
             const auto captions = made(ZelDataUtilities::createCaptionData);
             return this->object().getDataCaptions(*captions) == ZelData_NoData ? "none" : "";
-        });
-        return none.empty();
+        };
+        return orNothing([&] { return asking(this->object(), ask); }).empty();
     }
 
     template <class Data>

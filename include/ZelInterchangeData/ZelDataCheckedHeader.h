@@ -33,10 +33,7 @@ public:
     ZelDataCheckedHeader isValid() const { return this->run("isValid", &Interface::isValid); }
     /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
     /// Throws if memory runs out.
-    bool isGood() const
-    {
-        return this->isGoodCode("isValid", this->object().isValid());
-    }
+    bool isGood() const { return this->isGoodCode("isValid", this->object().isValid()); }
     /// See i_ZelDataHeader::clearHeader().
     ZelDataCheckedHeader clearHeader() const
     {

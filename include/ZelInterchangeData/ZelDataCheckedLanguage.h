@@ -91,9 +91,8 @@ protected:
             return reasonOfLanguage(call.text());
         if (call.is("removeLanguage", ZelData_WarnNoChange) ||
             call.is("removeLanguage", ZelData_NotFound))
-            return asking(this->object(), [&] {
-                return reasonOfMissingLanguage(call, getOrderedLanguageIDs());
-            });
+            return asking(this->object(),
+                          [&] { return reasonOfMissingLanguage(call, getOrderedLanguageIDs()); });
         if (call.is("setOrderedLanguageIDs", ZelData_InvalidArgument))
             return asking(this->object(), [&] { return reasonOfOrder(call); });
         return {};

@@ -51,8 +51,8 @@ inline std::string reasonOfLanguage(const std::string& id)
 /// An object that is copied onto itself.
 inline std::string reasonOfCopy(const i_ZelDataResult& target, const ZelDataCall& call)
 {
-    const bool isSelf = call.is("copyFrom", ZelData_InternalError) &&
-                        call.arguments.begin()->is(target);
+    const bool isSelf =
+        call.is("copyFrom", ZelData_InternalError) && call.arguments.begin()->is(target);
     return isSelf ? "the source is the object itself" : "";
 }
 /// @}

@@ -39,7 +39,7 @@ class CompleteDocument(unittest.TestCase):
             (Path(folder) / "intro.xmp").mkdir()
             result = self.run_in(folder)
         self.assertEqual((result.returncode, result.stdout), (1, ""))
-        self.assertEqual(result.stderr, "writeFile: ZelData_FileOpenFailed (0x8000000A): "
+        self.assertEqual(result.stderr, "writeFile(\"intro.xmp\"): ZelData_FileOpenFailed (0x8000000A): "
                                         "The file could not be opened.\n")
 
     def test_the_program_is_short(self):
