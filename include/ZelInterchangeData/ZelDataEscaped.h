@@ -11,7 +11,8 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// @p text with `"`, `&`, `'`, `<` and `>` as XML entities. May throw `std::bad_alloc`.
+/// @p text with ampersands, angle brackets, quotation marks and apostrophes as XML entities. May
+/// throw `std::bad_alloc`.
 ///
 /// Use it for the texts that the library writes as given: the creator, the font family, the image
 /// names of screen texts and the language IDs. Their getters return the escaped form. The library

@@ -6,6 +6,7 @@
 #include "captions/CaptionStyle.h"
 #include "captions/ZelDataCaptionItem.h"
 #include "support/FailingAllocation.h"
+#include "support/fakes/FailingCaptions.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,11 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <utility>
+#if defined(__GLIBC__) && defined(__GLIBCXX__)
+#include <pthread.h>
+#endif
 
 namespace ZelInterchangeData {
 namespace {
@@ -474,7 +479,7 @@ private:
 
 std::string saidAboutEnd(OwnCaption& caption)
 {
-    return saidAndKept(&caption, [&] { checked(caption).setEnd(-0); });
+    return saidAndKept(&caption, [&] { checked(caption).setEnd(0); });
 }
 
 TEST(MessageAboutAnotherImplementation, KeepsItsLastError)
@@ -503,6 +508,46 @@ TEST(MessageAboutAnotherImplementation, KeepsItsLastErrorIfAGetterThrows)
         EXPECT_EQ(1, caption.asked());
     }
 }
+
+TEST(MessageAboutAnotherImplementation, ExplainsNoRefusalOfAGoodArgument)
+{
+    FailingCaptions captions;
+    captions.failAt("setFontSize", ZelData_InvalidArgument, ZelData_InvalidArgument);
+    EXPECT_EQ("setFontSize(20): " + unexplained,
+              saidBy([&] { checked(captions).setFontSize(20); }));
+    FailingCaptionItem item;
+    item.failAt("setDuration", ZelData_InvalidArgument, ZelData_InvalidArgument);
+    EXPECT_EQ("setDuration(500): " + unexplained, saidBy([&] { checked(item).setDuration(500); }));
+    FailingCaptionItem started;
+    started.failAt("setStart", ZelData_InvalidArgument, ZelData_InvalidArgument);
+    EXPECT_EQ("setStart(0): " + unexplained, saidBy([&] { checked(started).setStart(0); }));
+    FailingCaptions failing;
+    failing.failAt("getFontSize", ZelData_InternalError, ZelData_InternalError);
+    const auto target = createCaptions();
+    EXPECT_EQ("copyFrom: ZelData_InternalError (0x8000000B): The data are inconsistent, an object "
+              "was copied onto itself, or an internal step failed.",
+              saidBy([&] { checked(target).copyFrom(failing); }));
+    FailingCaptionItem speechless;
+    speechless.failAt("setTextForLanguage", ZelData_InvalidItem, ZelData_InvalidItem);
+    EXPECT_EQ("setTextForLanguage(\"Hi\", \"en\"): ZelData_InvalidItem (0x80000009): "
+              "The item has no duration, or a text or language that is not valid.",
+              saidBy([&] { checked(speechless).setTextForLanguage("Hi", "en"); }));
+}
+
+#if defined(__GLIBC__) && defined(__GLIBCXX__)
+TEST(MessageAboutAnotherImplementation, LetsAThreadEndInAGetter)
+{
+    OwnCaption caption;
+    caption.throwFromGetter([] { pthread_exit(nullptr); });
+    bool returned = false;
+    std::thread([&] {
+        static_cast<void>(saidBy([&] { checked(caption).setEnd(0); }));
+        returned = true;
+    }).join();
+    EXPECT_FALSE(returned);
+    EXPECT_EQ(1, caption.asked());
+}
+#endif
 
 /// How @p call ends if memory runs out after @p granted allocations: with the message of a
 /// ZelDataError, or with "std::bad_alloc". Sets @p failed to whether memory ran out.
