@@ -22,7 +22,7 @@ namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 /// To make a view, call checked() with the object or the `std::unique_ptr` that owns it. A view
 /// offers the same operations as its object, and isGood() beside isValid():
 /// - An operation without a value returns the view, so calls can be chained:
-///   `checked(*header).setTitle("Intro").setVideoLength(90500)`.
+///   `checked(header).setTitle("Intro").setVideoLength(90500)`.
 /// - A getter returns its value, and an object in a `std::unique_ptr`.
 /// - ZelDataError names the operation. Its message shows the arguments and says what they or the
 ///   object's getters reveal about the failure. The object is in the state in which the operation
