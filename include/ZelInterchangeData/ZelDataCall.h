@@ -42,15 +42,21 @@ inline std::string shown(bool value)
 {
     return value ? "true" : "false";
 }
-/// Plain decimal.
-inline std::string shown(long long value)
-{
-    return std::to_string(value);
-}
-/// Plain decimal.
+/// Plain decimal. Deliberate: not std::to_string; with it, a plug-in could not be unloaded.
 inline std::string shown(unsigned long long value)
 {
     return ZelDataUtilities::getValueString(value);
+}
+/// Plain decimal.
+inline std::string shown(unsigned long value)
+{
+    return ZelDataUtilities::getValueString(value);
+}
+/// Plain decimal.
+inline std::string shown(long long value)
+{
+    const auto bits = static_cast<unsigned long long>(value);
+    return value < 0 ? "-" + shown(0 - bits) : shown(bits);
 }
 /// Six significant digits.
 inline std::string shown(float value)
@@ -232,7 +238,7 @@ private:
 };
 
 /// A call that failed.
-struct ZelDataCall {
+struct ZelDataCall final {
     /// The name of the operation.
     std::string_view operation;
     /// The code that it returned.

@@ -131,7 +131,7 @@ private:
     {
         return ZelDataMessages::asking(this->object(), [&] {
             const long long duration = getDuration();
-            const std::string lasts = "it lasts " + std::to_string(duration) + " ms";
+            const std::string lasts = "it lasts " + ZelDataMessages::shown(duration) + " ms";
             if (call.code == ZelData_InvalidItem && duration <= 0) return lasts;
             if (call.code != ZelData_WarnItemGuidelines) return std::string();
             return duration < 1000 ? lasts + ", less than 1000 ms" : reasonOfLines();
@@ -140,11 +140,10 @@ private:
 
     std::string reasonOfLines() const
     {
+        using namespace ZelDataMessages;
         for (const std::string& id : getLanguageIDs()) {
             const auto lines = ZelDataUtilities::countLinesInUTF8(getTextForLanguage(id));
-            if (lines > 4)
-                return std::to_string(lines) + " lines in " + ZelDataMessages::shown(&id) +
-                       ", more than 4";
+            if (lines > 4) return shown(lines) + " lines in " + shown(&id) + ", more than 4";
         }
         return {};
     }

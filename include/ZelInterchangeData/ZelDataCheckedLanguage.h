@@ -105,7 +105,8 @@ private:
         const auto& ids = *call.get<const std::vector<std::string>*>();
         const std::vector<std::string> listed = getOrderedLanguageIDs();
         if (ids.size() != listed.size())
-            return std::to_string(ids.size()) + ", the list has " + std::to_string(listed.size());
+            return shown(static_cast<unsigned long long>(ids.size())) + ", the list has " +
+                   shown(static_cast<unsigned long long>(listed.size()));
         const auto unlisted = std::find_if(ids.begin(), ids.end(), [&](const std::string& id) {
             return std::find(listed.begin(), listed.end(), id) == listed.end();
         });

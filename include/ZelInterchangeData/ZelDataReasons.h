@@ -26,7 +26,7 @@ inline std::string reasonOfRange(const ZelDataCall& call, unsigned long minimum,
 {
     const auto value = call.get<unsigned long long>();
     if (value >= minimum && value <= maximum) return {};
-    return "not from " + std::to_string(minimum) + " to " + std::to_string(maximum);
+    return "not from " + shown(minimum) + " to " + shown(maximum);
 }
 
 /// A frame rate.
@@ -74,7 +74,7 @@ inline std::string reasonOfIndex(const ZelDataCall& call, unsigned long count)
 {
     if (call.get<unsigned long long>() < count) return {};
     if (count == 0) return "there are none";
-    return (count == 1 ? "there is " : "there are ") + std::to_string(count);
+    return (count == 1 ? "there is " : "there are ") + shown(count);
 }
 
 /// A start, an end or a duration of @p item.
@@ -89,7 +89,7 @@ std::string reasonOfTime(const View& item, const ZelDataCall& call)
     if (!setsEnd) return {};
     return asking(item.object(), [&] {
         const long long start = item.getStart();
-        return value > start ? std::string() : "not after the start, " + std::to_string(start);
+        return value > start ? std::string() : "not after the start, " + shown(start);
     });
 }
 
@@ -103,8 +103,7 @@ inline std::string reasonOfCaption(const ZelDataCall& call)
         long long end = 0;
         if (failed(caption.getStart(start)) || failed(caption.getEnd(end)) || end > start)
             return std::string();
-        return "the caption ends at " + std::to_string(end) + ", not after its start, " +
-               std::to_string(start);
+        return "the caption ends at " + shown(end) + ", not after its start, " + shown(start);
     });
 }
 

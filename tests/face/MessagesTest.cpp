@@ -12,6 +12,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <new>
 #include <set>
 #include <stdexcept>
@@ -185,6 +186,9 @@ TEST(Message, SaysWhatIsWrongWithATime)
     };
     EXPECT_EQ("setStart(-1): negative" + outOfRange,
               setter(caption, [](auto view) { view.setStart(-1); }));
+    EXPECT_EQ(
+        "setStart(-9223372036854775808): negative" + outOfRange,
+        setter(caption, [](auto view) { view.setStart(std::numeric_limits<long long>::min()); }));
     EXPECT_EQ("setEnd(1000): not after the start, 1000" + outOfRange,
               setter(caption, [](auto view) { view.setEnd(1000); }));
     EXPECT_EQ("setEnd(-5): negative" + outOfRange,
