@@ -6,6 +6,8 @@
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
+#include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
@@ -13,6 +15,7 @@
 #include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
 
 #include <memory>
+#include <string>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
@@ -36,10 +39,15 @@ public:
     {
         return this->run("getDataHeader", &Interface::getDataHeader, target);
     }
-    /// See i_ZelInterchangeDataCore::setDataHeader().
+    /// See i_ZelInterchangeDataCore::setDataHeader(). If the document has captions, this can return
+    /// ZelData_Ok for a header that was copied only in part. Then the view throws the code of the
+    /// header's isValid(), which it calls first.
     ZelDataCheckedDocument setDataHeader(const i_ZelDataHeader& source) const
     {
-        return this->run("setDataHeader", &Interface::setDataHeader, source);
+        const ZelDataResult_tags valid = source.isValid();
+        const ZelDataResult_tags code = this->object().setDataHeader(source);
+        const bool hidden = this->fails(valid) && !this->fails(code) && hasCaptions();
+        return this->done("setDataHeader", hidden ? valid : code, source);
     }
     /// See i_ZelInterchangeDataCore::getDataCaptions().
     ZelDataCheckedDocument getDataCaptions(i_ZelDataCaptions& target) const
@@ -92,6 +100,51 @@ public:
         return this->make("createDataScreenText", &Interface::createDataScreenText);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedDocument, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        if (call.is("getDataHeader", ZelData_NoData)) return "the document has no header";
+        if (call.is("getDataCaptions", ZelData_NoData)) return "the document has no captions";
+        if (call.is("getDataToc", ZelData_NoData)) return "the document has no table of contents";
+        if (call.is("getDataScreenText", ZelData_NoData)) return "the document has no screen text";
+        if (call.operation == "setDataHeader") return ZelDataMessages::reasonOfHeader(call);
+        const bool writes = call.is("writeString", ZelData_InvalidArgument) ||
+                            call.is("writeFile", ZelData_InvalidArgument);
+        return writes ? reasonOfOwnHeader() : std::string();
+    }
+
+    std::string reasonOfOwnHeader() const
+    {
+        return ZelDataMessages::asking(this->object(), [&] {
+            const auto header = made(ZelDataUtilities::createHeaderData);
+            const auto code = this->object().getDataHeader(*header);
+            if (code == ZelData_NoData) return std::string("the document has no header");
+            // A copy stops at the first size that is 0.
+            return code == ZelData_InvalidArgument ? ZelDataMessages::reasonOfSizes(*header) : "";
+        });
+    }
+
+    /// Whether the document has captions, or might have some.
+    bool hasCaptions() const
+    {
+        using namespace ZelDataMessages;
+        const auto ask = [&] {
+            const auto captions = made(ZelDataUtilities::createCaptionData);
+            return this->object().getDataCaptions(*captions) == ZelData_NoData ? "none" : "";
+        };
+        return orNothing([&] { return asking(this->object(), ask); }).empty();
+    }
+
+    template <class Data>
+    static std::unique_ptr<Data> made(ZelDataResult_tags (*create)(Data**))
+    {
+        Data* data = nullptr;
+        check(create(&data), "create");
+        return std::unique_ptr<Data>(data);
+    }
 };
 
 /// The checked operations of @p object.
