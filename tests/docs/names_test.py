@@ -8,6 +8,8 @@ import re
 import unittest
 from pathlib import Path
 
+from blocks import rows_below
+
 ROOT = Path(os.environ["ROOT"])
 FORMAT = ROOT / "docs" / "format.md"
 DOCUMENTS = [*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")]
@@ -30,11 +32,8 @@ def defined_tests():
 
 
 def rows_of(heading):
-    """The rows of the first table below a heading of docs/format.md, without its header."""
-    section = FORMAT.read_text(encoding="utf-8").split(f"\n{heading}\n", 1)[1].split("\n## ", 1)[0]
-    table = re.search(r"(?:^\|.*\n)+", section, re.MULTILINE)[0]
-    return [[cell.strip() for cell in line.strip("|").split("|")]
-            for line in table.splitlines()[2:]]
+    """The rows of the first table below a heading of docs/format.md."""
+    return rows_below(FORMAT.read_text(encoding="utf-8"), heading)
 
 
 class Names(unittest.TestCase):
