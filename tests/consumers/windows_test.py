@@ -48,9 +48,8 @@ def wine(program, *arguments, libraries, folder):
                        WINEPATH=";".join(f"Z:{folder}" for folder in folders))
     done = subprocess.run([WINE, program, *arguments], cwd=folder, env=environment,
                           capture_output=True, check=False)
-    # Wine speaks of its own processes when it starts, and the unpacked one of the fonts that it lacks.
-    done.stderr = re.sub(rb"^(wine: [^\n]*|Wine cannot find the FreeType.*?freetype\.org)\n", b"",
-                         done.stderr, flags=re.S | re.M)
+    # The unpacked Wine has no fonts, and says so when it starts.
+    done.stderr = re.sub(rb"Wine cannot find the FreeType.*?freetype\.org\n", b"", done.stderr, flags=re.S)
     return done
 
 
