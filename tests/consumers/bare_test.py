@@ -16,9 +16,9 @@ STATIC = "lib/libZelInterchangeData.a"
 
 def copy_of_the_tree(folder):
     """The tree without build output."""
-    built = {path.parent for path in SOURCE.rglob("CMakeCache.txt")}
+    built = {path.parent for path in SOURCE.rglob("CMakeCache.txt")} | {SOURCE / "build", SOURCE / ".git"}
     shutil.copytree(SOURCE, folder, ignore=lambda parent, names: [
-        name for name in names if name == ".git" or SOURCE.joinpath(parent, name) in built])
+        name for name in names if SOURCE.joinpath(parent, name) in built])
     return folder
 
 

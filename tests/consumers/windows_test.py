@@ -81,7 +81,7 @@ class Windows(unittest.TestCase):
         table = run(f"{TRIPLE}-objdump", "-p", self.prefix / "bin" / DLL)
         names = re.findall(r"^\t\[ *\d+\] (\S+)$", table.partition("[Ordinal/Name Pointer]")[2],
                            re.MULTILINE)
-        exported = set(map(shortened, run(f"{TRIPLE}-c++filt", *names).splitlines()))
+        exported = set(map(shortened, run(f"{TRIPLE}-c++filt", "-n", *names).splitlines()))
         listed = (SOURCE / "tests/abi/exports.txt").read_text(encoding="ascii").splitlines()
         # The names of types, which Linux exports too, stay inside.
         self.assertEqual(exported, {name for name in listed
