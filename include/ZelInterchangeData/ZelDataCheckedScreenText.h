@@ -111,6 +111,8 @@ private:
     std::string reason(const ZelDataCall& call) const
     {
         using namespace ZelDataMessages;
+        if (call.operation == "isValid")
+            return reasonOfProblem<i_ZelDataScreenText>(this->object(), call);
         if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
         if (call.is("getScreenTextItemAt", ZelData_InvalidArgument) ||
             call.is("removeScreenTextItemAt", ZelData_InvalidArgument))

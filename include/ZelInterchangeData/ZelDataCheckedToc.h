@@ -131,6 +131,7 @@ private:
     std::string reason(const ZelDataCall& call) const
     {
         using namespace ZelDataMessages;
+        if (call.operation == "isValid") return reasonOfProblem<i_ZelDataToc>(this->object(), call);
         if (call.is("getTocItemAt", ZelData_InvalidArgument) ||
             call.is("removeTocItemAt", ZelData_InvalidArgument))
             return asking(this->object(), [&] { return reasonOfIndex(call, getTocItemCount()); });
