@@ -273,8 +273,7 @@ public:
     OwnCaptions()
     {
         checked(*this)
-            .addCaptionItem(*createCaptionItem(0, 900, {{"en", "a"}}))
-            .addLanguage("en")
+            .addCaptionItem(*ZelInterchangeData::createCaptionItem(0, 900, {{"en", "a"}}))
             .addLanguage("de");
     }
 

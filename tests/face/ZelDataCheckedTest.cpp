@@ -325,16 +325,22 @@ TEST(CheckedDocument, LetsAWarningOfTheCheckOfAHeaderPassIfItIsAllowed)
     checked(document).allowWarnings().setDataHeader(strict);
 }
 
+/// A good header that a document cannot copy.
+class UntitledHeader : public StrictHeader {
+public:
+    UntitledHeader() { code = ZelData_Ok; }
+
+    ZelDataResult_tags getTitle(std::string& /*title*/) const override
+    {
+        return store(ZelData_NotFound);
+    }
+};
+
 TEST(CheckedDocument, ThrowsTheCodeOfSetDataHeaderForAGoodHeader)
 {
     const auto document = createDocument();
-    FailingCaptions captions;
-    captions.failAt("getFontSize", ZelData_InternalError, ZelData_NotFound);
-    EXPECT_EQ(ZelData_NotFound, document->setDataCaptions(captions));
-    const auto header = createHeader();
-    checked(header).setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
     EXPECT_EQ((Failure{"setDataHeader", "ZelData_NotFound"}),
-              thrownBy([&] { checked(document).setDataHeader(*header); }));
+              thrownBy([&] { checked(document).setDataHeader(UntitledHeader()); }));
 }
 
 TEST(CheckedDocument, ThrowsTheReturnedCodeIfNoneWasStored)
