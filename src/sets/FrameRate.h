@@ -6,7 +6,7 @@
 
 namespace ZelInterchangeData {
 
-/// Time units per second.
+/// Ticks per second.
 struct FrameRate {
     static constexpr unsigned long minimum = 1;
     static constexpr unsigned long maximum = 10000;
