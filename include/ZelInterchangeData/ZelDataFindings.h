@@ -22,8 +22,8 @@ class i_ZelDataToc;
 class i_ZelInterchangeDataCore;
 
 /// @name Finding problems of a collection
-/// Each replaces @p findings with everything that is wrong with the collection; the collection's
-/// own isValid() reports only the first problem. For the library's own collections the list is
+/// Each replaces @p findings with everything that `isValid(true)` of the collection looks for;
+/// `isValid(true)` itself reports only the first problem. For the library's own collections the list is
 /// empty if and only if `isValid(true)` returns ZelData_Ok; otherwise the first finding is the one
 /// whose code `isValid(true)` returns.
 ///
