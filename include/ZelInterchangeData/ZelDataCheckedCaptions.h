@@ -143,9 +143,9 @@ public:
         return this->run("removeCaptionItemsForLanguage", &Interface::removeCaptionItemsForLanguage,
                          languageID);
     }
-    /// See i_ZelDataCaptions::getCaptionItemCount(), which is not const. A const view therefore calls getCaptionItems(),
-    /// which copies all items: its time is in proportion to their number. If you need the items,
-    /// too, count those.
+    /// See i_ZelDataCaptions::getCaptionItemCount(), which is not const. A const view therefore
+    /// calls getCaptionItems(), which copies all items: its time is in proportion to their number.
+    /// If you need the items, too, count those.
     unsigned long getCaptionItemCount() const
     {
         if constexpr (std::is_const_v<Object>)

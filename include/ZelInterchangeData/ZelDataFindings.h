@@ -123,7 +123,8 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags codeOf(const ZelDataFinding& finding) 
 /// Describes @p finding in one line of English without a line feed, such as "caption 2 at 2000 ms:
 /// too short (900 ms, at least 1000 ms)". Items are counted from 0. Control characters in a
 /// language ID are escaped as in "\x0A", and so are all non-ASCII bytes if the ID is not UTF-8.
-/// Returns "unknown finding" for a kind that does not exist. May throw `std::bad_alloc`.
+/// For a kind that does not exist, it says "unknown finding" after the place. May throw
+/// `std::bad_alloc`.
 ZELINTERCHANGEDATA_API std::string describe(const ZelDataFinding& finding);
 /// @}
 
