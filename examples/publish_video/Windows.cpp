@@ -32,11 +32,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Names the error as POSIX systems do, if they have it.
+/// Names the error as POSIX systems do, or gives its number: the system's own messages may not be UTF-8.
 [[noreturn]] void failWithLastError(const std::string& output)
 {
     const std::error_code error(static_cast<int>(::GetLastError()), std::system_category());
-    failToWrite(output, error.default_error_condition().message());
+    const std::error_condition named = error.default_error_condition();
+    failToWrite(output, named.category() == std::generic_category()
+                            ? named.message()
+                            : "error " + std::to_string(error.value()));
 }
 
 struct HandleCloser {
