@@ -14,6 +14,13 @@ if(zel_kind STREQUAL SHARED_LIBRARY)
 else()
     set(zel_pc_static_flag " -DZELINTERCHANGEDATA_STATIC")
 endif()
+# What a program needs besides the static library: see cmake/Hardening.cmake.
+if(MINGW AND ZELINTERCHANGEDATA_HARDENING)
+    set(zel_pc_libraries "$<$<NOT:$<CONFIG:Debug>>: -lssp>")
+endif()
+if(zel_pc_static_flag)
+    set(zel_pc_static_libraries "${zel_pc_libraries}")
+endif()
 
 install(TARGETS ${zel_targets} EXPORT ZelInterchangeDataTargets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${zel_runtime}
