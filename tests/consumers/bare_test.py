@@ -124,10 +124,8 @@ class Testing(unittest.TestCase):
         self.assertIn("core_tests", tests_of(tree))
 
     def test_the_presets_stop_where_a_test_would_be_left_out(self):
-        # Without the examples, whose package CMake would require first.
         with self.assertRaisesRegex(AssertionError, r"CMake Error at .*\n  Left out: tests/readers\."):
-            configure_bare(SOURCE, fresh_folder(self.id()), "--preset", "release", GOOGLETEST,
-                           "-DZELINTERCHANGEDATA_EXAMPLES=OFF")
+            configure_bare(SOURCE, fresh_folder(self.id()), "--preset", "release", GOOGLETEST)
 
     def test_without_the_shared_library_only_its_tests_are_left_out(self):
         tree = fresh_folder(self.id())
