@@ -8,7 +8,6 @@ set(zel_runtime ZelInterchangeData_Runtime)
 set(zel_development ZelInterchangeData_Development)
 
 set(zel_targets ZelInterchangeDataStatic)
-get_target_property(zel_kind ZelInterchangeData TYPE)
 if(zel_kind STREQUAL SHARED_LIBRARY)
     list(APPEND zel_targets ZelInterchangeData)
 else()
