@@ -109,22 +109,8 @@ private:
         if (call.is("getDataToc", ZelData_NoData)) return "the document has no table of contents";
         if (call.is("getDataScreenText", ZelData_NoData)) return "the document has no screen text";
         if (call.operation == "setDataHeader") return ZelDataMessages::reasonOfHeader(call);
-        const bool writes = call.is("writeString", ZelData_InvalidArgument) ||
-                            call.is("writeFile", ZelData_InvalidArgument);
-        return writes ? reasonOfOwnHeader() : std::string();
-    }
-
-    std::string reasonOfOwnHeader() const
-    {
-        return ZelDataMessages::asking(this->object(), [&] {
-            i_ZelDataHeader* made = nullptr;
-            if (failed(ZelDataUtilities::createHeaderData(&made))) return std::string();
-            const std::unique_ptr<i_ZelDataHeader> header(made);
-            const auto code = this->object().getDataHeader(*header);
-            if (code == ZelData_NoData) return std::string("the document has no header");
-            // A copy stops at the first size that is 0.
-            return code == ZelData_InvalidArgument ? ZelDataMessages::reasonOfSizes(*header) : "";
-        });
+        const bool writes = call.operation == "writeString" || call.operation == "writeFile";
+        return writes ? ZelDataMessages::reasonOfWriting(this->object(), call.code) : std::string();
     }
 };
 

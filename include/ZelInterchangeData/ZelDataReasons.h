@@ -10,8 +10,10 @@
 #include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -129,6 +131,22 @@ inline std::string reasonOfHeader(const ZelDataCall& call)
     const auto* header = call.arguments.begin()->as<const i_ZelDataHeader*>();
     return header == nullptr || call.code != ZelData_InvalidArgument ? std::string()
                                                                      : reasonOfSizes(**header);
+}
+
+/// The header of @p document, if it cannot be written.
+inline std::string reasonOfWriting(const i_ZelInterchangeDataCore& document,
+                                   ZelDataResult_tags code)
+{
+    if (code != ZelData_InvalidArgument) return {};
+    return asking(document, [&] {
+        i_ZelDataHeader* made = nullptr;
+        if (failed(ZelDataUtilities::createHeaderData(&made))) return std::string();
+        const std::unique_ptr<i_ZelDataHeader> header(made);
+        const auto got = document.getDataHeader(*header);
+        if (got == ZelData_NoData) return std::string("the document has no header");
+        // A copy stops at the first size that is 0.
+        return got == ZelData_InvalidArgument ? reasonOfSizes(*header) : "";
+    });
 }
 
 /// The first problem of @p collection for which isValid() returns the code of @p call.

@@ -482,6 +482,8 @@ TEST(Message, SaysWhyADocumentCannotBeWritten)
     EXPECT_EQ("writeString: the document has no header" + outOfRange, saidBy(writes));
     EXPECT_EQ("writeFile(\"a.xmp\"): the document has no header" + outOfRange,
               saidBy([&] { checked(document).writeFile("a.xmp"); }));
+    EXPECT_EQ("replaceFile(\"a.xmp\"): the document has no header" + outOfRange,
+              saidBy([&] { replaceFile(*document, "a.xmp"); }));
     EXPECT_EQ(ZelData_WarnTiming, document->getLastError());
     const auto header = createHeader();
     checked(header).setVideoLength(1).setVideoWidth(1);
