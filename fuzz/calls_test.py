@@ -20,8 +20,9 @@ SOURCES = [path.read_text(encoding="ascii") for path in sorted((ROOT / "fuzz/cor
            if path.name.endswith("Operations.cpp")]
 
 # The last error is checked around each call. The tests compare findings with random collections.
-# The version of the library is a constant.
-LEFT_OUT = {"setLastError", "getLastError", "findProblems", "describe", "libraryVersion"}
+# The version of the library is a constant. Writing a file in another way tries no other packet.
+LEFT_OUT = {"setLastError", "getLastError", "findProblems", "describe", "toString", "severityOf",
+            "codeOf", "libraryVersion", "replaceFile"}
 
 
 def called_members():

@@ -7,6 +7,8 @@
 #include "Check.h"
 #include "PublishError.h"
 
+#include "ZelInterchangeData/ZelDataEscaped.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -26,9 +28,8 @@ unsigned long videoLength(const Options& options, const CueFiles& files)
 
 void setFont(i_ZelDataCaptions& captions, const Options& options)
 {
-    // The library writes the font family into the packet without escaping, so it is escaped here.
-    if (options.font)
-        check(captions.setFontFamily(ZelDataUtilities::htmlTagsToText(*options.font)), "--font");
+    // The library writes the font family as given, so it is escaped here.
+    if (options.font) check(captions.setFontFamily(escaped(*options.font)), "--font");
     if (options.fontSize) check(captions.setFontSize(*options.fontSize), "--font-size");
 }
 
@@ -88,8 +89,8 @@ std::unique_ptr<i_ZelDataHeader> makeHeader(const i_ZelInterchangeDataCore& docu
 {
     auto header = make(document, &i_ZelInterchangeDataCore::createDataHeader);
     check(header->setTitle(options.title), "--title");
-    // The library writes the creator into the packet without escaping, so it is escaped here.
-    check(header->setCreator(ZelDataUtilities::htmlTagsToText(options.creator)), "--creator");
+    // The library writes the creator as given, so it is escaped here.
+    check(header->setCreator(escaped(options.creator)), "--creator");
     check(header->setDescription(options.description), "--description");
     check(header->setAppName(options.appName), "--app-name");
     check(header->setAppVersion(options.appVersion), "--app-version");

@@ -5,7 +5,11 @@
 
 #include "Check.h"
 #include "OutputFile.h"
-#include "Text.h"
+
+#include "ZelInterchangeData/ZelDataReplaceFile.h"
+
+#include <filesystem>
+#include <system_error>
 
 namespace publish {
 
@@ -21,38 +25,36 @@ std::string fileContents(const i_ZelInterchangeDataCore& document)
     return R"(<?xml version="1.0" encoding="utf-8" ?>)" + packet.substr(0, packet.find('\0'));
 }
 
-/// The library does not report a failure after opening the file, such as a full device, so the size
-/// shows whether everything was written.
-void checkSize(std::size_t size, std::size_t expected, const i_ZelInterchangeDataCore& document,
-               const std::string& output)
+/// For a device, a pipe, or a file that is already open (`/dev/stdout`).
+std::size_t writeInPlace(const i_ZelInterchangeDataCore& document, const std::string& output)
 {
-    // The date's offset may gain or lose a digit when the hour changes between the two writes, so
-    // compare once more.
-    if (size != expected && size != fileContents(document).size())
-        failToWrite(output, "the file is not complete");
+    const std::string contents = fileContents(document);
+    writeDirectly(output, contents);
+    return contents.size();
 }
 
-std::size_t replaceFile(const i_ZelInterchangeDataCore& document, const std::filesystem::path& file,
-                        const std::string& output)
+/// Whether @p error says that there is a file, but none that can be replaced.
+bool isNotReplaceable(const std::error_code& error)
 {
-    const std::size_t expected = fileContents(document).size();
-    ReplacementFile replacement(file, output);
-    check(document.writeFile(replacement.path(), ZelDataFormat_Xmp, false), printable(output));
-    const std::size_t size = replacement.size();
-    checkSize(size, expected, document, output);
-    replacement.replace();
-    return size;
+    // The standard libraries for Windows do not agree on what ERROR_NOT_SUPPORTED means.
+    return error == std::errc::not_supported || error == std::errc::function_not_supported;
 }
 
 } // namespace
 
 std::size_t writePacket(const i_ZelInterchangeDataCore& document, const std::string& output)
 {
-    if (const std::optional<std::filesystem::path> file = replaceableFile(output))
-        return replaceFile(document, *file, output);
-    const std::string contents = fileContents(document);
-    writeDirectly(output, contents);
-    return contents.size();
+    const std::filesystem::path file = std::filesystem::u8path(output);
+    std::error_code ignored;
+    if (std::filesystem::is_directory(file, ignored)) // which is no error of its own on Windows
+        failToWrite(output, std::make_error_code(std::errc::is_a_directory));
+    int systemError = 0;
+    const auto code = replaceFile(document, output, systemError);
+    const std::error_code error(systemError, std::system_category());
+    if (isNotReplaceable(error)) return writeInPlace(document, output);
+    if (error) failToWrite(output, error);
+    check(code, "writing the packet");
+    return static_cast<std::size_t>(std::filesystem::file_size(file));
 }
 
 } // namespace publish

@@ -6,6 +6,8 @@
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
 #include <string>
@@ -32,6 +34,12 @@ public:
     ZelDataCheckedCaptionItem isValid(bool strict) const
     {
         return this->run("isValid", &Interface::isValid, strict);
+    }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood(bool strict) const
+    {
+        return this->isGoodCode("isValid", this->object().isValid(strict));
     }
     /// See i_ZelDataCaptionItem::clearText().
     ZelDataCheckedCaptionItem clearText() const
@@ -78,7 +86,8 @@ public:
     std::string getTextForLanguage(const std::string& languageID) const
     {
         std::string text;
-        this->require("getTextForLanguage", this->object().getTextForLanguage(text, languageID));
+        this->require("getTextForLanguage", this->object().getTextForLanguage(text, languageID),
+                      languageID);
         return text;
     }
     /// See i_ZelDataCaptionItem::getStart().
@@ -95,9 +104,54 @@ public:
     /// See i_ZelDataCaptionItem::copyFrom().
     ZelDataCheckedCaptionItem copyFrom(const i_ZelDataCaptionItem& other) const
     {
-        return this->done("copyFrom", this->object().copyFrom(other));
+        return this->done("copyFrom", this->object().copyFrom(other), other);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedCaptionItem, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "isValid") return reasonOfValidity(call);
+        if (call.operation == "copyFrom") return reasonOfSource(call);
+        if (call.is("setDuration", ZelData_InvalidArgument) && call.get<long long>() == 0)
+            return "not positive";
+        const std::string known = reasonOfTime(*this, call);
+        return known.empty() ? reasonOfText(*this, call) : known;
+    }
+
+    std::string reasonOfSource(const ZelDataCall& call) const
+    {
+        const std::string known = ZelDataMessages::reasonOfCopy(this->object(), call);
+        return known.empty() ? ZelDataMessages::reasonOfCaption(call) : known;
+    }
+
+    std::string reasonOfValidity(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        return asking(this->object(), [&] {
+            const long long duration = getDuration();
+            const std::string lasts = "it lasts " + shown(duration) + " ms";
+            if (call.code == ZelData_InvalidItem && duration <= 0) return lasts;
+            if (call.code != ZelData_WarnItemGuidelines) return std::string();
+            if (duration >= ZelDataLimits::recommendedDuration) return reasonOfLines();
+            return lasts + ", less than " + shown(ZelDataLimits::recommendedDuration) + " ms";
+        });
+    }
+
+    std::string reasonOfLines() const
+    {
+        using namespace ZelDataMessages;
+        for (const std::string& id : getLanguageIDs()) {
+            const auto lines = ZelDataUtilities::countLinesInUTF8(getTextForLanguage(id));
+            if (lines > ZelDataLimits::recommendedLines)
+                return shown(lines) + " lines in " + shown(&id) + ", more than " +
+                       shown(ZelDataLimits::recommendedLines);
+        }
+        return {};
+    }
 };
 
 /// The checked operations of @p object.

@@ -4,14 +4,20 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONS_H
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDCAPTIONS_H
 
+#include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 
 #include <array>
+#include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
@@ -36,6 +42,12 @@ public:
     ZelDataCheckedCaptions isValid(bool strict) const
     {
         return this->run("isValid", &Interface::isValid, strict);
+    }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood(bool strict) const
+    {
+        return this->isGoodCode("isValid", this->object().isValid(strict));
     }
     /// See i_ZelDataCaptions::makeCaptionsConsistent().
     ZelDataCheckedCaptions makeCaptionsConsistent() const
@@ -131,10 +143,15 @@ public:
         return this->run("removeCaptionItemsForLanguage", &Interface::removeCaptionItemsForLanguage,
                          languageID);
     }
-    /// See i_ZelDataCaptions::getCaptionItemCount().
+    /// See i_ZelDataCaptions::getCaptionItemCount(), which is not const. A const view therefore
+    /// calls getCaptionItems(), which copies all items: its time is in proportion to their number.
+    /// If you need the items, too, count those.
     unsigned long getCaptionItemCount() const
     {
-        return this->get("getCaptionItemCount", &Interface::getCaptionItemCount);
+        if constexpr (std::is_const_v<Object>)
+            return static_cast<unsigned long>(getCaptionItems().size());
+        else
+            return this->get("getCaptionItemCount", &Interface::getCaptionItemCount);
     }
     /// See i_ZelDataCaptions::getCaptionItemAt().
     std::unique_ptr<i_ZelDataCaptionItem> getCaptionItemAt(unsigned long index) const
@@ -156,9 +173,53 @@ public:
     /// See i_ZelDataCaptions::copyFrom().
     ZelDataCheckedCaptions copyFrom(const i_ZelDataCaptions& other) const
     {
-        return this->done("copyFrom", this->object().copyFrom(other));
+        return this->done("copyFrom", this->object().copyFrom(other), other);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedCaptions, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "isValid")
+            return reasonOfProblem<i_ZelDataCaptions>(this->object(), call);
+        if (call.operation == "addCaptionItem") return reasonOfCaption(call);
+        if (call.is("getCaptionItemAt", ZelData_InvalidArgument) ||
+            call.is("removeCaptionItemAt", ZelData_InvalidArgument))
+            return asking(this->object(),
+                          [&] { return reasonOfIndex(call, getCaptionItemCount()); });
+        const std::string known = reasonOfStyle(call);
+        return known.empty() ? this->reasonOfList(call) : known;
+    }
+
+    std::string reasonOfStyle(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.is("setFontFamily", ZelData_InvalidArgument))
+            return call.text().empty() ? "empty" : "";
+        if (call.is("setFontSize", ZelData_InvalidArgument))
+            return reasonOfRange(call, ZelDataLimits::minimumFontSize,
+                                 ZelDataLimits::maximumFontSize);
+        if (call.is("setForegroundColor", ZelData_InvalidArgument) ||
+            call.is("setBackgroundColor", ZelData_InvalidArgument))
+            return reasonOfFractions(call, {"red is ", "green is ", "blue is "});
+        if (call.is("setBackgroundOpacity", ZelData_InvalidArgument))
+            return reasonOfFractions(call, {""});
+        return reasonOfFrameRate(call);
+    }
+
+    static std::string reasonOfFractions(const ZelDataCall& call,
+                                         std::initializer_list<const char*> subjects)
+    {
+        for (std::size_t i = 0; i < subjects.size(); ++i) {
+            const float value = call.get<float>(i);
+            if (value < 0.0F || value > 1.0F)
+                return std::string(subjects.begin()[i]) + "not from 0.0 to 1.0";
+        }
+        return {};
+    }
 };
 
 /// The checked operations of @p object.

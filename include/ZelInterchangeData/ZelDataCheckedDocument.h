@@ -6,6 +6,8 @@
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
+#include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
@@ -13,6 +15,7 @@
 #include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
 
 #include <memory>
+#include <string>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
@@ -36,9 +39,12 @@ public:
     {
         return this->run("getDataHeader", &Interface::getDataHeader, target);
     }
-    /// See i_ZelInterchangeDataCore::setDataHeader().
+    /// See i_ZelInterchangeDataCore::setDataHeader(). Calls the header's isValid() first; if that
+    /// fails, throws its code, and the document keeps its header and its last error. Deliberate: a
+    /// document with captions can report success for a header that it copied only in part.
     ZelDataCheckedDocument setDataHeader(const i_ZelDataHeader& source) const
     {
+        this->require("setDataHeader", source.isValid(), source);
         return this->run("setDataHeader", &Interface::setDataHeader, source);
     }
     /// See i_ZelInterchangeDataCore::getDataCaptions().
@@ -92,6 +98,20 @@ public:
         return this->make("createDataScreenText", &Interface::createDataScreenText);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedDocument, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        if (call.is("getDataHeader", ZelData_NoData)) return "the document has no header";
+        if (call.is("getDataCaptions", ZelData_NoData)) return "the document has no captions";
+        if (call.is("getDataToc", ZelData_NoData)) return "the document has no table of contents";
+        if (call.is("getDataScreenText", ZelData_NoData)) return "the document has no screen text";
+        if (call.operation == "setDataHeader") return ZelDataMessages::reasonOfHeader(call);
+        const bool writes = call.operation == "writeString" || call.operation == "writeFile";
+        return writes ? ZelDataMessages::reasonOfWriting(this->object(), call.code) : std::string();
+    }
 };
 
 /// The checked operations of @p object.

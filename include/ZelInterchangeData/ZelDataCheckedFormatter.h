@@ -27,7 +27,7 @@ public:
     /// See i_ZelDataFormatterBase::writeString().
     Self writeString(std::string& out, ZelDataFormatType_tags format, bool flag) const
     {
-        return this->run("writeString", &Interface::writeString, out, format, flag);
+        return this->done("writeString", this->object().writeString(out, format, flag), format);
     }
     /// Writes to a new string and returns it.
     std::string writeString(ZelDataFormatType_tags format = ZelDataFormat_Xmp) const
@@ -45,7 +45,7 @@ public:
     Self writeFile(const std::string& path, ZelDataFormatType_tags format = ZelDataFormat_Xmp,
                    bool flag = false) const
     {
-        return this->run("writeFile", &Interface::writeFile, path, format, flag);
+        return this->done("writeFile", this->object().writeFile(path, format, flag), path, format);
     }
     /// See i_ZelDataFormatterBase::readFile().
     Self readFile(const std::string& path, ZelDataFormatType_tags format) const

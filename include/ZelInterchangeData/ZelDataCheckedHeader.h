@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 
 #include <string>
@@ -30,6 +31,9 @@ public:
 
     /// See i_ZelDataHeader::isValid().
     ZelDataCheckedHeader isValid() const { return this->run("isValid", &Interface::isValid); }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood() const { return this->isGoodCode("isValid", this->object().isValid()); }
     /// See i_ZelDataHeader::clearHeader().
     ZelDataCheckedHeader clearHeader() const
     {
@@ -171,9 +175,39 @@ public:
     /// See i_ZelDataHeader::copyFrom().
     ZelDataCheckedHeader copyFrom(const i_ZelDataHeader& other) const
     {
-        return this->done("copyFrom", this->object().copyFrom(other));
+        return this->done("copyFrom", this->object().copyFrom(other), other);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedHeader, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.is("isValid", ZelData_InvalidArgument)) return reasonOfSizes(this->object());
+        if (call.is("setVideoLength", ZelData_InvalidArgument) ||
+            call.is("setVideoWidth", ZelData_InvalidArgument) ||
+            call.is("setVideoHeight", ZelData_InvalidArgument))
+            return call.get<unsigned long long>() == 0 ? "not positive" : "";
+        if (call.is("copyFrom", ZelData_InvalidArgument)) return reasonOfHeader(call);
+        const std::string known = reasonOfContentName(call);
+        return known.empty() ? this->reasonOfList(call) : known;
+    }
+
+    std::string reasonOfContentName(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.is("addContentName", ZelData_InvalidUtf8))
+            return isUtf8(call.text()) ? "" : "the name is not UTF-8";
+        const bool adds = call.is("addContentName", ZelData_WarnNoChange);
+        if (!adds && !call.is("removeContentName", ZelData_WarnNoChange)) return {};
+        return asking(this->object(), [&] {
+            const bool exists = doesContentNameExist(call.text());
+            if (exists != adds) return "";
+            return exists ? "it is listed already" : "it is not listed";
+        });
+    }
 };
 
 /// The checked operations of @p object.

@@ -6,7 +6,10 @@
 
 #include "ZelInterchangeData/ZelDataCheckedFormatter.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataHeaderFormatter.h"
+
+#include <string>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
@@ -36,6 +39,14 @@ public:
         return this->run("getHeader", &Interface::getHeader, header);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedHeaderFormatter, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        return call.operation == "setHeader" ? ZelDataMessages::reasonOfHeader(call) : "";
+    }
 };
 
 /// The checked operations of @p object.

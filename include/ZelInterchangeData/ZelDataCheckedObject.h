@@ -4,12 +4,14 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATACHECKEDOBJECT_H
 #define ZELINTERCHANGEDATA_ZELDATACHECKEDOBJECT_H
 
-#include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataCall.h"
 #include "ZelInterchangeData/ZelDataExport.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -17,12 +19,16 @@ namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
 /// A view of an object: its operations throw ZelDataError if those of the object fail.
 ///
-/// To make a view, call checked(). A view offers the same operations as its object:
+/// To make a view, call checked() with the object or the `std::unique_ptr` that owns it. A view
+/// offers the same operations as its object, and isGood() beside isValid():
 /// - An operation without a value returns the view, so calls can be chained:
-///   `checked(*header).setTitle("Intro").setVideoLength(90500)`.
+///   `checked(header).setTitle("Intro").setVideoLength(90500)`.
 /// - A getter returns its value, and an object in a `std::unique_ptr`.
-/// - ZelDataError names the operation. The object is in the state in which the operation left it,
-///   and its last error is set as always.
+/// - ZelDataError names the operation. Its message shows the arguments and says what they or the
+///   object's getters reveal about the failure. The object is in the state in which the operation
+///   left it, and so is its last error.
+/// - If there is no memory for the message, it is shorter; if there is none for the shortest, the
+///   operation throws `std::bad_alloc`.
 ///
 /// Warnings throw as well, because the library itself stops at them: a copy that meets one is
 /// incomplete. To let them pass, for example to replace a text, call allowWarnings().
@@ -50,10 +56,12 @@ public:
     Object& object() const noexcept { return *object_; }
 
 protected:
-    /// Returns the view if @p code is not a failure of @p operation; otherwise throws.
-    Self done(const char* operation, ZelDataResult_tags code) const
+    /// Returns the view if @p code is not a failure of @p operation; otherwise throws and shows
+    /// @p arguments.
+    template <class... Arguments>
+    Self done(const char* operation, ZelDataResult_tags code, const Arguments&... arguments) const
     {
-        require(operation, code);
+        require(operation, code, arguments...);
         return self();
     }
 
@@ -61,7 +69,14 @@ protected:
     template <class Call, class... Arguments>
     Self run(const char* operation, Call call, Arguments&&... arguments) const
     {
-        return done(operation, (object_->*call)(std::forward<Arguments>(arguments)...));
+        return done(operation, (object_->*call)(arguments...), arguments...);
+    }
+
+    /// Whether @p code, which an `isValid` returned, is not a failure. Throws if memory ran out.
+    bool isGoodCode(const char* operation, ZelDataResult_tags code) const
+    {
+        if (code == ZelData_OutOfMemory) require(operation, code);
+        return !fails(code);
     }
 
     /// Returns the value of the object's getter @p getter.
@@ -91,7 +106,7 @@ protected:
         Made* made = nullptr;
         const auto code = (object_->*maker)(&made, arguments...);
         std::unique_ptr<Made> owner(made);
-        require(operation, code);
+        require(operation, code, arguments...);
         return owner;
     }
 
@@ -103,18 +118,31 @@ protected:
             const Arguments&... arguments) const
     {
         HandedOut<Made> handedOut;
-        require(operation, (object_->*getAll)(handedOut.items, arguments...));
+        require(operation, (object_->*getAll)(handedOut.items, arguments...), arguments...);
         if (handedOut.hasNull()) throw ZelDataError(ZelData_InternalError, operation);
         return handedOut.owned();
     }
 
-    /// Throws if @p code is a failure of @p operation.
-    void require(const char* operation, ZelDataResult_tags code) const
+    /// Throws if @p code is a failure of @p operation, and shows @p arguments.
+    template <class... Arguments>
+    void require(const char* operation, ZelDataResult_tags code,
+                 const Arguments&... arguments) const
     {
-        if (warningsPass_)
-            checkError(code, operation);
-        else
-            check(code, operation);
+        if (fails(code)) fail(operation, code, {ZelDataArgument(arguments)...});
+    }
+
+    /// Whether the view throws for @p code.
+    bool fails(ZelDataResult_tags code) const noexcept
+    {
+        return warningsPass_ ? isError(code) : failed(code);
+    }
+
+    /// What is known about the failure of @p call; empty if nothing is. A view that knows more has
+    /// a function of its own.
+    std::string reason(const ZelDataCall& call) const
+    {
+        static_cast<void>(call);
+        return {};
     }
 
 private:
@@ -145,9 +173,28 @@ private:
 
     const Self& self() const noexcept { return static_cast<const Self&>(*this); }
 
+    [[noreturn]] void fail(const char* operation, ZelDataResult_tags code,
+                           std::initializer_list<ZelDataArgument> arguments) const
+    {
+        const ZelDataCall call = {operation, code, arguments};
+        throwZelDataError(call, [&] { return self().reason(call); });
+    }
+
     Object* object_;
     bool warningsPass_ = false;
 };
+
+/// The checked operations of the object that @p owner owns; it must own one.
+template <class Interface, class Deleter>
+auto checked(const std::unique_ptr<Interface, Deleter>& owner) noexcept -> decltype(checked(*owner))
+{
+    return checked(*owner);
+}
+
+/// Does not compile: the view would outlive its object. Store what the factory returns, then call
+/// checked() with that: `const auto captions = createCaptions(); checked(captions)...`.
+template <class Interface, class Deleter>
+void checked(const std::unique_ptr<Interface, Deleter>&& owner) = delete;
 
 } // namespace ZelInterchangeData
 

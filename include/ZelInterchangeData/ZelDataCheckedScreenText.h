@@ -6,10 +6,13 @@
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
 #include <memory>
+#include <string>
+#include <type_traits>
 #include <vector>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
@@ -33,6 +36,12 @@ public:
     ZelDataCheckedScreenText isValid(bool deep) const
     {
         return this->run("isValid", &Interface::isValid, deep);
+    }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood(bool deep) const
+    {
+        return this->isGoodCode("isValid", this->object().isValid(deep));
     }
     /// See i_ZelDataScreenText::makeScreenTextConsistent().
     ZelDataCheckedScreenText makeScreenTextConsistent() const
@@ -69,10 +78,15 @@ public:
     {
         return this->run("removeScreenTextItemAt", &Interface::removeScreenTextItemAt, index);
     }
-    /// See i_ZelDataScreenText::getScreenTextItemCount().
+    /// See i_ZelDataScreenText::getScreenTextItemCount(), which is not const. A const view therefore
+    /// calls getScreenTextItems(), which copies all items: its time is in proportion to their
+    /// number. If you need the items, too, count those.
     unsigned long getScreenTextItemCount() const
     {
-        return this->get("getScreenTextItemCount", &Interface::getScreenTextItemCount);
+        if constexpr (std::is_const_v<Object>)
+            return static_cast<unsigned long>(getScreenTextItems().size());
+        else
+            return this->get("getScreenTextItemCount", &Interface::getScreenTextItemCount);
     }
     /// See i_ZelDataScreenText::getScreenTextItemAt().
     std::unique_ptr<i_ZelDataScreenTextItem> getScreenTextItemAt(unsigned long index) const
@@ -87,9 +101,25 @@ public:
     /// See i_ZelDataScreenText::copyFrom().
     ZelDataCheckedScreenText copyFrom(const i_ZelDataScreenText& source) const
     {
-        return this->done("copyFrom", this->object().copyFrom(source));
+        return this->done("copyFrom", this->object().copyFrom(source), source);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedScreenText, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "isValid")
+            return reasonOfProblem<i_ZelDataScreenText>(this->object(), call);
+        if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
+        if (call.is("getScreenTextItemAt", ZelData_InvalidArgument) ||
+            call.is("removeScreenTextItemAt", ZelData_InvalidArgument))
+            return asking(this->object(),
+                          [&] { return reasonOfIndex(call, getScreenTextItemCount()); });
+        return reasonOfFrameRate(call);
+    }
 };
 
 /// The checked operations of @p object.

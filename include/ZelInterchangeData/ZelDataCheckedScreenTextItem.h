@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
 #include <string>
@@ -31,6 +32,12 @@ public:
     ZelDataCheckedScreenTextItem isValid(bool deep) const
     {
         return this->run("isValid", &Interface::isValid, deep);
+    }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood(bool deep) const
+    {
+        return this->isGoodCode("isValid", this->object().isValid(deep));
     }
     /// See i_ZelDataScreenTextItem::clearText().
     ZelDataCheckedScreenTextItem clearText() const
@@ -102,9 +109,21 @@ public:
     /// See i_ZelDataScreenTextItem::copyFrom().
     ZelDataCheckedScreenTextItem copyFrom(const i_ZelDataScreenTextItem& source) const
     {
-        return this->done("copyFrom", this->object().copyFrom(source));
+        return this->done("copyFrom", this->object().copyFrom(source), source);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedScreenTextItem, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
+        if (call.is("setText", ZelData_InvalidItem))
+            return isUtf8(call.text()) ? "" : "the text is not UTF-8";
+        return reasonOfTime(*this, call);
+    }
 };
 
 /// The checked operations of @p object.

@@ -6,11 +6,13 @@
 
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
@@ -34,6 +36,12 @@ public:
     ZelDataCheckedToc isValid(bool deep) const
     {
         return this->run("isValid", &Interface::isValid, deep);
+    }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood(bool deep) const
+    {
+        return this->isGoodCode("isValid", this->object().isValid(deep));
     }
     /// See i_ZelDataToc::makeTocConsistent().
     ZelDataCheckedToc makeTocConsistent() const
@@ -83,10 +91,15 @@ public:
         return this->run("removeTocItemsForLanguage", &Interface::removeTocItemsForLanguage,
                          languageID);
     }
-    /// See i_ZelDataToc::getTocItemCount().
+    /// See i_ZelDataToc::getTocItemCount(), which is not const. A const view therefore
+    /// calls getTocItems(), which copies all items: its time is in proportion to their number. If
+    /// you need the items, too, count those.
     unsigned long getTocItemCount() const
     {
-        return this->get("getTocItemCount", &Interface::getTocItemCount);
+        if constexpr (std::is_const_v<Object>)
+            return static_cast<unsigned long>(getTocItems().size());
+        else
+            return this->get("getTocItemCount", &Interface::getTocItemCount);
     }
     /// See i_ZelDataToc::getTocItemAt().
     std::unique_ptr<i_ZelDataTocItem> getTocItemAt(unsigned long index) const
@@ -108,9 +121,23 @@ public:
     /// See i_ZelDataToc::copyFrom().
     ZelDataCheckedToc copyFrom(const i_ZelDataToc& source) const
     {
-        return this->done("copyFrom", this->object().copyFrom(source));
+        return this->done("copyFrom", this->object().copyFrom(source), source);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedToc, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "isValid") return reasonOfProblem<i_ZelDataToc>(this->object(), call);
+        if (call.is("getTocItemAt", ZelData_InvalidArgument) ||
+            call.is("removeTocItemAt", ZelData_InvalidArgument))
+            return asking(this->object(), [&] { return reasonOfIndex(call, getTocItemCount()); });
+        const std::string known = reasonOfFrameRate(call);
+        return known.empty() ? this->reasonOfList(call) : known;
+    }
 };
 
 /// The checked operations of @p object.

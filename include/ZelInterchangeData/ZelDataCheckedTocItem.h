@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
 #include <string>
@@ -31,6 +32,12 @@ public:
     ZelDataCheckedTocItem isValid(bool deep) const
     {
         return this->run("isValid", &Interface::isValid, deep);
+    }
+    /// Whether isValid() succeeds. A warning counts as a failure unless allowWarnings() was called.
+    /// Throws if memory runs out.
+    bool isGood(bool deep) const
+    {
+        return this->isGoodCode("isValid", this->object().isValid(deep));
     }
     /// See i_ZelDataTocItem::clearText().
     ZelDataCheckedTocItem clearText() const
@@ -77,7 +84,8 @@ public:
     std::string getTextForLanguage(const std::string& languageID) const
     {
         std::string text;
-        this->require("getTextForLanguage", this->object().getTextForLanguage(text, languageID));
+        this->require("getTextForLanguage", this->object().getTextForLanguage(text, languageID),
+                      languageID);
         return text;
     }
     /// See i_ZelDataTocItem::getStart().
@@ -97,9 +105,20 @@ public:
     /// See i_ZelDataTocItem::copyFrom().
     ZelDataCheckedTocItem copyFrom(const i_ZelDataTocItem& source) const
     {
-        return this->done("copyFrom", this->object().copyFrom(source));
+        return this->done("copyFrom", this->object().copyFrom(source), source);
     }
     /// @}
+
+private:
+    friend class ZelDataCheckedObject<ZelDataCheckedTocItem, Object>;
+
+    std::string reason(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
+        const std::string known = reasonOfTime(*this, call);
+        return known.empty() ? reasonOfText(*this, call) : known;
+    }
 };
 
 /// The checked operations of @p object.

@@ -24,7 +24,15 @@ public:
     /// @p operation is copied. The message names the operation, the code and its meaning:
     /// "setVideoLength: ZelData_InvalidArgument (0x80000003): A value is ...".
     ZELINTERCHANGEDATA_INLINE ZelDataError(ZelDataResult_tags code, std::string_view operation)
-        : std::runtime_error(messageFor(code, operation)), code_(code),
+        : ZelDataError(code, operation, {}, {})
+    {
+    }
+    /// The message also shows @p arguments, such as "(500)", and says @p reason instead of what the
+    /// code means: "setEnd(500): not after the start, 1000 (ZelData_InvalidArgument, 0x80000003)".
+    /// Both may be empty.
+    ZELINTERCHANGEDATA_INLINE ZelDataError(ZelDataResult_tags code, std::string_view operation,
+                                           std::string_view arguments, std::string_view reason)
+        : std::runtime_error(messageFor(code, operation, arguments, reason)), code_(code),
           operationLength_(operation.size())
     {
     }
@@ -46,13 +54,31 @@ public:
 
 private:
     ZELINTERCHANGEDATA_INLINE static std::string messageFor(ZelDataResult_tags code,
-                                                            std::string_view operation)
+                                                            std::string_view operation,
+                                                            std::string_view arguments,
+                                                            std::string_view reason)
     {
         std::string message(operation);
-        message.append(": ").append(toString(code)).append(" (0x");
+        message.append(arguments).append(": ");
+        if (reason.empty())
+            return message.append(toString(code))
+                .append(" (")
+                .append(numberOf(code))
+                .append("): ")
+                .append(describe(code));
+        return message.append(reason)
+            .append(" (")
+            .append(toString(code))
+            .append(", ")
+            .append(numberOf(code))
+            .append(")");
+    }
+    ZELINTERCHANGEDATA_INLINE static std::string numberOf(ZelDataResult_tags code)
+    {
+        std::string number = "0x";
         for (int shift = 28; shift >= 0; shift -= 4)
-            message += "0123456789ABCDEF"[(static_cast<unsigned>(code) >> shift) & 0xFU];
-        return message.append("): ").append(describe(code));
+            number += "0123456789ABCDEF"[(static_cast<unsigned>(code) >> shift) & 0xFU];
+        return number;
     }
 
     ZelDataResult_tags code_;

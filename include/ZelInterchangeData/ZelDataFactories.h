@@ -5,7 +5,7 @@
 #define ZELINTERCHANGEDATA_ZELDATAFACTORIES_H
 
 #include "ZelInterchangeData/ZELDataCreator.h"
-#include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataCall.h"
 #include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
 #include "ZelInterchangeData/ZelDataCheckedScreenTextItem.h"
 #include "ZelInterchangeData/ZelDataCheckedTocItem.h"
@@ -24,6 +24,8 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <type_traits>
 #include <utility>
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
@@ -36,7 +38,8 @@ std::unique_ptr<Interface> makeObject(const char* operation,
                                       Parameters... arguments)
 {
     Interface* made = nullptr;
-    check(create(&made, arguments...), operation);
+    if (const auto code = create(&made, arguments...); failed(code))
+        throwZelDataError({operation, code, {ZelDataArgument(arguments)...}}, [] { return ""; });
     return std::unique_ptr<Interface>(made);
 }
 
@@ -94,8 +97,22 @@ inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem()
     return makeObject("createScreenTextItem", ZelDataUtilities::createScreenTextItemData);
 }
 
-/// The texts of an item, written in braces: `{{"en", "Hello"}, {"de", "Hallo"}}`.
+/// The texts of an item, each with its language ID first: `{{"en", "Hello"}, {"de", "Hallo"}}`. An
+/// ID is written as given: if it comes from a user, pass `escaped(id)`.
 using ZelDataTexts = std::initializer_list<std::pair<std::string, std::string>>;
+
+/// Sets @p texts, pairs of a language ID and its text, in the @p item of a view.
+template <class View, class Texts>
+void zelDataSetTexts(const View& item, const Texts& texts)
+{
+    if constexpr (std::is_convertible_v<const Texts&, std::string_view>) {
+        static_assert(!std::is_same_v<Texts, Texts>,
+                      "A text needs its language: write {{\"en\", \"Intro\"}}.");
+    } else {
+        for (const auto& [languageID, text] : texts)
+            item.setTextForLanguage(text, languageID);
+    }
+}
 
 /// A caption from @p start to @p end, in milliseconds. @p texts holds pairs of a language ID and
 /// its text: written in braces, or in any container of such pairs, such as a `std::map`.
@@ -104,9 +121,7 @@ std::unique_ptr<i_ZelDataCaptionItem> createCaptionItem(long long start, long lo
                                                         const Texts& texts)
 {
     auto item = createCaptionItem();
-    const auto caption = checked(*item).setStart(start).setEnd(end);
-    for (const auto& [languageID, text] : texts)
-        caption.setTextForLanguage(text, languageID);
+    zelDataSetTexts(checked(item).setStart(start).setEnd(end), texts);
     return item;
 }
 
@@ -115,19 +130,21 @@ template <class Texts = ZelDataTexts>
 std::unique_ptr<i_ZelDataTocItem> createTocItem(long long start, const Texts& texts)
 {
     auto item = createTocItem();
-    const auto entry = checked(*item).setStart(start);
-    for (const auto& [languageID, text] : texts)
-        entry.setTextForLanguage(text, languageID);
+    zelDataSetTexts(checked(item).setStart(start), texts);
     return item;
 }
 
-/// A screen text from @p start to @p end, in ticks, that belongs to the entry number @p groupId.
+/// A screen text from @p start to @p end, in ticks; the two may be equal. It belongs to the entry of
+/// the table of contents with the number @p groupId. Entries count from 0 in the order of their
+/// starts: by default, it belongs to the first.
 inline std::unique_ptr<i_ZelDataScreenTextItem> createScreenTextItem(long long start, long long end,
                                                                      const std::string& text,
                                                                      unsigned long groupId = 0)
 {
     auto item = createScreenTextItem();
-    checked(*item).setStart(start).setEnd(end).setText(text).setGroupId(groupId);
+    const auto view = checked(item).setStart(start);
+    if (end != start) view.setEnd(end); // the duration of a new item is 0
+    view.setText(text).setGroupId(groupId);
     return item;
 }
 /// @}

@@ -1,5 +1,5 @@
 /// @file
-/// One thing that is wrong with a collection.
+/// One thing that is wrong with a collection, a header or a document.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAFINDING_H
 #define ZELINTERCHANGEDATA_ZELDATAFINDING_H
@@ -32,24 +32,28 @@ struct ZelDataFinding {
 
     /// What is wrong. 0, which is not a kind, in a new finding.
     ZelDataFinding_tags kind = static_cast<ZelDataFinding_tags>(0);
-    /// The kind of collection that was checked. 0, which is not a kind, in a new finding.
+    /// What was checked. 0, which is not a kind, in a new finding.
     ZelDataFindingSubject_tags subject = static_cast<ZelDataFindingSubject_tags>(0);
 
-    /// Index of the item, from 0 in stored order; #noItem if the finding is about the collection.
+    /// Index of the item, from 0 in stored order; #noItem if the finding is about the collection. In
+    /// a header, the index of the keyword or content name.
     unsigned long item = noItem;
-    /// The item's start, in milliseconds for captions, else in ticks.
+    /// The item's start, in milliseconds for captions, else in ticks; 0 in a header.
     long long start = 0;
-    /// The language ID of the text concerned.
+    /// The language ID concerned, or that of the text concerned.
     std::string language;
 
     /// The colour component that is out of range: "foreground red", "foreground green", "foreground
-    /// blue", the same with "background", or "background opacity".
+    /// blue", the same with "background", or "background opacity". Otherwise the field concerned:
+    /// of a header "application name", "application version", "title", "creator", "description",
+    /// "keyword", "content name", "video length", "video width" or "video height"; of a collection
+    /// or an item "font family", "text", "title" or "image"; of any of them "language".
     std::string property;
-    /// The value of #property.
+    /// The value of a colour component.
     float component = 0.0F;
     /// Any other value: a duration, a start or an end in the unit of #start, a number of lines, a
-    /// frame rate or a font size. A value too large for the type is replaced with its largest
-    /// number.
+    /// frame rate, a font size, a group, or a place in a text in bytes from 0. A value too large for
+    /// the type is replaced with its largest number.
     long long value = 0;
     /// The limit that #value or #component breaks; the limit itself is allowed.
     long long limit = 0;

@@ -44,7 +44,9 @@ public:
     virtual ZelDataResult_tags setImageIndex(unsigned long index) = 0;
     /// Offset of the image in the file, in bytes. Any value; default 0.
     virtual ZelDataResult_tags setImageOffset(unsigned long long offset) = 0;
-    /// Number of the table-of-contents entry that the text belongs to. Any value; default 0.
+    /// Number of the table-of-contents entry that the text belongs to. Entries count from 0 in the
+    /// order of their starts, so the default, 0, ties the text to the first entry. Any value; the
+    /// library does not check that the entry exists.
     virtual ZelDataResult_tags setGroupId(unsigned long id) = 0;
     /// The text as it was set; control characters are removed only when it is written.
     virtual ZelDataResult_tags getText(std::string& text) const = 0;

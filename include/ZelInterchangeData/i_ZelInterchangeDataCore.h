@@ -19,7 +19,7 @@ class i_ZelDataToc;
 ///   the text instead of replacing it. On failure, the text is unchanged.
 /// - `writeFile` writes the XML declaration and, directly after it, the packet up to its first zero
 ///   byte; @p flag is not used. #ZelData_Ok means that the file was opened: later failures, such as
-///   a full disk, are not reported. On failure, no file is changed.
+///   a full disk, are not reported; replaceFile() reports them. On failure, no file is changed.
 /// - Both return #ZelData_UnsupportedFormat for a format other than #ZelDataFormat_Xmp;
 ///   #ZelData_InvalidArgument without a header, or with one whose length, width or height is 0; the
 ///   code of copying a set or of its formatter; #ZelData_FileOpenFailed if the file cannot be

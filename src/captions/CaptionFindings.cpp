@@ -1,12 +1,15 @@
+#include "captions/CaptionFindings.h"
+
 #include "ZelInterchangeData/ZelDataFindings.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
-#include "captions/CaptionLimits.h"
 #include "captions/CaptionStyle.h"
-#include "sets/ItemFindings.h"
+#include "captions/ZelDataCaptions.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace ZelInterchangeData {
 
@@ -29,7 +32,7 @@ void checkStyle(const CaptionStyle& style, FindingList& found)
     if (style.fontFamily.empty()) found.add(ZelDataFinding_FontFamilyMissing);
     if (!CaptionStyle::isFontSize(style.fontSize))
         found.addOutOfRange(ZelDataFinding_FontSizeOutOfRange, style.fontSize,
-                            CaptionStyle::minimumFontSize, CaptionStyle::maximumFontSize);
+                            ZelDataLimits::minimumFontSize, ZelDataLimits::maximumFontSize);
     checkFraction("foreground red", style.foreground.red, found);
     checkFraction("foreground green", style.foreground.green, found);
     checkFraction("foreground blue", style.foreground.blue, found);
@@ -66,20 +69,20 @@ void addDuration(ZelDataFinding_tags kind, long long duration, long long limit, 
 /// Does not report a caption without a duration as too short as well.
 void checkDuration(long long duration, FindingList& found)
 {
-    if (duration < CaptionLimits::shortestDuration) {
-        addDuration(ZelDataFinding_NoDuration, duration, CaptionLimits::shortestDuration, found);
-    } else if (duration < CaptionLimits::recommendedDuration) {
-        addDuration(ZelDataFinding_TooShort, duration, CaptionLimits::recommendedDuration, found);
+    if (duration < ZelDataLimits::shortestDuration) {
+        addDuration(ZelDataFinding_NoDuration, duration, ZelDataLimits::shortestDuration, found);
+    } else if (duration < ZelDataLimits::recommendedDuration) {
+        addDuration(ZelDataFinding_TooShort, duration, ZelDataLimits::recommendedDuration, found);
     }
 }
 
 void checkLines(const std::string& text, const std::string& language, FindingList& found)
 {
     const unsigned long lines = ZelDataUtilities::countLinesInUTF8(text);
-    if (lines <= CaptionLimits::recommendedLines) return;
+    if (lines <= ZelDataLimits::recommendedLines) return;
     ZelDataFinding& finding = found.add(ZelDataFinding_TooManyLines, language);
     finding.value = static_cast<long long>(lines);
-    finding.limit = static_cast<long long>(CaptionLimits::recommendedLines);
+    finding.limit = static_cast<long long>(ZelDataLimits::recommendedLines);
 }
 
 /// Checks @p item itself and whether it has texts in the languages @p listed.
@@ -127,7 +130,43 @@ Ending checkCaptions(const i_ZelDataCaptions& captions, FindingList& found)
     });
 }
 
+// What a packet contains
+
+void checkWrittenText(std::string_view language, std::string_view text, FindingList& found)
+{
+    // The formatter writes its placeholder for such a text.
+    if (ZelDataUtilities::stripUnsupportedCharacters(std::string(text)).empty())
+        found.add(ZelDataFinding_EmptyText, std::string(language));
+    found.checkWritten(text, Treatment::EscapedAndStripped, "text", language);
+}
+
+void checkWritten(const ZelDataCaptions& captions, FindingList& found)
+{
+    const ZelDataCaptions::Items& items = captions.items();
+    if (items.count() == 0) return static_cast<void>(found.add(ZelDataFinding_NoItems));
+    found.checkMilliseconds(captions.style().frameRate);
+    found.checkWritten(captions.style().fontFamily, Treatment::AsGiven, "font family");
+    found.checkLanguages(captions.languageIDs());
+    for (unsigned long i = 0; i < items.count(); ++i) {
+        const CaptionState& caption = items.state(i);
+        found.setItem(i, caption.start());
+        if (caption.texts().count() == 0) found.add(ZelDataFinding_NoText);
+        caption.texts().forEach([&](std::string_view language, std::string_view text) {
+            checkWrittenText(language, text, found);
+        });
+    }
+}
+
 } // namespace
+
+Ending findPacketProblems(const ZelDataCaptions& captions, FindingList& found)
+{
+    found.setSubject(ZelDataFindingSubject_Caption);
+    if (const Ending ending = checkCaptions(captions, found)) return ending;
+    found.setSubject(ZelDataFindingSubject_Caption);
+    checkWritten(captions, found);
+    return {};
+}
 
 ZelDataResult_tags findProblems(const i_ZelDataCaptions& captions,
                                 std::vector<ZelDataFinding>& findings)

@@ -1,6 +1,7 @@
 #include "core/ZelDataCoreXmp.h"
 
 #include "captions/ZelDataXmpCaptionFormatter.h"
+#include "core/FileParts.h"
 #include "core/FileStreams.h"
 #include "core/TrackInsertion.h"
 #include "header/ZelDataXmpHeaderFormatter.h"
@@ -9,7 +10,6 @@
 #include "util/Guard.h"
 
 #include <array>
-#include <cstring>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -19,8 +19,6 @@
 namespace ZelInterchangeData {
 
 namespace {
-
-constexpr std::string_view xmlDeclaration = R"(<?xml version="1.0" encoding="utf-8" ?>)";
 
 /// The tracks of a packet, each with the formatter that writes it.
 class Tracks {
@@ -184,9 +182,8 @@ ZelDataResult_tags ZelDataCoreXmp::writeFile(const std::string& path, ZelDataFor
         if (failed(writeString(text, format, false))) return getLastError();
         const auto stream = createWofstreamWithFile(path);
         if (!stream->is_open()) return ZelData_FileOpenFailed;
-        writeBytes(*stream, xmlDeclaration);
-        // Deliberate: ends at the first zero byte; otherwise the file would contain zero bytes.
-        writeBytes(*stream, {text.data(), std::strlen(text.c_str())});
+        for (const std::string_view part : filePartsOf(text))
+            writeBytes(*stream, part);
         stream->close(); // does not report failures after opening
         return ZelData_Ok;
     }));

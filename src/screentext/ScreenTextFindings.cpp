@@ -1,8 +1,10 @@
+#include "screentext/ScreenTextFindings.h"
+
 #include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
-#include "sets/ItemFindings.h"
+#include "screentext/ZelDataScreenText.h"
 
 namespace ZelInterchangeData {
 
@@ -31,7 +33,41 @@ Ending checkScreenText(const i_ZelDataScreenText& screenText, FindingList& found
     });
 }
 
+// What a packet contains
+
+void checkWrittenItem(const ScreenTextState& item, unsigned long entries, FindingList& found)
+{
+    if (item.groupId >= entries)
+        found.addBeyond(ZelDataFinding_EntryMissing, item.groupId,
+                        static_cast<long long>(entries) - 1);
+    found.checkWritten(item.text(), Treatment::EscapedAndStripped, "text");
+    found.checkWritten(item.imageFile(), Treatment::AsGiven, "image");
+}
+
+void checkWritten(const ZelDataScreenText& screenText, unsigned long entries, FindingList& found)
+{
+    const ZelDataScreenText::Items& items = screenText.items();
+    if (items.count() == 0)
+        found.add(ZelDataFinding_NoItems);
+    else
+        found.checkMilliseconds(screenText.frameRate());
+    for (unsigned long i = 0; i < items.count(); ++i) {
+        found.setItem(i, items.state(i).start());
+        checkWrittenItem(items.state(i), entries, found);
+    }
+}
+
 } // namespace
+
+Ending findPacketProblems(const ZelDataScreenText& screenText, unsigned long entries,
+                          FindingList& found)
+{
+    found.setSubject(ZelDataFindingSubject_ScreenText);
+    if (const Ending ending = checkScreenText(screenText, found)) return ending;
+    found.setSubject(ZelDataFindingSubject_ScreenText);
+    checkWritten(screenText, entries, found);
+    return {};
+}
 
 ZelDataResult_tags findProblems(const i_ZelDataScreenText& screenText,
                                 std::vector<ZelDataFinding>& findings)

@@ -1,8 +1,10 @@
 #include "sets/ItemFindings.h"
 
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataLanguage.h"
 #include "sets/LanguageTexts.h"
+#include "util/XmlText.h"
 
 #include <algorithm>
 #include <limits>
@@ -39,19 +41,67 @@ ZelDataFinding& FindingList::add(ZelDataFinding_tags kind, const std::string& la
     return finding;
 }
 
+ZelDataFinding& FindingList::addAbout(ZelDataFinding_tags kind, const char* property)
+{
+    ZelDataFinding& finding = add(kind);
+    finding.property = property;
+    return finding;
+}
+
 void FindingList::addOutOfRange(ZelDataFinding_tags kind, unsigned long value,
                                 unsigned long minimum, unsigned long maximum)
 {
+    addBeyond(kind, value, saturated(value < minimum ? minimum : maximum));
+}
+
+void FindingList::addBeyond(ZelDataFinding_tags kind, unsigned long value, long long limit)
+{
     ZelDataFinding& finding = add(kind);
     finding.value = saturated(value);
-    finding.limit = saturated(value < minimum ? minimum : maximum);
+    finding.limit = limit;
 }
 
 void FindingList::checkFrameRate(FrameRate rate)
 {
     if (rate.isInRange()) return;
-    addOutOfRange(ZelDataFinding_FrameRateOutOfRange, rate.value, FrameRate::minimum,
-                  FrameRate::maximum);
+    addOutOfRange(ZelDataFinding_FrameRateOutOfRange, rate.value, ZelDataLimits::minimumFrameRate,
+                  ZelDataLimits::maximumFrameRate);
+}
+
+void FindingList::checkMilliseconds(FrameRate rate)
+{
+    if (!rate.isInRange() || rate.value == FrameRate::standard) return;
+    addBeyond(ZelDataFinding_NotMilliseconds, rate.value, FrameRate::standard);
+}
+
+void FindingList::checkWritten(std::string_view text, Treatment treatment, const char* property,
+                               std::string_view language)
+{
+    const auto note = [&](ZelDataFinding_tags kind, std::size_t place) {
+        if (place == XmlFaults::none) return;
+        ZelDataFinding& finding = addAbout(kind, property);
+        finding.language = language;
+        finding.value = static_cast<long long>(place);
+    };
+    const XmlFaults faults = findXmlFaults(text);
+    if (treatment == Treatment::AsGiven) note(ZelDataFinding_NotEscaped, faults.unescaped);
+    if (treatment != Treatment::EscapedAndStripped)
+        note(ZelDataFinding_ControlCharacter, faults.control);
+    note(ZelDataFinding_NotStrictUtf8, faults.malformed);
+    note(ZelDataFinding_ForbiddenCharacter, faults.forbidden);
+}
+
+void FindingList::checkLanguages(const std::vector<std::string>& listed)
+{
+    std::set<std::string> seen;
+    for (const std::string& id : listed) {
+        if (!seen.insert(id).second) {
+            addAbout(ZelDataFinding_ListedTwice, "language").language = id;
+            continue;
+        }
+        checkText(std::string(), id); // an empty text is always valid
+        checkWritten(id, Treatment::AsGiven, "language", id);
+    }
 }
 
 void FindingList::checkText(const std::string& text, const std::string& language)

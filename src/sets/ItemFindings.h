@@ -1,5 +1,5 @@
 /// @file
-/// The list that findings are collected in, and the steps that the three findProblems() share.
+/// The list that findings are collected in, and the steps that several findProblems() share.
 
 #ifndef ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
 #define ZELINTERCHANGEDATA_SETS_ITEMFINDINGS_H
@@ -13,6 +13,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -20,10 +21,20 @@ namespace ZelInterchangeData {
 
 class i_ZelDataLanguage;
 
-/// Findings that you add after setItem() are about that item, earlier ones about the collection.
+/// What happens to a text on its way into the packet.
+enum class Treatment { AsGiven, Escaped, EscapedAndStripped };
+
+/// Findings that you add after setItem() are about that item, earlier ones about the subject itself.
 class FindingList {
 public:
     explicit FindingList(ZelDataFindingSubject_tags subject) noexcept : subject_(subject) {}
+
+    /// The findings that follow are about @p subject itself.
+    void setSubject(ZelDataFindingSubject_tags subject) noexcept
+    {
+        subject_ = subject;
+        setItem(ZelDataFinding::noItem, 0);
+    }
 
     /// The findings that follow are about the item at @p item, which starts at @p start.
     void setItem(std::size_t item, long long start) noexcept
@@ -36,11 +47,23 @@ public:
     ZelDataFinding& add(ZelDataFinding_tags kind);
     /// Adds a finding of @p kind about the text in @p language.
     ZelDataFinding& add(ZelDataFinding_tags kind, const std::string& language);
+    /// Adds a finding of @p kind about @p property.
+    ZelDataFinding& addAbout(ZelDataFinding_tags kind, const char* property);
     /// Adds a finding of @p kind where @p value is above @p maximum or below @p minimum.
     void addOutOfRange(ZelDataFinding_tags kind, unsigned long value, unsigned long minimum,
                        unsigned long maximum);
+    /// Adds a finding of @p kind where @p value breaks @p limit.
+    void addBeyond(ZelDataFinding_tags kind, unsigned long value, long long limit);
 
     void checkFrameRate(FrameRate rate);
+    /// Adds a finding if @p rate is in range and times in it are not milliseconds.
+    void checkMilliseconds(FrameRate rate);
+    /// Adds the faults of @p text that make a packet with it unreadable.
+    void checkWritten(std::string_view text, Treatment treatment, const char* property,
+                      std::string_view language = std::string_view());
+    /// Checks the languages @p listed, which are written as given; those that occur again only for
+    /// that.
+    void checkLanguages(const std::vector<std::string>& listed);
     /// Checks @p text and the language that it is stored under.
     void checkText(const std::string& text, const std::string& language);
     /// Adds a finding for each of @p listed that is not among @p ids.

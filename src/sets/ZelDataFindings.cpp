@@ -1,5 +1,6 @@
 #include "ZelInterchangeData/ZelDataFindings.h"
 
+#include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 
 namespace ZelInterchangeData {
@@ -19,30 +20,10 @@ std::string number(long long value)
     return std::to_string(value);
 }
 
-/// Escapes each byte of @p text for which @p needsEscape returns true, as in "\x0A".
-template <class NeedsEscape>
-std::string escaped(const std::string& text, NeedsEscape&& needsEscape)
-{
-    constexpr const char* digits = "0123456789ABCDEF";
-    std::string result;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (needsEscape(byte)) {
-            result.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 0xF]);
-        } else {
-            result += character;
-        }
-    }
-    return result;
-}
-
-/// The language of @p finding, escaped so that it stays on one line.
 std::string languageOf(const ZelDataFinding& finding)
 {
-    const bool isUtf8 = !failed(ZelDataUtilities::verifyUtf8Format(finding.language, false));
-    return escaped(finding.language, [&](unsigned char byte) {
-        return byte < 0x20 || byte == 0x7F || (byte >= 0x80 && !isUtf8);
-    });
+    const std::string& language = finding.language;
+    return ZelDataMessages::onOneLine(language, ZelDataMessages::isUtf8(language));
 }
 
 std::string nameOfCollection(ZelDataFindingSubject_tags subject)
@@ -54,6 +35,10 @@ std::string nameOfCollection(ZelDataFindingSubject_tags subject)
         return "table of contents";
     case ZelDataFindingSubject_ScreenText:
         return "screen texts";
+    case ZelDataFindingSubject_Header:
+        return "header";
+    case ZelDataFindingSubject_Document:
+        return "document";
     }
     return "collection";
 }
@@ -67,8 +52,9 @@ std::string nameOfItem(ZelDataFindingSubject_tags subject)
         return "entry ";
     case ZelDataFindingSubject_ScreenText:
         return "screen text ";
+    default:
+        return "item ";
     }
-    return "item ";
 }
 
 /// Times of captions are in milliseconds, all others in ticks of the frame rate.
@@ -79,7 +65,9 @@ std::string timeOf(const ZelDataFinding& finding, long long time)
 
 std::string placeOf(const ZelDataFinding& finding)
 {
-    if (finding.item == ZelDataFinding::noItem) return nameOfCollection(finding.subject);
+    const bool isInHeader = finding.subject == ZelDataFindingSubject_Header;
+    if (finding.item == ZelDataFinding::noItem || isInHeader)
+        return nameOfCollection(finding.subject);
     return joined({nameOfItem(finding.subject), ZelDataUtilities::getValueString(finding.item),
                    " at ", timeOf(finding, finding.start)});
 }
@@ -134,6 +122,39 @@ std::string outOfOrder(const ZelDataFinding& finding)
                    timeOf(finding, finding.laterStart)});
 }
 
+/// The field that @p finding is about: "the title", "keyword 2", "the text in en".
+std::string fieldOf(const ZelDataFinding& finding)
+{
+    const bool isListed =
+        finding.subject == ZelDataFindingSubject_Header && finding.item != ZelDataFinding::noItem;
+    if (isListed)
+        return joined({finding.property, " ", ZelDataUtilities::getValueString(finding.item)});
+    const bool isLanguage = finding.property == "language";
+    std::string field = "the " + finding.property;
+    if (!finding.language.empty()) field += (isLanguage ? " " : " in ") + languageOf(finding);
+    return field;
+}
+
+/// A fault in the field that @p finding is about.
+std::string fault(const ZelDataFinding& finding, const char* what)
+{
+    return joined({fieldOf(finding), what, " at byte ", number(finding.value)});
+}
+
+std::string entryMissing(const ZelDataFinding& finding)
+{
+    const bool hasEntries = finding.limit >= 0;
+    return joined(
+        {"no entry ", number(finding.value), " in the table of contents",
+         hasEntries ? ", the last is " + number(finding.limit) : std::string(", which has none")});
+}
+
+std::string notMilliseconds(const ZelDataFinding& finding)
+{
+    return joined({"times are not milliseconds (frame rate ", number(finding.value), ", not ",
+                   number(finding.limit), ")"});
+}
+
 std::string reasonOf(const ZelDataFinding& finding)
 {
     switch (finding.kind) {
@@ -161,6 +182,30 @@ std::string reasonOf(const ZelDataFinding& finding)
         return overlap(finding);
     case ZelDataFinding_OutOfOrder:
         return outOfOrder(finding);
+    case ZelDataFinding_HeaderMissing:
+        return "no header";
+    case ZelDataFinding_SizeMissing:
+        return "no " + finding.property;
+    case ZelDataFinding_ListedTwice:
+        return fieldOf(finding) + " is listed before";
+    case ZelDataFinding_NotEscaped:
+        return fault(finding, " has an unescaped \", & or <");
+    case ZelDataFinding_ControlCharacter:
+        return fault(finding, " has a control character");
+    case ZelDataFinding_NotStrictUtf8:
+        return fault(finding, " is not strict UTF-8");
+    case ZelDataFinding_ForbiddenCharacter:
+        return fault(finding, " has U+FFFE or U+FFFF");
+    case ZelDataFinding_NoItems:
+        return "no items, so no track";
+    case ZelDataFinding_NoText:
+        return "no text in any language";
+    case ZelDataFinding_EmptyText:
+        return joined({"the text in ", languageOf(finding), " is empty"});
+    case ZelDataFinding_EntryMissing:
+        return entryMissing(finding);
+    case ZelDataFinding_NotMilliseconds:
+        return notMilliseconds(finding);
     }
     return "unknown finding";
 }

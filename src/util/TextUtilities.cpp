@@ -305,6 +305,13 @@ void appendEscapedStripped(TextBlock& out, std::string_view text)
     appendEscapedStrippedTo(out, text);
 }
 
+bool beginsWithEntity(std::string_view text) noexcept
+{
+    return std::any_of(entities.begin(), entities.end(), [text](const Entity& entity) {
+        return text.compare(0, entity.markup.size(), entity.markup) == 0;
+    });
+}
+
 unsigned long ZelDataUtilities::countLinesInUTF8(const std::string& text)
 {
     return failed(verifyUtf8Format(text, false)) ? 0 : countLines(text);

@@ -26,6 +26,9 @@ void appendEscaped(TextBlock& out, std::string_view text);
 void appendEscapedStripped(std::string& out, std::string_view text);
 void appendEscapedStripped(TextBlock& out, std::string_view text);
 
+/// Whether @p text begins with one of the five entities, such as `&amp;`.
+bool beginsWithEntity(std::string_view text) noexcept;
+
 /// ZelDataUtilities::countLinesInUTF8() for a @p text that is known to be UTF-8.
 unsigned long countLines(std::string_view text) noexcept;
 

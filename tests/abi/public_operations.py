@@ -9,10 +9,10 @@ from slot_lists import read_slot_lists, split
 
 
 def argument_types(arguments):
-    """The argument types of a parenthesised list, with or without argument names."""
+    """The argument types of a parenthesised list, with or without argument names and defaults."""
     types = []
     for argument in arguments.strip("()").split(","):
-        words = re.sub(r"\s+", " ", argument).strip()
+        words = re.sub(r"\s+", " ", argument.partition("=")[0]).strip()
         types.append(re.sub(r"(?<=[&* ])(?!long$|int$)\w+$", "", words).strip()
                      if " " in words or re.search(r"[&*]\w", words) else words)
     return [name for name in types if name]

@@ -9,6 +9,9 @@ block may be a copy of a project file (`source=PATH`), and a project file may ho
 
 A CMake block is a project, or the part of one after the lines that every project begins with.
 
+An `sh` block is a script; a `text` block after it shows what the script prints. The scripts of a
+document run one after the other in one folder.
+
 `name=NAME` after the language names a block; other blocks are numbered."""
 
 import re
@@ -114,6 +117,14 @@ def project_of(block):
     if not re.search(r"^add_executable\(", text, re.MULTILINE):
         text = EXECUTABLE + text
     return text if re.search(r"^project\(", text, re.MULTILINE) else PROJECT + text
+
+
+def rows_below(text, heading):
+    """The rows of the first table below a heading, without the table's header."""
+    section = text.split(f"\n{heading}\n", 1)[1].split("\n## ", 1)[0]
+    table = re.search(r"(?:^\|.*\n)+", section, re.MULTILINE)[0]
+    return [[cell.strip() for cell in line.strip("|").split("|")]
+            for line in table.splitlines()[2:]]
 
 
 def document_name(path):

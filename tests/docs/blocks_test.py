@@ -7,7 +7,8 @@ import unittest
 import unittest.mock
 from pathlib import Path
 
-from blocks import Block, Sample, blocks_of, preamble_of, program_of, project_of, samples_of
+from blocks import (Block, Sample, blocks_of, preamble_of, program_of, project_of, rows_below,
+                    samples_of)
 from extract import write_files
 from output import objections
 
@@ -91,6 +92,14 @@ class Blocks(unittest.TestCase):
                                                  "add_subdirectory(a)"])
         whole = "project(mine)\nadd_executable(my_program main.cpp)\n"
         self.assertEqual(project_of(Block("cmake", [], whole, 1)), whole)
+
+    def test_a_script_has_the_output_that_follows(self):
+        [script] = samples_of("d", blocks_of("```sh\nls\n```\n\n```text\na\n```\n"), "sh")
+        self.assertEqual((script.block.text, [o.text for o in script.outputs]), ("ls\n", ["a\n"]))
+
+    def test_the_rows_of_the_first_table_below_a_heading_are_found(self):
+        text = "## A\n\n|x|\n|-|\n|0|\n\n## B\n\n| x | y |\n|-|-|\n| 1 | 2 |\n| 3 | 4 |\n\n|z|\n|-|\n|5|\n"
+        self.assertEqual(rows_below(text, "## B"), [["1", "2"], ["3", "4"]])
 
     def test_files_of_removed_samples_are_deleted(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -1,4 +1,4 @@
-"""Checks that the tests build and run every C++ and CMake block of every document.
+"""Checks that the tests build and run every C++, CMake and shell block of every document.
 
 The environment names ROOT, the project's folder, and REGISTERED, the file with the names of the
 samples that have a test."""
@@ -47,6 +47,12 @@ class Coverage(unittest.TestCase):
         for path in documents():
             with self.subTest(document=path.name):
                 self.assertLessEqual({block.language for block in read_blocks(path)}, LANGUAGES)
+
+    def test_scripts_are_where_they_run(self):
+        """delivery_test.py runs the scripts of its page, and no other test runs any."""
+        with_scripts = [path.name for path in documents()
+                        if any(block.language == "sh" for block in read_blocks(path))]
+        self.assertEqual(with_scripts, ["delivery.md"])
 
     def test_a_preamble_is_used(self):
         for path in documents():

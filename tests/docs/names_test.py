@@ -8,6 +8,8 @@ import re
 import unittest
 from pathlib import Path
 
+from blocks import rows_below
+
 ROOT = Path(os.environ["ROOT"])
 FORMAT = ROOT / "docs" / "format.md"
 DOCUMENTS = [*ROOT.glob("*.md"), *ROOT.glob("docs/*.md")]
@@ -30,11 +32,8 @@ def defined_tests():
 
 
 def rows_of(heading):
-    """The rows of the first table below a heading of docs/format.md, without its header."""
-    section = FORMAT.read_text(encoding="utf-8").split(f"\n{heading}\n", 1)[1].split("\n## ", 1)[0]
-    table = re.search(r"(?:^\|.*\n)+", section, re.MULTILINE)[0]
-    return [[cell.strip() for cell in line.strip("|").split("|")]
-            for line in table.splitlines()[2:]]
+    """The rows of the first table below a heading of docs/format.md."""
+    return rows_below(FORMAT.read_text(encoding="utf-8"), heading)
 
 
 class Names(unittest.TestCase):
@@ -48,6 +47,14 @@ class Names(unittest.TestCase):
                  if PROJECT_PATH.fullmatch(word)}
         self.assertGreater(len(named), 40)
         self.assertEqual([word for word in sorted(named) if not (ROOT / word).exists()], [])
+
+    def test_every_kind_of_finding_has_a_row_with_its_severity(self):
+        kinds = (ROOT / "src/sets/FindingKinds.cpp").read_text(encoding="utf-8")
+        expected = re.findall(r"\{ZelDataFinding_(\w+), \"\w+\",\s+(error|warning),", kinds)
+        self.assertEqual(len(expected), kinds.count("\"ZelDataFinding_") - 1)  # one is for no kind
+        guide = (ROOT / "docs" / "guide.md").read_text(encoding="utf-8")
+        rows = rows_below(guide, "## What is wrong with my document?")
+        self.assertEqual([(kind.strip("`"), severity) for kind, severity, _ in rows], expected)
 
     def test_every_field_of_the_packet_names_its_test(self):
         rows = rows_of("## What is escaped, stripped or written as given")

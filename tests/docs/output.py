@@ -57,21 +57,31 @@ def run(command, folder):
                           check=False, timeout=120)
 
 
+def failure(result):
+    """Says whether a sample failed or wrote to standard error."""
+    if (result.returncode, result.stderr) == (0, ""):
+        return []
+    return [f"exit status {result.returncode}, standard error: {result.stderr!r}"]
+
+
+def print_objections(outputs, text):
+    """The difference between what a sample printed and what the document shows."""
+    printed = [block for block in outputs if not block.option("file")]
+    found = ["the document shows two outputs"] if len(printed) > 1 else []
+    if not printed and text:
+        found.append(f"prints what is not shown: {text!r}")
+    return found + [f"prints {text!r}" for block in printed if not same(text, block)]
+
+
 def objections(sample, command, folder):
     """What a built sample does differently from what the document shows."""
     result = run(command, folder)
-    if (result.returncode, result.stderr) != (0, ""):
-        return [f"exit status {result.returncode}, standard error: {result.stderr!r}"]
+    if found := failure(result):
+        return found
     found, outputs = source_objections(sample), outputs_of(sample)
     if not outputs:
         found.append("the document shows no output")
-    printed = [block for block in outputs if not block.option("file")]
-    if len(printed) > 1:
-        found.append("the document shows two outputs")
-    if not printed and result.stdout:
-        found.append(f"prints what is not shown: {result.stdout!r}")
-    found += [f"prints {result.stdout!r}" for block in printed if not same(result.stdout, block)]
-    return found + file_objections(outputs, folder)
+    return found + print_objections(outputs, result.stdout) + file_objections(outputs, folder)
 
 
 def file_objections(outputs, folder):

@@ -2,6 +2,7 @@
 /// The face when memory runs out at each allocation of a call in turn.
 
 #include "ZelInterchangeData/ZelDataFace.h"
+#include "core/TempFile.h"
 #include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
@@ -97,6 +98,8 @@ TEST(FaceWithoutMemory, OperationsAndGettersThrow)
     checked(*document).setDataHeader(*header);
     expectThrown([&] { static_cast<void>(checked(*document).createDataHeader()); });
     expectThrown([&] { static_cast<void>(checked(*document).writeString()); });
+    const TempFile file;
+    expectThrown([&] { replaceFile(*document, file.path()); });
 }
 
 template <class Collection>

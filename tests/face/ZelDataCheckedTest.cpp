@@ -3,6 +3,7 @@
 
 #include "ZelInterchangeData/ZelDataFace.h"
 #include "face/Thrown.h"
+#include "header/ZelDataHeader.h"
 #include "support/fakes/FailingCaptions.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +15,27 @@ namespace ZelInterchangeData {
 namespace {
 
 using Strings = std::vector<std::string>;
+
+template <class Owner, class = void>
+constexpr bool hasView = false;
+template <class Owner>
+constexpr bool hasView<Owner, std::void_t<decltype(checked(std::declval<Owner>()))>> = true;
+
+TEST(Checked, TakesTheOwnerButNotATemporaryOne)
+{
+    using Owner = std::unique_ptr<i_ZelDataCaptions>;
+    static_assert(hasView<Owner&> && hasView<const Owner&>);
+    static_assert(!hasView<Owner> && !hasView<const Owner>); // their views would dangle
+    static_assert(!hasView<decltype(createHeader())> && !hasView<decltype(createDocument())>);
+    static_assert(!hasView<decltype(createTocItem())> && !hasView<decltype(createTocFormatter())>);
+    const Owner captions = createCaptions();
+    EXPECT_EQ(captions.get(), &checked(captions).object());
+    const std::unique_ptr<FailingCaptions> own = std::make_unique<FailingCaptions>();
+    EXPECT_EQ(own.get(), &checked(own).object());
+    const std::unique_ptr<const i_ZelDataCaptions> constant = createCaptions();
+    static_assert(std::is_same_v<decltype(checked(constant)),
+                                 ZelDataCheckedCaptions<const i_ZelDataCaptions>>);
+}
 
 TEST(CheckedHeader, ChainsOperationsAndReturnsValues)
 {
@@ -156,6 +178,83 @@ TEST(CheckedCaptions, ThrowWhenIsValidFails)
               thrownBy([&] { checked(*captions).isValid(true); }));
 }
 
+TEST(CheckedCaptions, CountItemsOfAConstCollection)
+{
+    const auto captions = createCaptions();
+    const auto toc = createToc();
+    const auto screenText = createScreenText();
+    for (const long long start : {1, 2}) {
+        checked(captions).addCaptionItem(*createCaptionItem(start, 9, {{"en", ""}}));
+        checked(toc).addTocItem(*createTocItem(start, {{"en", ""}}));
+        checked(screenText).addScreenTextItem(*createScreenTextItem(start, 9, ""));
+    }
+    EXPECT_EQ(2U, checked(std::as_const(*captions)).getCaptionItemCount());
+    EXPECT_EQ(2U, checked(std::as_const(*toc)).getTocItemCount());
+    EXPECT_EQ(2U, checked(std::as_const(*screenText)).getScreenTextItemCount());
+    EXPECT_EQ(0U, checked(std::as_const(*createToc())).getTocItemCount());
+}
+
+TEST(CheckedCaptions, CountOnlyWhatAConstCollectionHandsOut)
+{
+    FailingCaptions captions;
+    captions.failAt("getCaptionItems", ZelData_InternalError, ZelData_Ok);
+    EXPECT_EQ(0U, checked(captions).getCaptionItemCount());
+    EXPECT_EQ((Failure{"getCaptionItems", "ZelData_InternalError"}), thrownBy([&] {
+                  static_cast<void>(checked(std::as_const(captions)).getCaptionItemCount());
+              }));
+}
+
+template <class View, class... Flag>
+void expectAnswers(const View& good, const View& bad, Flag... flag)
+{
+    EXPECT_TRUE(good.isGood(flag...));
+    EXPECT_FALSE(bad.isGood(flag...));
+}
+
+TEST(IsGood, AnswersWhetherIsValidSucceeds)
+{
+    const auto header = createHeader();
+    checked(header).setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
+    const auto emptyHeader = createHeader();
+    expectAnswers(checked(header), checked(emptyHeader));
+    const auto caption = createCaptionItem(0, 1000, {{"en", "a"}});
+    const auto emptyCaption = createCaptionItem();
+    expectAnswers(checked(caption), checked(emptyCaption), false);
+    const auto captions = createCaptions();
+    const auto overlapping = createCaptions();
+    checked(overlapping).addCaptionItem(*caption).addCaptionItem(*caption);
+    expectAnswers(checked(captions), checked(overlapping), false);
+    const auto toc = createToc();
+    const auto disordered = createToc();
+    for (const long long start : {2, 1})
+        checked(disordered).addTocItem(*createTocItem(start, {{"en", ""}}));
+    expectAnswers(checked(toc), checked(disordered), true);
+    const auto screenText = createScreenText();
+    const auto disorderedText = createScreenText();
+    for (const long long start : {2, 1})
+        checked(disorderedText).addScreenTextItem(*createScreenTextItem(start, 9, ""));
+    expectAnswers(checked(screenText), checked(disorderedText), true);
+    EXPECT_TRUE(checked(*createTocItem()).isGood(true));
+    EXPECT_TRUE(checked(*createScreenTextItem()).isGood(true));
+}
+
+TEST(IsGood, CountsAWarningAsAFailureUnlessItIsAllowed)
+{
+    const auto brief = createCaptionItem(0, 999, {{"en", "a"}});
+    EXPECT_TRUE(checked(brief).isGood(false));
+    EXPECT_FALSE(checked(brief).isGood(true));
+    EXPECT_TRUE(checked(brief).allowWarnings().isGood(true));
+    EXPECT_FALSE(checked(*createCaptionItem()).allowWarnings().isGood(true));
+}
+
+TEST(IsGood, ThrowsWithoutMemory)
+{
+    FailingCaptions captions;
+    captions.failAt("isValid", ZelData_OutOfMemory, ZelData_OutOfMemory);
+    EXPECT_EQ((Failure{"isValid", "ZelData_OutOfMemory"}),
+              thrownBy([&] { static_cast<void>(checked(captions).isGood(true)); }));
+}
+
 TEST(CheckedTocItem, SetsEverythingThatAnEntryHolds)
 {
     const auto item = createTocItem(3, {{"en", "a"}});
@@ -180,6 +279,68 @@ TEST(CheckedDocument, WritesAndReadsBackItsSets)
     const auto read = checked(*document).createDataHeader();
     checked(*document).getDataHeader(*read);
     EXPECT_EQ("t", checked(*read).getTitle());
+}
+
+/// A header whose own check fails although a document can copy it.
+class StrictHeader : public ZelDataHeader {
+public:
+    StrictHeader() { checked(*this).setVideoLength(1).setVideoWidth(2).setVideoHeight(3); }
+
+    ZelDataResult_tags isValid() const override { return store(code); }
+
+    ZelDataResult_tags code = ZelData_InternalError;
+};
+
+TEST(CheckedDocument, RefusesAHeaderThatItsOwnCheckRefuses)
+{
+    const auto document = createDocument();
+    const auto header = createHeader();
+    checked(header).setTitle("kept").setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
+    checked(document).setDataHeader(*header);
+    const auto empty = createHeader();
+    const auto expectRefusals = [&] {
+        document->setLastError(ZelData_WarnTiming);
+        EXPECT_EQ((Failure{"setDataHeader", "ZelData_InvalidArgument"}),
+                  thrownBy([&] { checked(document).setDataHeader(*empty); }));
+        EXPECT_EQ((Failure{"setDataHeader", "ZelData_InternalError"}),
+                  thrownBy([&] { checked(document).setDataHeader(StrictHeader()); }));
+        EXPECT_EQ(ZelData_WarnTiming, document->getLastError());
+        const auto read = createHeader();
+        checked(document).getDataHeader(*read);
+        EXPECT_EQ("kept", checked(read).getTitle());
+    };
+    expectRefusals();
+    checked(document).setDataCaptions(*createCaptions());
+    expectRefusals();
+    EXPECT_EQ(ZelData_Ok, document->setDataHeader(*empty)); // which is why the view checks first
+}
+
+TEST(CheckedDocument, LetsAWarningOfTheCheckOfAHeaderPassIfItIsAllowed)
+{
+    const auto document = createDocument();
+    StrictHeader strict;
+    strict.code = ZelData_WarnTiming;
+    EXPECT_EQ((Failure{"setDataHeader", "ZelData_WarnTiming"}),
+              thrownBy([&] { checked(document).setDataHeader(strict); }));
+    checked(document).allowWarnings().setDataHeader(strict);
+}
+
+/// A good header that a document cannot copy.
+class UntitledHeader : public StrictHeader {
+public:
+    UntitledHeader() { code = ZelData_Ok; }
+
+    ZelDataResult_tags getTitle(std::string& /*title*/) const override
+    {
+        return store(ZelData_NotFound);
+    }
+};
+
+TEST(CheckedDocument, ThrowsTheCodeOfSetDataHeaderForAGoodHeader)
+{
+    const auto document = createDocument();
+    EXPECT_EQ((Failure{"setDataHeader", "ZelData_NotFound"}),
+              thrownBy([&] { checked(document).setDataHeader(UntitledHeader()); }));
 }
 
 TEST(CheckedDocument, ThrowsTheReturnedCodeIfNoneWasStored)

@@ -126,5 +126,27 @@ TEST(CreateScreenTextItem, SetsTimesTextAndEntry)
     EXPECT_EQ(0U, checked(*createScreenTextItem(1, 2, "")).getGroupId());
 }
 
+TEST(CreateScreenTextItem, MayEndWhereItStarts)
+{
+    const auto item = createScreenTextItem(10, 10, "a");
+    EXPECT_EQ(10, checked(item).getEnd());
+    EXPECT_EQ(0, checked(item).getDuration());
+    EXPECT_EQ((Failure{"setEnd", "ZelData_InvalidArgument"}),
+              thrownBy([] { static_cast<void>(createScreenTextItem(10, 9, "a")); }));
+    EXPECT_EQ((Failure{"setStart", "ZelData_InvalidArgument"}),
+              thrownBy([] { static_cast<void>(createScreenTextItem(-1, -1, "a")); }));
+}
+
+TEST(Escaped, MakesAPacketWellFormedThatWritesTextsAsGiven)
+{
+    EXPECT_EQ("&lt;Tom &amp; &quot;Jerry&apos;&gt;", escaped("<Tom & \"Jerry'>"));
+    const auto header = createHeader();
+    checked(header).setVideoLength(1).setVideoWidth(1).setVideoHeight(1);
+    checked(header).setCreator(escaped("Tom & Jerry"));
+    const auto document = createDocument();
+    const std::string packet = checked(document).setDataHeader(*header).writeString();
+    EXPECT_NE(std::string::npos, packet.find(" dc:creator=\"Tom &amp; Jerry\" "));
+}
+
 } // namespace
 } // namespace ZelInterchangeData

@@ -42,7 +42,15 @@ def functions(view):
     """Name and body of each function of the view that calls an operation."""
     text = (HEADERS / f"{view}.h").read_text(encoding="utf-8").replace("color = {}", "color")
     body = text[text.index("/// @{"):text.index("/// @}")]
-    return [(name, code) for name, _, code in FUNCTION.findall(body) if not FORWARDED.search(code)]
+    return [(name, code) for name, _, code in FUNCTION.findall(body)
+            if not FORWARDED.search(code) and name != "isGood"]
+
+
+def answers(view):
+    """The parameters and the body of isValid and isGood, if the view has them."""
+    text = (HEADERS / f"{view}.h").read_text(encoding="utf-8")
+    found = {name: (parameters, code) for name, parameters, code in FUNCTION.findall(text)}
+    return found.get("isValid"), found.get("isGood")
 
 
 class Views(unittest.TestCase):
@@ -61,7 +69,17 @@ class Views(unittest.TestCase):
                 with self.subTest(f"{view}::{name}"):
                     called = re.findall(r"&Interface::(\w+)|object\(\)\.(\w+)\(", code)
                     self.assertEqual(["".join(one) for one in called], [name])
-                    self.assertEqual(re.findall(r'"(\w+)"', code), [name])
+                    self.assertEqual(set(re.findall(r'"(\w+)"', code)), {name})
+
+    def test_a_view_with_isValid_answers_isGood_with_it(self):
+        for view in VIEWS.values():
+            with self.subTest(view):
+                valid, good = answers(view)
+                self.assertEqual(valid is None, good is None)
+                if good:
+                    self.assertEqual(good[0], valid[0])
+                    self.assertIn(f'"isValid", this->object().isValid({good[0].removeprefix("bool ")})',
+                                  good[1])
 
 
 if __name__ == "__main__":

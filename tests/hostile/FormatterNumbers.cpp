@@ -52,6 +52,18 @@ void addFormatterNumbers(NumberParameters& list)
     forEachDocument([&list](const char* of, const auto& make) {
         addFormats(list, of, make, ZelData_UnsupportedFormat, ZelData_NotImplemented);
     });
+    list.push_back({"replaceFile 4", [] {
+                        for (const Format format : extremesOfEnumeration<Format>()) {
+                            if (format == ZelDataFormat_Xmp) continue;
+                            const TempFile file;
+                            int systemError = -1;
+                            EXPECT_EQ(ZelData_UnsupportedFormat,
+                                      replaceFile(*documentOf<ZelDataCore>(), file.path(),
+                                                  systemError, format));
+                            EXPECT_EQ(0, systemError);
+                            EXPECT_FALSE(file.exists());
+                        }
+                    }});
 }
 
 } // namespace ZelInterchangeData

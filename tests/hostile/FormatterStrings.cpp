@@ -79,12 +79,13 @@ bool isFileName(const std::string& name)
            name.find_first_of(forbidden) == std::string::npos;
 }
 
-void tryFile(const Document& document, const std::string& name)
+/// Tries @p write, a function that writes the document to a path.
+template <class Write>
+void tryFile(const Document& document, const std::string& name, const Write& write)
 {
     const ScratchFolder folder;
     const bool opens = isFileName(name);
-    EXPECT_EQ(opens ? ZelData_Ok : ZelData_FileOpenFailed,
-              document.writeFile(folder.pathOf(name), xmp, false));
+    EXPECT_EQ(opens ? ZelData_Ok : ZelData_FileOpenFailed, write(document, folder.pathOf(name)));
     ASSERT_EQ(opens ? Texts{name} : Texts(), folder.names());
     if (!opens) return;
     EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\" ?>" + dateMasked(writtenBy(document)),
@@ -98,8 +99,12 @@ void addDocument(StringParameters& list, const std::string& of, const Make<Docum
                         tryAppending(*make(), text);
                         tryReplacing(*make(), text);
                     }});
-    list.push_back(
-        {of + "writeFile 1", [make](const std::string& text) { tryFile(*make(), text); }});
+    list.push_back({of + "writeFile 1", [make](const std::string& text) {
+                        tryFile(*make(), text,
+                                [](const Document& document, const std::string& path) {
+                                    return document.writeFile(path, xmp, false);
+                                });
+                    }});
 }
 
 } // namespace
@@ -108,6 +113,15 @@ void addFormatterStrings(StringParameters& list)
 {
     forEachFormatter([&list](const char* of, const auto& make) { addFormatter(list, of, make); });
     forEachDocument([&list](const char* of, const auto& make) { addDocument(list, of, make); });
+    list.push_back({"replaceFile 2", [](const std::string& text) {
+                        tryFile(*documentOf<ZelDataCore>(), text,
+                                [](const Document& document, const std::string& path) {
+                                    int systemError = -1;
+                                    const auto code = replaceFile(document, path, systemError);
+                                    EXPECT_EQ(code == ZelData_Ok, systemError == 0);
+                                    return code;
+                                });
+                    }});
 }
 
 } // namespace ZelInterchangeData

@@ -180,8 +180,9 @@ void fillCaptions(PacketModel& model, Dice& dice)
     model.captionRate = 1 + dice.below(10000);
     const Pieces ids = languages(dice);
     for (std::size_t count = itemCount(dice); count > 0; --count) {
-        model.captions.push_back(
-            {time(dice), 1 + time(dice), dice.once(2), textsByLanguage(dice, ids)});
+        model.captions.push_back({time(dice), 1 + time(dice),
+                                  dice.once(2) ? ZelAlignTop : ZelAlignBottom,
+                                  textsByLanguage(dice, ids)});
     }
 }
 

@@ -1,10 +1,12 @@
 #include "hostile/PacketModel.h"
 
+#include "hostile/CodePoints.h"
 #include "support/Checks.h"
 
 #include <algorithm>
-#include <initializer_list>
-#include <memory>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
 namespace ZelInterchangeData {
 
@@ -12,82 +14,18 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-void expectOk(std::initializer_list<ZelDataResult_tags> codes)
-{
-    for (const auto code : codes)
-        EXPECT_EQ(ZelData_Ok, code);
-}
-
-std::unique_ptr<i_ZelDataHeader> headerOf(const PacketModel& model)
-{
-    auto header = make(&ZelDataUtilities::createHeaderData);
-    expectOk({header->setTitle(model.title), header->setCreator(model.creator),
-              header->setDescription(model.description), header->setAppName(model.appName),
-              header->setAppVersion(model.appVersion), header->setKeywords(model.keywords),
-              header->setIPodExplicit(model.isExplicit), header->setVideoLength(model.length),
-              header->setVideoWidth(model.width), header->setVideoHeight(model.height),
-              header->setShowSearchBar(model.showsSearch)});
-    for (const std::string& name : model.contentNames)
-        EXPECT_EQ(ZelData_Ok, header->addContentName(name));
-    return header;
-}
-
 template <class Item>
-void setTexts(Item& item, const TextsByLanguage& texts)
+void setTexts(Item& item, const TextsByLanguage& texts, Look look)
 {
     for (const auto& [language, text] : texts)
-        EXPECT_EQ(ZelData_Ok, item.setTextForLanguage(text, language));
+        look({item.setTextForLanguage(text, language)});
 }
 
 template <class Item>
-void setImage(Item& item, const ImageModel& image)
+void setImage(Item& item, const ImageModel& image, Look look)
 {
-    expectOk({item.setImageFile(image.file), item.setImageIndex(image.index),
-              item.setImageOffset(image.offset)});
-}
-
-std::unique_ptr<i_ZelDataCaptions> captionsOf(const PacketModel& model)
-{
-    auto captions = make(&ZelDataUtilities::createCaptionData);
-    expectOk({captions->setFontFamily(model.fontFamily), captions->setFontSize(model.fontSize),
-              captions->setFrameRate(model.captionRate),
-              captions->setForegroundColor(1.0F, 0.5F, 0.0F),
-              captions->setBackgroundOpacity(0.25F)});
-    for (const CaptionModel& caption : model.captions) {
-        const auto item = make(&ZelDataUtilities::createCaptionItemData);
-        setTexts(*item, caption.texts);
-        expectOk({item->setStart(caption.start), item->setDuration(caption.duration),
-                  item->setAlignment(caption.isAtTop ? ZelAlignTop : ZelAlignBottom),
-                  captions->addCaptionItem(*item)});
-    }
-    return captions;
-}
-
-std::unique_ptr<i_ZelDataToc> tocOf(const PacketModel& model)
-{
-    auto toc = make(&ZelDataUtilities::createTocData);
-    EXPECT_EQ(ZelData_Ok, toc->setImageFile(model.tableImage));
-    for (const EntryModel& entry : model.entries) {
-        const auto item = make(&ZelDataUtilities::createTocItemData);
-        setTexts(*item, entry.texts);
-        setImage(*item, entry.image);
-        expectOk({item->setStart(entry.start), toc->addTocItem(*item)});
-    }
-    return toc;
-}
-
-std::unique_ptr<i_ZelDataScreenText> screenTextOf(const PacketModel& model)
-{
-    auto screenText = make(&ZelDataUtilities::createScreenTextData);
-    EXPECT_EQ(ZelData_Ok, screenText->setFrameRate(model.screenTextRate));
-    for (const ScreenTextModel& text : model.screenTexts) {
-        const auto item = make(&ZelDataUtilities::createScreenTextItemData);
-        setImage(*item, text.image);
-        expectOk({item->setText(text.text), item->setStart(text.start),
-                  item->setDuration(text.duration), item->setGroupId(text.group),
-                  screenText->addScreenTextItem(*item)});
-    }
-    return screenText;
+    look({item.setImageFile(image.file), item.setImageIndex(image.index),
+          item.setImageOffset(image.offset)});
 }
 
 /// The value of an attribute as a reader gives it: a line end counts as one character, and all white
@@ -120,6 +58,68 @@ const char* word(bool flag)
 std::string attribute(const char* name, const std::string& value)
 {
     return std::string(name) + '=' + inAttribute(value);
+}
+
+/// The character that @p reference, without its `&` and `;`, stands for.
+std::string referred(const std::string& reference)
+{
+    static const std::map<std::string, std::string> entities = {
+        {"quot", "\""}, {"amp", "&"}, {"apos", "'"}, {"lt", "<"}, {"gt", ">"}};
+    const auto entity = entities.find(reference);
+    if (entity != entities.end()) return entity->second;
+    if (reference.empty()) return {}; // in a packet that no reader takes
+    const bool isHexadecimal = reference.substr(0, 2) == "#x";
+    const char* const digits = reference.c_str() + (isHexadecimal ? 2 : 1);
+    return encoded(
+        static_cast<std::uint32_t>(std::strtoul(digits, nullptr, isHexadecimal ? 16 : 10)));
+}
+
+/// An attribute whose value is written as given, with references only if @p value has some.
+std::string given(const char* name, const std::string& value)
+{
+    std::string read;
+    std::string rest = inAttribute(value);
+    for (std::size_t at = rest.find('&'); at != std::string::npos; at = rest.find('&')) {
+        const std::size_t end = std::min(rest.find(';', at), rest.size() - 1);
+        read += rest.substr(0, at) + referred(rest.substr(at + 1, end - at - 1));
+        rest.erase(0, end + 1);
+    }
+    return std::string(name) + '=' + read + rest;
+}
+
+/// A colour component as a byte.
+std::string colorByte(const char* name, float component)
+{
+    const double scaled = static_cast<double>(component) * 255.0;
+    return std::string(name) + '=' +
+           std::to_string(std::isnan(scaled) ? 0 : static_cast<int>(scaled));
+}
+
+void appendColor(Record& record, const ColorModel& color)
+{
+    record.insert(record.end(),
+                  {colorByte("xmpG:red", color.red), colorByte("xmpG:green", color.green),
+                   colorByte("xmpG:blue", color.blue), "xmpG:mode=RGB"});
+}
+
+std::string fraction(const char* name, float value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%s=%g", name, static_cast<double>(value));
+    return text;
+}
+
+std::string vertical(ZelAlignment_tags alignment)
+{
+    return (alignment & ZelAlignBottom) != 0 ? "bottom"
+                                             : ((alignment & ZelAlignTop) != 0 ? "top" : "center");
+}
+
+std::string horizontal(ZelAlignment_tags alignment)
+{
+    return (alignment & ZelAlignLeft) != 0
+               ? "left"
+               : ((alignment & ZelAlignRight) != 0 ? "right" : "center");
 }
 
 template <class Number>
@@ -161,7 +161,7 @@ void appendLanguages(Record& record, const PacketModel& model)
     Strings languages = languagesOf(model.captions);
     if (languages.empty()) languages = {"en-US"};
     for (const std::string& language : languages) {
-        record.push_back(attribute("xml:lang", language));
+        record.push_back(given("xml:lang", language));
         record.push_back("text=" + languageNames().at(language.substr(0, 2)));
     }
 }
@@ -170,7 +170,7 @@ Record headerRecord(const PacketModel& model)
 {
     Record record = {"zel:version=1.1.0",
                      attribute("dc:title", model.title),
-                     attribute("dc:creator", model.creator),
+                     given("dc:creator", model.creator),
                      attribute("dc:Description", model.description),
                      attribute("dc:source", model.appName + " - " + model.appVersion),
                      attribute("zelDM:iPodExplicit", word(model.isExplicit)),
@@ -196,19 +196,20 @@ TrackReading captionTrack(const PacketModel& model)
 {
     TrackReading track = {
         {"xmpDM:trackType=Caption", "xmpDM:frameRate=f" + std::to_string(model.captionRate),
-         "xmpDM:trackName=Captioning", attribute("stFnt:fontFamily", model.fontFamily),
-         number("zelDM:fontSize", model.fontSize), "zelDM:bgOpacity=0.25", "xmpG:red=255",
-         "xmpG:green=127", "xmpG:blue=0", "xmpG:mode=RGB", "xmpG:red=0", "xmpG:green=0",
-         "xmpG:blue=0", "xmpG:mode=RGB"},
+         "xmpDM:trackName=Captioning", given("stFnt:fontFamily", model.fontFamily),
+         number("zelDM:fontSize", model.fontSize), fraction("zelDM:bgOpacity", model.opacity)},
         {}};
+    appendColor(track.head, model.foreground);
+    appendColor(track.head, model.background);
     for (const CaptionModel& caption : model.captions) {
         Record& record = track.items.emplace_back();
-        record = {
-            number("xmpDM:startTime", caption.start), number("xmpDM:duration", caption.duration),
-            attribute("zelDM:valign", caption.isAtTop ? "top" : "bottom"), "zelDM:halign=center"};
+        record = {number("xmpDM:startTime", caption.start),
+                  number("xmpDM:duration", caption.duration),
+                  attribute("zelDM:valign", vertical(caption.alignment)),
+                  attribute("zelDM:halign", horizontal(caption.alignment))};
         for (const std::string& language : languagesOf(model.captions)) {
             const std::string text = stripped(textIn(language, caption.texts));
-            record.push_back(attribute("xml:lang", language));
+            record.push_back(given("xml:lang", language));
             record.push_back("text=" + (text.empty() ? "{\\rtf1 }" : text));
         }
     }
@@ -241,7 +242,7 @@ TrackReading screenTextTrack(const PacketModel& model)
     for (const ScreenTextModel& text : model.screenTexts) {
         track.items.push_back(
             {attribute("xmpDM:name", stripped(text.text)), number("xmpDM:startTime", text.start),
-             number("xmpDM:duration", text.duration), attribute("xmpDM:image", text.image.file),
+             number("xmpDM:duration", text.duration), given("xmpDM:image", text.image.file),
              number("zelDM:imageindex", text.image.index),
              number("zelDM:imageoffset", text.image.offset), number("zelDM:tocEntry", text.group)});
     }
@@ -258,15 +259,85 @@ const std::map<std::string, std::string>& languageNames()
     return names;
 }
 
+void expectOk(std::initializer_list<ZelDataResult_tags> codes)
+{
+    for (const auto code : codes)
+        EXPECT_EQ(ZelData_Ok, code);
+}
+
+std::unique_ptr<i_ZelDataHeader> headerOf(const PacketModel& model, Look look)
+{
+    auto header = make(&ZelDataUtilities::createHeaderData);
+    look({header->setTitle(model.title), header->setCreator(model.creator),
+          header->setDescription(model.description), header->setAppName(model.appName),
+          header->setAppVersion(model.appVersion), header->setKeywords(model.keywords),
+          header->setIPodExplicit(model.isExplicit), header->setVideoLength(model.length),
+          header->setVideoWidth(model.width), header->setVideoHeight(model.height),
+          header->setShowSearchBar(model.showsSearch)});
+    for (const std::string& name : model.contentNames)
+        look({header->addContentName(name)});
+    return header;
+}
+
+std::unique_ptr<i_ZelDataCaptions> captionsOf(const PacketModel& model, Look look)
+{
+    auto captions = make(&ZelDataUtilities::createCaptionData);
+    const auto& [red, green, blue] = model.foreground;
+    const auto& [backRed, backGreen, backBlue] = model.background;
+    look({captions->setFontFamily(model.fontFamily), captions->setFontSize(model.fontSize),
+          captions->setFrameRate(model.captionRate), captions->setForegroundColor(red, green, blue),
+          captions->setBackgroundColor(backRed, backGreen, backBlue),
+          captions->setBackgroundOpacity(model.opacity)});
+    for (const CaptionModel& caption : model.captions) {
+        const auto item = make(&ZelDataUtilities::createCaptionItemData);
+        setTexts(*item, caption.texts, look);
+        look({item->setStart(caption.start), item->setDuration(caption.duration),
+              item->setAlignment(caption.alignment), captions->addCaptionItem(*item)});
+    }
+    return captions;
+}
+
+std::unique_ptr<i_ZelDataToc> tocOf(const PacketModel& model, Look look)
+{
+    auto toc = make(&ZelDataUtilities::createTocData);
+    look({toc->setImageFile(model.tableImage)});
+    for (const EntryModel& entry : model.entries) {
+        const auto item = make(&ZelDataUtilities::createTocItemData);
+        setTexts(*item, entry.texts, look);
+        setImage(*item, entry.image, look);
+        look({item->setStart(entry.start), toc->addTocItem(*item)});
+    }
+    return toc;
+}
+
+std::unique_ptr<i_ZelDataScreenText> screenTextOf(const PacketModel& model, Look look)
+{
+    auto screenText = make(&ZelDataUtilities::createScreenTextData);
+    look({screenText->setFrameRate(model.screenTextRate)});
+    for (const ScreenTextModel& text : model.screenTexts) {
+        const auto item = make(&ZelDataUtilities::createScreenTextItemData);
+        setImage(*item, text.image, look);
+        look({item->setText(text.text), item->setStart(text.start),
+              item->setDuration(text.duration), item->setGroupId(text.group),
+              screenText->addScreenTextItem(*item)});
+    }
+    return screenText;
+}
+
+std::unique_ptr<i_ZelInterchangeDataCore> documentOf(const PacketModel& model, Look look)
+{
+    std::unique_ptr<i_ZelInterchangeDataCore> document(ZELDataCreator::createInterchangeData());
+    if (model.hasHeader) look({document->setDataHeader(*headerOf(model, look))});
+    if (model.hasCaptions) look({document->setDataCaptions(*captionsOf(model, look))});
+    if (model.hasToc) look({document->setDataToc(*tocOf(model, look))});
+    if (model.hasScreenText) look({document->setDataScreenText(*screenTextOf(model, look))});
+    return document;
+}
+
 std::string packetOf(const PacketModel& model)
 {
-    const std::unique_ptr<i_ZelInterchangeDataCore> document(
-        ZELDataCreator::createInterchangeData());
-    expectOk({document->setDataHeader(*headerOf(model)),
-              document->setDataCaptions(*captionsOf(model)), document->setDataToc(*tocOf(model)),
-              document->setDataScreenText(*screenTextOf(model))});
     std::string packet;
-    EXPECT_EQ(ZelData_Ok, document->writeString(packet, ZelDataFormat_Xmp, false));
+    expectOk({documentOf(model, expectOk)->writeString(packet, ZelDataFormat_Xmp, false)});
     return packet;
 }
 

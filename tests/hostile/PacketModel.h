@@ -7,7 +7,9 @@
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "hostile/PacketReading.h"
 
+#include <initializer_list>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,7 +20,7 @@ using TextsByLanguage = std::map<std::string, std::string>;
 struct CaptionModel {
     long long start = 0;
     long long duration = 1;
-    bool isAtTop = false;
+    ZelAlignment_tags alignment = ZelAlignBottom;
     TextsByLanguage texts;
 };
 
@@ -42,7 +44,18 @@ struct ScreenTextModel {
     std::string text;
 };
 
+struct ColorModel {
+    float red;
+    float green;
+    float blue;
+};
+
 struct PacketModel {
+    bool hasHeader = true;
+    bool hasCaptions = true;
+    bool hasToc = true;
+    bool hasScreenText = true;
+
     std::string title;
     std::string creator;
     std::string description;
@@ -59,6 +72,9 @@ struct PacketModel {
     std::string fontFamily = "Helvetica";
     unsigned long fontSize = 20;
     unsigned long captionRate = 1000;
+    ColorModel foreground = {1.0F, 0.5F, 0.0F};
+    ColorModel background = {0.0F, 0.0F, 0.0F};
+    float opacity = 0.25F;
     std::vector<CaptionModel> captions;
 
     std::string tableImage;
@@ -67,6 +83,23 @@ struct PacketModel {
     unsigned long screenTextRate = 1000;
     std::vector<ScreenTextModel> screenTexts;
 };
+
+/// What a test does with the codes of its calls.
+using Look = void (*)(std::initializer_list<ZelDataResult_tags>);
+
+/// Expects that all calls succeeded.
+void expectOk(std::initializer_list<ZelDataResult_tags> codes);
+
+/// The data sets of @p model. They may refuse some of its values.
+/// @{
+std::unique_ptr<i_ZelDataHeader> headerOf(const PacketModel& model, Look look);
+std::unique_ptr<i_ZelDataCaptions> captionsOf(const PacketModel& model, Look look);
+std::unique_ptr<i_ZelDataToc> tocOf(const PacketModel& model, Look look);
+std::unique_ptr<i_ZelDataScreenText> screenTextOf(const PacketModel& model, Look look);
+/// @}
+
+/// A document that holds @p model.
+std::unique_ptr<i_ZelInterchangeDataCore> documentOf(const PacketModel& model, Look look);
 
 /// The packet that the library writes for @p model. Each step must succeed.
 std::string packetOf(const PacketModel& model);

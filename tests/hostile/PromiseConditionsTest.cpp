@@ -43,7 +43,7 @@ const std::vector<Field>& trackFields()
     static const std::vector<Field> fields = {
         {"language ID",
          [](Model& m, const Text& t) {
-             m.captions = {{0, 1, false, {{"en-" + t, "text"}}}};
+             m.captions = {{0, 1, ZelAlignBottom, {{"en-" + t, "text"}}}};
          },
          false, false, true},
         {"font family", [](Model& m, const Text& t) { m.fontFamily = t; }, false, false, false},

@@ -146,6 +146,10 @@ void addUtilityNumbers(NumberParameters& list)
     addText<long>(
         list, of + "getDateString 1", instants(),
         [](long seconds) { return U::getDateString(&seconds); }, date);
+    list.push_back({"toString 1", [] {
+                        for (const auto kind : extremesOfEnumeration<ZelDataFinding_tags>())
+                            EXPECT_EQ(0U, std::string(toString(kind)).find("ZelDataFinding_"));
+                    }});
     addFactory(list, "createHeaderFormatter", U::createHeaderFormatter);
     addFactory(list, "createCaptionFormatter", U::createCaptionFormatter);
     addFactory(list, "createTocFormatter", U::createTocFormatter);

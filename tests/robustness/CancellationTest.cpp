@@ -312,6 +312,60 @@ TEST(Cancellation, InsideSetsOfADocument)
         80);
 }
 
+/// A document whose thread may end before and after it writes its packet.
+struct EndingDocument : ZelDataCoreXmp {
+    ZelDataResult_tags writeString(std::string& out, ZelDataFormatType_tags format,
+                                   bool append) const override
+    {
+        if (beforeEachCall()) beforeEachCall()();
+        const auto code = ZelDataCoreXmp::writeString(out, format, append);
+        if (beforeEachCall()) beforeEachCall()();
+        return code;
+    }
+};
+
+TEST(Cancellation, InsideADocumentThatReplacesAFile)
+{
+    expectEveryEnd(
+        [] {
+            const auto document = std::make_shared<EndingDocument>();
+            EXPECT_EQ(ZelData_Ok, document->setDataHeader(*filledHeader()));
+            const auto file = std::make_shared<TempFile>();
+            file->fill("old");
+            const auto act = [=] {
+                EXPECT_EQ("old", file->bytes());
+                int systemError = -1;
+                return replaceFile(*document, file->path(), systemError);
+            };
+            return Scene{act, [=] { return dateMasked(file->bytes()); }};
+        },
+        2);
+}
+
+/// Cancelled at the first system call that can end the thread, it would leave the new file beside the old
+/// one.
+TEST(Cancellation, WaitsUntilAFileIsReplaced)
+{
+    const auto document = filledDocument<ZelDataCore>();
+    const TempFile file;
+    file.fill("old");
+    auto code = ZelData_NoData;
+    bool isEnabled = false;
+    EndingThread thread([&] {
+        pthread_cancel(pthread_self());
+        int systemError = -1;
+        code = replaceFile(*document, file.path(), systemError);
+        int state = PTHREAD_CANCEL_DISABLE;
+        pthread_setcancelstate(PTHREAD_CANCEL_ENABLE, &state);
+        isEnabled = state == PTHREAD_CANCEL_ENABLE;
+        pthread_testcancel();
+    });
+    EXPECT_FALSE(thread.join());
+    EXPECT_EQ(ZelData_Ok, code);
+    EXPECT_TRUE(isEnabled);
+    EXPECT_NE(std::string::npos, file.bytes().find("</x:xmpmeta>"));
+}
+
 TEST(Cancellation, InsideASetThatADocumentFills)
 {
     expectEveryEnd(

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <exception>
 #include <filesystem>
+#include <grp.h>
 #include <iostream>
 #include <iterator>
 #include <sys/wait.h>
@@ -58,6 +59,13 @@ std::string inChild(const std::function<std::string()>& body)
     int status = 0;
     if (child < 0 || waitpid(child, &status, 0) != child) return "no child";
     return status == 0 ? said : "died with status " + std::to_string(status);
+}
+
+bool becomeNobody()
+{
+    constexpr uid_t nobody = 65534;
+    if (geteuid() != 0) return true;
+    return setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0;
 }
 
 std::size_t openDescriptors()

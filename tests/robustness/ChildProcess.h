@@ -16,6 +16,9 @@ inline const std::string fine = "fine";
 /// limits, its mounts. Returns what it reports, or "died" and the status if the process ends first.
 std::string inChild(const std::function<std::string()>& body);
 
+/// Makes this process run as a user without rights. Returns whether it does.
+bool becomeNobody();
+
 /// How many descriptors of this process are open.
 std::size_t openDescriptors();
 

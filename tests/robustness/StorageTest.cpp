@@ -4,6 +4,7 @@
 #include "core/TempFile.h"
 #include "robustness/ChildProcess.h"
 #include "robustness/Contents.h"
+#include "robustness/SmallFileSystem.h"
 #include "robustness/Subjects.h"
 #include "robustness/Writes.h"
 #include "support/ScratchFolder.h"
@@ -13,9 +14,6 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <grp.h>
-#include <sched.h>
 #include <string>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -137,14 +135,6 @@ TYPED_TEST(Storage, APathWithAZeroByteTouchesNoFile)
     EXPECT_TRUE(folder.isEmpty());
 }
 
-/// Makes this process run as a user without rights. Returns whether it does.
-bool becomeNobody()
-{
-    constexpr uid_t nobody = 65534;
-    if (geteuid() != 0) return true;
-    return setgroups(0, nullptr) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0;
-}
-
 TYPED_TEST(Storage, AFileThatIsReadOnlyCannotBeOpened)
 {
     const TempFile file;
@@ -188,41 +178,6 @@ TYPED_TEST(Storage, AFullDeviceIsNotReported)
     const Writes writes;
     EXPECT_EQ(ZelData_Ok, this->write("/dev/full"));
     EXPECT_GT(writes.count(), 0U);
-}
-
-void put(const std::string& path, const std::string& bytes)
-{
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
-/// Keeps the user and the group of this process in its new user namespace.
-void mapUser(uid_t user, gid_t group)
-{
-    put("/proc/self/setgroups", "deny");
-    put("/proc/self/uid_map", std::to_string(user) + " " + std::to_string(user) + " 1");
-    put("/proc/self/gid_map", std::to_string(group) + " " + std::to_string(group) + " 1");
-}
-
-/// Gives this process a file system of its own at @p folder that holds 16 KiB. Returns
-/// nothing, or a refusal.
-std::string mountSmallFileSystem(const std::string& folder)
-{
-    const uid_t user = geteuid();
-    const gid_t group = getegid();
-    if (unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0)
-        return refusal("a mount name space");
-    if (user != 0) mapUser(user, group);
-    if (mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        mount("none", folder.c_str(), "tmpfs", 0, "size=16k,mode=0777") != 0) {
-        return refusal("a mount");
-    }
-    return "";
-}
-
-/// Fills the file system at @p folder but for @p left bytes.
-void fillUp(const std::string& folder, std::size_t left)
-{
-    put(folder + "/filler", std::string(16384 - left, 'f'));
 }
 
 /// What a child reports when writing gave @p code and the file holds @p bytes: "fine" if they are the

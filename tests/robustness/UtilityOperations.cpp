@@ -127,7 +127,18 @@ void addUtilityOperations(OperationList& list)
     addFindProblems(of, "i_ZelDataCaptions", given<filledCaptions>);
     addFindProblems(of, "i_ZelDataToc", given<filledToc>);
     addFindProblems(of, "i_ZelDataScreenText", given<filledScreenText>);
+    const auto replace = [](const std::string& path) {
+        int systemError = 0;
+        return replaceFile(given<filledDocument<ZelDataCore>>(), path, systemError);
+    };
+    of.add("replaceFile", replace, &Outs::file);
+    addFindProblems(of, "i_ZelDataHeader", given<filledHeader>);
+    addFindProblems(of, "i_ZelInterchangeDataCore", given<filledDocument<ZelDataCore>>);
     of.addText("describe", [] { return describe(given<firstFinding>()); });
+    of.addText("toString", [] { return std::string(toString(ZelDataFinding_MissingText)); });
+    of.addText("severityOf",
+               [] { return getValueString(static_cast<long>(severityOf(given<firstFinding>()))); });
+    of.addText("codeOf", [] { return std::string(toString(codeOf(given<firstFinding>()))); });
     of.addText("libraryVersion", [] { return getValueString(libraryVersion()); });
     of.addText("getValueString", [] { return getValueString(-9223372036854775807L); });
     const auto create = [](i_ZelInterchangeDataCore** document) {

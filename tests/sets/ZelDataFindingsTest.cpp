@@ -13,6 +13,8 @@ namespace {
 constexpr auto caption = ZelDataFindingSubject_Caption;
 constexpr auto entry = ZelDataFindingSubject_TocEntry;
 constexpr auto screenText = ZelDataFindingSubject_ScreenText;
+constexpr auto header = ZelDataFindingSubject_Header;
+constexpr auto document = ZelDataFindingSubject_Document;
 
 /// A finding with a value and a limit.
 ZelDataFinding limited(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject,
@@ -54,25 +56,99 @@ TEST(ZelDataFinding, HasTheLayoutThatCallersWereCompiledWith)
     EXPECT_EQ(120, placeOf(finding, finding.laterStart));
 }
 
-TEST(ZelDataFinding, KindsAndSubjectsKeepTheirNumbers)
+constexpr auto warning = ZelDataFindingSeverity_Warning;
+constexpr auto error = ZelDataFindingSeverity_Error;
+
+/// What is documented about a kind.
+struct Kind {
+    ZelDataFinding_tags kind;
+    const char* name;
+    ZelDataFindingSeverity_tags severity;
+    ZelDataResult_tags code;
+};
+
+/// All kinds in the order of their numbers, which begin at 1.
+const std::vector<Kind>& kinds()
 {
-    const std::vector<ZelDataFinding_tags> kinds = {ZelDataFinding_FrameRateOutOfRange,
-                                                    ZelDataFinding_FontFamilyMissing,
-                                                    ZelDataFinding_FontSizeOutOfRange,
-                                                    ZelDataFinding_ColorOutOfRange,
-                                                    ZelDataFinding_NoDuration,
-                                                    ZelDataFinding_TooShort,
-                                                    ZelDataFinding_BadText,
-                                                    ZelDataFinding_BadLanguage,
-                                                    ZelDataFinding_TooManyLines,
-                                                    ZelDataFinding_MissingText,
-                                                    ZelDataFinding_Overlap,
-                                                    ZelDataFinding_OutOfOrder};
-    for (std::size_t i = 0; i < kinds.size(); ++i)
-        EXPECT_EQ(i + 1, static_cast<std::uint32_t>(kinds[i]));
+    constexpr auto invalid = ZelData_InvalidArgument;
+    static const std::vector<Kind> all = {
+        {ZelDataFinding_FrameRateOutOfRange, "FrameRateOutOfRange", error, invalid},
+        {ZelDataFinding_FontFamilyMissing, "FontFamilyMissing", error, invalid},
+        {ZelDataFinding_FontSizeOutOfRange, "FontSizeOutOfRange", error, invalid},
+        {ZelDataFinding_ColorOutOfRange, "ColorOutOfRange", error, invalid},
+        {ZelDataFinding_NoDuration, "NoDuration", error, ZelData_InvalidItem},
+        {ZelDataFinding_TooShort, "TooShort", warning, ZelData_WarnItemGuidelines},
+        {ZelDataFinding_BadText, "BadText", error, ZelData_InvalidItem},
+        {ZelDataFinding_BadLanguage, "BadLanguage", error, ZelData_InvalidItem},
+        {ZelDataFinding_TooManyLines, "TooManyLines", warning, ZelData_WarnItemGuidelines},
+        {ZelDataFinding_MissingText, "MissingText", warning, invalid},
+        {ZelDataFinding_Overlap, "Overlap", warning, ZelData_WarnTiming},
+        {ZelDataFinding_OutOfOrder, "OutOfOrder", warning, ZelData_WarnTiming},
+        {ZelDataFinding_HeaderMissing, "HeaderMissing", error, ZelData_Ok},
+        {ZelDataFinding_SizeMissing, "SizeMissing", error, invalid},
+        {ZelDataFinding_ListedTwice, "ListedTwice", error, ZelData_Ok},
+        {ZelDataFinding_NotEscaped, "NotEscaped", error, ZelData_Ok},
+        {ZelDataFinding_ControlCharacter, "ControlCharacter", error, ZelData_Ok},
+        {ZelDataFinding_NotStrictUtf8, "NotStrictUtf8", error, ZelData_Ok},
+        {ZelDataFinding_ForbiddenCharacter, "ForbiddenCharacter", error, ZelData_Ok},
+        {ZelDataFinding_NoItems, "NoItems", warning, ZelData_Ok},
+        {ZelDataFinding_NoText, "NoText", warning, ZelData_Ok},
+        {ZelDataFinding_EmptyText, "EmptyText", warning, ZelData_Ok},
+        {ZelDataFinding_EntryMissing, "EntryMissing", warning, ZelData_Ok},
+        {ZelDataFinding_NotMilliseconds, "NotMilliseconds", warning, ZelData_Ok}};
+    return all;
+}
+
+TEST(ZelDataFinding, KindsSubjectsAndSeveritiesKeepTheirNumbers)
+{
+    for (std::size_t i = 0; i < kinds().size(); ++i)
+        EXPECT_EQ(i + 1, static_cast<std::uint32_t>(kinds()[i].kind));
     EXPECT_EQ(1U, static_cast<std::uint32_t>(caption));
     EXPECT_EQ(2U, static_cast<std::uint32_t>(entry));
     EXPECT_EQ(3U, static_cast<std::uint32_t>(screenText));
+    EXPECT_EQ(4U, static_cast<std::uint32_t>(header));
+    EXPECT_EQ(5U, static_cast<std::uint32_t>(document));
+    EXPECT_EQ(1U, static_cast<std::uint32_t>(warning));
+    EXPECT_EQ(2U, static_cast<std::uint32_t>(error));
+}
+
+TEST(ZelDataFinding, EachKindHasAName)
+{
+    for (const Kind& kind : kinds())
+        EXPECT_EQ(std::string("ZelDataFinding_") + kind.name, toString(kind.kind));
+    for (const std::uint32_t number : {0U, 25U, 0xFFFFFFFFU})
+        EXPECT_STREQ("ZelDataFinding_Unknown", toString(static_cast<ZelDataFinding_tags>(number)));
+}
+
+TEST(ZelDataFinding, EachKindHasASeverityAndACode)
+{
+    for (const Kind& kind : kinds()) {
+        const ZelDataFinding finding = findingIn(kind.kind, caption);
+        EXPECT_EQ(kind.severity, severityOf(finding)) << kind.name;
+        EXPECT_EQ(kind.code, codeOf(finding)) << kind.name;
+    }
+    EXPECT_EQ(warning, severityOf(ZelDataFinding()));
+    EXPECT_EQ(ZelData_Ok, codeOf(ZelDataFinding()));
+}
+
+TEST(ZelDataFinding, TheFrameRateOfATableIsNeverAnErrorBecauseNoDocumentCopiesIt)
+{
+    const auto severity = [](ZelDataFindingSubject_tags subject) {
+        return severityOf(findingIn(ZelDataFinding_FrameRateOutOfRange, subject));
+    };
+    EXPECT_EQ(error, severity(caption));
+    EXPECT_EQ(warning, severity(entry));
+    EXPECT_EQ(error, severity(screenText));
+    EXPECT_EQ(error, severityOf(findingIn(ZelDataFinding_BadText, entry)));
+}
+
+TEST(ZelDataFinding, TheCheckOfAHeaderKnowsOnlyItsSizes)
+{
+    for (const Kind& kind : kinds()) {
+        const bool isSize = kind.kind == ZelDataFinding_SizeMissing;
+        EXPECT_EQ(isSize ? ZelData_InvalidArgument : ZelData_Ok,
+                  codeOf(findingIn(kind.kind, header)));
+    }
 }
 
 TEST(DescribeFinding, DurationsOfCaptions)
@@ -144,6 +220,57 @@ TEST(DescribeFinding, Styling)
               describe(color("background opacity", -0.25F, 0)));
 }
 
+TEST(DescribeFinding, HeadersAndDocuments)
+{
+    EXPECT_EQ("document: no header", describe(findingIn(ZelDataFinding_HeaderMissing, document)));
+    EXPECT_EQ("header: no video length",
+              describe(findingIn(ZelDataFinding_SizeMissing, header, "video length")));
+    EXPECT_EQ(
+        "header: the language en is listed before",
+        describe(inLanguage(findingIn(ZelDataFinding_ListedTwice, header, "language"), "en")));
+    ZelDataFinding name = findingIn(ZelDataFinding_ListedTwice, header, "content name");
+    name.item = 2;
+    EXPECT_EQ("header: content name 2 is listed before", describe(name));
+    EXPECT_EQ("captions: no items, so no track",
+              describe(findingIn(ZelDataFinding_NoItems, caption)));
+    EXPECT_EQ("screen texts: times are not milliseconds (frame rate 25, not 1000)",
+              describe(limited(findingIn(ZelDataFinding_NotMilliseconds, screenText), 25, 1000)));
+}
+
+TEST(DescribeFinding, FaultsInTexts)
+{
+    const auto fault = [](ZelDataFinding finding, const std::string& property) {
+        finding.property = property;
+        finding.value = 4;
+        return describe(finding);
+    };
+    EXPECT_EQ("header: the creator has an unescaped \", & or < at byte 4",
+              fault(findingIn(ZelDataFinding_NotEscaped, header), "creator"));
+    EXPECT_EQ("header: keyword 3 has a control character at byte 4",
+              fault(findingAt(ZelDataFinding_ControlCharacter, header, 3, 0), "keyword"));
+    EXPECT_EQ(
+        "caption 1 at 9 ms: the text in de is not strict UTF-8 at byte 4",
+        fault(inLanguage(findingAt(ZelDataFinding_NotStrictUtf8, caption, 1, 9), "de"), "text"));
+    EXPECT_EQ("screen text 1 at 9: the image has U+FFFE or U+FFFF at byte 4",
+              fault(findingAt(ZelDataFinding_ForbiddenCharacter, screenText, 1, 9), "image"));
+    EXPECT_EQ("captions: the language en-\\x01 has a control character at byte 4",
+              fault(inLanguage(findingIn(ZelDataFinding_ControlCharacter, caption), "en-\x01"),
+                    "language"));
+}
+
+TEST(DescribeFinding, WhatThePacketLacks)
+{
+    EXPECT_EQ("caption 0 at 7 ms: no text in any language",
+              describe(findingAt(ZelDataFinding_NoText, caption, 0, 7)));
+    EXPECT_EQ("caption 0 at 7 ms: the text in de is empty",
+              describe(inLanguage(findingAt(ZelDataFinding_EmptyText, caption, 0, 7), "de")));
+    const auto group = findingAt(ZelDataFinding_EntryMissing, screenText, 0, 7);
+    EXPECT_EQ("screen text 0 at 7: no entry 5 in the table of contents, the last is 0",
+              describe(limited(group, 5, 0)));
+    EXPECT_EQ("screen text 0 at 7: no entry 5 in the table of contents, which has none",
+              describe(limited(group, 5, -1)));
+}
+
 TEST(DescribeFinding, ALanguageStaysOnItsLine)
 {
     const auto line = [](const std::string& language) {
@@ -171,8 +298,8 @@ TEST(DescribeFinding, AnUndefinedKindIsUnknown)
 {
     EXPECT_EQ("collection: unknown finding", describe(ZelDataFinding()));
     EXPECT_EQ("item 3 at 5: unknown finding",
-              describe(findingAt(static_cast<ZelDataFinding_tags>(13),
-                                 static_cast<ZelDataFindingSubject_tags>(4), 3, 5)));
+              describe(findingAt(static_cast<ZelDataFinding_tags>(25),
+                                 static_cast<ZelDataFindingSubject_tags>(6), 3, 5)));
 }
 
 } // namespace

@@ -40,6 +40,17 @@ inline void PrintTo(const ZelDataFinding& finding, std::ostream* out)
     *out << describe(finding) << " [value " << finding.value << " limit " << finding.limit << ']';
 }
 
+/// A finding of @p kind about @p subject itself.
+inline ZelDataFinding findingIn(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject,
+                                const std::string& property = {})
+{
+    ZelDataFinding finding;
+    finding.kind = kind;
+    finding.subject = subject;
+    finding.property = property;
+    return finding;
+}
+
 /// A finding of @p kind about the item at @p item, which starts at @p start.
 inline ZelDataFinding findingAt(ZelDataFinding_tags kind, ZelDataFindingSubject_tags subject,
                                 std::size_t item, long long start)
@@ -100,34 +111,10 @@ std::vector<std::string> linesOf(const Collection& collection)
     return lines;
 }
 
-/// The code with which isValid(true) would report @p kind.
-inline ZelDataResult_tags codeFor(ZelDataFinding_tags kind)
-{
-    switch (kind) {
-    case ZelDataFinding_FrameRateOutOfRange:
-    case ZelDataFinding_FontFamilyMissing:
-    case ZelDataFinding_FontSizeOutOfRange:
-    case ZelDataFinding_ColorOutOfRange:
-    case ZelDataFinding_MissingText:
-        return ZelData_InvalidArgument;
-    case ZelDataFinding_NoDuration:
-    case ZelDataFinding_BadText:
-    case ZelDataFinding_BadLanguage:
-        return ZelData_InvalidItem;
-    case ZelDataFinding_TooShort:
-    case ZelDataFinding_TooManyLines:
-        return ZelData_WarnItemGuidelines;
-    case ZelDataFinding_Overlap:
-    case ZelDataFinding_OutOfOrder:
-        return ZelData_WarnTiming;
-    }
-    return ZelData_NotImplemented;
-}
-
 /// The code that isValid(true) must return for @p findings.
 inline ZelDataResult_tags codeFor(const Findings& findings)
 {
-    return findings.empty() ? ZelData_Ok : codeFor(findings.front().kind);
+    return findings.empty() ? ZelData_Ok : codeOf(findings.front());
 }
 
 /// Expects of many random collections that findProblems() finds what must be found and agrees with

@@ -15,11 +15,11 @@ namespace ZelInterchangeData {
 /// A new folder, removed at the end with all that is in it.
 class ScratchFolder {
 public:
-    ScratchFolder() { std::filesystem::create_directory(path()); }
+    ScratchFolder() { std::filesystem::create_directory(systemPath()); }
     ~ScratchFolder()
     {
         std::error_code ignored;
-        std::filesystem::remove_all(path(), ignored);
+        std::filesystem::remove_all(systemPath(), ignored);
     }
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
@@ -28,17 +28,19 @@ public:
     /// The path of a file named @p name, which is used as it is.
     std::string pathOf(const std::string& name) const { return path() + "/" + name; }
 
-    bool isEmpty() const { return std::filesystem::is_empty(path()); }
+    bool isEmpty() const { return std::filesystem::is_empty(systemPath()); }
     /// The names of all files, byte for byte.
     std::vector<std::string> names() const
     {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path()))
-            names.push_back(entry.path().filename().native());
+        for (const auto& entry : std::filesystem::directory_iterator(systemPath()))
+            names.push_back(entry.path().filename().u8string());
         return names;
     }
 
 private:
+    std::filesystem::path systemPath() const { return std::filesystem::u8path(path()); }
+
     TempFile place_;
 };
 
