@@ -166,6 +166,10 @@ ZelDataResult_tags ZelDataCaptions::clearCaptionItems()
 ZelDataResult_tags ZelDataCaptions::addCaptionItem(const i_ZelDataCaptionItem& item)
 {
     return store(guarded([&] {
+        if (const auto* own = exactly<ZelDataCaptionItem>(item);
+            own && exactly<ZelDataCaptions>(*this)) {
+            return addOwnWithLanguages(*own, items_);
+        }
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
         return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });

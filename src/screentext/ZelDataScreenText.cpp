@@ -78,6 +78,10 @@ ZelDataResult_tags ZelDataScreenText::clearScreenTextItems()
 ZelDataResult_tags ZelDataScreenText::addScreenTextItem(const i_ZelDataScreenTextItem& item)
 {
     return store(guarded([&] {
+        if (const auto* own = exactly<ZelDataScreenTextItem>(item);
+            own && exactly<ZelDataScreenText>(*this)) {
+            return items_.appendCopyOf(*own, [](const ScreenTextState&) {});
+        }
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
         items_.append(std::move(copy.item));

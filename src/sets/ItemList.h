@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -50,6 +49,7 @@ public:
     {
         slots_ = std::move(other.slots_);
         summary_ = std::move(other.summary_);
+        isSummaryKnown_ = other.isSummaryKnown_;
         return *this;
     }
 
@@ -62,6 +62,7 @@ public:
     {
         slots_.reset();
         summary_ = Summary();
+        isSummaryKnown_ = true;
     }
 
     /// The state of the item at @p index, which is one of our own.
@@ -70,7 +71,7 @@ public:
     /// The same, for changing it.
     State& changeState(unsigned long index)
     {
-        summary_.reset();
+        isSummaryKnown_ = false;
         return slots_.write()[index].state;
     }
 
@@ -85,27 +86,43 @@ public:
     /// The summary of all items, which are our own.
     const Summary& summary() const
     {
-        if (!summary_) {
-            Summary made;
+        if (!isSummaryKnown_) {
+            summary_ = Summary();
             for (const Slot& slot : slots_.read())
-                made.add(slot.state);
-            summary_ = std::move(made);
+                summary_.add(slot.state);
+            isSummaryKnown_ = true;
         }
-        return *summary_;
+        return summary_;
+    }
+
+    /// Appends an item of our own that has @p state.
+    void append(State state)
+    {
+        const bool wasKnown = std::exchange(isSummaryKnown_, false); // until the item is in
+        if (wasKnown) summary_.add(state);
+        slots_.write().push_back({std::move(state), nullptr});
+        isSummaryKnown_ = wasKnown;
     }
 
     void append(std::unique_ptr<Item> item)
     {
-        auto known = std::exchange(summary_, std::nullopt); // restored once the item is in
-        Slot slot;
         if (const auto* own = exactly<Own>(std::as_const(*item))) {
-            slot.state = own->state();
-            if (known) known->add(slot.state);
+            append(own->state());
         } else {
-            slot.foreign = std::move(item);
+            slots_.write().push_back({State(), std::move(item)});
         }
-        slots_.write().push_back(std::move(slot));
-        summary_ = std::move(known);
+    }
+
+    /// Appends a copy of @p item, as copyItem() and append() would if the factory made one of our own,
+    /// but without making one. Calls @p announce with its state first.
+    template <class Announce>
+    ZelDataResult_tags appendCopyOf(const Own& item, Announce&& announce)
+    {
+        Own copy;
+        if (failed(copy.copyOwn(item))) return copy.getLastError();
+        announce(copy.state());
+        append(copy.takeState());
+        return ZelData_Ok;
     }
 
     /// Calls @p changeState with the state of each item that is one of our own, and @p changeItem
@@ -178,7 +195,7 @@ public:
     ZelDataResult_tags removeAt(unsigned long index)
     {
         if (index >= count()) return ZelData_InvalidArgument;
-        summary_.reset();
+        isSummaryKnown_ = false;
         slots_.write().erase(index);
         return ZelData_Ok;
     }
@@ -244,7 +261,7 @@ private:
         const Ending ending = change(slots);
         if (&slots_.read() != &before.read()) return ZelData_InternalError;
         slots_ = CopyOnWrite<Slots>(std::move(slots));
-        summary_.reset();
+        isSummaryKnown_ = false;
         return ending;
     }
 
@@ -289,7 +306,8 @@ private:
     }
 
     CopyOnWrite<Slots> slots_;
-    mutable std::optional<Summary> summary_ = Summary(); // empty if unknown
+    mutable Summary summary_;
+    mutable bool isSummaryKnown_ = true;
 };
 
 } // namespace ZelInterchangeData

@@ -13,6 +13,8 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ZelInterchangeData {
@@ -84,17 +86,37 @@ protected:
     template <class Item, class Append>
     ZelDataResult_tags addWithLanguages(const Item& item, Append&& append)
     {
-        const std::size_t listed = languageIDs().size();
-        const auto added = guarded([&] {
+        return undoLanguagesIfOutOfMemory([&] {
             if (const Ending ending = addLanguagesOf(item)) return *ending;
             append();
             return ZelData_Ok;
         });
+    }
+
+    /// Appends a copy of @p item to @p items and lists its languages, which were checked when they
+    /// were set. If memory runs out, lists none.
+    template <class Items, class Own>
+    ZelDataResult_tags addOwnWithLanguages(const Own& item, Items& items)
+    {
+        return undoLanguagesIfOutOfMemory([&] {
+            return items.appendCopyOf(item, [this](const auto& state) {
+                state.texts().forEach([this](std::string_view id, std::string_view /*text*/) {
+                    languages_.addChecked(id);
+                });
+            });
+        });
+    }
+
+private:
+    template <class Add>
+    ZelDataResult_tags undoLanguagesIfOutOfMemory(Add&& add)
+    {
+        const std::size_t listed = languageIDs().size();
+        const auto added = guarded(std::forward<Add>(add));
         if (added == ZelData_OutOfMemory) languages_.truncate(listed);
         return added;
     }
 
-private:
     /// Lists the languages of @p item in ascending order. Ends with an error; a language that is
     /// already listed is not an error.
     template <class Item>

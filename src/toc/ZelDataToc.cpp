@@ -92,6 +92,9 @@ ZelDataResult_tags ZelDataToc::clearTocItems()
 ZelDataResult_tags ZelDataToc::addTocItem(const i_ZelDataTocItem& item)
 {
     return store(guarded([&] {
+        if (const auto* own = exactly<ZelDataTocItem>(item); own && exactly<ZelDataToc>(*this)) {
+            return addOwnWithLanguages(*own, items_);
+        }
         auto copy = copyItem(item, newItem());
         if (!copy.item) return copy.code;
         return addWithLanguages(*copy.item, [&] { items_.append(std::move(copy.item)); });

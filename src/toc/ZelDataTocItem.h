@@ -70,6 +70,8 @@ public:
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
 
     const TocEntryState& state() const noexcept { return state_; }
+    /// Returns the state, which this entry then no longer has.
+    TocEntryState takeState() noexcept { return std::move(state_); }
     /// As copyFrom(), with the same codes and last errors, but shares the strings: those of our own
     /// entries were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataTocItem& other);

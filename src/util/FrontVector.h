@@ -41,7 +41,7 @@ public:
     auto end() noexcept { return values_.end(); }
 
     void reserve(std::size_t size) { values_.reserve(front_ + size); }
-    void push_back(Value value) { values_.push_back(std::move(value)); }
+    void push_back(Value&& value) { values_.push_back(std::move(value)); }
 
     void erase(std::size_t index)
     {

@@ -221,6 +221,39 @@ TYPED_TEST(CopyShortcut, CopiesOfCollectionsAreTheSame)
     expectTheSameCopies<TypeParam, typename TypeParam::Data, typename TypeParam::Own>();
 }
 
+/// The code, the last errors of both sides, and then what both hold.
+template <class Kind>
+std::string added(typename Kind::Data& collection, const typename Kind::Item& item)
+{
+    item.setLastError(ZelData_NoData);
+    const auto code = (collection.*Kind::add)(item);
+    std::ostringstream out;
+    out << std::hex << code << ' ' << collection.getLastError() << ' ' << item.getLastError()
+        << '\n'
+        << described<Kind>(collection) << "item\n"
+        << described<Kind>(item);
+    return out.str() + written<Kind>(collection);
+}
+
+TYPED_TEST(CopyShortcut, AddingAnItemIsTheSame)
+{
+    using Data = typename TypeParam::Data;
+    using Item = typename TypeParam::Item;
+    using Own = typename TypeParam::Own;
+    using OwnItem = typename TypeParam::OwnItem;
+    for (std::uint64_t seed = 1; seed <= seeds; ++seed) {
+        const auto add = [seed](Data&& collection, Item&& item) {
+            Dice dice(seed);
+            fillRandomly<TypeParam>(collection, dice);
+            fillRandomly<TypeParam>(item, dice);
+            return added<TypeParam>(collection, item);
+        };
+        const std::string expected = add(Own(), OwnItem());
+        ASSERT_EQ(expected, add(Own(), Derived<OwnItem>())) << "seed " << seed;
+        ASSERT_EQ(expected, add(Derived<Own>(), OwnItem())) << "seed " << seed;
+    }
+}
+
 TYPED_TEST(CopyShortcut, TracksAreTheSame)
 {
     for (std::uint64_t seed = 1; seed <= seeds; ++seed) {
