@@ -12,7 +12,8 @@ ZelDataResult_tags ZelDataUtilities::createHeaderData(i_ZelDataHeader** out)
 
 ZelDataResult_tags ZelDataHeader::isValid() const
 {
-    const bool complete = videoLength_ != 0 && videoWidth_ != 0 && videoHeight_ != 0;
+    const bool complete =
+        fields_.videoLength != 0 && fields_.videoWidth != 0 && fields_.videoHeight != 0;
     return store(complete ? ZelData_Ok : ZelData_InvalidArgument);
 }
 
@@ -20,89 +21,100 @@ ZelDataResult_tags ZelDataHeader::clearHeader()
 {
     // Deliberate: search-bar flag and content names stay; otherwise, clearing would reset them,
     // too.
-    iPodExplicit_ = false;
-    for (std::string* text : {&appName_, &appVersion_, &title_, &creator_, &description_}) {
-        text->clear();
-    }
-    videoLength_ = 0;
-    videoWidth_ = 0;
-    videoHeight_ = 0;
-    keywords_.clear();
+    fields_ = HeaderFields();
     languages().clear();
     return store(ZelData_Ok);
 }
 
 // Fields
 
+ZelDataResult_tags ZelDataHeader::setText(SharedText HeaderFields::*text, const std::string& value)
+{
+    return store(guarded([&] {
+        fields_.*text = SharedText(value);
+        return ZelData_Ok;
+    }));
+}
+
+ZelDataResult_tags ZelDataHeader::getText(SharedText HeaderFields::*text, std::string& value) const
+{
+    return store(guardedCopy(value, (fields_.*text).view()));
+}
+
 ZelDataResult_tags ZelDataHeader::setAppName(const std::string& name)
 {
-    return store(guardedCopy(appName_, name));
+    return setText(&HeaderFields::appName, name);
 }
 
 ZelDataResult_tags ZelDataHeader::getAppName(std::string& name) const
 {
-    return store(guardedCopy(name, appName_));
+    return getText(&HeaderFields::appName, name);
 }
 
 ZelDataResult_tags ZelDataHeader::setAppVersion(const std::string& version)
 {
-    return store(guardedCopy(appVersion_, version));
+    return setText(&HeaderFields::appVersion, version);
 }
 
 ZelDataResult_tags ZelDataHeader::getAppVersion(std::string& version) const
 {
-    return store(guardedCopy(version, appVersion_));
+    return getText(&HeaderFields::appVersion, version);
 }
 
 ZelDataResult_tags ZelDataHeader::setTitle(const std::string& title)
 {
-    return store(guardedCopy(title_, title));
+    return setText(&HeaderFields::title, title);
 }
 
 ZelDataResult_tags ZelDataHeader::getTitle(std::string& title) const
 {
-    return store(guardedCopy(title, title_));
+    return getText(&HeaderFields::title, title);
 }
 
 ZelDataResult_tags ZelDataHeader::setCreator(const std::string& creator)
 {
-    return store(guardedCopy(creator_, creator));
+    return setText(&HeaderFields::creator, creator);
 }
 
 ZelDataResult_tags ZelDataHeader::getCreator(std::string& creator) const
 {
-    return store(guardedCopy(creator, creator_));
+    return getText(&HeaderFields::creator, creator);
 }
 
 ZelDataResult_tags ZelDataHeader::setDescription(const std::string& description)
 {
-    return store(guardedCopy(description_, description));
+    return setText(&HeaderFields::description, description);
 }
 
 ZelDataResult_tags ZelDataHeader::getDescription(std::string& description) const
 {
-    return store(guardedCopy(description, description_));
+    return getText(&HeaderFields::description, description);
 }
 
 ZelDataResult_tags ZelDataHeader::setKeywords(const std::vector<std::string>& keywords)
 {
-    return store(guardedCopy(keywords_, keywords));
+    return store(guarded([&] {
+        fields_.keywords = std::make_shared<const std::vector<std::string>>(keywords);
+        return ZelData_Ok;
+    }));
 }
 
 ZelDataResult_tags ZelDataHeader::getKeywords(std::vector<std::string>& keywords) const
 {
-    return store(guardedCopy(keywords, keywords_));
+    if (fields_.keywords) return store(guardedCopy(keywords, *fields_.keywords));
+    keywords.clear();
+    return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataHeader::setIPodExplicit(bool isExplicit)
 {
-    iPodExplicit_ = isExplicit;
+    fields_.iPodExplicit = isExplicit;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataHeader::getIPodExplicit(bool& isExplicit) const
 {
-    isExplicit = iPodExplicit_;
+    isExplicit = fields_.iPodExplicit;
     return store(ZelData_Ok);
 }
 
@@ -127,34 +139,34 @@ ZelDataResult_tags ZelDataHeader::storeNonZero(unsigned long& field, unsigned lo
 
 ZelDataResult_tags ZelDataHeader::setVideoLength(unsigned long milliseconds)
 {
-    return storeNonZero(videoLength_, milliseconds);
+    return storeNonZero(fields_.videoLength, milliseconds);
 }
 
 ZelDataResult_tags ZelDataHeader::getVideoLength(unsigned long& milliseconds) const
 {
-    milliseconds = videoLength_;
+    milliseconds = fields_.videoLength;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataHeader::setVideoWidth(unsigned long pixels)
 {
-    return storeNonZero(videoWidth_, pixels);
+    return storeNonZero(fields_.videoWidth, pixels);
 }
 
 ZelDataResult_tags ZelDataHeader::getVideoWidth(unsigned long& pixels) const
 {
-    pixels = videoWidth_;
+    pixels = fields_.videoWidth;
     return store(ZelData_Ok);
 }
 
 ZelDataResult_tags ZelDataHeader::setVideoHeight(unsigned long pixels)
 {
-    return storeNonZero(videoHeight_, pixels);
+    return storeNonZero(fields_.videoHeight, pixels);
 }
 
 ZelDataResult_tags ZelDataHeader::getVideoHeight(unsigned long& pixels) const
 {
-    pixels = videoHeight_;
+    pixels = fields_.videoHeight;
     return store(ZelData_Ok);
 }
 

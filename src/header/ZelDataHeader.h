@@ -6,12 +6,28 @@
 
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 #include "sets/LanguageListOwner.h"
+#include "util/SharedText.h"
 #include "util/TextList.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace ZelInterchangeData {
+
+/// What clearing a header resets, in addition to its languages. Copies share the texts and keywords.
+struct HeaderFields {
+    SharedText appName;
+    SharedText appVersion;
+    SharedText title;
+    SharedText creator;
+    SharedText description;
+    std::shared_ptr<const std::vector<std::string>> keywords; // null if never set
+    bool iPodExplicit = false;
+    unsigned long videoLength = 0;
+    unsigned long videoWidth = 0;
+    unsigned long videoHeight = 0;
+};
 
 /// The header that the library makes. Removing an absent language is a warning here.
 class ZelDataHeader : public LanguageListOwner<i_ZelDataHeader, ZelData_WarnNoChange> {
@@ -51,21 +67,22 @@ public:
     ZelDataResult_tags setShowSearchBar(bool show) override;
     ZelDataResult_tags getShowSearchBar(bool& show) const override;
 
+    const HeaderFields& fields() const noexcept { return fields_; }
+    const std::vector<std::string>& contentNames() const noexcept { return contentNames_.texts(); }
+    bool showsSearchBar() const noexcept { return showSearchBar_; }
+    using LanguageListOwner::languageIDs;
+
+    /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the texts.
+    ZelDataResult_tags copyOwn(const ZelDataHeader& other);
+
 private:
+    ZelDataResult_tags setText(SharedText HeaderFields::*text, const std::string& value);
+    ZelDataResult_tags getText(SharedText HeaderFields::*text, std::string& value) const;
     ZelDataResult_tags storeNonZero(unsigned long& field, unsigned long value) const;
 
-    bool iPodExplicit_ = false;
-    bool showSearchBar_ = true;
-    std::string appName_;
-    std::string appVersion_;
-    std::string title_;
-    std::string creator_;
-    std::string description_;
-    unsigned long videoLength_ = 0;
-    unsigned long videoWidth_ = 0;
-    unsigned long videoHeight_ = 0;
-    std::vector<std::string> keywords_;
+    HeaderFields fields_;
     TextList contentNames_;
+    bool showSearchBar_ = true;
 };
 
 } // namespace ZelInterchangeData

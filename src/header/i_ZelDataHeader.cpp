@@ -1,6 +1,8 @@
 #include "ZelInterchangeData/i_ZelDataHeader.h"
 
+#include "header/ZelDataHeader.h"
 #include "sets/FieldCopy.h"
+#include "util/ExactType.h"
 #include "util/Guard.h"
 
 namespace ZelInterchangeData {
@@ -27,6 +29,10 @@ ZelDataResult_tags i_ZelDataHeader::copyFrom(const i_ZelDataHeader& other)
 {
     using Header = i_ZelDataHeader;
     if (&other == this) return store(ZelData_InternalError);
+    // Between two of our own headers, sharing the texts gives the same result as the steps below.
+    auto* own = exactly<ZelDataHeader>(*this);
+    const auto* ownOther = exactly<ZelDataHeader>(other);
+    if (own != nullptr && ownOther != nullptr) return own->copyOwn(*ownOther);
     return store(guarded([&] {
         if (const auto cleared = clearHeader(); failed(cleared)) return cleared;
         if (const auto copied = i_ZelDataLanguage::copyFrom(other); failed(copied)) return copied;
@@ -48,6 +54,27 @@ ZelDataResult_tags i_ZelDataHeader::copyFrom(const i_ZelDataHeader& other)
         if (const Ending ending = copyContentNames(other, *this)) return *ending;
         fields.field(&Header::getShowSearchBar, &Header::setShowSearchBar);
         return fields.ending().value_or(ZelData_Ok);
+    }));
+}
+
+ZelDataResult_tags ZelDataHeader::copyOwn(const ZelDataHeader& other)
+{
+    other.setLastError(ZelData_Ok); // as the getters would leave it
+    return store(guarded([&] {
+        if (const auto cleared = clearHeader(); failed(cleared)) return cleared;
+        if (const auto listed = languages().copyFrom(other.languages()); failed(listed))
+            return listed;
+        // A size of 0, which the setters refuse, ends the copy.
+        HeaderFields copy = other.fields_;
+        if (copy.videoLength == 0) copy.videoWidth = 0;
+        if (copy.videoWidth == 0) copy.videoHeight = 0;
+        fields_ = copy;
+        if (copy.videoHeight == 0) return ZelData_InvalidArgument;
+        contentNames_.clear();
+        for (const std::string& name : other.contentNames())
+            contentNames_.append(name);
+        showSearchBar_ = other.showSearchBar_;
+        return ZelData_Ok;
     }));
 }
 

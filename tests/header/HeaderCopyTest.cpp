@@ -172,6 +172,33 @@ TEST_F(HeaderCopy, ADuplicateLanguageEndsItWithAWarning)
     EXPECT_EQ(described(expected), targetState());
 }
 
+/// Between two of our own headers, the copy takes a shortcut. What another class allows must not show.
+TEST_F(HeaderCopy, OfOurOwnIsTheSameAsOfAnotherClass)
+{
+    struct Derived : ZelDataHeader {};
+    const auto copied = [](i_ZelDataHeader&& target, i_ZelDataHeader&& source, int variant) {
+        HeaderValues values = sampleValues();
+        if (variant % 2 != 0) values.videoLength = 0;
+        if (variant / 2 % 2 != 0) values.videoWidth = 0;
+        if (variant / 4 % 2 != 0) values.videoHeight = 0;
+        fill(source, values);
+        fill(target, oldValues());
+        if (variant / 8 != 0) {
+            EXPECT_EQ(ZelData_Ok, source.setOrderedLanguageIDs({"de", "de"}));
+        }
+        source.setLastError(ZelData_NoData);
+        target.setLastError(ZelData_NoData);
+        const auto code = target.copyFrom(source);
+        return std::tuple(code, target.getLastError(), source.getLastError(), described(target),
+                          described(source));
+    };
+    for (int variant = 0; variant < 16; ++variant) {
+        EXPECT_EQ(copied(Derived(), Derived(), variant),
+                  copied(ZelDataHeader(), ZelDataHeader(), variant))
+            << variant;
+    }
+}
+
 /// The copy returns the last error as it is: here, success, although the copy stopped.
 TEST_F(HeaderCopy, AFieldThatFailsWhileTheSourceKeptSuccessEndsItWithSuccess)
 {
