@@ -4,7 +4,8 @@
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "sets/Factory.h"
 #include "xml/LanguageAlternative.h"
-#include "xml/Track.h"
+#include "xml/MarkupWriter.h"
+#include "xml/TrackMarkup.h"
 
 #include <cmath>
 #include <new>
@@ -19,14 +20,13 @@ using Utilities = ZelDataUtilities;
 /// Deliberate: written in place of an empty text; otherwise, its list item would be empty.
 constexpr std::string_view emptyCaption = "{\\rtf1 }";
 
-void describeTrack(Track& track, const CaptionStyle& style)
+void describeTrack(MarkupWriter& track, const CaptionStyle& style)
 {
-    track.description()
-        .attribute("xmpDM:trackType", "Caption")
+    track.attribute("xmpDM:trackType", "Caption")
         .attribute("xmpDM:frameRate", Utilities::getRateString(style.frameRate.value))
         .attribute("xmpDM:trackName", "Captioning")
         .attribute("stFnt:fontFamily", style.fontFamily) // written as stored
-        .attribute("zelDM:fontSize", Utilities::getValueString(style.fontSize))
+        .attribute("zelDM:fontSize", style.fontSize)
         .attribute("zelDM:bgOpacity", Utilities::getValueString(style.backgroundOpacity));
 }
 
@@ -37,10 +37,9 @@ long long colorByte(float component)
                                  : static_cast<long long>(static_cast<double>(component) * 255.0);
 }
 
-void addColor(Track& track, const char* name, const CaptionColor& color)
+void writeColor(MarkupWriter& track, const CaptionColor& color)
 {
-    track.addProperty(name)
-        .attribute("xmpG:red", colorByte(color.red))
+    track.attribute("xmpG:red", colorByte(color.red))
         .attribute("xmpG:green", colorByte(color.green))
         .attribute("xmpG:blue", colorByte(color.blue))
         .attribute("xmpG:mode", "RGB");
@@ -77,16 +76,17 @@ void appendCaptions(TextBlock& markup, const LanguageTexts& texts,
     markup.append(nameAlternativeEnd);
 }
 
-void writeMarker(MarkerWriter& markers, const CaptionState& item,
+void writeMarker(MarkupWriter& track, const CaptionState& item,
                  const std::vector<std::string>& languageIDs)
 {
-    markers.begin()
+    track.markup(markerStart)
         .attribute("xmpDM:startTime", item.time.start)
         .attribute("xmpDM:duration", item.time.duration)
         .attribute("zelDM:valign", verticalWord(item.alignment))
-        .attribute("zelDM:halign", horizontalWord(item.alignment));
-    appendCaptions(markers.content(), item.texts(), languageIDs);
-    markers.endContent();
+        .attribute("zelDM:halign", horizontalWord(item.alignment))
+        .markup(markerContent);
+    appendCaptions(track.text(), item.texts(), languageIDs);
+    track.markup(markerEnd);
 }
 
 } // namespace
@@ -159,14 +159,17 @@ void ZelDataXmpCaptionFormatter::appendTrack(std::string& packet) const
     const ZelDataCaptions& captions = *held();
     CaptionStyle style = captions.style();
     style.repair();
-    Track track;
+    MarkupWriter track(packet);
+    track.markup(trackStart);
     describeTrack(track, style);
-    addColor(track, "zel:fgColor", style.foreground);
-    addColor(track, "zel:bgColor", style.background);
-    track.appendTo(packet, [&](MarkerWriter& markers) {
-        captions.items().visitOrdered(
-            [&](const CaptionState& item) { writeMarker(markers, item, captions.languageIDs()); });
-    });
+    track.markup(markersStart);
+    captions.items().visitOrdered(
+        [&](const CaptionState& item) { writeMarker(track, item, captions.languageIDs()); });
+    track.markup(markersEnd).markup("<zel:fgColor ");
+    writeColor(track, style.foreground);
+    track.markup("></zel:fgColor><zel:bgColor ");
+    writeColor(track, style.background);
+    track.markup("></zel:bgColor>").markup(trackEnd).finish();
 }
 
 } // namespace ZelInterchangeData

@@ -3,7 +3,8 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 #include "sets/Factory.h"
-#include "xml/Track.h"
+#include "xml/MarkupWriter.h"
+#include "xml/TrackMarkup.h"
 
 namespace ZelInterchangeData {
 
@@ -11,19 +12,19 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-void writeMarker(MarkerWriter& markers, const ScreenTextState& item)
+void writeMarker(MarkupWriter& track, const ScreenTextState& item)
 {
-    markers.begin()
+    track.markup(markerStart)
         .escapedStripped("xmpDM:name", item.text())
         .attribute("xmpDM:startTime", item.time.start)
         .attribute("xmpDM:duration", item.time.duration)
         // Deliberate: this prefix, and not escaped; otherwise it would be an escaped "zelDM:image",
         // as in the table of contents.
         .attribute("xmpDM:image", item.imageFile())
-        .attribute("zelDM:imageindex", static_cast<unsigned long long>(item.imageIndex))
+        .attribute("zelDM:imageindex", item.imageIndex)
         .attribute("zelDM:imageoffset", item.imageOffset)
-        .attribute("zelDM:tocEntry", static_cast<unsigned long long>(item.groupId))
-        .end();
+        .attribute("zelDM:tocEntry", item.groupId)
+        .markup(emptyMarkerEnd);
 }
 
 } // namespace
@@ -69,17 +70,16 @@ void ZelDataXmpScreenTextFormatter::appendTrack(std::string& packet) const
     const ZelDataScreenText& screenText = *held();
     FrameRate rate = screenText.frameRate();
     rate.repair();
-    Track track;
+    MarkupWriter track(packet);
     // Deliberate: the rate before the name, and no image; otherwise, the attributes would be those
     // of the table of contents.
-    track.description()
+    track.markup(trackStart)
         .attribute("xmpDM:trackType", "ScreenText")
         .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))
-        .attribute("xmpDM:trackName", "Screen Text");
-    track.appendTo(packet, [&](MarkerWriter& markers) {
-        screenText.items().visitOrdered(
-            [&](const ScreenTextState& item) { writeMarker(markers, item); });
-    });
+        .attribute("xmpDM:trackName", "Screen Text")
+        .markup(markersStart);
+    screenText.items().visitOrdered([&](const ScreenTextState& item) { writeMarker(track, item); });
+    track.markup(markersEnd).markup(trackEnd).finish();
 }
 
 } // namespace ZelInterchangeData

@@ -5,7 +5,8 @@
 #include "sets/Factory.h"
 #include "sets/FrameRate.h"
 #include "xml/LanguageAlternative.h"
-#include "xml/Track.h"
+#include "xml/MarkupWriter.h"
+#include "xml/TrackMarkup.h"
 
 #include <new>
 
@@ -23,16 +24,16 @@ std::string_view titleOf(const TocEntryState& entry, const std::vector<std::stri
     return entry.texts().find(languageIDs.front()).value_or(std::string_view());
 }
 
-void writeMarker(MarkerWriter& markers, const TocEntryState& entry,
+void writeMarker(MarkupWriter& track, const TocEntryState& entry,
                  const std::vector<std::string>& languageIDs)
 {
-    markers.begin()
+    track.markup(markerStart)
         .escapedStripped("xmpDM:name", titleOf(entry, languageIDs))
         .attribute("xmpDM:startTime", entry.startTime)
         .escaped("zelDM:image", entry.imageFile())
-        .attribute("zelDM:imageindex", static_cast<unsigned long long>(entry.imageIndex))
+        .attribute("zelDM:imageindex", entry.imageIndex)
         .attribute("zelDM:imageoffset", entry.imageOffset)
-        .end();
+        .markup(emptyMarkerEnd);
 }
 
 } // namespace
@@ -102,16 +103,16 @@ std::optional<std::size_t> ZelDataXmpTocFormatter::estimateTrack() const
 void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
 {
     const ZelDataToc& toc = *held();
-    Track track;
-    track.description()
+    MarkupWriter track(packet);
+    track.markup(trackStart)
         .attribute("xmpDM:trackType", "TableOfContents")
         .attribute("xmpDM:trackName", "Table of Contents")
         .attribute("xmpDM:frameRate", Utilities::getRateString(FrameRate::standard))
-        .attribute("zelDM:image", Utilities::htmlTagsToText(toc.imageFile()));
-    track.appendTo(packet, [&](MarkerWriter& markers) {
-        toc.items().visitOrdered(
-            [&](const TocEntryState& entry) { writeMarker(markers, entry, toc.languageIDs()); });
-    });
+        .escaped("zelDM:image", toc.imageFile())
+        .markup(markersStart);
+    toc.items().visitOrdered(
+        [&](const TocEntryState& entry) { writeMarker(track, entry, toc.languageIDs()); });
+    track.markup(markersEnd).markup(trackEnd).finish();
 }
 
 } // namespace ZelInterchangeData

@@ -1,5 +1,5 @@
 /// @file
-/// The element tree that every packet is built from.
+/// A tree of elements.
 
 #ifndef ZELINTERCHANGEDATA_XML_ZELDATAXMLNODE_H
 #define ZELINTERCHANGEDATA_XML_ZELDATAXMLNODE_H

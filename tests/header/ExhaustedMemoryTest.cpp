@@ -186,7 +186,7 @@ TEST(HeaderFormatterWithoutMemory, WritesEverythingOrNothing)
             return formatter.writeString(text, ZelDataFormat_Xmp, false);
         },
         [&](const i_ZelDataHeaderFormatter& /*formatter*/) { EXPECT_EQ("as before", text); });
-    EXPECT_GT(failures, 20U);
+    EXPECT_GT(failures, 0U);
     EXPECT_NE(std::string::npos, text.find(">Old Church Slavonic</rdf:li>"));
     EXPECT_NE(std::string::npos, text.find("</x:xmpmeta>"));
 }

@@ -1,0 +1,82 @@
+/// @file
+/// Elements as text.
+
+#ifndef ZELINTERCHANGEDATA_XML_MARKUPWRITER_H
+#define ZELINTERCHANGEDATA_XML_MARKUPWRITER_H
+
+#include "util/TextBlock.h"
+#include "util/TextUtilities.h"
+
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace ZelInterchangeData {
+
+/// Appends elements to a text. Their tags are given as they are, except attributes with a value:
+///
+///     writer.markup("<xmpDM:duration ").attribute("xmpDM:value", length).markup("></xmpDM:duration>");
+///
+/// A packet has few shapes of elements, all of them known, so they are written directly instead of
+/// being built as a tree.
+class MarkupWriter {
+public:
+    /// Appends to @p text, which outlives this object and is complete after finish().
+    explicit MarkupWriter(std::string& text) : text_(text) {}
+
+    /// @p markup as given.
+    MarkupWriter& markup(std::string_view markup)
+    {
+        text_.append(markup);
+        return *this;
+    }
+
+    /// An attribute whose value is written as given, and a space.
+    MarkupWriter& attribute(std::string_view name, std::string_view value)
+    {
+        return attributeOf(name, [value](TextBlock& text) { text.append(value); });
+    }
+
+    /// An attribute with @p value, an integer, in decimal.
+    template <class Number, class = std::enable_if_t<std::is_integral_v<Number>>>
+    MarkupWriter& attribute(std::string_view name, Number value)
+    {
+        return attributeOf(name, [value](TextBlock& text) { text.appendNumber(value); });
+    }
+
+    /// An attribute whose value is escaped.
+    MarkupWriter& escaped(std::string_view name, std::string_view value)
+    {
+        return attributeOf(name, [value](TextBlock& text) { appendEscaped(text, value); });
+    }
+
+    /// An attribute whose value is escaped and stripped of control characters.
+    MarkupWriter& escapedStripped(std::string_view name, std::string_view value)
+    {
+        return attributeOf(name, [value](TextBlock& text) { appendEscapedStripped(text, value); });
+    }
+
+    /// An attribute whose value @p append, a callable, appends to its argument.
+    template <class Append>
+    MarkupWriter& attributeOf(std::string_view name, Append&& append)
+    {
+        text_.append(name);
+        text_.append("=\"");
+        append(text_);
+        text_.append("\" ");
+        return *this;
+    }
+
+    /// The text, for content that the other operations do not write.
+    TextBlock& text() noexcept { return text_; }
+
+    /// Appends the remaining bytes to the text.
+    void finish() { text_.flush(); }
+
+private:
+    TextBlock text_;
+};
+
+} // namespace ZelInterchangeData
+
+#endif
