@@ -58,20 +58,23 @@ const char* skipCharacter(const char* text, const char* end) noexcept
 class SequenceBlocks {
 public:
     /// Adds a block. Returns whether it correctly continues the ones before it. No branch depends
-    /// on single bytes: in mixed text it would be unpredictable.
+    /// on single bytes of two or three: in mixed text it would be unpredictable.
     bool addBlock(ByteBlock block) noexcept
     {
         const ByteBlock high = highBits(block);
         const ByteBlock lead = high & block << 1; // of at least two bytes, and so on
         const ByteBlock lead3 = lead & block << 2;
         const ByteBlock lead4 = lead3 & block << 3;
-        const ByteBlock lead5 = lead4 & block << 4;
-        const ByteBlock lead6 = lead5 & block << 5;
-        const ByteBlock neverLead =
-            (lead6 & block << 6) | zeroBytes((block & repeated(0xFE)) ^ repeated(0xC0));
-        const ByteBlock expected =
-            open_ | lead << 8 | lead3 << 16 | lead4 << 24 | lead5 << 32 | lead6 << 40;
-        open_ = lead >> 56 | lead3 >> 48 | lead4 >> 40 | lead5 >> 32 | lead6 >> 24;
+        ByteBlock expected = open_ | lead << 8 | lead3 << 16;
+        ByteBlock neverLead = zeroBytes((block & repeated(0xFE)) ^ repeated(0xC0));
+        open_ = lead >> 56 | lead3 >> 48;
+        if (lead4 != 0) { // rare, and most texts have none
+            const ByteBlock lead5 = lead4 & block << 4;
+            const ByteBlock lead6 = lead5 & block << 5;
+            expected |= lead4 << 24 | lead5 << 32 | lead6 << 40;
+            neverLead |= lead6 & block << 6;
+            open_ |= lead4 >> 40 | lead5 >> 32 | lead6 >> 24;
+        }
         return ((high ^ lead ^ expected) | neverLead) == 0; // the other high bytes continue
     }
 
