@@ -65,28 +65,22 @@ void appendCaption(Markup& markup, std::string_view languageID, std::string_view
     closeLanguageItem(markup);
 }
 
-/// As buildCaptionList(), for one of our own items. A missing text counts as empty, as after
-/// makeCaptionsConsistent().
-void appendCaptions(TextBlock& markup, const LanguageTexts& texts,
-                    const std::vector<std::string>& languageIDs)
-{
-    markup.append(nameAlternativeStart);
-    for (const std::string& id : languageIDs)
-        appendCaption(markup, id, texts.find(id).value_or(std::string_view()));
-    markup.append(nameAlternativeEnd);
-}
-
-void writeMarker(MarkupWriter& track, const CaptionState& item,
+/// A missing text counts as empty, as after makeCaptionsConsistent().
+void writeMarker(TextBlock& track, const CaptionState& item,
                  const std::vector<std::string>& languageIDs)
 {
-    track.markup(markerStart)
-        .attribute("xmpDM:startTime", item.time.start)
-        .attribute("xmpDM:duration", item.time.duration)
-        .attribute("zelDM:valign", verticalWord(item.alignment))
-        .attribute("zelDM:halign", horizontalWord(item.alignment))
-        .markup(markerContent);
-    appendCaptions(track.text(), item.texts(), languageIDs);
-    track.markup(markerEnd);
+    track.append(R"(<rdf:li><rdf:Description xmpDM:startTime=")")
+        .appendNumber(item.time.start)
+        .append(R"(" xmpDM:duration=")")
+        .appendNumber(item.time.duration)
+        .append(R"(" zelDM:valign=")")
+        .append(verticalWord(item.alignment))
+        .append(R"(" zelDM:halign=")")
+        .append(horizontalWord(item.alignment))
+        .append(R"(" ><xmpDM:name><rdf:Alt>)");
+    for (const std::string& id : languageIDs)
+        appendCaption(track, id, item.texts().find(id).value_or(std::string_view()));
+    track.append("</rdf:Alt></xmpDM:name></rdf:Description></rdf:li>");
 }
 
 } // namespace
@@ -164,7 +158,7 @@ void ZelDataXmpCaptionFormatter::appendTrack(std::string& packet) const
     describeTrack(track, style);
     track.markup(markersStart);
     captions.items().visitOrdered(
-        [&](const CaptionState& item) { writeMarker(track, item, captions.languageIDs()); });
+        [&](const CaptionState& item) { writeMarker(track.text(), item, captions.languageIDs()); });
     track.markup(markersEnd).markup("<zel:fgColor ");
     writeColor(track, style.foreground);
     track.markup("></zel:fgColor><zel:bgColor ");

@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 #include "sets/Factory.h"
+#include "util/TextUtilities.h"
 #include "xml/MarkupWriter.h"
 #include "xml/TrackMarkup.h"
 
@@ -12,19 +13,25 @@ namespace {
 
 using Utilities = ZelDataUtilities;
 
-void writeMarker(MarkupWriter& track, const ScreenTextState& item)
+void writeMarker(TextBlock& track, const ScreenTextState& item)
 {
-    track.markup(markerStart)
-        .escapedStripped("xmpDM:name", item.text())
-        .attribute("xmpDM:startTime", item.time.start)
-        .attribute("xmpDM:duration", item.time.duration)
+    track.append(R"(<rdf:li><rdf:Description xmpDM:name=")");
+    appendEscapedStripped(track, item.text());
+    track.append(R"(" xmpDM:startTime=")")
+        .appendNumber(item.time.start)
+        .append(R"(" xmpDM:duration=")")
+        .appendNumber(item.time.duration)
         // Deliberate: this prefix, and not escaped; otherwise it would be an escaped "zelDM:image",
         // as in the table of contents.
-        .attribute("xmpDM:image", item.imageFile())
-        .attribute("zelDM:imageindex", item.imageIndex)
-        .attribute("zelDM:imageoffset", item.imageOffset)
-        .attribute("zelDM:tocEntry", item.groupId)
-        .markup(emptyMarkerEnd);
+        .append(R"(" xmpDM:image=")")
+        .append(item.imageFile())
+        .append(R"(" zelDM:imageindex=")")
+        .appendNumber(item.imageIndex)
+        .append(R"(" zelDM:imageoffset=")")
+        .appendNumber(item.imageOffset)
+        .append(R"(" zelDM:tocEntry=")")
+        .appendNumber(item.groupId)
+        .append(R"(" ></rdf:Description></rdf:li>)");
 }
 
 } // namespace
@@ -78,7 +85,8 @@ void ZelDataXmpScreenTextFormatter::appendTrack(std::string& packet) const
         .attribute("xmpDM:frameRate", Utilities::getRateString(rate.value))
         .attribute("xmpDM:trackName", "Screen Text")
         .markup(markersStart);
-    screenText.items().visitOrdered([&](const ScreenTextState& item) { writeMarker(track, item); });
+    screenText.items().visitOrdered(
+        [&](const ScreenTextState& item) { writeMarker(track.text(), item); });
     track.markup(markersEnd).markup(trackEnd).finish();
 }
 

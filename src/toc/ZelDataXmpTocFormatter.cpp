@@ -4,6 +4,7 @@
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 #include "sets/Factory.h"
 #include "sets/FrameRate.h"
+#include "util/TextUtilities.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/MarkupWriter.h"
 #include "xml/TrackMarkup.h"
@@ -24,16 +25,20 @@ std::string_view titleOf(const TocEntryState& entry, const std::vector<std::stri
     return entry.texts().find(languageIDs.front()).value_or(std::string_view());
 }
 
-void writeMarker(MarkupWriter& track, const TocEntryState& entry,
+void writeMarker(TextBlock& track, const TocEntryState& entry,
                  const std::vector<std::string>& languageIDs)
 {
-    track.markup(markerStart)
-        .escapedStripped("xmpDM:name", titleOf(entry, languageIDs))
-        .attribute("xmpDM:startTime", entry.startTime)
-        .escaped("zelDM:image", entry.imageFile())
-        .attribute("zelDM:imageindex", entry.imageIndex)
-        .attribute("zelDM:imageoffset", entry.imageOffset)
-        .markup(emptyMarkerEnd);
+    track.append(R"(<rdf:li><rdf:Description xmpDM:name=")");
+    appendEscapedStripped(track, titleOf(entry, languageIDs));
+    track.append(R"(" xmpDM:startTime=")")
+        .appendNumber(entry.startTime)
+        .append(R"(" zelDM:image=")");
+    appendEscaped(track, entry.imageFile());
+    track.append(R"(" zelDM:imageindex=")")
+        .appendNumber(entry.imageIndex)
+        .append(R"(" zelDM:imageoffset=")")
+        .appendNumber(entry.imageOffset)
+        .append(R"(" ></rdf:Description></rdf:li>)");
 }
 
 } // namespace
@@ -111,7 +116,7 @@ void ZelDataXmpTocFormatter::appendTrack(std::string& packet) const
         .escaped("zelDM:image", toc.imageFile())
         .markup(markersStart);
     toc.items().visitOrdered(
-        [&](const TocEntryState& entry) { writeMarker(track, entry, toc.languageIDs()); });
+        [&](const TocEntryState& entry) { writeMarker(track.text(), entry, toc.languageIDs()); });
     track.markup(markersEnd).markup(trackEnd).finish();
 }
 

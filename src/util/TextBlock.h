@@ -23,24 +23,26 @@ public:
     TextBlock(const TextBlock&) = delete;
     TextBlock& operator=(const TextBlock&) = delete;
 
-    void append(std::string_view piece)
+    TextBlock& append(std::string_view piece)
     {
         if (piece.size() > block_.size() - size_) {
             appendLong(piece);
-            return;
+        } else {
+            appendShort(piece);
         }
-        appendShort(piece);
+        return *this;
     }
 
     /// Appends @p number in decimal.
     template <class Number>
-    void appendNumber(Number number)
+    TextBlock& appendNumber(Number number)
     {
         static_assert(std::is_integral_v<Number>);
         constexpr std::size_t most = 24;
         if (block_.size() - size_ < most) flush();
         char* const begin = block_.data() + size_;
         size_ += static_cast<std::size_t>(std::to_chars(begin, begin + most, number).ptr - begin);
+        return *this;
     }
 
     /// The number of bytes appended so far.

@@ -5,11 +5,11 @@
 #define ZELINTERCHANGEDATA_XML_MARKUPWRITER_H
 
 #include "util/TextBlock.h"
-#include "util/TextUtilities.h"
 
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace ZelInterchangeData {
 
@@ -25,17 +25,11 @@ public:
     explicit MarkupWriter(std::string& text) : text_(text) {}
 
     /// @p markup as given.
-    MarkupWriter& markup(std::string_view markup)
-    {
-        text_.append(markup);
-        return *this;
-    }
-
+    MarkupWriter& markup(std::string_view markup);
     /// An attribute whose value is written as given, and a space.
-    MarkupWriter& attribute(std::string_view name, std::string_view value)
-    {
-        return attributeOf(name, [value](TextBlock& text) { text.append(value); });
-    }
+    MarkupWriter& attribute(std::string_view name, std::string_view value);
+    /// An attribute whose value is escaped.
+    MarkupWriter& escaped(std::string_view name, std::string_view value);
 
     /// An attribute with @p value, an integer, in decimal.
     template <class Number, class = std::enable_if_t<std::is_integral_v<Number>>>
@@ -44,27 +38,13 @@ public:
         return attributeOf(name, [value](TextBlock& text) { text.appendNumber(value); });
     }
 
-    /// An attribute whose value is escaped.
-    MarkupWriter& escaped(std::string_view name, std::string_view value)
-    {
-        return attributeOf(name, [value](TextBlock& text) { appendEscaped(text, value); });
-    }
-
-    /// An attribute whose value is escaped and stripped of control characters.
-    MarkupWriter& escapedStripped(std::string_view name, std::string_view value)
-    {
-        return attributeOf(name, [value](TextBlock& text) { appendEscapedStripped(text, value); });
-    }
-
     /// An attribute whose value @p append, a callable, appends to its argument.
     template <class Append>
     MarkupWriter& attributeOf(std::string_view name, Append&& append)
     {
-        text_.append(name);
-        text_.append("=\"");
-        append(text_);
-        text_.append("\" ");
-        return *this;
+        beginValue(name);
+        std::forward<Append>(append)(text_);
+        return endValue();
     }
 
     /// The text, for content that the other operations do not write.
@@ -74,6 +54,9 @@ public:
     void finish() { text_.flush(); }
 
 private:
+    void beginValue(std::string_view name);
+    MarkupWriter& endValue();
+
     TextBlock text_;
 };
 

@@ -8,21 +8,16 @@
 
 namespace ZelInterchangeData {
 
-// A track is a description that holds a sequence of markers, each of which is a description, too:
+// A track is a description that holds a sequence of markers:
 //
 //     trackStart attributes markersStart markers markersEnd properties trackEnd
-//     markerStart attributes markerContent content markerEnd
+//
+// The formatters write each marker in as few pieces as possible, because a track has many.
 
 inline constexpr std::string_view trackStart = "<rdf:li><rdf:Description ";
 inline constexpr std::string_view markersStart = "><xmpDM:markers><rdf:Seq>";
 inline constexpr std::string_view markersEnd = "</rdf:Seq></xmpDM:markers>";
 inline constexpr std::string_view trackEnd = "</rdf:Description></rdf:li>";
-
-inline constexpr std::string_view markerStart = "<rdf:li><rdf:Description ";
-inline constexpr std::string_view markerContent = ">";
-inline constexpr std::string_view markerEnd = "</rdf:Description></rdf:li>";
-/// Ends a marker without content, after its attributes.
-inline constexpr std::string_view emptyMarkerEnd = "></rdf:Description></rdf:li>";
 
 } // namespace ZelInterchangeData
 
