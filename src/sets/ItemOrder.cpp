@@ -124,8 +124,9 @@ Places stableOrder(const std::vector<long long>& starts)
     }
     Places order(starts.size()); // for starts that are weeks apart
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t a, std::size_t b) { return starts[a] < starts[b]; });
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return std::pair(starts[a], a) < std::pair(starts[b], b);
+    });
     return order;
 }
 
