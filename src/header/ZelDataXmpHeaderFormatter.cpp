@@ -91,10 +91,10 @@ void writeLanguages(MarkupWriter& packet, const std::vector<std::string>& ids)
     if (ids.empty()) return;
     packet.markup("<zel:langName><rdf:Bag>");
     for (const std::string& id : ids) {
-        const LanguageEntry* const language = findLanguage(id);
+        const auto language = findLanguage(id);
         // Deliberate: succeeds without the rest; otherwise, an unknown language would make the
         // packet fail.
-        if (language == nullptr) break;
+        if (!language) break;
         openLanguageItem(packet.text(), id);
         appendEscaped(packet.text(), language->englishName);
         closeLanguageItem(packet.text());

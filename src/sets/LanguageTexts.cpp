@@ -1,6 +1,7 @@
 #include "sets/LanguageTexts.h"
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "util/LanguageCatalogue.h"
 
 #include <utility>
 
@@ -15,8 +16,10 @@ constexpr std::size_t mostPackedBytes = 8192;
 
 ZelDataResult_tags LanguageTexts::check(const std::string& text, const std::string& languageID)
 {
-    const bool valid = !failed(ZelDataUtilities::verifyUtf8Format(languageID, false)) &&
-                       !failed(ZelDataUtilities::isValidLanguage(languageID)) &&
+    constexpr std::size_t codeLength = 2; // the code of a language is ASCII
+    const bool valid = isLanguage(languageID) &&
+                       (languageID.size() == codeLength ||
+                        !failed(ZelDataUtilities::verifyUtf8Format(languageID, false))) &&
                        !failed(ZelDataUtilities::verifyUtf8Format(text, false));
     return valid ? ZelData_Ok : ZelData_InvalidItem;
 }

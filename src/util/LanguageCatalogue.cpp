@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 
 namespace ZelInterchangeData {
 
@@ -36,6 +37,54 @@ constexpr std::size_t indexOf(std::size_t first, std::size_t second) noexcept
     return first * letterCount + second;
 }
 
+/// All texts of the table, one after the other, each followed by a zero byte. The library contains these
+/// instead of the table: each of the table's pointers would take more room than the name, because it is
+/// relocated when the library is loaded.
+template <std::size_t Size>
+struct Texts {
+    std::string_view operator[](std::size_t number) const noexcept
+    {
+        const std::size_t begin = begins[number];
+        return {characters.data() + begin, begins[number + 1] - begin - 1};
+    }
+
+    std::array<char, Size> characters{};
+    std::array<std::uint16_t, 3 * std::size(languageTable) + 1> begins{};
+};
+
+constexpr std::array<std::string_view, 3> textsOf(const LanguageEntry& entry) noexcept
+{
+    return {entry.code, entry.englishName, entry.nativeName};
+}
+
+constexpr std::size_t sizeOfTexts() noexcept
+{
+    std::size_t size = 0;
+    for (const LanguageEntry& entry : languageTable) {
+        for (const std::string_view text : textsOf(entry))
+            size += text.size() + 1; // cppcheck-suppress useStlAlgorithm ; not constexpr in C++17
+    }
+    return size;
+}
+
+constexpr auto makeTexts() noexcept
+{
+    Texts<sizeOfTexts()> texts;
+    std::size_t number = 0;
+    std::size_t size = 0;
+    for (const LanguageEntry& entry : languageTable) {
+        for (const std::string_view text : textsOf(entry)) {
+            for (const char character : text)
+                texts.characters[size++] = character;
+            texts.begins[++number] = static_cast<std::uint16_t>(++size); // after the zero byte
+        }
+    }
+    return texts;
+}
+
+static_assert(sizeOfTexts() <= 0xFFFF);
+constexpr auto texts = makeTexts();
+
 /// For each pair of letters, the place in the table, counted from 1, or 0 if there is no such
 /// language.
 using Index = std::array<std::uint8_t, letterCount * letterCount>;
@@ -58,9 +107,18 @@ constexpr bool isLanguageId(std::string_view id) noexcept
     return id.size() >= codeLength && (id.size() == codeLength || id[codeLength] == '-');
 }
 
-LanguageInfo copyOf(const LanguageEntry* entry)
+/// The place of the language of @p id in the table, counted from 1, or 0 if there is none.
+std::size_t placeOf(std::string_view id) noexcept
 {
-    if (entry == nullptr) return {};
+    if (!isLanguageId(id)) return 0;
+    const std::size_t first = letterNumber(id[0]);
+    const std::size_t second = letterNumber(id[1]);
+    return first < letterCount && second < letterCount ? index[indexOf(first, second)] : 0;
+}
+
+LanguageInfo copyOf(const std::optional<LanguageEntry>& entry)
+{
+    if (!entry) return {};
     return {std::string(entry->englishName), std::string(entry->nativeName),
             std::string(entry->code)};
 }
@@ -69,24 +127,27 @@ LanguageInfo copyOf(const LanguageEntry* entry)
 ZelDataResult_tags copyName(const std::string& id, std::string_view LanguageEntry::*which,
                             std::string& name)
 {
-    const LanguageEntry* const entry = findLanguage(id);
-    if (entry == nullptr) return ZelData_UnknownLanguage;
+    const auto entry = findLanguage(id);
+    if (!entry) return ZelData_UnknownLanguage;
     return guarded([&] {
-        name.assign(entry->*which);
+        name.assign((*entry).*which);
         return ZelData_Ok;
     });
 }
 
 } // namespace
 
-const LanguageEntry* findLanguage(std::string_view id) noexcept
+std::optional<LanguageEntry> findLanguage(std::string_view id) noexcept
 {
-    if (!isLanguageId(id)) return nullptr;
-    const std::size_t first = letterNumber(id[0]);
-    const std::size_t second = letterNumber(id[1]);
-    if (first >= letterCount || second >= letterCount) return nullptr;
-    const std::size_t place = index[indexOf(first, second)];
-    return place == 0 ? nullptr : &languageTable[place - 1];
+    const std::size_t place = placeOf(id);
+    if (place == 0) return std::nullopt;
+    const std::size_t first = 3 * (place - 1);
+    return LanguageEntry{texts[first], texts[first + 1], texts[first + 2]};
+}
+
+bool isLanguage(std::string_view id) noexcept
+{
+    return placeOf(id) != 0;
 }
 
 bool intForISO6391Code(const std::string& code, int& key)
@@ -98,7 +159,7 @@ bool intForISO6391Code(const std::string& code, int& key)
 
 LanguageInfo languageInfoISOCode(const std::string& code)
 {
-    return copyOf(code.size() == codeLength ? findLanguage(code) : nullptr);
+    return copyOf(code.size() == codeLength ? findLanguage(code) : std::nullopt);
 }
 
 LanguageInfo languagefromID(const std::string& id)
@@ -119,7 +180,7 @@ ZelDataResult_tags ZelDataUtilities::nativeNameForLanguage(const std::string& id
 
 ZelDataResult_tags ZelDataUtilities::isValidLanguage(const std::string& id)
 {
-    return findLanguage(id) == nullptr ? ZelData_UnknownLanguage : ZelData_Ok;
+    return isLanguage(id) ? ZelData_Ok : ZelData_UnknownLanguage;
 }
 
 } // namespace ZelInterchangeData

@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_UTIL_LANGUAGECATALOGUE_H
 #define ZELINTERCHANGEDATA_UTIL_LANGUAGECATALOGUE_H
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,8 +30,11 @@ struct LanguageInfo {
 };
 
 /// Finds the language of the ID @p id: a two-letter code in any letter case, alone or followed by
-/// "-" and anything. Null if there is none. Takes constant time and allocates nothing.
-[[nodiscard]] const LanguageEntry* findLanguage(std::string_view id) noexcept;
+/// "-" and anything. Takes constant time and allocates nothing.
+[[nodiscard]] std::optional<LanguageEntry> findLanguage(std::string_view id) noexcept;
+
+/// Whether findLanguage() finds a language.
+[[nodiscard]] bool isLanguage(std::string_view id) noexcept;
 
 /// Stores in @p key the four bytes "  xy", big-endian, of a code of two bytes, its ASCII letters in
 /// lower case ("AA" gives 0x20206161). The bytes need not be letters. For a code of any other
