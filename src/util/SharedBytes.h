@@ -43,8 +43,7 @@ public:
 
     ~SharedBytes()
     {
-        // The last owner must see what the others did before they released the bytes.
-        if (head_ != nullptr && head_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+        if (head_ != nullptr && isLastRelease()) {
             head_->~Head();
             ::operator delete(head_);
         }
@@ -68,6 +67,15 @@ private:
     struct Head {
         std::atomic<std::size_t> owners{1};
     };
+
+    /// Gives up one of the owners; whether it was the last, which must see what the others did before they
+    /// released the bytes. An only owner need not count down, which takes longer: nobody else can copy from
+    /// it.
+    bool isLastRelease() const noexcept
+    {
+        return head_->owners.load(std::memory_order_acquire) == 1 ||
+               head_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1;
+    }
 
     Head* head_ = nullptr;
 };
