@@ -76,12 +76,10 @@ void addScreenText(i_ZelDataScreenText& screenText, const ScreenText& text)
 
 Sets fill(const Document& document)
 {
-    Sets sets{made(&ZelDataUtilities::createHeaderData), made(&ZelDataUtilities::createCaptionData),
+    Sets sets{made(&ZelDataUtilities::createHeaderData), fillCaptions(document),
               made(&ZelDataUtilities::createTocData),
               made(&ZelDataUtilities::createScreenTextData)};
     fillHeader(*sets.header, document.header);
-    for (const Caption& caption : document.captions)
-        addCaption(*sets.captions, caption, document.languages);
     require(sets.toc->setImageFile(document.tocImage));
     for (const Entry& entry : document.entries)
         addEntry(*sets.toc, entry, document.languages);
@@ -90,10 +88,24 @@ Sets fill(const Document& document)
     return sets;
 }
 
-std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets)
+std::unique_ptr<i_ZelDataCaptions> fillCaptions(const Document& document)
+{
+    auto captions = made(&ZelDataUtilities::createCaptionData);
+    for (const Caption& caption : document.captions)
+        addCaption(*captions, caption, document.languages);
+    return captions;
+}
+
+std::unique_ptr<i_ZelInterchangeDataCore> setHeader(const i_ZelDataHeader& header)
 {
     std::unique_ptr<i_ZelInterchangeDataCore> core(ZELDataCreator::createInterchangeData());
-    require(core->setDataHeader(*sets.header));
+    require(core->setDataHeader(header));
+    return core;
+}
+
+std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets)
+{
+    auto core = setHeader(*sets.header);
     require(core->setDataCaptions(*sets.captions));
     require(core->setDataToc(*sets.toc));
     require(core->setDataScreenText(*sets.screenText));

@@ -25,8 +25,14 @@ struct Sets {
 /// Creates data objects that hold @p document, as an application does.
 Sets fill(const Document& document);
 
+/// The captions alone.
+std::unique_ptr<i_ZelDataCaptions> fillCaptions(const Document& document);
+
 /// Passes @p sets to a new document object.
 std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
+
+/// Passes a header alone to a new document object.
+std::unique_ptr<i_ZelInterchangeDataCore> setHeader(const i_ZelDataHeader& header);
 
 /// The packet of @p core, in a new string.
 std::string write(const i_ZelInterchangeDataCore& core);

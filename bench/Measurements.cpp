@@ -153,6 +153,34 @@ Round measureRound(const Document& document, const Document& written, std::size_
     return round;
 }
 
+/// One write and one append, each after the other writers.
+std::array<double, 2> measureColdRound(const i_ZelInterchangeDataCore& core,
+                                       const Document& written)
+{
+    const auto useCaches = [&] {
+        peerTurn(1, [&] {
+            return writeWithPugixml(written, nullptr) + writeWithTinyxml2(written, nullptr) +
+                   writeWithLibxml2(written, nullptr);
+        });
+    };
+    useCaches();
+    const double write = secondsOf([&] { bench::write(core); });
+    useCaches();
+    return {write, secondsOf([&] { appendPacket(written); })};
+}
+
+ColdTimes measureCold(const Document& document, const Document& written, const Effort& effort)
+{
+    const Sets sets = fill(document);
+    const auto core = set(sets);
+    const int rounds = static_cast<int>(repeatsOf(coldSize, effort)) * effort.rounds;
+    Samples<2> samples;
+    for (int round = 0; round < rounds; ++round)
+        samples.add(measureColdRound(*core, written));
+    const auto [write, appender] = samples.medians();
+    return {write, appender};
+}
+
 /// Watches one write, including its output.
 void measureHeap(Case& result, const Document& document, const Document& written)
 {
@@ -210,7 +238,7 @@ Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
     const Document document = makeDocument(size, order, pair);
     const Document written = inWrittenOrder(document);
     const std::size_t repeats = repeatsOf(size, effort);
-    Case result{size, order, pair, 0, {}, {}};
+    Case result{size, order, pair, 0, {}, {}, {}};
     measureHeap(result, document, written); // also warms everything up
     Samples<8> samples;
     for (int round = 0; round < roundsOf(size, effort); ++round)
@@ -218,6 +246,24 @@ Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
     const Round medians = samples.medians();
     result.times = {medians[0], medians[1], medians[2], medians[3],
                     medians[4], medians[5], medians[6], medians[7]};
+    if (size == coldSize) result.cold = measureCold(document, written, effort);
+    return result;
+}
+
+Allocations measureAllocations()
+{
+    const Document document = makeDocument(1000, Order::ascending, Pair::enDe);
+    Allocations result;
+    {
+        const auto core = setHeader(*fill(document).header);
+        const HeapWatch watch;
+        write(*core);
+        result.headerWrite = static_cast<double>(watch.use().allocations);
+    }
+    const HeapWatch watch;
+    const auto captions = fillCaptions(document);
+    result.filledCaption = static_cast<double>(watch.use().allocations) /
+                           static_cast<double>(document.captions.size());
     return result;
 }
 

@@ -7,6 +7,7 @@
 #include "bench/Documents.h"
 #include "bench/HeapWatch.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,16 @@ struct Times {
     double libxml2 = 0;
 };
 
+/// Medians of single writes, in seconds, with other writers before each of them: they fill the caches
+/// with their own code and data, as the rest of a program does that writes one packet.
+struct ColdTimes {
+    double write = 0;
+    double appender = 0;
+};
+
+/// The size that is written cold.
+constexpr std::size_t coldSize = 100;
+
 /// One size in one order with one pair of languages.
 struct Case {
     std::size_t size = 0;
@@ -43,11 +54,22 @@ struct Case {
     std::size_t bytes = 0;
     Times times;
     HeapUse heap;
+    std::optional<ColdTimes> cold; // of documents of coldSize captions
 };
 
 /// Library and peers take turns in each round. Throws std::runtime_error if the packets of library
 /// and appender differ in size.
 Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort);
+
+/// Calls of operator new.
+struct Allocations {
+    /// In a write of a document that has only a header.
+    double headerWrite = 0;
+    /// While filling, for each caption: to create it, set two texts and the times, add and destroy it.
+    double filledCaption = 0;
+};
+
+Allocations measureAllocations();
 
 /// How much work two threads do, each with its own document, as a multiple of one thread's in the
 /// same time.

@@ -18,6 +18,9 @@ struct Results {
     /// Empty on a machine with only one processor.
     std::optional<ThreadGains> threads;
     std::vector<TextSpeed> texts;
+    std::optional<Allocations> allocations;
+    /// The size of the stripped shared library in bytes; empty without a library to look at.
+    std::optional<std::size_t> librarySize;
 };
 
 enum class Verdict {

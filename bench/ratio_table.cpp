@@ -7,7 +7,9 @@
 #include <charconv>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <thread>
 
@@ -17,7 +19,7 @@ namespace {
 
 constexpr const char* usage =
     "Usage: ratio_table [--sizes N,N...] [--orders ORDER,ORDER...] [--rounds N] [--quick] "
-    "[--check]\n"
+    "[--check] [--library FILE]\n"
     "\n"
     "Measures in interleaved rounds and prints two Markdown tables: each ratio in its worst case,\n"
     "and all cases, with times as multiples of the straight appender's.\n"
@@ -27,12 +29,14 @@ constexpr const char* usage =
     "times as many)\n"
     "  --quick   as --sizes 100,1000 --rounds 1, with less work in a round; do not quote the "
     "figures\n"
+    "  --library FILE   the stripped shared library, for its size\n"
     "  --check   exit with status 1 if a ratio misses its limit or was not measured\n";
 
 struct Options {
     std::vector<std::size_t> sizes = {100, 1000, 10000, 100000};
     std::vector<Order> orders = {allOrders.begin(), allOrders.end()};
     Effort effort;
+    std::string library;
     bool check = false;
     bool help = false;
 };
@@ -87,6 +91,8 @@ void readOption(Options& options, const std::vector<std::string_view>& arguments
         options.orders = listFrom(value(), orderFrom);
     } else if (name == "--rounds") {
         options.effort.rounds = numberFrom<int>(value());
+    } else if (name == "--library") {
+        options.library = value();
     } else if (name == "--quick") {
         options.sizes = {100, 1000};
         options.effort = {1, 1000};
@@ -111,6 +117,8 @@ Results measure(const Options& options)
 {
     Results results;
     results.texts = measureTexts(options.effort);
+    results.allocations = measureAllocations();
+    if (!options.library.empty()) results.librarySize = std::filesystem::file_size(options.library);
     if (std::thread::hardware_concurrency() > 1) results.threads = measureThreads(options.effort);
     for (const std::size_t size : options.sizes) {
         for (const Order order : options.orders) {
