@@ -4,6 +4,7 @@
 
 #include <random>
 #include <string>
+#include <vector>
 
 namespace ZelInterchangeData {
 namespace {
@@ -23,6 +24,17 @@ TEST(ByteBlocks, TheLastBytesAreTheLowestWithZerosAbove)
             EXPECT_EQ(loadBlock(padded.data()),
                       lastBytes(std::string_view(text).substr(0, size), count))
                 << size << ' ' << count;
+        }
+    }
+}
+
+TEST(ByteBlocks, TheLastBytesAreReadFromTheTextAlone)
+{
+    for (std::size_t size = 0; size <= 2 * blockSize; ++size) {
+        const std::vector<char> text(size, '\x11'); // a sanitizer watches what surrounds it
+        for (std::size_t count = 0; count < blockSize && count <= size; ++count) {
+            EXPECT_EQ(count == 0 ? 0 : repeated(0x11) >> (8 * (blockSize - count)),
+                      lastBytes({text.data(), size}, count));
         }
     }
 }

@@ -51,6 +51,28 @@ TEST(FrontVector, MatchesAVectorUnderRandomChanges)
     }
 }
 
+TEST(FrontVector, ErasesAnywhereWithoutRoomForMore)
+{
+    for (std::size_t size = 1; size <= 16; ++size) {
+        for (std::size_t fromFront = 0; fromFront < size; ++fromFront) {
+            for (std::size_t index = 0; index < size - fromFront; ++index) {
+                Vector vector;
+                std::vector<int> expected;
+                vector.reserve(size); // a sanitizer watches what follows the last element
+                for (std::size_t i = 0; i < size; ++i) {
+                    vector.push_back(std::make_shared<int>(static_cast<int>(i)));
+                    if (i >= fromFront) expected.push_back(static_cast<int>(i));
+                }
+                for (std::size_t i = 0; i < fromFront; ++i)
+                    vector.erase(0);
+                vector.erase(index);
+                expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(index));
+                ASSERT_EQ(expected, numbersIn(vector)) << size << ' ' << fromFront << ' ' << index;
+            }
+        }
+    }
+}
+
 TEST(FrontVector, AnErasedElementIsDestroyedAtOnce)
 {
     Vector vector;

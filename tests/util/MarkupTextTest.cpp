@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace ZelInterchangeData {
 namespace {
@@ -39,6 +42,22 @@ TEST(MarkupText, MatchesTheUtilitiesForEveryPairOfBytes)
         text += static_cast<char>(pair >> 8);
         text += static_cast<char>(pair & 0xFF);
         expectBoth(text);
+    }
+}
+
+TEST(MarkupText, IsReadFromTheTextAlone)
+{
+    for (std::size_t size = 0; size <= 40; ++size) {
+        for (std::size_t place = 0; place <= size; ++place) {
+            std::vector<char> text(size, 'x'); // a sanitizer watches what surrounds it
+            if (place < size) text[place] = '\n';
+            const std::string_view view(text.data(), size);
+            std::string escaped;
+            appendEscaped(escaped, view);
+            appendEscapedStripped(escaped, view);
+            const std::string once(view);
+            ASSERT_EQ(once + once, escaped) << size << ' ' << place;
+        }
     }
 }
 

@@ -32,6 +32,14 @@ TEST(SharedBytes, NoBytesHaveNoAddress)
     EXPECT_EQ(nullptr, copy.data());
 }
 
+TEST(SharedBytes, HaveRoomForEachByteOfAnySize)
+{
+    for (std::size_t size = 1; size <= 64; ++size) {
+        const std::string text(size, 'x'); // a sanitizer watches what surrounds the bytes
+        EXPECT_EQ(text, textOf(bytesOf(text), size));
+    }
+}
+
 TEST(SharedBytes, CopiesShareThemUntilTheLastIsDestroyed)
 {
     SharedBytes last;

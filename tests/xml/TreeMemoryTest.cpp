@@ -35,11 +35,33 @@ TEST(TreeMemory, HandsOutAlignedMemoryThatOverlapsNothing)
     }
 }
 
+TEST(TreeMemory, StaysInsideAPieceWhereverTheLastPlaceBegins)
+{
+    constexpr std::size_t piece = 4096; // the first one; a sanitizer watches what follows it
+    for (std::size_t used = 1; used <= piece; ++used) {
+        const std::size_t rest = piece - used;
+        for (const std::size_t size : {rest - std::min<std::size_t>(rest, 1), rest, rest + 1}) {
+            TreeMemory memory;
+            auto* const first = static_cast<char*>(memory.allocate(used, 1));
+            std::memset(first, 1, used);
+            std::memset(memory.allocate(size, 1), 2, size);
+            ASSERT_EQ(used, std::count(first, first + used, 1)) << used << ' ' << size;
+        }
+        TreeMemory memory;
+        memory.allocate(used, 1);
+        std::memset(memory.allocate(8, 8), 2, 8); // aligning takes bytes, too
+    }
+}
+
 TEST(TreeMemory, HandsOutWhatIsLargerThanAPiece)
 {
     TreeMemory memory;
     for (const std::size_t size : {100000U, 1U, 200000U})
         std::memset(memory.allocate(size, 8), 1, size);
+    for (std::size_t size = 4090; size < 4110; ++size) {
+        TreeMemory other;
+        std::memset(other.allocate(size, 8), 1, size);
+    }
 }
 
 /// The number of allocations that @p count places of 128 bytes take.
@@ -65,6 +87,20 @@ TEST(TreeMemory, HandsOutMoreAfterARefusal)
     TreeMemory memory;
     EXPECT_TRUE(runsOutOfMemory(0, [&] { memory.allocate(100, 8); }));
     std::memset(memory.allocate(100, 8), 1, 100);
+}
+
+TEST(TreeAllocator, HasRoomForEachElement)
+{
+    TreeMemory memory;
+    for (const auto& allocator :
+         {TreeAllocator<long long>(&memory), TreeAllocator<long long>(nullptr)}) {
+        for (std::size_t count = 1; count < 20; ++count) {
+            std::vector<long long, TreeAllocator<long long>> one(count, 1, allocator);
+            const std::vector<long long, TreeAllocator<long long>> other(count, 2, allocator);
+            std::fill(one.begin(), one.end(), 3);
+            EXPECT_EQ(count, std::count(other.begin(), other.end(), 2));
+        }
+    }
 }
 
 TEST(TreeAllocator, EqualsThoseOfTheSameTree)
