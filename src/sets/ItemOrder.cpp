@@ -16,22 +16,20 @@ using Places = std::vector<std::size_t>;
 /// Counts at places, and the sum of all counts before a place (a Fenwick tree).
 class PrefixCounts {
 public:
-    /// Prepares @p size places with counts of zero, and as many more as take() can reach.
-    void clear(std::size_t size)
+    /// Prepares @p size places with counts of zero.
+    void clear(std::size_t size) { sums_.assign(size, 0); }
+
+    /// Prepares @p size places, at least one, with a count of one at each, for take() alone.
+    void fill(std::size_t size)
     {
+        clear(size + 1);
+        for (std::size_t i = 1; i < size; ++i) {
+            sums_[i] = lowestBit(i);
+        }
+        sums_[size] = std::numeric_limits<std::size_t>::max(); // where a sum beyond them looks
         highestStep_ = 1;
         while (highestStep_ <= size / 2)
             highestStep_ *= 2;
-        sums_.assign(highestStep_ * 2, 0);
-    }
-
-    /// The same with a count of one at each place.
-    void fill(std::size_t size)
-    {
-        clear(size);
-        for (std::size_t i = 1; i < sums_.size(); ++i) {
-            sums_[i] = lowestBit(i);
-        }
     }
 
     void add(std::size_t place)
@@ -53,9 +51,10 @@ public:
     /// Takes one off the place at which the sum exceeds @p count, and returns the place.
     std::size_t take(std::size_t count)
     {
+        const std::size_t size = sums_.size() - 1;
         std::size_t place = 0;
         for (std::size_t step = highestStep_; step > 0; step /= 2) {
-            std::size_t& sum = sums_[place + step];
+            std::size_t& sum = sums_[std::min(place + step, size)];
             const bool isBelow = sum <= count; // not a branch, which would be unpredictable
             count -= isBelow ? sum : 0;
             sum -= isBelow ? 0 : 1;

@@ -95,6 +95,22 @@ TEST(ExchangeOrder, MatchesTheExchangeSortForLongGroupsOfTies)
     }
 }
 
+TEST(ExchangeOrder, MatchesTheExchangeSortForOneGroupOfEachSize)
+{
+    for (std::size_t size = 2; size <= 140; ++size) {
+        for (std::size_t place = 1; place <= size; ++place) { // each takes memory of its own
+            Starts starts(size, 255);
+            starts.insert(starts.begin() + static_cast<std::ptrdiff_t>(place), 0);
+            ASSERT_EQ(exchanged(starts), ordered(starts)) << size << ' ' << place;
+        }
+        Starts descending(size);
+        std::iota(descending.rbegin(), descending.rend(), 0);
+        ASSERT_EQ(exchanged(descending), ordered(descending)) << size;
+        descending.front() = descending[1]; // one tie, so as many groups as the others
+        ASSERT_EQ(exchanged(descending), ordered(descending)) << size;
+    }
+}
+
 TEST(ExchangeOrder, HandlesExtremeStarts)
 {
     constexpr long long largest = std::numeric_limits<long long>::max();
