@@ -55,6 +55,27 @@ TEST(LanguageTexts, AreInAscendingOrderOfIDs)
     EXPECT_EQ("text pt", texts.find("pt"));
 }
 
+TEST(LanguageTexts, HaveRoomForEachByteOfTextsOfAnySize)
+{
+    for (std::size_t size = 0; size <= 40; ++size) {
+        const std::string text(size, 'x'); // a sanitizer watches what surrounds the packed texts
+        LanguageTexts texts;
+        Map expected;
+        for (const char* id : {"pt-BR", "de", "en", "pt", "en"}) {
+            EXPECT_FALSE(isError(texts.set(text, id)));
+            expected[id] = text;
+            ASSERT_EQ(expected, mapOf(texts)) << size;
+        }
+        EXPECT_EQ(ZelData_WarnAlreadyExists, texts.set(text + "x", "pt"));
+        expected["pt"] = text + "x";
+        for (const char* id : {"en", "pt-BR", "de", "pt"}) {
+            ASSERT_EQ(expected, mapOf(texts)) << size;
+            EXPECT_EQ(ZelData_Ok, texts.remove(id));
+            expected.erase(id);
+        }
+    }
+}
+
 TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
 {
     LanguageTexts texts;
