@@ -7,12 +7,19 @@
 #include "robustness/Operation.h"
 #include "robustness/Subjects.h"
 #include "support/Checks.h"
+#include "support/Dice.h"
+#include "support/FailingAllocation.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
+#include <cstdlib>
 #include <functional>
+#include <iostream>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -208,6 +215,190 @@ TEST(Threads, EachChangesAndWritesItsOwnCopyOfOneSet)
         packets[number] = writtenOften(*document);
     });
     expectAsAlone(packets);
+}
+
+/// What a thread owns until it exchanges it with what another one left.
+struct Belongings {
+    Sets sets;
+    std::unique_ptr<i_ZelDataHeader> header = ownHeader(0);
+    std::unique_ptr<i_ZelDataCaptionItem> caption = filledCaption();
+    std::unique_ptr<i_ZelDataTocItem> entry = filledEntry();
+    std::unique_ptr<i_ZelDataScreenTextItem> shown = filledScreenTextItem();
+    std::unique_ptr<i_ZelInterchangeDataCore> document{ZELDataCreator::createInterchangeData()};
+};
+
+/// Belongings that any thread may copy or exchange, one thread at a time.
+struct Place {
+    std::mutex mutex;
+    Belongings belongings;
+};
+
+/// Fewer than threads, so that they meet.
+using Places = std::vector<Place>;
+constexpr std::size_t placeCount = threadCount / 2;
+
+/// A thread that copies, changes, exchanges and destroys objects whose memory others share.
+class Trader {
+public:
+    Trader(std::size_t number, Places& places) : number_(number), dice_(number + 1), places_(places)
+    {
+    }
+
+    void step()
+    {
+        using Step = void (Trader::*)();
+        constexpr std::array<Step, 10> steps = {
+            &Trader::copySets,   &Trader::copyItems, &Trader::copyDocument, &Trader::changeSets,
+            &Trader::changeItem, &Trader::takeItems, &Trader::fillDocument, &Trader::write,
+            &Trader::exchange,   &Trader::startAgain};
+        (this->*steps[dice_.below(steps.size())])();
+    }
+
+private:
+    /// Calls @p action with the belongings at any place, which no other thread uses meanwhile.
+    template <class Action>
+    void atAnyPlace(Action&& action)
+    {
+        Place& place = places_[dice_.below(places_.size())];
+        const std::lock_guard<std::mutex> lock(place.mutex);
+        action(place.belongings);
+    }
+
+    void copySets()
+    {
+        const Sets copies;
+        atAnyPlace([&](const Belongings& there) {
+            expectOk({copies.captions->copyFrom(*there.sets.captions),
+                      copies.toc->copyFrom(*there.sets.toc),
+                      copies.text->copyFrom(*there.sets.text)});
+        });
+        expectOk({own_.sets.captions->copyFrom(*copies.captions),
+                  own_.sets.toc->copyFrom(*copies.toc), own_.sets.text->copyFrom(*copies.text)});
+        keepFew();
+    }
+
+    void copyItems()
+    {
+        atAnyPlace([&](const Belongings& there) {
+            expectOk({own_.header->copyFrom(*there.header), own_.caption->copyFrom(*there.caption),
+                      own_.entry->copyFrom(*there.entry), own_.shown->copyFrom(*there.shown)});
+        });
+    }
+
+    /// The sets of a document there; it may have none.
+    void copyDocument()
+    {
+        atAnyPlace([&](const Belongings& there) {
+            static_cast<void>(there.document->getDataHeader(*own_.header));
+            static_cast<void>(there.document->getDataCaptions(*own_.sets.captions));
+            static_cast<void>(there.document->getDataToc(*own_.sets.toc));
+            static_cast<void>(there.document->getDataScreenText(*own_.sets.text));
+        });
+        keepFew();
+    }
+
+    void changeSets()
+    {
+        addItems(*own_.sets.captions, *own_.sets.toc, *own_.sets.text, number_);
+        expectOk({own_.sets.captions->addCaptionItem(*own_.caption),
+                  own_.sets.toc->addTocItem(*own_.entry),
+                  own_.sets.text->addScreenTextItem(*own_.shown)});
+        keepFew();
+    }
+
+    void changeItem()
+    {
+        const std::string text = ownText(number_);
+        expectOk({own_.header->setTitle(text), own_.shown->setText(text)});
+        EXPECT_FALSE(isError(own_.caption->setTextForLanguage(text, "de")));
+        EXPECT_FALSE(isError(own_.entry->setTextForLanguage(text, "en")));
+    }
+
+    /// Copies of the first items, unless there are none.
+    void takeItems()
+    {
+        i_ZelDataCaptionItem* caption = nullptr;
+        i_ZelDataTocItem* entry = nullptr;
+        i_ZelDataScreenTextItem* shown = nullptr;
+        if (failed(own_.sets.captions->getCaptionItemAt(&caption, 0))) return;
+        own_.caption.reset(caption);
+        expectOk({own_.sets.toc->getTocItemAt(&entry, 0)});
+        own_.entry.reset(entry);
+        expectOk({own_.sets.text->getScreenTextItemAt(&shown, 0)});
+        own_.shown.reset(shown);
+    }
+
+    void fillDocument()
+    {
+        hand(*own_.document, own_.sets);
+        expectOk({own_.document->setDataHeader(*own_.header)});
+    }
+
+    void write()
+    {
+        fillDocument();
+        const std::string packet = writtenAsString(*own_.document);
+        EXPECT_EQ(packet, writtenAsString(*own_.document));
+    }
+
+    void exchange()
+    {
+        atAnyPlace([&](Belongings& there) { std::swap(there, own_); });
+    }
+
+    void startAgain() { own_ = Belongings(); }
+
+    void keepFew()
+    {
+        unsigned long count = 0;
+        expectOk({own_.sets.captions->getCaptionItemCount(count)});
+        if (count < 20) return;
+        own_.sets = Sets();
+    }
+
+    std::size_t number_;
+    Dice dice_;
+    Places& places_;
+    Belongings own_;
+};
+
+/// How many blocks more than before are allocated after @p action, of those that this thread
+/// allocates and frees.
+template <class Action>
+long long blocksLeftBy(Action&& action)
+{
+    const long long before = liveAllocations();
+    action();
+    return liveAllocations() - before;
+}
+
+/// How long the threads trade: as the environment says, otherwise briefly.
+std::chrono::seconds tradingTime()
+{
+    const char* seconds = std::getenv("ZELINTERCHANGEDATA_STRESS_SECONDS");
+    return std::chrono::seconds(seconds != nullptr ? std::atol(seconds) : 1);
+}
+
+TEST(Threads, TradeSharedCopiesAndLeaveNoMemoryBehind)
+{
+    std::atomic<long long> blocks{0}; // one thread frees what another one allocated
+    std::atomic<long long> steps{0};
+    std::unique_ptr<Places> places;
+    blocks += blocksLeftBy([&] { places = std::make_unique<Places>(placeCount); });
+    race([&](std::size_t number) {
+        const auto end = std::chrono::steady_clock::now() + tradingTime();
+        blocks += blocksLeftBy([&] {
+            Trader trader(number, *places);
+            do {
+                trader.step();
+                ++steps;
+            } while (std::chrono::steady_clock::now() < end);
+        });
+    });
+    EXPECT_NE(0, blocks) << "the places must hold what the threads left";
+    blocks += blocksLeftBy([&] { places.reset(); });
+    EXPECT_EQ(0, blocks);
+    std::cout << steps << " steps of " << threadCount << " threads" << std::endl;
 }
 
 TEST(Threads, EachUsesTheUtilities)
