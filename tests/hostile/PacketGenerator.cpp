@@ -93,10 +93,16 @@ const Pieces& choose(Dice& dice, Kind kind)
     return harmless();
 }
 
+/// Mostly a few, rarely so many that what follows may begin anywhere in a writer's block of memory.
+std::size_t pieceCount(Dice& dice)
+{
+    return dice.once(500) ? dice.below(5000) : dice.below(6);
+}
+
 std::string text(Dice& dice, Kind kind)
 {
     std::string result;
-    for (std::size_t count = dice.below(6); count > 0; --count)
+    for (std::size_t count = pieceCount(dice); count > 0; --count)
         result += dice.once(6) ? anyCharacter(dice) : dice.one(choose(dice, kind));
     return result;
 }

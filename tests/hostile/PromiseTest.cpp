@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 namespace ZelInterchangeData {
@@ -40,6 +41,7 @@ struct Variety {
     std::set<std::size_t> entries;
     std::set<std::size_t> screenTexts;
     std::set<std::size_t> textsOfACaption;
+    std::size_t longestTitle = 0;
     bool equalStarts = false;
     bool emptyTracksInATitle = false;
     bool controlCharacterInACaption = false;
@@ -50,6 +52,7 @@ struct Variety {
         captions.insert(model.captions.size());
         entries.insert(model.entries.size());
         screenTexts.insert(model.screenTexts.size());
+        longestTitle = std::max(longestTitle, model.title.size());
         emptyTracksInATitle |= model.title.find(emptyTracks) != std::string::npos;
         lineFeedInAFontFamily |= model.fontFamily.find('\n') != std::string::npos;
         for (const CaptionModel& caption : model.captions)
@@ -77,6 +80,7 @@ TEST(GeneratedDocuments, HaveEverySetAndHostileTexts)
     EXPECT_EQ(counts, seen.entries);
     EXPECT_EQ(counts, seen.screenTexts);
     EXPECT_EQ((std::set<std::size_t>{0, 1, 2, 3, 4}), seen.textsOfACaption);
+    EXPECT_LT(4096U, seen.longestTitle);
     EXPECT_TRUE(seen.equalStarts);
     EXPECT_TRUE(seen.emptyTracksInATitle);
     EXPECT_TRUE(seen.controlCharacterInACaption);
