@@ -163,6 +163,49 @@ TEST(FileStreams, TheConversionStopsAtTheEndOfTheBufferAndContinuesThere)
     EXPECT_EQ(L"a", read);
 }
 
+TEST(FileStreams, TheConversionStaysInsideABufferOfAnySize)
+{
+    const TempFile file;
+    const std::locale locale = createWofstreamWithFile(file.path())->getloc();
+    const auto& conversion = std::use_facet<Conversion>(locale);
+    const std::string bytes(8, 'b');
+    const std::wstring wide(8, L'w');
+    for (std::size_t room = 0; room <= bytes.size(); ++room) {
+        std::mbstate_t state{};
+        std::string written(bytes.size() + 2, '?');
+        std::wstring read(wide.size() + 2, L'?');
+        const wchar_t* wideNext = nullptr;
+        const char* byteNext = nullptr;
+        char* writtenEnd = nullptr;
+        wchar_t* readEnd = nullptr;
+        conversion.out(state, wide.data(), wide.data() + wide.size(), wideNext, written.data(),
+                       written.data() + room, writtenEnd);
+        conversion.in(state, bytes.data(), bytes.data() + bytes.size(), byteNext, read.data(),
+                      read.data() + room, readEnd);
+        EXPECT_EQ(std::string(room, 'w') + std::string(10 - room, '?'), written);
+        EXPECT_EQ(std::wstring(room, L'b') + std::wstring(10 - room, L'?'), read);
+    }
+}
+
+TEST(FileStreams, SingleCharactersFillTheBufferToItsEnd)
+{
+    constexpr std::size_t buffer = 4096; // a longer text would be written without it
+    for (const std::size_t size : {buffer - 1, buffer, buffer + 1, 3 * buffer}) {
+        const TempFile file;
+        std::string text;
+        {
+            const auto stream = createWofstreamWithFile(file.path());
+            for (std::size_t i = 0; i < size; ++i) {
+                text += static_cast<char>('a' + i % 26);
+                stream->put(static_cast<wchar_t>(text.back()));
+            }
+            EXPECT_TRUE(stream->good());
+        }
+        EXPECT_EQ(text, file.bytes());
+        EXPECT_EQ(std::wstring(text.begin(), text.end()), contentsOf(file));
+    }
+}
+
 TEST(FileStreams, TheConversionCountsAByteForEachCharacter)
 {
     const TempFile file;

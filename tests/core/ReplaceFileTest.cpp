@@ -346,6 +346,22 @@ TEST_F(ReplacePosixFile, FollowsLinks)
     EXPECT_EQ(3U, folder_.names().size());
 }
 
+TEST_F(ReplacePosixFile, FollowsTheLongestLink)
+{
+    constexpr std::size_t longest = 4095; // of Linux; other systems have shorter ones
+    const std::string name(200, 'n');     // the path of a file with a short one would be too long
+    std::string target = fs::absolute(folder_.path()).string();
+    while (target.size() + name.size() + 2 < longest)
+        target += "/.";
+    target.append(longest - target.size() - name.size(), '/').append(name);
+    std::error_code refused;
+    fs::create_symlink(target, folder_.pathOf("longest"), refused);
+    if (refused) return; // by a system with shorter links
+    EXPECT_EQ(0, replace(folder_.pathOf("longest")));
+    EXPECT_TRUE(fs::is_symlink(folder_.pathOf("longest")));
+    expectWritten(folder_.pathOf(name));
+}
+
 TEST_F(ReplacePosixFile, MakesTheFileThatALinkLeadsTo)
 {
     fs::create_directory(folder_.pathOf("sub"));

@@ -348,6 +348,19 @@ TEST_F(ZelDataCoreXmpTest, TheFileIsTheDeclarationAndThePacketWhateverTheFlag)
     }
 }
 
+TEST_F(ZelDataCoreXmpTest, TheFileIsWholeWhateverTheLengthOfThePacket)
+{
+    constexpr std::size_t block = 1024; // is written at once
+    const TempFile file;
+    for (std::size_t length = 1; length <= block; ++length) {
+        const auto header = sampleHeader();
+        EXPECT_EQ(ZelData_Ok, header->setTitle(std::string(length, 't')));
+        setHeader(*header);
+        ASSERT_EQ(ZelData_Ok, document_.writeFile(file.path(), xmp, false));
+        ASSERT_EQ(withoutDate(declaration + written()), withoutDate(file.bytes())) << length;
+    }
+}
+
 TEST_F(ZelDataCoreXmpTest, TheFileHoldsTheSameBytesWhateverTheLocale)
 {
     setAll();
