@@ -21,6 +21,15 @@ void LanguageList::addChecked(std::string_view id)
     if (!contains(id)) ids_.append(id);
 }
 
+void LanguageList::addChecked(std::string_view id, std::size_t& place)
+{
+    if (ids_.isAt(place, id)) {
+        ++place;
+    } else {
+        addChecked(id);
+    }
+}
+
 ZelDataResult_tags LanguageList::copyFrom(const LanguageList& other)
 {
     clear();

@@ -32,6 +32,9 @@ public:
     ZelDataResult_tags copyFrom(const LanguageList& other);
     /// Lists @p id, which has already been checked, unless it is listed.
     void addChecked(std::string_view id);
+    /// The same, but looks for it first at @p place, which then moves on: most items have the listed
+    /// languages in the listed order.
+    void addChecked(std::string_view id, std::size_t& place);
     /// Removes the first identical entry; returns false if there is none.
     bool remove(const std::string& id) { return ids_.remove(id); }
     /// Removes all entries but the first @p count, if there are that many.

@@ -100,8 +100,9 @@ protected:
     {
         return undoLanguagesIfOutOfMemory([&] {
             return items.appendCopyOf(item, [this](const auto& state) {
-                state.texts().forEach([this](std::string_view id, std::string_view /*text*/) {
-                    languages_.addChecked(id);
+                std::size_t place = 0;
+                state.texts().forEach([&](std::string_view id, std::string_view /*text*/) {
+                    languages_.addChecked(id, place);
                 });
             });
         });

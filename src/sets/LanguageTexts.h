@@ -44,7 +44,8 @@ public:
                 visit(std::string_view(languageID), std::string_view(text));
             return;
         }
-        for (std::size_t i = 0; i < few_.count(); ++i) {
+        const std::size_t count = few_.count();
+        for (std::size_t i = 0; i < count; ++i) {
             const auto [languageID, text] = few_[i];
             visit(languageID, text);
         }

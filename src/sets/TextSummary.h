@@ -24,8 +24,9 @@ struct TextSummary {
     template <class State>
     void add(const State& state)
     {
-        state.texts().forEach([this](std::string_view languageID, std::string_view text) {
-            languages.addChecked(languageID);
+        std::size_t place = 0;
+        state.texts().forEach([&](std::string_view languageID, std::string_view text) {
+            languages.addChecked(languageID, place);
             size += languageID.size() + sizeWithEntities(text);
         });
     }

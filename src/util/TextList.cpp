@@ -47,6 +47,11 @@ bool TextList::contains(std::string_view text) const
                        [text](const std::string& each) { return areEqual(each, text); });
 }
 
+bool TextList::isAt(std::size_t place, std::string_view text) const noexcept
+{
+    return place < texts_.size() && areEqual(texts_[place], text);
+}
+
 void TextList::clear() noexcept
 {
     texts_.clear();

@@ -27,6 +27,8 @@ public:
 
     const std::vector<std::string>& texts() const noexcept { return texts_; }
     bool contains(std::string_view text) const;
+    /// Whether @p text is at @p place, which may be beyond the end.
+    bool isAt(std::size_t place, std::string_view text) const noexcept;
 
     void clear() noexcept;
     void append(std::string_view text);

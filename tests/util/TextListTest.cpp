@@ -100,5 +100,14 @@ TEST(TextList, WithoutMemoryNothingIsAppended)
     }
 }
 
+TEST(TextList, TellsWhatIsAtAPlace)
+{
+    const TextList list({"de", "en", "en-US"});
+    EXPECT_TRUE(list.isAt(1, "en"));
+    EXPECT_FALSE(list.isAt(0, "en"));
+    EXPECT_FALSE(list.isAt(2, "en"));
+    EXPECT_FALSE(list.isAt(3, "en"));
+}
+
 } // namespace
 } // namespace ZelInterchangeData
