@@ -3,6 +3,7 @@
 
 #include "CueFile.h"
 
+#include "Encoding.h"
 #include "PlainText.h"
 #include "PublishError.h"
 #include "System.h"
@@ -13,6 +14,7 @@
 #include <cstdio>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 namespace publish {
 
@@ -43,9 +45,7 @@ std::string contentsOf(const std::string& path, const std::string& name)
 
 CueFile readCueFile(const LanguageFile& source, const std::string& name, const Options& options)
 {
-    CueFile file = makeCueFile(name, contentsOf(source.path, name), options);
-    file.language = source.language;
-    return file;
+    return makeCueFile(source, name, contentsOf(source.path, name), options);
 }
 
 std::optional<long long> lastEndOf(const std::vector<Cue>& cues)
@@ -58,14 +58,19 @@ std::optional<long long> lastEndOf(const std::vector<Cue>& cues)
 
 } // namespace
 
-CueFile makeCueFile(const std::string& name, const std::string& bytes, const Options& options)
+CueFile makeCueFile(const LanguageFile& source, const std::string& name, const std::string& bytes,
+                    const Options& options)
 {
     std::optional<Subtitles> subtitles = readSubtitles(bytes);
-    if (!subtitles) throw PublishError(name + ": the file is not UTF-8");
+    if (!subtitles)
+        throw PublishError(name + ": " + describeForeignBytes(bytes, source.path, source.language));
     CueFile file;
     file.name = name;
-    file.malformed = subtitles->malformed;
-    file.withoutLength = subtitles->withoutLength;
+    file.path = source.path;
+    file.language = source.language;
+    if (subtitles->cues.empty()) file.hint = encodingHint(bytes, source.path, source.language);
+    file.malformed = std::move(subtitles->malformed);
+    file.withoutLength = std::move(subtitles->withoutLength);
     file.lastEnd = lastEndOf(subtitles->cues);
     for (Cue& cue : subtitles->cues) {
         if (options.plainText) cue.text = plainText(cue.text, subtitles->isWebVtt);
@@ -90,14 +95,22 @@ CueFiles readCueFiles(const Options& options)
     return files;
 }
 
+std::vector<const CueFile*> allFiles(const CueFiles& files)
+{
+    std::vector<const CueFile*> all;
+    for (const CueFile& captions : files.captions)
+        all.push_back(&captions);
+    if (files.toc) all.push_back(&*files.toc);
+    if (files.screenText) all.push_back(&*files.screenText);
+    return all;
+}
+
 std::optional<long long> lastEnd(const CueFiles& files)
 {
     // An empty optional is less than every value.
     std::optional<long long> last;
-    for (const CueFile& captions : files.captions)
-        last = std::max(last, captions.lastEnd);
-    if (files.toc) last = std::max(last, files.toc->lastEnd);
-    if (files.screenText) last = std::max(last, files.screenText->lastEnd);
+    for (const CueFile* file : allFiles(files))
+        last = std::max(last, file->lastEnd);
     return last;
 }
 

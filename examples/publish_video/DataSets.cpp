@@ -3,7 +3,6 @@
 
 #include "DataSets.h"
 
-#include "CaptionMerger.h"
 #include "Check.h"
 #include "PublishError.h"
 
@@ -106,11 +105,11 @@ std::unique_ptr<i_ZelDataHeader> makeHeader(const i_ZelInterchangeDataCore& docu
 
 std::unique_ptr<i_ZelDataCaptions> makeCaptions(const i_ZelInterchangeDataCore& document,
                                                 const Options& options,
-                                                const std::vector<CueFile>& files)
+                                                const std::vector<MergedCaption>& merged)
 {
     auto captions = make(document, &i_ZelInterchangeDataCore::createDataCaptions);
     setFont(*captions, options);
-    for (const MergedCaption& caption : mergeCaptions(files))
+    for (const MergedCaption& caption : merged)
         addCaption(*captions, caption);
     return captions;
 }

@@ -4,6 +4,8 @@
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_OUTPUTFILE_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_OUTPUTFILE_H
 
+#include "Options.h"
+
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -18,6 +20,19 @@ namespace publish {
 
 /// Appends @p bytes to the existing @p output; throws PublishError.
 void writeDirectly(const std::string& output, std::string_view bytes);
+
+/// Writes @p bytes to @p file, which it makes or empties first; throws PublishError.
+void writeNewFile(const std::string& file, std::string_view bytes);
+
+/// Writes @p bytes to standard output; throws PublishError.
+void writeStandardOutput(std::string_view bytes);
+
+/// How messages name @p output.
+std::string shownOutput(const std::string& output);
+
+/// Throws a PublishError if a file that the program writes is one that it reads, under whatever
+/// name, or if it writes both of its files to one.
+void refuseOverwriting(const Options& options);
 
 } // namespace publish
 

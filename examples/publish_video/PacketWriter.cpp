@@ -5,6 +5,7 @@
 
 #include "Check.h"
 #include "OutputFile.h"
+#include "System.h"
 
 #include "ZelInterchangeData/ZelDataReplaceFile.h"
 
@@ -25,11 +26,14 @@ std::string fileContents(const i_ZelInterchangeDataCore& document)
     return R"(<?xml version="1.0" encoding="utf-8" ?>)" + packet.substr(0, packet.find('\0'));
 }
 
-/// For a device, a pipe, or a file that is already open (`/dev/stdout`).
+/// For standard output, a device, a pipe, or a file that is already open (`/dev/stdout`).
 std::size_t writeInPlace(const i_ZelInterchangeDataCore& document, const std::string& output)
 {
     const std::string contents = fileContents(document);
-    writeDirectly(output, contents);
+    if (output == standardOutput)
+        writeStandardOutput(contents);
+    else
+        writeDirectly(output, contents);
     return contents.size();
 }
 
@@ -44,12 +48,15 @@ bool isNotReplaceable(const std::error_code& error)
 
 std::size_t writePacket(const i_ZelInterchangeDataCore& document, const std::string& output)
 {
+    if (output == standardOutput) return writeInPlace(document, output);
     const std::filesystem::path file = std::filesystem::u8path(output);
     std::error_code ignored;
     if (std::filesystem::is_directory(file, ignored)) // which is no error of its own on Windows
         failToWrite(output, std::make_error_code(std::errc::is_a_directory));
     int systemError = 0;
-    const auto code = replaceFile(document, output, systemError);
+    auto code = ZelData_Ok;
+    // Without this, a signal would leave the file that the library writes first.
+    uninterrupted([&] { code = replaceFile(document, output, systemError); });
     const std::error_code error(systemError, std::system_category());
     if (isNotReplaceable(error)) return writeInPlace(document, output);
     if (error) failToWrite(output, error);

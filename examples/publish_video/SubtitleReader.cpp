@@ -6,6 +6,7 @@
 #include "PlainText.h"
 #include "Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -24,11 +25,6 @@ struct Timing {
     long long start = 0;
     long long end = 0;
 };
-
-bool isDigit(char character)
-{
-    return '0' <= character && character <= '9';
-}
 
 /// Takes tokens from the front of a timing line, if they are there.
 class LineScanner {
@@ -144,8 +140,10 @@ public:
 
     void takeLine(std::string_view line)
     {
+        ++line_;
         if (line.find(arrow) != std::string_view::npos) {
-            open(timingOf(line));
+            noteSwallowedNumber();
+            open(line);
         } else if (const std::string_view text = withoutBlanksAtEnd(line); text.empty()) {
             isOpen_ = false;
         } else if (isOpen_) {
@@ -154,13 +152,21 @@ public:
     }
 
 private:
-    void open(const std::optional<Timing>& timing)
+    void noteSwallowedNumber()
     {
+        if (isOpen_ && endsWithNumber_) subtitles_.cues.back().swallowedNumber = line_ - 1;
+        endsWithNumber_ = false;
+    }
+
+    void open(std::string_view line)
+    {
+        const std::optional<Timing> timing = timingOf(line);
         isOpen_ = timing && timing->end > timing->start;
         if (isOpen_)
-            subtitles_.cues.push_back({timing->start, timing->end, {}});
+            subtitles_.cues.push_back({timing->start, timing->end, {}, line_, 0});
         else
-            ++(timing ? subtitles_.withoutLength : subtitles_.malformed);
+            (timing ? subtitles_.withoutLength : subtitles_.malformed)
+                .push_back({line_, firstWords(line)});
     }
 
     void append(std::string_view line)
@@ -168,10 +174,13 @@ private:
         std::string& text = subtitles_.cues.back().text;
         if (!text.empty()) text += '\n';
         text += line;
+        endsWithNumber_ = std::all_of(line.begin(), line.end(), isDigit);
     }
 
     Subtitles& subtitles_;
+    std::size_t line_ = 0;
     bool isOpen_ = false;
+    bool endsWithNumber_ = false;
 };
 
 std::string_view withoutByteOrderMark(std::string_view bytes)
@@ -199,7 +208,27 @@ bool isWebVttSignature(std::string_view line)
     return line.size() == signature.size() || isBlank(line[signature.size()]);
 }
 
+std::string padded(long long value, std::size_t digits)
+{
+    const std::string text = std::to_string(value);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
+
 } // namespace
+
+std::string timeText(long long time)
+{
+    constexpr long long msPerSecond = 1'000;
+    const long long seconds = time / msPerSecond;
+    return padded(seconds / 3'600, 2) + ":" + padded(seconds / 60 % 60, 2) + ":" +
+           padded(seconds % 60, 2) + "." + padded(time % msPerSecond, 3);
+}
+
+std::size_t countOfLines(std::string_view text)
+{
+    const std::string unified = withLineFeeds(text);
+    return 1 + static_cast<std::size_t>(std::count(unified.begin(), unified.end(), '\n'));
+}
 
 std::optional<Subtitles> readSubtitles(std::string_view bytes)
 {

@@ -88,14 +88,27 @@ std::string escapedByte(unsigned char byte)
 
 } // namespace
 
-bool isStrictUtf8(std::string_view text)
+std::size_t lengthOfStrictUtf8(std::string_view text)
 {
-    for (std::size_t at = 0; at < text.size();) {
+    std::size_t at = 0;
+    while (at < text.size()) {
         const std::size_t length = sequenceLength(text, at);
-        if (length == 0) return false;
+        if (length == 0) break;
         at += length;
     }
-    return true;
+    return at;
+}
+
+std::size_t countOfLongCharacters(std::string_view text)
+{
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+        return static_cast<unsigned char>(byte) >= 0xC2; // the first byte of such a character
+    }));
+}
+
+bool isStrictUtf8(std::string_view text)
+{
+    return lengthOfStrictUtf8(text) == text.size();
 }
 
 std::string withoutNoncharacters(std::string_view text)
@@ -137,6 +150,23 @@ std::string printable(std::string_view text)
         at += character.size();
     }
     return shown;
+}
+
+std::string firstWords(std::string_view text)
+{
+    constexpr int most = 40;
+    std::size_t end = 0;
+    std::size_t blank = 0;
+    for (int count = 0; end < text.size() && count != most; ++count) {
+        end += characterAt(text, end).size();
+        if (text.substr(end, 1) == " " || text.substr(end, 1) == "\n") blank = end;
+    }
+    const bool isWhole = end == text.size();
+    // Cuts between words, unless the last one is long.
+    if (!isWhole && blank > end / 2) end = blank;
+    std::string words(text.substr(0, end));
+    std::replace(words.begin(), words.end(), '\n', ' ');
+    return printable(words) + (isWhole ? "" : "...");
 }
 
 } // namespace publish

@@ -1,12 +1,18 @@
 /// @file
 /// The program's arguments and the resulting header.
 
+#include "Usage.h"
+#include "OptionTable.h"
 #include "examples/ProgramRunner.h"
 
 #include <gmock/gmock.h>
 
+#include <sstream>
+
+using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 namespace {
 
@@ -137,10 +143,87 @@ TEST_F(UsageTest, UnknownLanguageIsNamed)
 
 TEST_F(UsageTest, HelpIsPrinted)
 {
-    const RunResult done = runAlone({"--help"});
+    for (const std::string help : {"--help", "-h"}) {
+        const RunResult done = runAlone({"--colour", help, "--version"});
+        EXPECT_EQ(done.status, 0);
+        EXPECT_EQ(done.err, "");
+        EXPECT_THAT(done.out, StartsWith("Usage: publish_video "));
+    }
+}
+
+TEST_F(UsageTest, HelpThatCannotBePrintedIsAFailure)
+{
+    const RunResult done = runShell("\"$0\" --help >/dev/full", {});
+    expectFailure(done, "standard output: cannot be written: No space left on device", {});
+}
+
+TEST_F(UsageTest, VersionIsPrinted)
+{
+    const RunResult done = runAlone({"--version", "--colour"});
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
-    EXPECT_THAT(done.out, HasSubstr("--screen-text FILE"));
+    EXPECT_EQ(done.out, "publish_video " VERSION "\n");
+}
+
+TEST_F(UsageTest, ErrorsAreTheWholeOutput)
+{
+    EXPECT_EQ(run({"--lenght", "5"}).err, "publish_video: unknown option --lenght; did you mean "
+                                          "--length?\nTry 'publish_video --help'.\n");
+}
+
+TEST(Help, ListsEveryOptionWithItsDefault)
+{
+    const std::string help = publish::usage();
+    for (const publish::OptionEntry& option : publish::optionTable) {
+        EXPECT_THAT(help, HasSubstr(std::string("--") + option.name));
+        EXPECT_THAT(help, HasSubstr(option.value != nullptr ? option.value : ""));
+    }
+    EXPECT_THAT(help, HasSubstr("\n  -o, --output OUT.xmp       the file to write"));
+    EXPECT_THAT(help, HasSubstr("\n      --font-size N          the captions' font size, 1 to 500 "
+                                "(default: 20)\n"));
+}
+
+TEST(Help, HasTwoExamplesAndTheExitStatuses)
+{
+    const std::string help = publish::usage();
+    const std::string examples = help.substr(help.find("\nExamples:\n"));
+    EXPECT_THAT(examples, ContainsRegex("\n    publish_video -o .*\n    publish_video -o "));
+    EXPECT_THAT(examples, ContainsRegex("\nExit status:\n  0  .*\n  2  "));
+}
+
+TEST(Help, FitsAnOrdinaryTerminal)
+{
+    std::istringstream help(publish::usage());
+    for (std::string line; std::getline(help, line);)
+        EXPECT_LE(line.size(), 80U) << line;
+}
+
+class ExampleTest : public ProgramRunner {};
+
+TEST_F(ExampleTest, EachExampleOfTheHelpRuns)
+{
+    const std::string help = publish::usage();
+    const std::size_t begin = help.find("\nExamples:\n");
+    std::istringstream lines(help.substr(begin, help.find("\nExit status:") - begin));
+    std::string script = "set -e\ncd '" + pathOf(".") + "'\npublish_video() { \"$0\" \"$@\"; }\n";
+    for (std::string line; std::getline(lines, line);)
+        if (line.substr(0, 4) == "    ") script += line + "\n";
+    for (const std::string name : {"film.en.srt", "film.de.srt", "film.vtt", "chapters.vtt"})
+        write(name, "WEBVTT\n\n00:01.000 --> 00:02.000\nx\n");
+    const RunResult done = runShell(script, {});
+    EXPECT_EQ(done.status, 0) << done.err;
+    EXPECT_THAT(names(), testing::IsSupersetOf({"film.json", "film.xmp"}));
+}
+
+TEST(ManualPage, HasTheTextsOfTheHelp)
+{
+    const std::string page = publish::manualPage();
+    EXPECT_THAT(page,
+                StartsWith(".TH PUBLISH_VIDEO 1 \"\" \"publish_video " VERSION "\"\n.SH NAME\n"));
+    EXPECT_THAT(page, HasSubstr("\n.TP\n.B \\-o, \\-\\-output OUT.xmp\nthe file to write; \\- is "
+                                "standard output (required)\n"));
+    EXPECT_THAT(page, HasSubstr("\n.SH EXIT STATUS\n.TP\n.B 0\n"));
+    EXPECT_THAT(page, HasSubstr(" \\e\n"));
 }
 
 } // namespace
