@@ -53,7 +53,7 @@ bool isName(const std::string& text, const std::string& id)
     std::string native;
     return !failed(ZelDataUtilities::englishNameForLanguage(id, english)) &&
            !failed(ZelDataUtilities::nativeNameForLanguage(id, native)) &&
-           (isLike(text, english) || inLowerCase(text) == inLowerCase(native));
+           (isLike(text, english) || (!text.empty() && inLowerCase(text) == inLowerCase(native)));
 }
 
 std::string languageNamed(const std::string& text)

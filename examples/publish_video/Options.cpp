@@ -65,7 +65,7 @@ std::optional<OptionWord> optionWord(std::string_view word)
 
 [[noreturn]] void refuseUnknown(const OptionWord& word)
 {
-    const std::string_view name = word.typed.substr(word.typed.find_first_not_of('-'));
+    const std::string_view name = word.typed.substr(word.typed[1] == '-' ? 2 : 1);
     const OptionEntry* const like = name.size() > 1 ? optionLike(name) : nullptr;
     throw PublishError("unknown option " + printable(word.typed) +
                        (like != nullptr ? "; did you mean " + nameOf(*like) + "?" : ""));

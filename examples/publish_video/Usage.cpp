@@ -5,7 +5,6 @@
 
 #include "OptionTable.h"
 
-#include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/ZelDataVersion.h"
 
 #include <cstddef>
@@ -56,8 +55,10 @@ constexpr Status statuses[] = {
 
 std::string programAndVersion()
 {
-    return "publish_video " + ZelInterchangeData::ZelDataUtilities::getVersionString(
-                                  static_cast<unsigned long>(ZELINTERCHANGEDATA_VERSION));
+    const auto number = [](int value) { return std::to_string(value); };
+    return "publish_video " + number(ZELINTERCHANGEDATA_VERSION_MAJOR) + "." +
+           number(ZELINTERCHANGEDATA_VERSION_MINOR) + "." +
+           number(ZELINTERCHANGEDATA_VERSION_PATCH);
 }
 
 /// How the help shows the option itself.

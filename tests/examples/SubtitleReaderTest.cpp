@@ -116,7 +116,7 @@ TEST(FileBytes, SecondByteOrderMarkIsText)
 {
     EXPECT_EQ(read("\xEF\xBB\xBF\xEF\xBB\xBF"
                    "00:01.000 --> 00:02.000\na")
-                  .malformed,
+                  .malformed.size(),
               1U);
 }
 

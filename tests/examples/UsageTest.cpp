@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <sstream>
 
 using testing::ContainsRegex;
@@ -213,6 +214,19 @@ TEST_F(ExampleTest, EachExampleOfTheHelpRuns)
     const RunResult done = runShell(script, {});
     EXPECT_EQ(done.status, 0) << done.err;
     EXPECT_THAT(names(), testing::IsSupersetOf({"film.json", "film.xmp"}));
+}
+
+class ManualPageTest : public ProgramRunner {};
+
+TEST_F(ManualPageTest, IsFormattedWithoutAWarning)
+{
+    const std::string page = write("publish_video.1", publish::manualPage());
+    const RunResult done =
+        runShell("command -v groff >&2 || exit 77; groff -ww -man -Tascii -P-c '" + page + "'", {});
+    if (done.status == 77) GTEST_SKIP() << "groff is not installed.";
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(std::count(done.err.begin(), done.err.end(), '\n'), 1) << done.err;
+    EXPECT_THAT(done.out, HasSubstr("--title=--plain-text"));
 }
 
 TEST(ManualPage, HasTheTextsOfTheHelp)
