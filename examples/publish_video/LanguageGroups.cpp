@@ -5,58 +5,68 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <map>
-#include <utility>
+#include <numeric>
+#include <set>
 
 namespace publish {
 
 namespace {
 
-using Pair = std::pair<std::string, std::string>;
+using Languages = std::vector<std::string>;
 
-/// How many captions have both languages; a language with itself: how many have it.
-std::map<Pair, std::size_t> sharedCaptions(const std::vector<MergedCaption>& captions)
+/// In alphabetical order.
+Languages languagesOf(const std::vector<MergedCaption>& captions)
 {
-    std::map<Pair, std::size_t> shared;
+    std::set<std::string> languages;
     for (const MergedCaption& caption : captions)
-        for (const LanguageText& a : caption.texts)
-            for (const LanguageText& b : caption.texts)
-                ++shared[{a.language, b.language}];
-    return shared;
+        for (const LanguageText& text : caption.texts)
+            languages.insert(text.language);
+    return {languages.begin(), languages.end()};
 }
 
-/// Moves the group of @p b to that of @p a.
-void join(LanguageGroups& groups, const std::string& a, const std::string& b)
+/// For each two languages, how many captions have both; for one and itself, how many have it.
+using Shared = std::vector<std::vector<std::size_t>>;
+
+Shared sharedCaptions(const std::vector<MergedCaption>& captions, const Languages& languages)
 {
-    const auto groupOf = [&](const std::string& language) {
-        return std::find_if(groups.begin(), groups.end(), [&](const auto& group) {
-            return std::find(group.begin(), group.end(), language) != group.end();
-        });
-    };
-    const auto to = groupOf(a);
-    const auto from = groupOf(b);
-    if (to == from) return;
-    to->insert(to->end(), from->begin(), from->end());
-    std::sort(to->begin(), to->end());
-    groups.erase(from);
+    Shared shared(languages.size(), std::vector<std::size_t>(languages.size()));
+    for (const MergedCaption& caption : captions) {
+        std::vector<std::size_t> there;
+        for (const LanguageText& text : caption.texts) {
+            const auto place = std::lower_bound(languages.begin(), languages.end(), text.language);
+            there.push_back(static_cast<std::size_t>(place - languages.begin()));
+        }
+        for (const std::size_t a : there)
+            for (const std::size_t b : there)
+                ++shared[a][b];
+    }
+    return shared;
 }
 
 } // namespace
 
 LanguageGroups languageGroups(const std::vector<MergedCaption>& captions)
 {
-    const std::map<Pair, std::size_t> shared = sharedCaptions(captions);
-    LanguageGroups groups;
-    for (const auto& [pair, count] : shared)
-        if (pair.first == pair.second) groups.push_back({pair.first});
-    for (const auto& [pair, count] : shared) {
-        const std::size_t fewer =
-            std::min(shared.at({pair.first, pair.first}), shared.at({pair.second, pair.second}));
-        if (2 * count > fewer) join(groups, pair.first, pair.second);
+    const Languages languages = languagesOf(captions);
+    const Shared shared = sharedCaptions(captions, languages);
+    // Each group is known by the first of its languages.
+    std::vector<std::size_t> firsts(languages.size());
+    std::iota(firsts.begin(), firsts.end(), std::size_t{0});
+    for (std::size_t b = 0; b != languages.size(); ++b) {
+        for (std::size_t a = 0; a != b; ++a) {
+            if (2 * shared[a][b] <= std::min(shared[a][a], shared[b][b])) continue;
+            const auto [first, later] = std::minmax({firsts[a], firsts[b]});
+            std::replace(firsts.begin(), firsts.end(), later, first);
+        }
     }
-    std::sort(groups.begin(), groups.end());
-    return groups;
+    std::map<std::size_t, Languages> groups;
+    for (std::size_t at = 0; at != languages.size(); ++at)
+        groups[firsts[at]].push_back(languages[at]);
+    LanguageGroups ordered;
+    for (const auto& [first, group] : groups)
+        ordered.push_back(group);
+    return ordered;
 }
 
 } // namespace publish
