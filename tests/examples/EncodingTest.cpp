@@ -61,6 +61,7 @@ TEST(Encoding, DamagedUtf8AndOtherFilesGetNoHint)
                                        8),
                            "f", ""),
               "");
+    EXPECT_EQ(encodingHint("caf\xC3\xA9 caf\xE9", "f", ""), "");
     EXPECT_EQ(encodingHint("", "f", ""), "");
     EXPECT_EQ(encodingHint("caf\xC3\xA9", "f", ""), "");
 }
