@@ -8,11 +8,17 @@ set(zel_runtime ZelInterchangeData_Runtime)
 set(zel_development ZelInterchangeData_Development)
 
 set(zel_targets ZelInterchangeDataStatic)
-get_target_property(zel_kind ZelInterchangeData TYPE)
 if(zel_kind STREQUAL SHARED_LIBRARY)
     list(APPEND zel_targets ZelInterchangeData)
 else()
     set(zel_pc_static_flag " -DZELINTERCHANGEDATA_STATIC")
+endif()
+# What a program needs besides the static library: see cmake/Hardening.cmake.
+if(MINGW AND ZELINTERCHANGEDATA_HARDENING)
+    set(zel_pc_libraries "$<$<NOT:$<CONFIG:Debug>>: -lssp>")
+endif()
+if(zel_pc_static_flag)
+    set(zel_pc_static_libraries "${zel_pc_libraries}")
 endif()
 
 install(TARGETS ${zel_targets} EXPORT ZelInterchangeDataTargets

@@ -12,8 +12,8 @@ try {
     const auto bye = createCaptionItem(80000, 83000, {{"en", "Goodbye"}, {"de", "Tschüss"}});
     checked(captions).addCaptionItem(*hello).addCaptionItem(*bye);
     const auto toc = createToc();
-    checked(toc).addTocItem(*createTocItem(0, {{"en", "Intro"}}));
-    checked(toc).addTocItem(*createTocItem(45000, {{"en", "Setup"}}));
+    checked(toc).addTocItem(*createTocItem(0, {{"en", "Intro"}}));     // entry 0
+    checked(toc).addTocItem(*createTocItem(45000, {{"en", "Setup"}})); // entry 1
     const auto screenText = createScreenText();
     checked(screenText).addScreenTextItem(*createScreenTextItem(45000, 60000, "File > New", 1));
     const auto document = createDocument();

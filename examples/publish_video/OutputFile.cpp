@@ -46,9 +46,12 @@ void refuseInputs(const std::string& name, const std::string& output, const Opti
 
 void failToWrite(const std::string& output, const std::error_code& error)
 {
-    // The words that all systems share, where they have them.
-    throw PublishError(shownOutput(output) +
-                       ": cannot be written: " + error.default_error_condition().message());
+    // The words that all systems share, or the number: the system's own words may not be UTF-8.
+    const std::error_condition shared = error.default_error_condition();
+    throw PublishError(shownOutput(output) + ": cannot be written: " +
+                       (shared.category() == std::generic_category()
+                            ? shared.message()
+                            : "error " + std::to_string(error.value())));
 }
 
 void failToWrite(const std::string& output, int error)

@@ -8,6 +8,7 @@
 #include "ZelInterchangeData/ZelDataCheck.h"
 #include "ZelInterchangeData/ZelDataExport.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataHeader.h"
@@ -32,7 +33,7 @@ namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 /// What the messages of exceptions are made of.
 namespace ZelDataMessages {
 
-/// The form of the argument of an operation that a message shows: nothing for an object.
+/// How a message shows an argument of an operation. It does not show an object.
 inline std::string shown(const i_ZelDataResult*)
 {
     return {};
@@ -75,14 +76,8 @@ inline std::string shown(ZelDataFormatType_tags value)
     return "format " + shown(static_cast<unsigned long long>(value));
 }
 
-/// Whether @p text passes the check that the library's setters make.
-inline bool isUtf8(const std::string& text)
-{
-    return !failed(ZelDataUtilities::verifyUtf8Format(text, false));
-}
-
-/// The number of bytes of @p text that a message shows: a long text is shortened, if it is UTF-8
-/// between two characters.
+/// How many bytes of @p text a message shows. It cuts a long text; if that is UTF-8, between two
+/// characters.
 inline std::size_t shownLength(const std::string& text, bool utf8)
 {
     constexpr std::size_t longest = 40;
@@ -93,24 +88,13 @@ inline std::size_t shownLength(const std::string& text, bool utf8)
     return length;
 }
 
-/// @p text in quotation marks and in one line: "\x0A" stands for a control character and, if the
-/// text is not UTF-8, for any byte that is not ASCII. Three dots end a text that was shortened.
+/// @p text on one line and in quotation marks. A text that was cut ends with three dots.
 inline std::string shown(const std::string* text)
 {
     const bool utf8 = isUtf8(*text);
     const std::size_t length = shownLength(*text, utf8);
-    std::string result = "\"";
-    for (const char character : std::string_view(*text).substr(0, length)) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte < 0x20 || byte == 0x7F || (byte > 0x7F && !utf8)) {
-            result.append("\\x");
-            result += "0123456789ABCDEF"[byte / 16];
-            result += "0123456789ABCDEF"[byte % 16];
-        } else {
-            result += character;
-        }
-    }
-    return result.append(length < text->size() ? "\xE2\x80\xA6\"" : "\"");
+    const std::string line = onOneLine(std::string_view(*text).substr(0, length), utf8);
+    return "\"" + line + (length < text->size() ? "\xE2\x80\xA6\"" : "\"");
 }
 
 /// The first few of @p texts, with commas.

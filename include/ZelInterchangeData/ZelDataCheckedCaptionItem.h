@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 
@@ -129,12 +130,14 @@ private:
 
     std::string reasonOfValidity(const ZelDataCall& call) const
     {
-        return ZelDataMessages::asking(this->object(), [&] {
+        using namespace ZelDataMessages;
+        return asking(this->object(), [&] {
             const long long duration = getDuration();
-            const std::string lasts = "it lasts " + ZelDataMessages::shown(duration) + " ms";
+            const std::string lasts = "it lasts " + shown(duration) + " ms";
             if (call.code == ZelData_InvalidItem && duration <= 0) return lasts;
             if (call.code != ZelData_WarnItemGuidelines) return std::string();
-            return duration < 1000 ? lasts + ", less than 1000 ms" : reasonOfLines();
+            if (duration >= ZelDataLimits::recommendedDuration) return reasonOfLines();
+            return lasts + ", less than " + shown(ZelDataLimits::recommendedDuration) + " ms";
         });
     }
 
@@ -143,7 +146,9 @@ private:
         using namespace ZelDataMessages;
         for (const std::string& id : getLanguageIDs()) {
             const auto lines = ZelDataUtilities::countLinesInUTF8(getTextForLanguage(id));
-            if (lines > 4) return shown(lines) + " lines in " + shown(&id) + ", more than 4";
+            if (lines > ZelDataLimits::recommendedLines)
+                return shown(lines) + " lines in " + shown(&id) + ", more than " +
+                       shown(ZelDataLimits::recommendedLines);
         }
         return {};
     }

@@ -7,6 +7,7 @@
 #include "ZelInterchangeData/ZelDataCheckedCaptionItem.h"
 #include "ZelInterchangeData/ZelDataCheckedLanguage.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
@@ -142,9 +143,9 @@ public:
         return this->run("removeCaptionItemsForLanguage", &Interface::removeCaptionItemsForLanguage,
                          languageID);
     }
-    /// See i_ZelDataCaptions::getCaptionItemCount(), which is not const. A const view therefore calls getCaptionItems(),
-    /// which copies all items: its time is in proportion to their number. If you need the items,
-    /// too, count those.
+    /// See i_ZelDataCaptions::getCaptionItemCount(), which is not const. A const view therefore
+    /// calls getCaptionItems(), which copies all items: its time is in proportion to their number.
+    /// If you need the items, too, count those.
     unsigned long getCaptionItemCount() const
     {
         if constexpr (std::is_const_v<Object>)
@@ -182,6 +183,8 @@ private:
     std::string reason(const ZelDataCall& call) const
     {
         using namespace ZelDataMessages;
+        if (call.operation == "isValid")
+            return reasonOfProblem<i_ZelDataCaptions>(this->object(), call);
         if (call.operation == "addCaptionItem") return reasonOfCaption(call);
         if (call.is("getCaptionItemAt", ZelData_InvalidArgument) ||
             call.is("removeCaptionItemAt", ZelData_InvalidArgument))
@@ -196,7 +199,9 @@ private:
         using namespace ZelDataMessages;
         if (call.is("setFontFamily", ZelData_InvalidArgument))
             return call.text().empty() ? "empty" : "";
-        if (call.is("setFontSize", ZelData_InvalidArgument)) return reasonOfRange(call, 1, 500);
+        if (call.is("setFontSize", ZelData_InvalidArgument))
+            return reasonOfRange(call, ZelDataLimits::minimumFontSize,
+                                 ZelDataLimits::maximumFontSize);
         if (call.is("setForegroundColor", ZelData_InvalidArgument) ||
             call.is("setBackgroundColor", ZelData_InvalidArgument))
             return reasonOfFractions(call, {"red is ", "green is ", "blue is "});

@@ -78,9 +78,9 @@ public:
     {
         return this->run("removeScreenTextItemAt", &Interface::removeScreenTextItemAt, index);
     }
-    /// See i_ZelDataScreenText::getScreenTextItemCount(), which is not const. A const view therefore calls getScreenTextItems(),
-    /// which copies all items: its time is in proportion to their number. If you need the items,
-    /// too, count those.
+    /// See i_ZelDataScreenText::getScreenTextItemCount(), which is not const. A const view therefore
+    /// calls getScreenTextItems(), which copies all items: its time is in proportion to their
+    /// number. If you need the items, too, count those.
     unsigned long getScreenTextItemCount() const
     {
         if constexpr (std::is_const_v<Object>)
@@ -111,6 +111,8 @@ private:
     std::string reason(const ZelDataCall& call) const
     {
         using namespace ZelDataMessages;
+        if (call.operation == "isValid")
+            return reasonOfProblem<i_ZelDataScreenText>(this->object(), call);
         if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
         if (call.is("getScreenTextItemAt", ZelData_InvalidArgument) ||
             call.is("removeScreenTextItemAt", ZelData_InvalidArgument))

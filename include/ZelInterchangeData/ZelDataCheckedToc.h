@@ -91,9 +91,9 @@ public:
         return this->run("removeTocItemsForLanguage", &Interface::removeTocItemsForLanguage,
                          languageID);
     }
-    /// See i_ZelDataToc::getTocItemCount(), which is not const. A const view therefore calls getTocItems(),
-    /// which copies all items: its time is in proportion to their number. If you need the items,
-    /// too, count those.
+    /// See i_ZelDataToc::getTocItemCount(), which is not const. A const view therefore
+    /// calls getTocItems(), which copies all items: its time is in proportion to their number. If
+    /// you need the items, too, count those.
     unsigned long getTocItemCount() const
     {
         if constexpr (std::is_const_v<Object>)
@@ -131,6 +131,7 @@ private:
     std::string reason(const ZelDataCall& call) const
     {
         using namespace ZelDataMessages;
+        if (call.operation == "isValid") return reasonOfProblem<i_ZelDataToc>(this->object(), call);
         if (call.is("getTocItemAt", ZelData_InvalidArgument) ||
             call.is("removeTocItemAt", ZelData_InvalidArgument))
             return asking(this->object(), [&] { return reasonOfIndex(call, getTocItemCount()); });

@@ -33,6 +33,7 @@
 #include "ZelInterchangeData/ZelDataFactories.h"
 #include "ZelInterchangeData/ZelDataFiles.h"
 #include "ZelInterchangeData/ZelDataItems.h"
+#include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/ZelInterchangeData.h"
 

@@ -4,8 +4,9 @@
 #ifndef ZELINTERCHANGEDATA_ZELDATAFILES_H
 #define ZELINTERCHANGEDATA_ZELDATAFILES_H
 
-#include "ZelInterchangeData/ZelDataCheck.h"
+#include "ZelInterchangeData/ZelDataCall.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/ZelDataReplaceFile.h"
 
 #include <string>
@@ -27,7 +28,10 @@ inline void replaceFile(const i_ZelInterchangeDataCore& document, const std::str
         throw std::system_error(systemError, std::system_category(),
                                 "replaceFile(\"" + path + "\")");
     }
-    check(code, "replaceFile");
+    if (failed(code)) {
+        throwZelDataError({"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}},
+                          [&] { return ZelDataMessages::reasonOfWriting(document, code); });
+    }
 }
 
 } // namespace ZelInterchangeData

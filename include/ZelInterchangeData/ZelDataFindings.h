@@ -22,8 +22,8 @@ class i_ZelDataToc;
 class i_ZelInterchangeDataCore;
 
 /// @name Finding problems of a collection
-/// Each replaces @p findings with everything that is wrong with the collection; the collection's
-/// own isValid() reports only the first problem. For the library's own collections the list is
+/// Each replaces @p findings with every problem that `isValid(true)` looks for; `isValid(true)`
+/// itself reports only the first one. For the library's own collections the list is
 /// empty if and only if `isValid(true)` returns ZelData_Ok; otherwise the first finding is the one
 /// whose code `isValid(true)` returns.
 ///
@@ -55,11 +55,13 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags findProblems(const i_ZelDataScreenText
 /// @}
 
 /// @name Finding problems of the packet
-/// Each replaces @p findings with what makes a document impossible to write or its packet impossible
-/// to read, and with what its author probably did not want. severityOf() tells the two apart: for a
-/// document of the library without a finding of ZelDataFindingSeverity_Error, `writeString` returns
-/// ZelData_Ok unless memory runs out, the packet is well-formed XML, and an XML parser reads from it
-/// every value that the document holds, apart from what the format leaves out or changes.
+/// Each replaces @p findings with errors and warnings; severityOf() tells which a finding is. With
+/// an error, the document cannot be written or its packet cannot be read. A warning is about
+/// something that you probably did not want.
+///
+/// If findProblems() finds no error in a document of the library, `writeString` returns ZelData_Ok
+/// unless memory runs out, the packet is well-formed XML, and an XML parser returns every value of
+/// the document, except those that the format leaves out or changes.
 ///
 /// They do not look at
 /// - what is not written: the titles of entries in other languages than the table's first, the
@@ -121,7 +123,8 @@ ZELINTERCHANGEDATA_API ZelDataResult_tags codeOf(const ZelDataFinding& finding) 
 /// Describes @p finding in one line of English without a line feed, such as "caption 2 at 2000 ms:
 /// too short (900 ms, at least 1000 ms)". Items are counted from 0. Control characters in a
 /// language ID are escaped as in "\x0A", and so are all non-ASCII bytes if the ID is not UTF-8.
-/// Returns "unknown finding" for a kind that does not exist. May throw `std::bad_alloc`.
+/// For a kind that does not exist, it says "unknown finding" after the place. May throw
+/// `std::bad_alloc`.
 ZELINTERCHANGEDATA_API std::string describe(const ZelDataFinding& finding);
 /// @}
 

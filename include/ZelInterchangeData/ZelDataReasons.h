@@ -7,9 +7,13 @@
 
 #include "ZelInterchangeData/ZelDataCall.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataFindings.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -32,8 +36,8 @@ inline std::string reasonOfRange(const ZelDataCall& call, unsigned long minimum,
 /// A frame rate.
 inline std::string reasonOfFrameRate(const ZelDataCall& call)
 {
-    return call.is("setFrameRate", ZelData_InvalidArgument) ? reasonOfRange(call, 1, 10000)
-                                                            : std::string();
+    if (!call.is("setFrameRate", ZelData_InvalidArgument)) return {};
+    return reasonOfRange(call, ZelDataLimits::minimumFrameRate, ZelDataLimits::maximumFrameRate);
 }
 
 /// The language ID @p id. Suggests an ID that is written with an underscore instead of a hyphen.
@@ -127,6 +131,37 @@ inline std::string reasonOfHeader(const ZelDataCall& call)
     const auto* header = call.arguments.begin()->as<const i_ZelDataHeader*>();
     return header == nullptr || call.code != ZelData_InvalidArgument ? std::string()
                                                                      : reasonOfSizes(**header);
+}
+
+/// The header of @p document, if it cannot be written.
+inline std::string reasonOfWriting(const i_ZelInterchangeDataCore& document,
+                                   ZelDataResult_tags code)
+{
+    if (code != ZelData_InvalidArgument) return {};
+    return asking(document, [&] {
+        i_ZelDataHeader* made = nullptr;
+        if (failed(ZelDataUtilities::createHeaderData(&made))) return std::string();
+        const std::unique_ptr<i_ZelDataHeader> header(made);
+        const auto got = document.getDataHeader(*header);
+        if (got == ZelData_NoData) return std::string("the document has no header");
+        // A copy stops at the first size that is 0.
+        return got == ZelData_InvalidArgument ? reasonOfSizes(*header) : "";
+    });
+}
+
+/// The first problem of @p collection for which isValid() returns the code of @p call.
+template <class Collection>
+std::string reasonOfProblem(const Collection& collection, const ZelDataCall& call)
+{
+    return asking(collection, [&] {
+        std::vector<ZelDataFinding> findings;
+        if (failed(findProblems(collection, findings))) return std::string();
+        const auto found =
+            std::find_if(findings.begin(), findings.end(), [&](const ZelDataFinding& finding) {
+                return codeOf(finding) == call.code;
+            });
+        return found == findings.end() ? std::string() : describe(*found);
+    });
 }
 
 /// A text of @p item or its language.

@@ -20,7 +20,8 @@ class i_ZelInterchangeDataCore;
 /// part of either.
 ///
 /// Writes a new file in the same folder, flushes it to the disk, gives it the name of the old file,
-/// and flushes the folder.
+/// and flushes the folder. It does not flush the folder on Windows, and not if you may not list it.
+/// Where the file system can flush neither files nor folders, it goes on without.
 /// - If @p path is a symbolic link, replaces the file that it leads to, even if there is none yet.
 /// - The new file has the permissions of the old one, and its owner and group if the system allows
 ///   that. Without an old file, it has the permissions of any new file. Other names of the old file
@@ -41,12 +42,18 @@ class i_ZelInterchangeDataCore;
 /// - #ZelData_OutOfMemory, or #ZelData_InternalError if a class of yours throws another exception:
 ///   @p systemError is 0.
 ///
-/// After a failure, the old file is unchanged and nothing else is left in the folder, with one
-/// exception: if the system cannot flush the folder, the new file is there, but a crash of the
-/// system may bring back the old one. A process that is killed may leave a file named
-/// `.ZelInterchangeData-` and 16 digits.
+/// After a failure, the old file is unchanged and nothing else is left in the folder, with these
+/// exceptions:
+/// - If flushing the folder fails, the new file is there, but a crash of the system may bring back
+///   the old one.
+/// - If Windows removes the old file and then fails to rename the new one, the new file is left
+///   under its temporary name: `.ZelInterchangeData-` and 16 digits.
+/// - If the process is killed, a file with such a name may be left.
 ///
 /// On success, @p systemError is 0.
+///
+/// Throws nothing, not even `std::bad_alloc`. It is not `noexcept`, so that a thread can end (by
+/// cancellation or `pthread_exit`) in a `writeString` of yours.
 ZELINTERCHANGEDATA_API ZelDataResult_tags
 replaceFile(const i_ZelInterchangeDataCore& document, const std::string& path, int& systemError,
             ZelDataFormatType_tags format = ZelDataFormat_Xmp);

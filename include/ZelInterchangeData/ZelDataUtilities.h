@@ -117,8 +117,9 @@ public:
     static std::string htmlTagsToText(const std::string& text);
     /// @p text with the five XML entities decoded, once.
     ///
-    /// An entity that ends at the last byte is not decoded. If a `&` does not begin an entity, the
-    /// byte after it is dropped, or the byte after `&a` ("&nbsp;" gives "&bsp;").
+    /// An entity that ends at the last byte is not decoded. If a `&` does not begin an entity that
+    /// is decoded, the byte after it is dropped, or the byte after `&a` ("&nbsp;" gives "&bsp;", and
+    /// "A&amp;" gives "A&ap;").
     static std::string htmlTagsFromText(const std::string& text);
     /// "bottom", "top" or "center"; bottom takes precedence over top.
     static std::string getVerticalAlignment(ZelAlignment_tags alignment);

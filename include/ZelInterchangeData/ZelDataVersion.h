@@ -1,6 +1,6 @@
 /// @file
-/// The version of the library: the one that these headers belong to, and the one that is running. The packet
-/// names the version of its format instead, `zel:version`.
+/// The version of the library: the one that these headers belong to, and the one that is running.
+/// The packet names the version of its format instead, `zel:version`.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATAVERSION_H
 #define ZELINTERCHANGEDATA_ZELDATAVERSION_H

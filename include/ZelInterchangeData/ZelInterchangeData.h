@@ -14,6 +14,7 @@
 #include "ZelInterchangeData/ZelDataFinding_tags.h"
 #include "ZelInterchangeData/ZelDataFindings.h"
 #include "ZelInterchangeData/ZelDataFormatType_tags.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataReplaceFile.h"
 #include "ZelInterchangeData/ZelDataResultText.h"
 #include "ZelInterchangeData/ZelDataResult_tags.h"

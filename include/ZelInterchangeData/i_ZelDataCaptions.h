@@ -43,10 +43,10 @@ public:
     /// @name Styling
     /// @{
 
-    /// Time units per second, 1 to 10000. Default 1000, which makes times milliseconds.
+    /// Ticks per second, 1 to 10000. Default 1000, which makes times milliseconds.
     /// - #ZelData_InvalidArgument: out of range.
     virtual ZelDataResult_tags setFrameRate(unsigned long rate) = 0;
-    /// The frame rate, in time units per second.
+    /// The frame rate, in ticks per second.
     virtual ZelDataResult_tags getFrameRate(unsigned long& rate) const = 0;
     /// Any bytes, but not empty. Default "Helvetica". Written without escaping.
     /// - #ZelData_InvalidArgument: @p family is empty.

@@ -1,10 +1,10 @@
 #include "captions/CaptionFindings.h"
 
 #include "ZelInterchangeData/ZelDataFindings.h"
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "ZelInterchangeData/i_ZelDataCaptions.h"
-#include "captions/CaptionLimits.h"
 #include "captions/CaptionStyle.h"
 #include "captions/ZelDataCaptions.h"
 
@@ -32,7 +32,7 @@ void checkStyle(const CaptionStyle& style, FindingList& found)
     if (style.fontFamily.empty()) found.add(ZelDataFinding_FontFamilyMissing);
     if (!CaptionStyle::isFontSize(style.fontSize))
         found.addOutOfRange(ZelDataFinding_FontSizeOutOfRange, style.fontSize,
-                            CaptionStyle::minimumFontSize, CaptionStyle::maximumFontSize);
+                            ZelDataLimits::minimumFontSize, ZelDataLimits::maximumFontSize);
     checkFraction("foreground red", style.foreground.red, found);
     checkFraction("foreground green", style.foreground.green, found);
     checkFraction("foreground blue", style.foreground.blue, found);
@@ -69,20 +69,20 @@ void addDuration(ZelDataFinding_tags kind, long long duration, long long limit, 
 /// Does not report a caption without a duration as too short as well.
 void checkDuration(long long duration, FindingList& found)
 {
-    if (duration < CaptionLimits::shortestDuration) {
-        addDuration(ZelDataFinding_NoDuration, duration, CaptionLimits::shortestDuration, found);
-    } else if (duration < CaptionLimits::recommendedDuration) {
-        addDuration(ZelDataFinding_TooShort, duration, CaptionLimits::recommendedDuration, found);
+    if (duration < ZelDataLimits::shortestDuration) {
+        addDuration(ZelDataFinding_NoDuration, duration, ZelDataLimits::shortestDuration, found);
+    } else if (duration < ZelDataLimits::recommendedDuration) {
+        addDuration(ZelDataFinding_TooShort, duration, ZelDataLimits::recommendedDuration, found);
     }
 }
 
 void checkLines(const std::string& text, const std::string& language, FindingList& found)
 {
     const unsigned long lines = ZelDataUtilities::countLinesInUTF8(text);
-    if (lines <= CaptionLimits::recommendedLines) return;
+    if (lines <= ZelDataLimits::recommendedLines) return;
     ZelDataFinding& finding = found.add(ZelDataFinding_TooManyLines, language);
     finding.value = static_cast<long long>(lines);
-    finding.limit = static_cast<long long>(CaptionLimits::recommendedLines);
+    finding.limit = static_cast<long long>(ZelDataLimits::recommendedLines);
 }
 
 /// Checks @p item itself and whether it has texts in the languages @p listed.

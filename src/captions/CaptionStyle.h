@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_CAPTIONS_CAPTIONSTYLE_H
 #define ZELINTERCHANGEDATA_CAPTIONS_CAPTIONSTYLE_H
 
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "sets/FrameRate.h"
 
 #include <string>
@@ -30,8 +31,6 @@ struct CaptionColor {
 
 /// The styling that all captions of a collection share.
 struct CaptionStyle {
-    static constexpr unsigned long minimumFontSize = 1;
-    static constexpr unsigned long maximumFontSize = 500;
     static constexpr unsigned long standardFontSize = 20;
     static constexpr unsigned long repairedFontSize = 10;
     static constexpr const char* standardFontFamily = "Helvetica";
@@ -45,7 +44,7 @@ struct CaptionStyle {
 
     static constexpr bool isFontSize(unsigned long size) noexcept
     {
-        return size >= minimumFontSize && size <= maximumFontSize;
+        return size >= ZelDataLimits::minimumFontSize && size <= ZelDataLimits::maximumFontSize;
     }
 
     /// Whether the setters accept all values.

@@ -1,7 +1,7 @@
 #include "captions/ZelDataCaptionItem.h"
 
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
-#include "captions/CaptionLimits.h"
 #include "sets/Factory.h"
 #include "util/TextUtilities.h"
 
@@ -22,8 +22,8 @@ ZelDataCaptionItem& ZelDataCaptionItem::operator=(const ZelDataCaptionItem& othe
 
 ZelDataResult_tags CaptionState::check(bool strict) const
 {
-    if (time.duration < CaptionLimits::shortestDuration) return ZelData_InvalidItem;
-    if (strict && time.duration < CaptionLimits::recommendedDuration)
+    if (time.duration < ZelDataLimits::shortestDuration) return ZelData_InvalidItem;
+    if (strict && time.duration < ZelDataLimits::recommendedDuration)
         return ZelData_WarnItemGuidelines;
     // Languages and texts were checked when they were set; only the lines remain.
     unsigned long most = 0;
@@ -32,7 +32,7 @@ ZelDataResult_tags CaptionState::check(bool strict) const
             most = std::max(most, countLines(text));
         });
     }
-    return most > CaptionLimits::recommendedLines ? ZelData_WarnItemGuidelines : ZelData_Ok;
+    return most > ZelDataLimits::recommendedLines ? ZelData_WarnItemGuidelines : ZelData_Ok;
 }
 
 ZelDataResult_tags ZelDataCaptionItem::isValid(bool strict) const

@@ -159,8 +159,10 @@ public:
             // Deliberate: if the old file is gone already, only moving is left; if that fails too,
             // the new file stays under its own name, otherwise both would be lost.
             const int error = errorUnless(false);
-            if (error != ERROR_UNABLE_TO_MOVE_REPLACEMENT) return failed(error, std::move(path));
-            return errorUnless(move(path, target));
+            if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT ||
+                error == ERROR_UNABLE_TO_MOVE_REPLACEMENT_2)
+                return errorUnless(move(path, target));
+            return failed(error, std::move(path));
         }
         return move(path, target) ? 0 : failed(errorUnless(false), std::move(path));
     }

@@ -6,7 +6,8 @@
 
 namespace ZelInterchangeData {
 
-// Not noexcept: a thread that ends inside a caller's document unwinds through it.
+// Deliberate: not noexcept; with it, a thread that ends in a caller's document would end the process.
+// The guard lets nothing else pass.
 ZelDataResult_tags replaceFile(const i_ZelInterchangeDataCore& document, const std::string& path,
                                int& systemError, ZelDataFormatType_tags format)
 {

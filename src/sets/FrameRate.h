@@ -4,19 +4,19 @@
 #ifndef ZELINTERCHANGEDATA_SETS_FRAMERATE_H
 #define ZELINTERCHANGEDATA_SETS_FRAMERATE_H
 
+#include "ZelInterchangeData/ZelDataLimits.h"
+
 namespace ZelInterchangeData {
 
-/// Time units per second.
+/// Ticks per second.
 struct FrameRate {
-    static constexpr unsigned long minimum = 1;
-    static constexpr unsigned long maximum = 10000;
     static constexpr unsigned long standard = 1000;
 
     unsigned long value = standard;
 
     static constexpr bool isInRange(unsigned long rate) noexcept
     {
-        return rate >= minimum && rate <= maximum;
+        return rate >= ZelDataLimits::minimumFrameRate && rate <= ZelDataLimits::maximumFrameRate;
     }
 
     constexpr bool isInRange() const noexcept { return isInRange(value); }

@@ -1,5 +1,6 @@
 #include "sets/ItemFindings.h"
 
+#include "ZelInterchangeData/ZelDataLimits.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataLanguage.h"
 #include "sets/LanguageTexts.h"
@@ -63,8 +64,8 @@ void FindingList::addBeyond(ZelDataFinding_tags kind, unsigned long value, long 
 void FindingList::checkFrameRate(FrameRate rate)
 {
     if (rate.isInRange()) return;
-    addOutOfRange(ZelDataFinding_FrameRateOutOfRange, rate.value, FrameRate::minimum,
-                  FrameRate::maximum);
+    addOutOfRange(ZelDataFinding_FrameRateOutOfRange, rate.value, ZelDataLimits::minimumFrameRate,
+                  ZelDataLimits::maximumFrameRate);
 }
 
 void FindingList::checkMilliseconds(FrameRate rate)

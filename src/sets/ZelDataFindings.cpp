@@ -1,5 +1,6 @@
 #include "ZelInterchangeData/ZelDataFindings.h"
 
+#include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 
 namespace ZelInterchangeData {
@@ -19,30 +20,10 @@ std::string number(long long value)
     return std::to_string(value);
 }
 
-/// Escapes each byte of @p text for which @p needsEscape returns true, as in "\x0A".
-template <class NeedsEscape>
-std::string escaped(const std::string& text, NeedsEscape&& needsEscape)
-{
-    constexpr const char* digits = "0123456789ABCDEF";
-    std::string result;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (needsEscape(byte)) {
-            result.append("\\x").append(1, digits[byte >> 4]).append(1, digits[byte & 0xF]);
-        } else {
-            result += character;
-        }
-    }
-    return result;
-}
-
-/// The language of @p finding, escaped so that it stays on one line.
 std::string languageOf(const ZelDataFinding& finding)
 {
-    const bool isUtf8 = !failed(ZelDataUtilities::verifyUtf8Format(finding.language, false));
-    return escaped(finding.language, [&](unsigned char byte) {
-        return byte < 0x20 || byte == 0x7F || (byte >= 0x80 && !isUtf8);
-    });
+    const std::string& language = finding.language;
+    return ZelDataMessages::onOneLine(language, ZelDataMessages::isUtf8(language));
 }
 
 std::string nameOfCollection(ZelDataFindingSubject_tags subject)

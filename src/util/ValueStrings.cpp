@@ -77,6 +77,11 @@ std::string dateAndTime(const std::tm& utc)
 
 #ifdef _WIN32
 
+long long currentInstant()
+{
+    return _time64(nullptr);
+}
+
 bool utcTime(long long instant, std::tm& utc)
 {
     return utcCalendar(instant, utc);
@@ -89,6 +94,11 @@ bool localTime(long long instant, std::tm& local)
 }
 
 #else
+
+std::time_t currentInstant()
+{
+    return std::time(nullptr);
+}
 
 bool utcTime(std::time_t instant, std::tm& utc)
 {
@@ -169,7 +179,7 @@ std::string ZelDataUtilities::getVersionString(unsigned long version)
 // NOLINTNEXTLINE(readability-non-const-parameter): the parameter is part of the exported name.
 std::string ZelDataUtilities::getDateString(long* seconds)
 {
-    const std::time_t instant = seconds == nullptr ? std::time(nullptr) : *seconds;
+    const auto instant = seconds == nullptr ? currentInstant() : *seconds;
     std::tm utc{};
     std::tm local{};
     if (!utcTime(instant, utc) || !localTime(instant, local)) return {};

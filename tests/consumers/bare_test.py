@@ -1,31 +1,40 @@
-"""A system with a compiler, CMake and nothing else: a copy of the tree is configured, built and installed
-with every find_package disabled."""
+"""A system with a compiler, CMake and nothing else: a copy of the tree is configured, built and installed,
+and CMake finds no package and no program. With GoogleTest, the tests that need no more are built."""
 
+import os
 import re
 import shutil
 import unittest
 
-from support import CONSUMERS, CXX, CXXFLAGS, SOURCE, ChecksOfPrograms, fresh_folder, install, run
+from support import (CONSUMERS, CXX, CXXFLAGS, SOURCE, ChecksOfPrograms, fresh_folder, install, run,
+                     tests_of)
 
-PACKAGE = re.compile(r"^\s*find_package\((\w+)", re.MULTILINE)
 FLAGS = (f"-DCMAKE_CXX_COMPILER={CXX}", f"-DCMAKE_CXX_FLAGS={' '.join(CXXFLAGS)}",
          "-DCMAKE_INSTALL_LIBDIR=lib")
+# CMake searches neither the system's folders nor PATH, so it must be told where its own program is.
+HIDDEN = ("-DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF", "-DCMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH=OFF")
+MAKE_PROGRAMS = {"Ninja": "ninja", "Unix Makefiles": "make"}
+GOOGLETEST = f"-DGTest_DIR={os.environ['GTEST']}"
 SHARED = "lib/libZelInterchangeData.so"
 STATIC = "lib/libZelInterchangeData.a"
 
 
 def copy_of_the_tree(folder):
     """The tree without build output."""
-    built = {path.parent for path in SOURCE.rglob("CMakeCache.txt")}
+    built = {path.parent for path in SOURCE.rglob("CMakeCache.txt")} | {SOURCE / "build", SOURCE / ".git"}
     shutil.copytree(SOURCE, folder, ignore=lambda parent, names: [
-        name for name in names if name == ".git" or SOURCE.joinpath(parent, name) in built])
+        name for name in names if SOURCE.joinpath(parent, name) in built])
     return folder
 
 
-def packages(tree):
-    """The packages that the project looks for, except those of its consumers."""
-    return {package for path in tree.rglob("CMakeLists.txt") if "consumers" not in path.relative_to(tree).parts
-            for package in PACKAGE.findall(path.read_text(encoding="utf-8"))}
+def configure_bare(source, tree, *definitions, generator="Ninja"):
+    return run("cmake", "-S", source, "-B", tree, "-G", generator, *FLAGS, *HIDDEN,
+               f"-DCMAKE_MAKE_PROGRAM={shutil.which(MAKE_PROGRAMS[generator])}", *definitions)
+
+
+def left_out(output):
+    """What is left out, and what to do about it."""
+    return dict(re.findall(r"^-- Left out: (.*?)\. (.*)$", output, re.MULTILINE))
 
 
 class Bare(ChecksOfPrograms):
@@ -44,12 +53,7 @@ class Bare(ChecksOfPrograms):
 
     @classmethod
     def configure(cls, *definitions):
-        hidden = packages(cls.source)
-        assert {"GTest", "Python3"} <= hidden, hidden
-        return run("cmake", "--no-warn-unused-cli", "-S", cls.source, "-B", cls.tree,
-                   "-G", cls.GENERATOR, *FLAGS,
-                   *(f"-DCMAKE_DISABLE_FIND_PACKAGE_{name}=TRUE" for name in sorted(hidden)),
-                   *definitions)
+        return configure_bare(cls.source, cls.tree, *definitions, generator=cls.GENERATOR)
 
     def built_with(self, library, *definitions):
         """What is installed when the tree is configured again, and the consumer of that."""
@@ -65,9 +69,8 @@ class Bare(ChecksOfPrograms):
         return installed, consumer / "consumer"
 
     def test_it_says_what_is_left_out_and_what_to_install(self):
-        left_out = re.findall(r"^-- Left out: (.*)$", self.output, re.MULTILINE)
-        self.assertEqual(left_out, [
-            "the tests. Install GoogleTest (Debian: libgtest-dev libgmock-dev)"])
+        self.assertEqual(left_out(self.output), {
+            "the tests": "Install GoogleTest (Debian: libgtest-dev libgmock-dev)"})
         self.assertNotIn("CMake Warning", self.output)
 
     def test_it_builds_and_installs_both_libraries(self):
@@ -117,6 +120,27 @@ class Testing(unittest.TestCase):
                              "-DZELINTERCHANGEDATA_EXAMPLES=OFF", *wanted)
                 self.assertNotIn("GTest", output)
                 self.assertFalse((tree / "tests").exists())
+
+    def test_with_googletest_alone_the_tests_that_need_more_are_left_out(self):
+        tree = fresh_folder(self.id())
+        absent = left_out(configure_bare(SOURCE, tree, GOOGLETEST))
+        folders = {f"tests/{file.parent.name}" for file in SOURCE.glob("tests/*/CMakeLists.txt")}
+        self.assertEqual(set(absent), folders - {"tests/examples"} | {"fuzz"})
+        self.assertEqual(absent["tests/readers"],
+                         "Install Python3, xmllint, rapper, exempi, exiftool (Debian: scripts/setup)")
+        self.assertIn("core_tests", tests_of(tree))
+
+    def test_the_presets_stop_where_a_test_would_be_left_out(self):
+        with self.assertRaisesRegex(AssertionError, r"CMake Error at .*\n  Left out: tests/readers\."):
+            configure_bare(SOURCE, fresh_folder(self.id()), "--preset", "release", GOOGLETEST)
+
+    def test_without_the_shared_library_only_its_tests_are_left_out(self):
+        tree = fresh_folder(self.id())
+        output = run("cmake", "-S", SOURCE, "-B", tree, *FLAGS, "-DBUILD_SHARED_LIBS=OFF")
+        self.assertIn("the tests of the shared library", left_out(output))
+        tests = set(tests_of(tree))
+        self.assertLess({"core_tests", "abi.exports.other_compiler", "consumers.install"}, tests)
+        self.assertFalse(tests & {"abi.exports", "abi.version", "abi.vtables", "modules.SecondCopy"})
 
 
 if __name__ == "__main__":

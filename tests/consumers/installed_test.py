@@ -245,14 +245,19 @@ class Compilers(ChecksOfPrograms, unittest.TestCase):
         if compiler is None:
             self.skipTest(f"{name} is not installed")
         self.folder = fresh_folder(self.id())
+        headers = sorted(path.name for path in (PREFIX / "include/ZelInterchangeData").iterdir()
+                         if not THROWING.fullmatch(path.name))
         bare = self.folder / "bare.cpp"
-        bare.write_text(BARE_PROGRAM, encoding="utf-8")
+        bare.write_text("".join(f'#include "ZelInterchangeData/{name}"\n' for name in headers) +
+                        BARE_PROGRAM, encoding="utf-8")
         for standard in STANDARDS:
             with self.subTest(standard):
                 self.assert_works(self.compiled(compiler, standard, CONSUMERS / "program/main.cpp"),
                                   PREFIX / "lib")
-                face = self.compiled(compiler, standard, SOURCE / "examples/complete_document/main.cpp")
-                self.assertEqual(written_by(face, self.folder, PREFIX / "lib"), COMPLETE_DOCUMENT)
+                for flags in ([], ["-fno-rtti"]):
+                    face = self.compiled(compiler, standard,
+                                         SOURCE / "examples/complete_document/main.cpp", *flags)
+                    self.assertEqual(written_by(face, self.folder, PREFIX / "lib"), COMPLETE_DOCUMENT)
                 run(self.compiled(compiler, standard, bare, *BARE_LANGUAGE),
                     env=dict(os.environ, LD_LIBRARY_PATH=str(PREFIX / "lib")))
 

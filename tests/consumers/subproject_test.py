@@ -5,7 +5,7 @@ import re
 import unittest
 from pathlib import Path
 
-from support import CONSUMERS, SOURCE, ChecksOfPrograms, build, configure, fresh_folder, install, run
+from support import CONSUMERS, SOURCE, ChecksOfPrograms, build, configure, fresh_folder, install, tests_of
 
 WARNING_FLAGS = re.compile(r"-W(?!l,)\S*|-w\b|-pedantic\S*")
 
@@ -17,11 +17,6 @@ def cache_variables(tree):
 
 def compile_commands(tree):
     return json.loads((tree / "compile_commands.json").read_text(encoding="utf-8"))
-
-
-def tests_of(tree):
-    listing = run("ctest", "--test-dir", tree, "--show-only=json-v1")
-    return [test["name"] for test in json.loads(listing)["tests"]]
 
 
 class Subproject(ChecksOfPrograms):

@@ -1,6 +1,7 @@
 """Shared by the consumer tests: where the library is installed, how to build a project, and what its
 program must print."""
 
+import json
 import os
 import re
 import shutil
@@ -59,19 +60,24 @@ def install(tree, prefix):
     return {path.removeprefix(f"{prefix}/") for path in paths}
 
 
+def tests_of(tree):
+    listing = run("ctest", "--test-dir", tree, "--show-only=json-v1")
+    return [test["name"] for test in json.loads(listing)["tests"]]
+
+
 def needed_libraries(program):
     """Our shared libraries among those that the program needs."""
     entries = run("readelf", "--dynamic", "--wide", program)
     return re.findall(r"NEEDED.*\[(libZel[^]]*)\]", entries)
 
 
-def make_with_pkg_config(folder, pkgconfig_folder, module, flags=(), static=False):
+def make_with_pkg_config(folder, pkgconfig_folder, module, flags=(), static=False, compiler=CXX):
     """Builds the pkg_config project; returns its program."""
     extra = ["PKG_CONFIG_FLAGS=--static", "LDFLAGS=-static"] if static else []
     environment = dict(os.environ, PKG_CONFIG_PATH=str(pkgconfig_folder),
                        CXXFLAGS=" ".join([*CXXFLAGS, *flags]))
     run("make", "-C", CONSUMERS / "pkg_config", f"BUILD={folder}", f"MODULE={module}",
-        f"CXX={CXX}", *extra, env=environment)
+        f"CXX={compiler}", *extra, env=environment)
     return folder / "consumer"
 
 

@@ -9,7 +9,8 @@ import sys
 import unittest
 from pathlib import Path
 
-from support import CONSUMERS, EXPECTED_OUTPUT, SOURCE, WORK, build, fresh_folder, install, run
+from support import (CONSUMERS, EXPECTED_OUTPUT, SOURCE, WORK, build, fresh_folder, install,
+                     make_with_pkg_config, run)
 
 sys.path.insert(0, str(SOURCE / "tests" / "abi"))
 from demangled import shortened  # noqa: E402, from the folder above
@@ -82,28 +83,37 @@ class Windows(unittest.TestCase):
         table = run(f"{TRIPLE}-objdump", "-p", self.prefix / "bin" / DLL)
         names = re.findall(r"^\t\[ *\d+\] (\S+)$", table.partition("[Ordinal/Name Pointer]")[2],
                            re.MULTILINE)
-        exported = set(map(shortened, run(f"{TRIPLE}-c++filt", *names).splitlines()))
+        exported = set(map(shortened, run(f"{TRIPLE}-c++filt", "-n", *names).splitlines()))
         listed = (SOURCE / "tests/abi/exports.txt").read_text(encoding="ascii").splitlines()
         # The names of types, which Linux exports too, stay inside.
         self.assertEqual(exported, {name for name in listed
                                     if not name.endswith(":") and not name.startswith("typeinfo name ")})
 
-    def check_consumer(self, library, imported, expected):
+    def consumer_of(self, library):
         folder = empty_folder(self.id())
         cross_configure(CONSUMERS / "find_package", folder, f"-DCONSUMER_LIBRARY={library}",
                         f"-DZelInterchangeData_DIR={self.prefix}/lib/cmake/ZelInterchangeData")
         build(folder)
+        return folder
+
+    def check_consumer(self, folder, imported, expected):
         self.assertEqual(imported_libraries(folder / "consumer.exe"), imported)
         done = wine(folder / "consumer.exe", libraries=[self.prefix / "bin"], folder=folder)
         self.assertEqual(done.stdout.decode().replace("\r\n", "\n"), expected)
 
     def test_a_consumer_of_the_shared_library(self):
         # A DLL does not call the program's operator new, so the program cannot make it fail.
-        self.check_consumer("ZelInterchangeData", [DLL],
+        self.check_consumer(self.consumer_of("ZelInterchangeData"), [DLL],
                             EXPECTED_OUTPUT.replace("Out of memory", "no exception"))
 
     def test_a_consumer_of_the_static_library(self):
-        self.check_consumer("ZelInterchangeDataStatic", [], EXPECTED_OUTPUT)
+        self.check_consumer(self.consumer_of("ZelInterchangeDataStatic"), [], EXPECTED_OUTPUT)
+
+    def test_pkg_config_names_all_that_the_static_library_needs(self):
+        folder = empty_folder(self.id())
+        make_with_pkg_config(folder, self.prefix / "lib/pkgconfig", "ZelInterchangeData", static=True,
+                             compiler=f"{TRIPLE}-g++-posix")
+        self.check_consumer(folder, [], EXPECTED_OUTPUT)
 
     def same(self, *arguments):
         """Runs publish_video on both systems, each in a folder with the same files, and checks that it

@@ -222,11 +222,23 @@ class Embedding(DeliveryTest):
                 self.assertEqual(streams.count("SHA256="), 2)
                 self.assertEqual(streams, streams_of(plain_videos() / f"video.{name}"))
 
-    def test_the_file_as_it_was_is_kept(self):
+    def test_the_file_as_it_was_before_the_first_change_is_kept(self):
         for name in ("mp4", "mov"):
             with self.subTest(format=name):
-                self.assertEqual((self.folder / f"video.{name}_original").read_bytes(),
-                                 (plain_videos() / f"video.{name}").read_bytes())
+                backup = self.folder / f"video.{name}_original"
+                plain = (plain_videos() / f"video.{name}").read_bytes()
+                self.assertEqual(backup.read_bytes(), plain)
+                execute_script(EMBEDDING[name], self.folder)
+                self.assertEqual(backup.read_bytes(), plain)
+
+    def test_without_a_backup_none_is_left(self):
+        self.assertIn("`-overwrite_original`", PAGE.read_text(encoding="utf-8"))
+        for name in ("mp4", "mov"):
+            with self.subTest(format=name):
+                (self.folder / f"video.{name}_original").unlink()
+                execute_script(EMBEDDING[name].replace("exiftool", "exiftool -overwrite_original"),
+                               self.folder)
+                self.assertFalse((self.folder / f"video.{name}_original").exists())
 
     def test_a_new_packet_replaces_the_old_one(self):
         packet = write_sidecar(FOREIGN, self.folder)

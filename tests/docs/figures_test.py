@@ -1,5 +1,5 @@
-"""Checks the figures in docs/evidence.md that can be counted in the source tree, and the README's figure of
-speed.
+"""Checks the figures in docs/evidence.md that can be counted in the source tree, and the milliseconds in
+docs/speed.md and the README.
 
 The environment names ROOT, the project's folder."""
 
@@ -56,19 +56,25 @@ class Figures(unittest.TestCase):
         self.assert_named(f"{threads} threads, {writes:,} writes")
 
     def test_speed(self):
-        """The README's milliseconds for 1,000 captions."""
-        figures = (ROOT / "bench" / "figures.md").read_text(encoding="utf-8")
-        header = next(line for line in figures.splitlines() if line.startswith("| N |")).split(" | ")
-        total, unit = (header.index(name) for name in ("fill + set + write + release",
-                                                       "appender, ns per caption"))
-        times = [float(cells[total]) * float(cells[unit]) * 1000
-                 for cells in (line.split(" | ") for line in figures.splitlines())
-                 if cells[0] == "| 1000"]
-        self.assertEqual(len(times), 8)
-        self.assertLess(max(times), 1e6)
-        readme = " ".join((ROOT / "README.md").read_text(encoding="utf-8").split())
+        """The milliseconds for 1,000 captions, and the size of their packet."""
+        figures = (ROOT / "bench" / "figures.md").read_text(encoding="utf-8").splitlines()
+        names = next(line for line in figures if line.startswith("| N |")).strip("| ").split(" | ")
+        rows = [dict(zip(names, line.strip("| ").split(" | "))) for line in figures
+                if line.startswith("| 1000 |")]
+        self.assertEqual(len(rows), 8)
+        total, write = ([float(row[name]) * float(row["appender, ns per caption"]) / 1000 for row in rows]
+                        for name in ("fill + set + write + release", "write"))
+        size = sum(float(row["bytes per caption"]) for row in rows) / len(rows)
+        speed = self.words_of("docs/speed.md")
+        self.assertIn(f"take {min(total):.2f} to {max(total):.2f} ms", speed)
+        self.assertIn(f"Writing takes {min(write):.2f} to {max(write):.2f} ms", speed)
+        self.assertIn(f"about {round(size, -1):.0f} kB", speed)
+        self.assertLess(max(total), 1)
         self.assertIn("1,000 captions in two languages are described and written in less than a millisecond",
-                      readme)
+                      self.words_of("README.md"))
+
+    def words_of(self, name):
+        return " ".join((ROOT / name).read_text(encoding="utf-8").split())
 
 
 if __name__ == "__main__":

@@ -48,6 +48,14 @@ class Names(unittest.TestCase):
         self.assertGreater(len(named), 40)
         self.assertEqual([word for word in sorted(named) if not (ROOT / word).exists()], [])
 
+    def test_every_kind_of_finding_has_a_row_with_its_severity(self):
+        kinds = (ROOT / "src/sets/FindingKinds.cpp").read_text(encoding="utf-8")
+        expected = re.findall(r"\{ZelDataFinding_(\w+), \"\w+\",\s+(error|warning),", kinds)
+        self.assertEqual(len(expected), kinds.count("\"ZelDataFinding_") - 1)  # one is for no kind
+        guide = (ROOT / "docs" / "guide.md").read_text(encoding="utf-8")
+        rows = rows_below(guide, "## What is wrong with my document?")
+        self.assertEqual([(kind.strip("`"), severity) for kind, severity, _ in rows], expected)
+
     def test_every_field_of_the_packet_names_its_test(self):
         rows = rows_of("## What is escaped, stripped or written as given")
         self.assertEqual(len(rows), 14)

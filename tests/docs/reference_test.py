@@ -3,6 +3,7 @@
 The environment names ROOT, the project's folder."""
 
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -61,6 +62,15 @@ class Reference(unittest.TestCase):
         self.assertGreater(len(headers), 20)
         for header in headers:
             self.assertIn(header.replace("_", "__") + "_8h.html", pages)
+
+    def test_the_first_page_leads_to_the_guide_the_face_and_the_findings(self):
+        self.make()
+        pages = self.result / "reference"
+        links = set(re.findall('href="([^"#]+)', (pages / "index.html").read_text(encoding="utf-8")))
+        self.assertLessEqual({"guide.md", "ZelDataFace_8h.html", "ZelDataFindings_8h.html",
+                              "ZelDataReplaceFile_8h.html"}, links)
+        here = [link for link in links if not link.startswith("https:")]
+        self.assertEqual([link for link in here if not (pages / link).exists()], [])
 
     def test_a_function_without_a_comment_is_refused(self):
         self.assert_refused("void undescribed();\n", "undescribed() (function)")

@@ -2,9 +2,8 @@
 /// What the exceptions of the face say.
 
 #include "ZelInterchangeData/ZelDataFace.h"
-#include "captions/CaptionLimits.h"
-#include "captions/CaptionStyle.h"
 #include "captions/ZelDataCaptionItem.h"
+#include "captions/ZelDataCaptions.h"
 #include "support/FailingAllocation.h"
 #include "support/fakes/FailingCaptions.h"
 
@@ -32,6 +31,7 @@ const std::string replaced = " (ZelData_WarnAlreadyExists, 0x40000001)";
 const std::string noChange = " (ZelData_WarnNoChange, 0x40000004)";
 const std::string notFound = " (ZelData_NotFound, 0x80000004)";
 const std::string guidelines = " (ZelData_WarnItemGuidelines, 0x40000002)";
+const std::string timing = " (ZelData_WarnTiming, 0x40000003)";
 const std::string badText = " (ZelData_InvalidUtf8, 0x80000006)";
 const std::string unknown = " (ZelData_UnknownLanguage, 0x80000008)";
 const std::string internal = " (ZelData_InternalError, 0x8000000B)";
@@ -226,8 +226,80 @@ TEST(Message, SaysWhyACaptionIsNotGood)
     const auto full = createCaptionItem(0, 1000, {{"de", "a"}, {"en", "1\n2\n3\n4\n5"}});
     EXPECT_EQ("isValid(true): 5 lines in \"en\", more than 4" + guidelines,
               saidAndKept(full, [&] { checked(full).isValid(true); }));
-    EXPECT_EQ(1000, CaptionLimits::recommendedDuration);
-    EXPECT_EQ(4U, CaptionLimits::recommendedLines);
+}
+
+TEST(Message, SaysWhyACollectionIsNotGood)
+{
+    const auto captions = createCaptions();
+    const auto said = [&](bool strict) {
+        return saidAndKept(captions, [&] { checked(captions).isValid(strict); });
+    };
+    checked(captions)
+        .addCaptionItem(*createCaptionItem(0, 900, {{"en", "a"}}))
+        .addCaptionItem(*createCaptionItem(800, 2000, {{"en", "b"}}));
+    EXPECT_EQ("isValid(true): caption 0 at 0 ms: too short (900 ms, at least 1000 ms)" + guidelines,
+              said(true));
+    EXPECT_EQ("isValid(false): caption 0 at 0 ms: overlap: it ends at 900 ms, caption 1 starts at "
+              "800 ms" +
+                  timing,
+              said(false));
+    checked(captions).addLanguage("de");
+    EXPECT_EQ("isValid(false): caption 0 at 0 ms: no text in de" + outOfRange, said(false));
+}
+
+TEST(Message, SaysWhyATableOfContentsIsNotGood)
+{
+    const auto toc = createToc();
+    checked(toc).addTocItem(*createTocItem(9, {{"en", "a"}}));
+    checked(toc).addTocItem(*createTocItem(8, {{"en", "b"}}));
+    EXPECT_EQ("isValid(true): entry 0 at 9: out of order: entry 1 starts before it, at 8" + timing,
+              saidAndKept(toc, [&] { checked(toc).isValid(true); }));
+}
+
+TEST(Message, SaysWhyScreenTextsAreNotGood)
+{
+    const auto texts = createScreenText();
+    checked(texts).addScreenTextItem(*createScreenTextItem(9, 9, "a"));
+    checked(texts).addScreenTextItem(*createScreenTextItem(8, 9, "b"));
+    EXPECT_EQ("isValid(true): screen text 0 at 9: out of order: screen text 1 starts before it, at "
+              "8" +
+                  timing,
+              saidAndKept(texts, [&] { checked(texts).isValid(true); }));
+}
+
+/// Captions with two problems, whose check returns what a test says.
+class OwnCaptions : public ZelDataCaptions {
+public:
+    OwnCaptions()
+    {
+        checked(*this)
+            .addCaptionItem(*ZelInterchangeData::createCaptionItem(0, 900, {{"en", "a"}}))
+            .addLanguage("de");
+    }
+
+    ZelDataResult_tags isValid(bool /*strict*/) const override { return store(code); }
+    ZelDataResult_tags getFontSize(unsigned long& size) const override
+    {
+        const auto result = ZelDataCaptions::getFontSize(size);
+        return hasFontSize ? result : store(ZelData_InternalError);
+    }
+
+    ZelDataResult_tags code = ZelData_InvalidArgument;
+    bool hasFontSize = true;
+};
+
+TEST(Message, GivesTheFirstProblemOfTheCodeThatTheCheckReturned)
+{
+    OwnCaptions captions;
+    const auto said = [&] {
+        return saidAndKept(&captions, [&] { checked(captions).isValid(true); });
+    };
+    EXPECT_EQ("isValid(true): caption 0 at 0 ms: no text in de" + outOfRange, said());
+    captions.hasFontSize = false;
+    EXPECT_EQ("isValid(true): " + unexplained, said());
+    captions.hasFontSize = true;
+    captions.code = ZelData_WarnTiming;
+    EXPECT_EQ("isValid(true): ZelData_WarnTiming (0x40000003): ", said().substr(0, 48));
 }
 
 TEST(Message, SaysHowManyItemsThereAre)
@@ -264,13 +336,13 @@ TEST(Message, NamesTheRangeOfAStyle)
         return saidAndKept(captions, [&] { set(checked(captions)); });
     };
     EXPECT_EQ("setFrameRate(0): not from 1 to 10000" + outOfRange,
-              said([](auto view) { view.setFrameRate(FrameRate::minimum - 1); }));
+              said([](auto view) { view.setFrameRate(ZelDataLimits::minimumFrameRate - 1); }));
     EXPECT_EQ("setFrameRate(10001): not from 1 to 10000" + outOfRange,
-              said([](auto view) { view.setFrameRate(FrameRate::maximum + 1); }));
+              said([](auto view) { view.setFrameRate(ZelDataLimits::maximumFrameRate + 1); }));
     EXPECT_EQ("setFontSize(0): not from 1 to 500" + outOfRange,
-              said([](auto view) { view.setFontSize(CaptionStyle::minimumFontSize - 1); }));
+              said([](auto view) { view.setFontSize(ZelDataLimits::minimumFontSize - 1); }));
     EXPECT_EQ("setFontSize(501): not from 1 to 500" + outOfRange,
-              said([](auto view) { view.setFontSize(CaptionStyle::maximumFontSize + 1); }));
+              said([](auto view) { view.setFontSize(ZelDataLimits::maximumFontSize + 1); }));
     EXPECT_EQ("setFontFamily(\"\"): empty" + outOfRange,
               said([](auto view) { view.setFontFamily(""); }));
     EXPECT_EQ("setForegroundColor(1, 1.5, 0): green is not from 0.0 to 1.0" + outOfRange,
@@ -364,8 +436,7 @@ TEST(Message, SaysWhyAHeaderCannotBeCopied)
     EXPECT_EQ("setHeader" + reason,
               saidAndKept(formatter, [&] { checked(formatter).setHeader(*source); }));
     const auto document = createDocument();
-    EXPECT_EQ("setDataHeader" + reason,
-              saidAndKept(document, [&] { checked(document).setDataHeader(*source); }));
+    EXPECT_EQ("setDataHeader" + reason, saidBy([&] { checked(document).setDataHeader(*source); }));
 }
 
 TEST(Message, SaysThatAnObjectWasCopiedOntoItself)
@@ -411,6 +482,8 @@ TEST(Message, SaysWhyADocumentCannotBeWritten)
     EXPECT_EQ("writeString: the document has no header" + outOfRange, saidBy(writes));
     EXPECT_EQ("writeFile(\"a.xmp\"): the document has no header" + outOfRange,
               saidBy([&] { checked(document).writeFile("a.xmp"); }));
+    EXPECT_EQ("replaceFile(\"a.xmp\"): the document has no header" + outOfRange,
+              saidBy([&] { replaceFile(*document, "a.xmp"); }));
     EXPECT_EQ(ZelData_WarnTiming, document->getLastError());
     const auto header = createHeader();
     checked(header).setVideoLength(1).setVideoWidth(1);

@@ -286,38 +286,61 @@ class StrictHeader : public ZelDataHeader {
 public:
     StrictHeader() { checked(*this).setVideoLength(1).setVideoWidth(2).setVideoHeight(3); }
 
-    ZelDataResult_tags isValid() const override { return store(ZelData_InternalError); }
+    ZelDataResult_tags isValid() const override { return store(code); }
+
+    ZelDataResult_tags code = ZelData_InternalError;
 };
 
-TEST(CheckedDocument, RefusesAHeaderThatFailsUnnoticedBesideCaptions)
+TEST(CheckedDocument, RefusesAHeaderThatItsOwnCheckRefuses)
 {
     const auto document = createDocument();
-    checked(document).setDataCaptions(*createCaptions());
     const auto header = createHeader();
-    EXPECT_EQ(ZelData_Ok, document->setDataHeader(*header));
-    EXPECT_EQ((Failure{"setDataHeader", "ZelData_InvalidArgument"}),
-              thrownBy([&] { checked(document).setDataHeader(*header); }));
-    EXPECT_EQ(ZelData_Ok, document->getLastError());
-    const StrictHeader strict;
-    EXPECT_EQ((Failure{"setDataHeader", "ZelData_InternalError"}),
-              thrownBy([&] { checked(document).setDataHeader(strict); }));
-    checked(header).setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
+    checked(header).setTitle("kept").setVideoLength(1).setVideoWidth(2).setVideoHeight(3);
     checked(document).setDataHeader(*header);
+    const auto empty = createHeader();
+    const auto expectRefusals = [&] {
+        document->setLastError(ZelData_WarnTiming);
+        EXPECT_EQ((Failure{"setDataHeader", "ZelData_InvalidArgument"}),
+                  thrownBy([&] { checked(document).setDataHeader(*empty); }));
+        EXPECT_EQ((Failure{"setDataHeader", "ZelData_InternalError"}),
+                  thrownBy([&] { checked(document).setDataHeader(StrictHeader()); }));
+        EXPECT_EQ(ZelData_WarnTiming, document->getLastError());
+        const auto read = createHeader();
+        checked(document).getDataHeader(*read);
+        EXPECT_EQ("kept", checked(read).getTitle());
+    };
+    expectRefusals();
+    checked(document).setDataCaptions(*createCaptions());
+    expectRefusals();
+    EXPECT_EQ(ZelData_Ok, document->setDataHeader(*empty)); // which is why the view checks first
 }
 
-TEST(CheckedDocument, OtherwiseThrowsTheCodeOfTheOperation)
+TEST(CheckedDocument, LetsAWarningOfTheCheckOfAHeaderPassIfItIsAllowed)
 {
     const auto document = createDocument();
-    checked(document).setDataHeader(StrictHeader());
-    const auto empty = createHeader();
-    EXPECT_EQ((Failure{"setDataHeader", "ZelData_InvalidArgument"}),
-              thrownBy([&] { checked(document).setDataHeader(*empty); }));
-    EXPECT_EQ(ZelData_InvalidArgument, document->getLastError());
-    FailingCaptions captions;
-    captions.failAt("getFontSize", ZelData_InternalError, ZelData_NotFound);
-    EXPECT_EQ(ZelData_NotFound, document->setDataCaptions(captions));
+    StrictHeader strict;
+    strict.code = ZelData_WarnTiming;
+    EXPECT_EQ((Failure{"setDataHeader", "ZelData_WarnTiming"}),
+              thrownBy([&] { checked(document).setDataHeader(strict); }));
+    checked(document).allowWarnings().setDataHeader(strict);
+}
+
+/// A good header that a document cannot copy.
+class UntitledHeader : public StrictHeader {
+public:
+    UntitledHeader() { code = ZelData_Ok; }
+
+    ZelDataResult_tags getTitle(std::string& /*title*/) const override
+    {
+        return store(ZelData_NotFound);
+    }
+};
+
+TEST(CheckedDocument, ThrowsTheCodeOfSetDataHeaderForAGoodHeader)
+{
+    const auto document = createDocument();
     EXPECT_EQ((Failure{"setDataHeader", "ZelData_NotFound"}),
-              thrownBy([&] { checked(document).setDataHeader(*empty); }));
+              thrownBy([&] { checked(document).setDataHeader(UntitledHeader()); }));
 }
 
 TEST(CheckedDocument, ThrowsTheReturnedCodeIfNoneWasStored)

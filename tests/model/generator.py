@@ -73,14 +73,16 @@ FORMATTERS = {"HF": "H", "CF": "C", "TF": "T", "SF": "S"}
 
 
 class Generator:
-    """Where `long` has fewer than 64 bits, its numbers are cut. No instant is before the first."""
+    """Where `long` has fewer than 64 bits, its numbers are cut. No instant is before the first. Where
+    the processor makes each NaN that it copies a quiet one, all are."""
 
-    def __init__(self, seed, zone, length, long_bits=64, first_instant=-MAX - 1):
+    def __init__(self, seed, zone, length, long_bits=64, first_instant=-MAX - 1, quiet_nans=False):
         self.random = random.Random(seed)
         self.session = Session(zone)
         self.length = length
         self.long_bits = long_bits
         self.first_instant = first_instant
+        self.quiet_nans = quiet_nans
         self.script = []
         self.expected = []
         # Some scripts hold nothing odd, so that long sequences are accepted.
@@ -138,7 +140,9 @@ class Generator:
 
     def float_bits(self):
         if self.odd():
-            return self.random.choice([self.random.getrandbits(32), self.random.choice(ODD_FLOATS)])
+            bits = self.random.choice([self.random.getrandbits(32), self.random.choice(ODD_FLOATS)])
+            is_nan = bits & 0x7FFFFFFF > 0x7F800000
+            return bits | 0x400000 if is_nan and self.quiet_nans else bits
         return self.random.choice(UNIT_FLOATS + [texts.bits_of(self.random.random())])
 
     def value(self, kind, operation, slot):

@@ -2,7 +2,7 @@
 """Compares the library with the model, answer by answer, over random scripts.
 
 run.py --seeds A..B --driver PATH [--length N] [--keep-going] [--no-shrink] [--long-bits N]
-    [--first-instant SECONDS] [--emulator WORD...]
+    [--first-instant SECONDS] [--quiet-nans] [--emulator WORD...]
 
 At the first difference, it removes from the script what the difference does not need, and shows the
 rest with both answers. The exit status is 1 if there is a difference.
@@ -171,6 +171,8 @@ def arguments():
     parser.add_argument("--long-bits", type=int, default=64, help="how many bits a long has")
     parser.add_argument("--first-instant", type=int, default=-MAX - 1,
                         help="the first instant that the system converts, in seconds since 1970")
+    parser.add_argument("--quiet-nans", action="store_true",
+                        help="the processor copies each NaN as a quiet one, as x87 does")
     parser.add_argument("--emulator", nargs=argparse.REMAINDER, default=[],
                         help="what runs the driver; all words that follow")
     return parser.parse_args()
@@ -184,7 +186,7 @@ def main():
     for seed in range(int(first), int(last or first) + 1):
         zone = ZONES[seed % len(ZONES)]
         script, expected = Generator(seed, zone[1], options.length, options.long_bits,
-                                     options.first_instant).make()
+                                     options.first_instant, options.quiet_nans).make()
         operations += len(script)
         packets += sum(PACKET in answer for answer in expected)
         if first_difference(driver, script, expected, zone):

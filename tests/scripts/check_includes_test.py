@@ -128,12 +128,26 @@ class CheckIncludes(unittest.TestCase):
 
     def test_conversions_of_numbers_are_left_to_two_files(self):
         for name in ("to_chars", "from_chars"):
-            self.write("src/util/TextBlock.h", f"std::{name}(a, b, number);\n")
+            call = f"std::{name}(a, b, number);\n"
             self.write("src/util/A.h", "")
+            self.write("src/util/TextBlock.h", f"static_assert(std::is_integral_v<T>);\n{call}")
             self.assert_accepted()
+            self.write("src/util/TextBlock.h", call)
+            self.assert_refused(f"src/util/TextBlock.h:1: std::{name} needs "
+                                "static_assert(std::is_integral_v<…> before it")
+            self.write("src/util/TextBlock.h", "")
             self.write("src/util/A.h", f"std::{name}(a, b, number);\n")
             self.assert_refused(f"src/util/A.h:1: std::{name} is left to "
                                 "src/util/TextBlock.h and src/util/ValueStrings.cpp")
+
+    def test_the_standard_library_gets_no_other_name(self):
+        for line in ("using namespace std;", "namespace s = std;", "namespace s = ::std;"):
+            with self.subTest(line):
+                self.write("src/util/A.cpp", f"{line}\n")
+                self.assert_refused("src/util/A.cpp:1: std must be named, so that this script finds "
+                                    "its names")
+        self.write("src/util/A.cpp", "namespace fs = std::filesystem;\nusing namespace std::chrono;\n")
+        self.assert_accepted()
 
     def test_an_empty_tree_is_refused(self):
         (self.root / "include/ZelInterchangeData/Thing.h").unlink()

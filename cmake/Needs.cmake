@@ -1,0 +1,37 @@
+# Leaves out what needs something that is missing, and says what to install. The presets stop instead, so that
+# they never lose a test.
+
+function(zel_leave_out what to_install)
+    set(mode STATUS)
+    if(ZELINTERCHANGEDATA_REQUIRE_ALL)
+        set(mode SEND_ERROR)
+    endif()
+    message(${mode} "Left out: ${what}. Install ${to_install}")
+endfunction()
+
+# Adds the folder, which needs these packages (with a capital letter) and programs (in lower case). The folder
+# sees what was found: each package's targets and variables, and ZELINTERCHANGEDATA_PROGRAM for each program.
+set(zel_least_Python3 3.9)
+function(zel_add_folder folder)
+    set(missing)
+    foreach(need IN LISTS ARGN)
+        if(need MATCHES "^[A-Z]")
+            find_package(${need} ${zel_least_${need}} QUIET)
+            set(found ${need}_FOUND)
+        else()
+            string(TOUPPER ZELINTERCHANGEDATA_${need} found)
+            string(MAKE_C_IDENTIFIER ${found} found)
+            find_program(${found} ${need})
+        endif()
+        if(NOT ${found})
+            list(APPEND missing ${need})
+        endif()
+    endforeach()
+    if(missing)
+        file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+        list(JOIN missing ", " missing)
+        zel_leave_out(${name} "${missing} (Debian: scripts/setup)")
+    else()
+        add_subdirectory(${folder})
+    endif()
+endfunction()
