@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <cstdio>
 #include <memory>
 #include <system_error>
@@ -29,6 +30,9 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
+/// Ends the reading of `/dev/zero`. The help names it.
+constexpr std::size_t largestFile = 100'000'000;
+
 /// Reads through the C library, because a stream does not distinguish a failure, such as reading a
 /// folder, from the end of the file.
 std::string contentsOf(const std::string& path, const std::string& name)
@@ -37,8 +41,12 @@ std::string contentsOf(const std::string& path, const std::string& name)
     if (file == nullptr) failToRead(name);
     std::string bytes;
     char block[65536];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get()))
+    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get())) {
+        if (count > largestFile - bytes.size())
+            throw PublishError(name + ": the file has more than " +
+                               std::to_string(largestFile / 1'000'000) + " MB");
         bytes.append(block, count);
+    }
     if (std::ferror(file.get()) != 0) failToRead(name);
     return bytes;
 }

@@ -240,8 +240,8 @@ std::optional<unsigned long> readNumber(const Arguments& arguments, std::string_
     return numberOf(*digits, *optionNamed(name));
 }
 
-/// A file that the program writes must not look like one that it reads.
-void refuseOddFile(const std::string& file, const std::string& name)
+/// @p file, which the program writes for the option @p name; refuses what looks like a file to read.
+std::string writtenFile(const std::string& file, const std::string& name)
 {
     if (file.empty()) throw PublishError(name + ": the file name is empty");
     if (isLanguageForm(std::string_view(file).substr(0, file.find('='))) &&
@@ -249,18 +249,14 @@ void refuseOddFile(const std::string& file, const std::string& name)
         throw PublishError(name + ": " + quoted(file) +
                            " looks like LANG=FILE; if you mean a file of that name, write " + name +
                            "=./" + printable(file));
+    return file;
 }
 
 void readWritten(const Arguments& arguments, Options& options)
 {
-    options.output = arguments.required("output");
-    refuseOddFile(options.output, "--output");
-    options.report = arguments.value("report");
-    if (!options.report) return;
-    refuseOddFile(*options.report, "--report");
-    if (options.output == *options.report)
-        throw PublishError("--report: " + quoted(options.output) +
-                           " is also the value of --output");
+    options.output = writtenFile(arguments.required("output"), "--output");
+    if (const auto report = arguments.value("report"))
+        options.report = writtenFile(*report, "--report");
 }
 
 void readSize(const Arguments& arguments, Options& options)

@@ -7,6 +7,7 @@
 #include "Text.h"
 
 #include <filesystem>
+#include <vector>
 
 namespace publish {
 
@@ -20,27 +21,48 @@ fs::path pathOf(const std::string& output)
     return fs::u8path(output == standardOutput ? "/dev/stdout" : output);
 }
 
-/// Devices and pipes may be read and written.
+fs::path folderOf(const fs::path& file)
+{
+    return file.has_parent_path() ? file.parent_path() : ".";
+}
+
+/// Also knows files that are not there yet.
 bool isSameFile(const fs::path& a, const fs::path& b)
 {
     std::error_code ignored;
-    return fs::is_regular_file(a, ignored) && fs::equivalent(a, b, ignored);
+    return a == b || fs::equivalent(a, b, ignored) ||
+           (a.filename() == b.filename() && fs::equivalent(folderOf(a), folderOf(b), ignored));
 }
 
-void refuseInput(const std::string& name, const std::string& output, const std::string& input)
-{
-    if (isSameFile(pathOf(output), fs::u8path(input)))
-        throw PublishError(name + ": " + shownOutput(output) + " is one of the files to read, " +
-                           printable(input));
-}
+/// A file that nothing else may be written to, and what it is.
+struct TakenFile {
+    fs::path path;
+    std::string what;
+};
 
-void refuseInputs(const std::string& name, const std::string& output, const Options& options)
-{
-    for (const LanguageFile& captions : options.captions)
-        refuseInput(name, output, captions.path);
-    if (options.toc) refuseInput(name, output, options.toc->path);
-    if (options.screenText) refuseInput(name, output, *options.screenText);
-}
+class TakenFiles {
+public:
+    /// Devices and pipes may be read and written.
+    void read(const std::string& input)
+    {
+        const fs::path path = fs::u8path(input);
+        std::error_code ignored;
+        if (fs::is_regular_file(path, ignored))
+            files_.push_back({path, "one of the files to read, " + printable(input)});
+    }
+
+    void write(const std::string& output, const std::string& option)
+    {
+        const fs::path path = pathOf(output);
+        for (const TakenFile& file : files_)
+            if (isSameFile(path, file.path))
+                throw PublishError(option + ": " + shownOutput(output) + " is " + file.what);
+        files_.push_back({path, "the file of " + option});
+    }
+
+private:
+    std::vector<TakenFile> files_;
+};
 
 } // namespace
 
@@ -66,17 +88,13 @@ std::string shownOutput(const std::string& output)
 
 void refuseOverwriting(const Options& options)
 {
-    refuseInputs("--output", options.output, options);
-    if (!options.report) return;
-    refuseInputs("--report", *options.report, options);
-    std::error_code ignored;
-    const auto resolved = [&](const std::string& output) {
-        return fs::weakly_canonical(pathOf(output), ignored);
-    };
-    if (isSameFile(pathOf(*options.report), pathOf(options.output)) ||
-        resolved(*options.report) == resolved(options.output))
-        throw PublishError("--report: " + shownOutput(*options.report) +
-                           " is the file of --output");
+    TakenFiles files;
+    for (const LanguageFile& captions : options.captions)
+        files.read(captions.path);
+    if (options.toc) files.read(options.toc->path);
+    if (options.screenText) files.read(*options.screenText);
+    files.write(options.output, "--output");
+    if (options.report) files.write(*options.report, "--report");
 }
 
 } // namespace publish

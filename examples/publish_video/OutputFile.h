@@ -30,8 +30,8 @@ void writeStandardOutput(std::string_view bytes);
 /// How messages name @p output.
 std::string shownOutput(const std::string& output);
 
-/// Throws a PublishError if a file that the program writes is one that it reads, under whatever
-/// name, or if it writes both of its files to one.
+/// Throws a PublishError if a file that the program writes is one that it reads, or another one that
+/// it writes, under whatever name.
 void refuseOverwriting(const Options& options);
 
 } // namespace publish

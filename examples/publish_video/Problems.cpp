@@ -210,16 +210,16 @@ bool hasLanguage(const MergedCaption& caption, const std::string& language)
 /// The languages that the caption lacks although it has another one of their group.
 std::string missingLanguages(const MergedCaption& caption, const LanguageGroups& groups)
 {
-    std::string missing;
+    std::vector<std::string> missing;
     for (const std::vector<std::string>& group : groups) {
         const auto isThere = [&](const std::string& language) {
             return hasLanguage(caption, language);
         };
         if (std::none_of(group.begin(), group.end(), isThere)) continue;
         for (const std::string& language : group)
-            if (!isThere(language)) missing += (missing.empty() ? "" : ", ") + language;
+            if (!isThere(language)) missing.push_back(language);
     }
-    return missing;
+    return joined(missing, ", ");
 }
 
 Places withoutLanguage(const Published& published)

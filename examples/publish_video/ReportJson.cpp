@@ -2,6 +2,7 @@
 /// The report for programs: see Report.h.
 
 #include "Report.h"
+#include "Text.h"
 
 #include <utility>
 
@@ -9,17 +10,15 @@ namespace publish {
 
 namespace {
 
-/// A value, already written as JSON.
+/// A value as JSON.
 using Json = std::string;
 
 Json textOf(const std::string& text)
 {
-    constexpr char digits[] = "0123456789abcdef";
     Json quoted = "\"";
     for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte < 0x20)
-            quoted += {'\\', 'u', '0', '0', digits[byte / 16], digits[byte % 16]};
+        if (static_cast<unsigned char>(character) < 0x20)
+            quoted += "\\u00" + hexadecimal(character);
         else if (character == '"' || character == '\\')
             quoted += {'\\', character};
         else
@@ -28,29 +27,14 @@ Json textOf(const std::string& text)
     return quoted + '"';
 }
 
-template <class Number>
-Json numberOf(Number number)
-{
-    return std::to_string(number);
-}
-
-Json listed(const std::vector<Json>& parts, const std::string& open, const std::string& close,
-            const std::string& separator)
-{
-    Json list = open;
-    for (const Json& part : parts)
-        list += (&part == parts.data() ? "" : separator) + part;
-    return list + close;
-}
-
-using Members = std::vector<std::pair<std::string, Json>>;
+using Members = std::vector<std::pair<const char*, Json>>;
 
 Json objectOf(const Members& members)
 {
     std::vector<Json> parts;
     for (const auto& [name, value] : members)
         parts.push_back(textOf(name) + ": " + value);
-    return listed(parts, "{", "}", ", ");
+    return "{" + joined(parts, ", ") + "}";
 }
 
 template <class Values, class ToJson>
@@ -59,14 +43,14 @@ Json arrayOf(const Values& values, ToJson toJson)
     std::vector<Json> parts;
     for (const auto& value : values)
         parts.push_back(toJson(value));
-    return listed(parts, "[", "]", ",\n");
+    return "[" + joined(parts, ",\n") + "]";
 }
 
 Json languageJson(const LanguageCount& count)
 {
     return objectOf({{"language", textOf(count.language)},
-                     {"captions", numberOf(count.captions)},
-                     {"missing", numberOf(count.missing)}});
+                     {"captions", std::to_string(count.captions)},
+                     {"missing", std::to_string(count.missing)}});
 }
 
 Json groupJson(const std::vector<std::string>& group)
@@ -79,12 +63,12 @@ Json placeJson(const Place& place)
 {
     Members members{{"file", textOf(place.path)}};
     if (!place.language.empty()) members.emplace_back("language", textOf(place.language));
-    if (place.line != 0) members.emplace_back("line", numberOf(place.line));
+    if (place.line != 0) members.emplace_back("line", std::to_string(place.line));
     if (place.startMs) {
         members.emplace_back("start", textOf(place.start));
         members.emplace_back("end", textOf(place.end));
-        members.emplace_back("start_ms", numberOf(*place.startMs));
-        members.emplace_back("end_ms", numberOf(*place.endMs));
+        members.emplace_back("start_ms", std::to_string(*place.startMs));
+        members.emplace_back("end_ms", std::to_string(*place.endMs));
     }
     if (place.line != 0) members.emplace_back("text", textOf(place.text));
     if (!place.detail.empty()) members.emplace_back("detail", textOf(place.detail));
@@ -95,7 +79,7 @@ Json problemJson(const Problem& problem)
 {
     return objectOf({{"kind", textOf(problem.kind->id)},
                      {"message", textOf(problem.kind->one)},
-                     {"count", numberOf(problem.places.size())},
+                     {"count", std::to_string(problem.places.size())},
                      {"places", arrayOf(problem.places, placeJson)}});
 }
 
@@ -104,14 +88,14 @@ Json problemJson(const Problem& problem)
 std::string reportJson(const Report& report)
 {
     return objectOf({{"output", textOf(report.output)},
-                     {"bytes", numberOf(report.bytes)},
-                     {"captions", numberOf(report.captions)},
-                     {"joined", numberOf(report.joined)},
+                     {"bytes", std::to_string(report.bytes)},
+                     {"captions", std::to_string(report.captions)},
+                     {"joined", std::to_string(report.joined)},
                      {"languages", arrayOf(report.languages, languageJson)},
                      {"timing_groups", arrayOf(report.groups, groupJson)},
-                     {"entries", numberOf(report.entries)},
-                     {"screen_texts", numberOf(report.screenTexts)},
-                     {"cues_without_text_left_out", numberOf(report.skipped)},
+                     {"entries", std::to_string(report.entries)},
+                     {"screen_texts", std::to_string(report.screenTexts)},
+                     {"cues_without_text_left_out", std::to_string(report.skipped)},
                      {"problems", arrayOf(report.problems, problemJson)}}) +
            "\n";
 }

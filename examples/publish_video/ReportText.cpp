@@ -16,14 +16,6 @@ std::string counted(std::size_t count, const std::string& one, const std::string
     return std::to_string(count) + " " + (count == 1 ? one : several);
 }
 
-std::string joined(const std::vector<std::string>& parts, const std::string& separator)
-{
-    std::string text;
-    for (const std::string& part : parts)
-        text += (text.empty() ? "" : separator) + part;
-    return text;
-}
-
 std::string captionLines(const Report& report)
 {
     // The library lists this language if the captions have none.

@@ -80,12 +80,6 @@ std::string_view characterAt(std::string_view text, std::size_t at)
     return text.substr(at, length == 0 ? 1 : length);
 }
 
-std::string escapedByte(unsigned char byte)
-{
-    constexpr char digits[] = "0123456789ABCDEF";
-    return {'\\', 'x', digits[byte / 16], digits[byte % 16]};
-}
-
 } // namespace
 
 std::size_t lengthOfStrictUtf8(std::string_view text)
@@ -146,10 +140,25 @@ std::string printable(std::string_view text)
             shown += character;
         else
             for (const char byte : character)
-                shown += escapedByte(static_cast<unsigned char>(byte));
+                shown += "\\x" + hexadecimal(byte);
         at += character.size();
     }
     return shown;
+}
+
+std::string hexadecimal(char byte)
+{
+    constexpr char digits[] = "0123456789ABCDEF";
+    const auto value = static_cast<unsigned char>(byte);
+    return {digits[value / 16], digits[value % 16]};
+}
+
+std::string joined(const std::vector<std::string>& parts, std::string_view separator)
+{
+    std::string text;
+    for (const std::string& part : parts)
+        text.append(&part == parts.data() ? std::string_view() : separator).append(part);
+    return text;
 }
 
 std::string firstWords(std::string_view text)

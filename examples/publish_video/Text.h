@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace publish {
 
@@ -49,6 +50,12 @@ std::string argumentText(std::string_view argument);
 /// @p text for a message: on one line, with `\x..` for control characters and bytes that are not
 /// UTF-8.
 std::string printable(std::string_view text);
+
+/// The two hexadecimal digits of @p byte.
+std::string hexadecimal(char byte);
+
+/// @p parts with @p separator between each two.
+std::string joined(const std::vector<std::string>& parts, std::string_view separator);
 
 /// The beginning of @p text for a message: printable, on one line, and at most 40 characters; "..."
 /// follows if there is more.

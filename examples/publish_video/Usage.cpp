@@ -21,10 +21,12 @@ constexpr std::string_view summary = "write the side data of a video as one XMP 
 constexpr std::string_view synopsis = "--output OUT.xmp --size WxH [OPTION]... [LANG=FILE]...";
 
 constexpr std::string_view description[] = {
-    "Writes the side data of a video as one XMP packet. LANG=FILE is an SRT or WebVTT file in "
-    "UTF-8 "
-    "with the captions of one language, such as en=film.srt or pt-BR=film.vtt. The report on "
-    "standard error counts what is in the packet and lists the problems of the captions.",
+    "Writes the side data of a video as one XMP packet. LANG=FILE is an SRT or WebVTT file with "
+    "the "
+    "captions of one language, such as en=film.srt or pt-BR=film.vtt. Each file is in UTF-8 and "
+    "has "
+    "at most 100 MB. The report on standard error counts what is in the packet and lists the "
+    "problems of the captions.",
     "A value is the next argument, or follows an equals sign; -oOUT.xmp is possible, too. If a "
     "value is itself an option, use the equals sign: --title=--plain-text. After --, all arguments "
     "are LANG=FILE."};

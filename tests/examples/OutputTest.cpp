@@ -215,6 +215,11 @@ TEST_F(OutputTest, ReportAndPacketAreTwoFiles)
 {
     const std::string named = "is the file of --output";
     expectFailure(run({"--length", "1", "--report", pathOf("./out.xmp")}), named, {});
+    expectFailure(
+        shell("cd '" + pathOf(".") + "' && \"$0\" -o out.xmp --report \"$PWD/out.xmp\" \"$@\""),
+        named, {});
+    expectFailure(shell("\"$0\" -o - --report - \"$@\""), named, {});
+    expectFailure(shell("\"$0\" -o - --report /dev/stdout \"$@\""), named, {});
     write("out.xmp", "old");
     fs::create_hard_link(pathOf("out.xmp"), pathOf("twin"));
     expectFailure(run({"--length", "1", "--report", pathOf("twin")}), named, {"out.xmp", "twin"});
@@ -252,8 +257,8 @@ TEST_F(OutputTest, ExhaustedMemoryIsNamed)
     GTEST_SKIP() << "Sanitizers need more memory than the program may have.";
 #endif
     const std::string large = write("large.srt", "");
-    fs::resize_file(large, 500'000'000);
-    expectFailure(runShell("ulimit -v 200000; \"$0\" -o '" + pathOf("out.xmp") +
+    fs::resize_file(large, 100'000'000);
+    expectFailure(runShell("ulimit -v 150000; \"$0\" -o '" + pathOf("out.xmp") +
                                "' --size 1x1 en='" + large + "'",
                            {}),
                   "publish_video: memory ran out\n", {"large.srt"});

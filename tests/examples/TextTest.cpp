@@ -139,4 +139,11 @@ TEST(FirstWords, LongWordIsCutBetweenCharacters)
     EXPECT_EQ(firstWords(boat + "\xE8\x88\x9F"), boat + "...");
 }
 
+TEST(Joined, SeparatesEachTwoParts)
+{
+    EXPECT_EQ(publish::joined({}, ", "), "");
+    EXPECT_EQ(publish::joined({"a"}, ", "), "a");
+    EXPECT_EQ(publish::joined({"", "b", ""}, ", "), ", b, ");
+}
+
 } // namespace

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <sstream>
 
 using testing::ContainsRegex;
@@ -140,6 +141,16 @@ TEST_F(UsageTest, UnknownLanguageIsNamed)
     expectFailure(run({"xx=" + file}), "'xx'", {"a.srt"});
     expectFailure(run({"--toc", "qq-US=" + file}), "'qq-US'", {"a.srt"});
     expectFailure(run({"deu=" + file}), "'deu'", {"a.srt"});
+}
+
+TEST_F(UsageTest, FileBeyondTheLargestSizeIsRefused)
+{
+    const std::string cause = ": the file has more than 100 MB\n";
+    expectFailure(run({"en=/dev/zero"}), "publish_video: en=/dev/zero" + cause, {});
+    const std::string large = write("large.srt", "");
+    std::filesystem::resize_file(large, 100'000'001);
+    expectFailure(run({"--toc", large}), "publish_video: --toc " + large + cause, {"large.srt"});
+    EXPECT_THAT(publish::manualPage(), HasSubstr("at most 100 MB"));
 }
 
 TEST_F(UsageTest, HelpIsPrinted)
