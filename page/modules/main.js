@@ -202,6 +202,12 @@ class Page {
         byId('first-language').replaceChildren(...options(), none());
         byId('second-language').replaceChildren(none(), ...options());
         byId('transcript-language').replaceChildren(...options());
+        const preferred = languages.find(({ id }) => navigator.languages.some((language) =>
+            language.split('-')[0] === id.split('-')[0]));
+        if (preferred) {
+            byId('first-language').value = preferred.id;
+            byId('transcript-language').value = preferred.id;
+        }
         byId('caption-choice').hidden = languages.length === 0;
         byId('transcript-choice').hidden = languages.length === 0;
     }

@@ -34,8 +34,9 @@ export class Pictures {
         this.#grabber = grabber;
     }
 
-    /** Makes the thumbnail of an image file and a time. */
+    /** Makes the thumbnail of an image file and a time; '' if there is neither a name nor a video. */
     make(name, time) {
+        if (name === '' && !this.#grabber) return '';
         const box = element('span', { class: 'thumbnail' });
         const address = this.#files.get(name) ?? (this.#failed.has(name) ? undefined : addressBeside(name));
         if (address === undefined) {

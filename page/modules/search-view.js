@@ -37,7 +37,7 @@ export class SearchView {
             this.run();
             this.list.focus();
         });
-        this.#report(label('typeToSearch'));
+        input.placeholder = label('searchHint');
     }
 
     open(packet) {
@@ -46,7 +46,7 @@ export class SearchView {
         this.names = new Map(packet.languages.map(({ id, name }) => [id, name]));
         this.input.value = '';
         this.#show('', []);
-        this.#report(label('typeToSearch'));
+        this.#report('');
         // The first search is as fast as the others if the page had a moment to build the index.
         const later = window.requestIdleCallback ?? setTimeout;
         const build = () => {
@@ -61,7 +61,7 @@ export class SearchView {
         if (query === this.#query) return;
         this.#show(query, this.search.find(query));
         if (query === '') {
-            this.#report(label('typeToSearch'));
+            this.#report('');
         } else {
             this.show();
             this.#report(this.#hits.length === 0 ? label('noHits') : label('hits', { count: this.#hits.length }));
