@@ -10,12 +10,19 @@ import { chromium } from 'playwright-core';
 export const root = fileURLToPath(new URL('../../../', import.meta.url));
 export const golden = readFileSync(join(root, 'tests/core/data/header-captions-toc-screentext.xmp'), 'utf8');
 
+// CTest sets these; the defaults are those of the preset dev on Debian.
+const {
+    CHROMIUM: executablePath = '/usr/bin/chromium',
+    PAGE: builtPage = join(root, 'build/dev/page/preview.html'),
+    PUBLISH_VIDEO: publishVideo = join(root, 'build/dev/examples/publish_video/publish_video'),
+} = process.env;
+
 const scratch = mkdtempSync(join(tmpdir(), 'page-'));
 let browser;
 
 before(async () => {
     // The sandbox of the browser does not work for root.
-    browser = await chromium.launch({ executablePath: process.env.CHROMIUM, chromiumSandbox: process.getuid() !== 0 });
+    browser = await chromium.launch({ executablePath, chromiumSandbox: process.getuid() !== 0 });
 });
 after(async () => {
     await browser?.close();
@@ -27,7 +34,7 @@ let packets = 0;
 /** Publishes with the example; returns the packet. */
 export function publish(...options) {
     const file = join(scratch, `${++packets}.xmp`);
-    execFileSync(process.env.PUBLISH_VIDEO, ['-o', file, '--size', '1280x720', ...options], { stdio: 'pipe' });
+    execFileSync(publishVideo, ['-o', file, '--size', '1280x720', ...options], { stdio: 'pipe' });
     return readFileSync(file, 'utf8');
 }
 
@@ -62,7 +69,7 @@ export function publishSample() {
  */
 export async function openPage(packet, { files = {}, ...options } = {}) {
     const folder = mkdtempSync(join(scratch, 'open-'));
-    const html = readFileSync(process.env.PAGE, 'utf8');
+    const html = readFileSync(builtPage, 'utf8');
     const place = 'id="packet">';
     const embedded = packet === undefined ? '' : Buffer.from(packet).toString('base64');
     writeFileSync(join(folder, 'preview.html'), html.replace(place, () => place + embedded));
