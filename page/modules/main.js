@@ -6,7 +6,7 @@ import { firstAfter, lastBefore } from './intervals.js';
 import { ItemList } from './item-list.js';
 import { label, labels } from './labels.js';
 import { Player, StageClock } from './media.js';
-import { PacketError, decodePacket, parsePacket } from './packet.js';
+import { PacketError, decodeBase64, decodePacket, parsePacket } from './packet.js';
 import { Pictures } from './pictures.js';
 import { showProblems } from './problem-view.js';
 import { SearchView } from './search-view.js';
@@ -68,7 +68,7 @@ class Page {
     /** Opens the packet that the page contains, if there is one. */
     openEmbedded() {
         const embedded = byId('packet').textContent.trim();
-        if (embedded !== '') this.#openPacket(Uint8Array.from(atob(embedded), (byte) => byte.charCodeAt(0)));
+        if (embedded !== '') this.#openPacket(decodeBase64(embedded));
     }
 
     #listen() {

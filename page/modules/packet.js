@@ -285,6 +285,14 @@ export function parsePacket(text) {
     return readPacket(document);
 }
 
+/** Returns the bytes that base64 stands for. */
+export function decodeBase64(text) {
+    const binary = atob(text);
+    const bytes = new Uint8Array(binary.length);
+    for (let i = 0; i < binary.length; ++i) bytes[i] = binary.charCodeAt(i);
+    return bytes;
+}
+
 /** Decodes the bytes of a packet. Throws a PacketError if they are not UTF-8. */
 export function decodePacket(bytes) {
     try {

@@ -6,7 +6,7 @@ import { VirtualList } from './virtual-list.js';
 
 // Long enough that a reader is not interrupted with each key, in milliseconds.
 const pause = 150;
-const indexStep = 500;
+const indexStep = 2000;
 
 /** Searches while the user types, announces the number of hits, and jumps to the hit that is pressed. */
 export class SearchView {

@@ -2,10 +2,14 @@
 // show nothing.
 const ignored = /[\u0300-\u036f\u0591-\u05c7\u0640\u064b-\u0652\u0670\u00ad\u200b-\u200f\u202a-\u202e\u2060-\u2069\ufeff]/g;
 
+// Most texts of many languages need nothing else than lower case.
+const simple = /^[ -~]*$/;
+
 const variants = { '\u00df': 'ss', '\u03c2': '\u03c3' };
 
 /** Returns the text as the search compares it: without case, accents and width. */
 export function fold(text) {
+    if (simple.test(text)) return text.toLowerCase();
     return text.normalize('NFKD').toLowerCase().replace(ignored, '').replace(/[\u00df\u03c2]/g, (letter) => variants[letter])
         .replace(/\s/g, ' ');
 }

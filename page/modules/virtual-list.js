@@ -28,12 +28,7 @@ export class VirtualList {
         scroller.addEventListener('scroll', () => this.draw(), { passive: true });
         this.list.addEventListener('keydown', (event) => this.#moveFocus(event));
         this.list.addEventListener('focusin', (event) => this.#setActive(this.#indexOf(event.target)));
-        let width = 0;
-        new ResizeObserver(([{ contentRect }]) => {
-            if (contentRect.width !== width) this.#measureAgain();
-            width = contentRect.width;
-            this.draw();
-        }).observe(scroller);
+        new ResizeObserver(() => this.draw()).observe(scroller);
     }
 
     get count() {
@@ -120,15 +115,10 @@ export class VirtualList {
         this.focus(target);
     }
 
-    #measureAgain() {
-        for (const row of this.#rows.values()) row.remove();
-        this.#rows.clear();
-    }
-
     #place() {
         this.#tops = [0];
         for (const height of this.#heights) this.#tops.push(this.#tops[this.#tops.length - 1] + height);
-        this.list.style.height = `${this.#tops[this.count]}px`;
+        this.list.style.height = `${Math.ceil(this.#tops[this.count])}px`;
         for (const [index, row] of this.#rows) row.style.top = `${this.#tops[index]}px`;
     }
 
@@ -155,13 +145,12 @@ export class VirtualList {
                 this.#rows.delete(index);
             }
         }
-        const added = [];
         for (let index = first; index <= last; ++index) {
-            if (!this.#rows.has(index)) added.push(this.#addRow(index));
+            if (!this.#rows.has(index)) this.#addRow(index);
             this.updateRow(this.#buttonOf(index), index);
         }
-        if (this.count > 0 && !this.#rows.has(this.#active)) added.push(this.#addRow(this.#active));
-        return this.#measure(added, anchor);
+        if (this.count > 0 && !this.#rows.has(this.#active)) this.#addRow(this.#active);
+        return this.#measure(anchor);
     }
 
     #addRow(index) {
@@ -174,14 +163,13 @@ export class VirtualList {
         // Readers and the tab key meet the rows in their order.
         const next = [...this.list.children].find((other) => this.#indexOf(other) > index);
         this.list.insertBefore(row, next ?? null);
-        return [index, row];
     }
 
-    #measure(added, anchor) {
+    #measure(anchor) {
         let changed = false;
         let shift = 0;
-        for (const [index, row] of added) {
-            const height = row.offsetHeight;
+        for (const [index, row] of this.#rows) {
+            const { height } = row.getBoundingClientRect();
             if (height === this.#heights[index]) continue;
             if (index < anchor) shift += height - this.#heights[index];
             this.#heights[index] = height;

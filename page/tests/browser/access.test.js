@@ -215,6 +215,7 @@ test('the whole page works by keyboard alone', async () => {
     assert.equal(await focused(page), 'tab-problems');
     await page.keyboard.press('Tab');
     await page.keyboard.press('Enter');
+    await until(page, () => document.querySelectorAll('#problems .row').length === 1);
     await page.keyboard.press('Tab');
     await page.keyboard.press('Enter');
     assert.equal(await page.locator('#time').innerText(), '00:00:16.000');

@@ -298,7 +298,7 @@ test('the transcript has its own language, follows, and jumps', async () => {
         const row = [...document.querySelectorAll('#transcript-rows .row')].find((other) => other.textContent.includes(wanted));
         const view = document.getElementById('transcript-rows').getBoundingClientRect();
         const box = row?.getBoundingClientRect();
-        return box !== undefined && box.top >= view.top && box.bottom <= view.bottom;
+        return box !== undefined && box.top >= view.top - 1 && box.bottom <= view.bottom + 1;
     }, text);
     assert.equal(await isVisible('schwimmt'), false);
     assert.equal(await clickLane(page, 1, 28000), '00:00:26.000');

@@ -2,7 +2,7 @@ import { DOMParser } from '@xmldom/xmldom';
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import test from 'node:test';
-import { PacketError, decodePacket, readPacket } from '../../modules/packet.js';
+import { PacketError, decodeBase64, decodePacket, readPacket } from '../../modules/packet.js';
 
 const golden = new URL('../../../tests/core/data/', import.meta.url);
 const complete = readFileSync(new URL('header-captions-toc-screentext.xmp', golden), 'utf8');
@@ -119,4 +119,9 @@ test('bytes that are not UTF-8 are refused with their place', () => {
     const bytes = Uint8Array.of(0x61, 0xc3, 0xa4, 0xe4, 0x62);
     assert.throws(() => decodePacket(bytes), (error) => error.key === 'notUtf8' && error.values.byte === 3);
     assert.equal(decodePacket(Uint8Array.of(0xef, 0xbb, 0xbf, 0x61)), 'a');
+});
+
+test('base64 is decoded to bytes', () => {
+    assert.deepEqual(decodeBase64('AP/+'), Uint8Array.of(0, 255, 254));
+    assert.deepEqual(decodeBase64('Zg=='), Uint8Array.of(102));
 });
