@@ -30,7 +30,8 @@ void appendBase64(std::string& text, std::string_view bytes)
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     for (std::size_t begin = 0; begin < bytes.size(); begin += 3) {
         const std::uint32_t bits = threeBytes(bytes, begin);
-        for (const int shift : {18, 12, 6, 0}) text += alphabet[bits >> shift & 0x3F];
+        for (const int shift : {18, 12, 6, 0})
+            text += alphabet[bits >> shift & 0x3F];
     }
     const std::size_t padding = (3 - bytes.size() % 3) % 3;
     text.replace(text.size() - padding, padding, padding, '=');
@@ -41,9 +42,11 @@ void appendBase64(std::string& text, std::string_view bytes)
 std::string previewPage(std::string_view packet)
 {
     std::string page;
-    for (const std::string_view part : beforePacket) page += part;
+    for (const std::string_view part : beforePacket)
+        page += part;
     appendBase64(page, packet);
-    for (const std::string_view part : afterPacket) page += part;
+    for (const std::string_view part : afterPacket)
+        page += part;
     return page;
 }
 

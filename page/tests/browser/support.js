@@ -90,6 +90,8 @@ export async function openPage(packet, { files = {}, ...options } = {}) {
         page.errors.push(`dialog: ${dialog.message()}`);
         dialog.dismiss();
     });
+    // With a listener, the browser never opens a dialog of the system, however soon a test presses the button.
+    page.on('filechooser', () => {});
     page.on('request', (request) => page.requests.push(request.url()));
     page.folder = pathToFileURL(folder).href;
     await page.goto(`${page.folder}/preview.html`);

@@ -95,8 +95,8 @@ test('a content file beside the page is its video, and gives the thumbnails', as
     assert.deepEqual(page.errors, []);
 });
 
-test('frames of an opened video are the thumbnails of its entries', async () => {
-    const page = await openPage(packet);
+test('frames of an opened video are the thumbnails of entries whose image is missing', async () => {
+    const page = await openPage(packet.replaceAll('zelDM:image=""', 'zelDM:image="missing.png"'));
     await pickFiles(page, await film());
     await until(page, hasVideo);
     await page.getByRole('tab', { name: 'Contents' }).click();
@@ -106,6 +106,7 @@ test('frames of an opened video are the thumbnails of its entries', async () => 
         return red > blue ? 'red' : 'blue';
     }));
     assert.deepEqual(colours, ['red', 'blue']);
+    assert.equal(await page.locator('#panel-contents img').count(), 0);
 });
 
 test('the controls of the page play, mute and speed up the video', async () => {
