@@ -53,6 +53,8 @@ constexpr OptionEntry optionTable[] = {
     {"verbose", '\0', nullptr, "report every place of a problem", "default: the first three"},
     {"report", '\0', "FILE",
      "also write the report, with every place, as JSON; - is standard output", "default: none"},
+    {"preview", '\0', "FILE.html",
+     "also write a page that shows the packet in a browser; - is standard output", "default: none"},
     {"help", 'h', nullptr, "print this help", nullptr},
     {"version", '\0', nullptr, "print the version", nullptr},
 };

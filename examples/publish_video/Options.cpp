@@ -257,6 +257,8 @@ void readWritten(const Arguments& arguments, Options& options)
     options.output = writtenFile(arguments.required("output"), "--output");
     if (const auto report = arguments.value("report"))
         options.report = writtenFile(*report, "--report");
+    if (const auto preview = arguments.value("preview"))
+        options.preview = writtenFile(*preview, "--preview");
 }
 
 void readSize(const Arguments& arguments, Options& options)

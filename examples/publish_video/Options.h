@@ -43,6 +43,7 @@ struct Options {
     bool skipEmpty = false;
     bool verbose = false;
     std::optional<std::string> report;
+    std::optional<std::string> preview;
     std::vector<LanguageFile> captions;
 };
 

@@ -86,6 +86,14 @@ std::string shownOutput(const std::string& output)
     return output == standardOutput ? "standard output" : printable(output);
 }
 
+void writeOutput(const std::string& output, std::string_view bytes)
+{
+    if (output == standardOutput)
+        writeStandardOutput(bytes);
+    else
+        writeNewFile(output, bytes);
+}
+
 void refuseOverwriting(const Options& options)
 {
     TakenFiles files;
@@ -95,6 +103,7 @@ void refuseOverwriting(const Options& options)
     if (options.screenText) files.read(*options.screenText);
     files.write(options.output, "--output");
     if (options.report) files.write(*options.report, "--report");
+    if (options.preview) files.write(*options.preview, "--preview");
 }
 
 } // namespace publish

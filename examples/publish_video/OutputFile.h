@@ -27,6 +27,9 @@ void writeNewFile(const std::string& file, std::string_view bytes);
 /// Writes @p bytes to standard output; throws PublishError.
 void writeStandardOutput(std::string_view bytes);
 
+/// Writes @p bytes to standard output or to a new file; throws PublishError.
+void writeOutput(const std::string& output, std::string_view bytes);
+
 /// How messages name @p output.
 std::string shownOutput(const std::string& output);
 

@@ -10,6 +10,8 @@
 #include "ZelInterchangeData/ZelDataReplaceFile.h"
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 
 namespace publish {
@@ -27,14 +29,24 @@ std::string fileContents(const i_ZelInterchangeDataCore& document)
 }
 
 /// For standard output, a device, a pipe, or a file that is already open (`/dev/stdout`).
-std::size_t writeInPlace(const i_ZelInterchangeDataCore& document, const std::string& output)
+std::string writeInPlace(const i_ZelInterchangeDataCore& document, const std::string& output)
 {
     const std::string contents = fileContents(document);
     if (output == standardOutput)
         writeStandardOutput(contents);
     else
         writeDirectly(output, contents);
-    return contents.size();
+    return contents;
+}
+
+/// What is in the file that replaceFile() has written. Writing again could give a later date, so this
+/// does it only if the file may not be read.
+std::string replacedContents(const i_ZelInterchangeDataCore& document,
+                             const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    const std::string contents{std::istreambuf_iterator<char>(stream), {}};
+    return contents.empty() ? fileContents(document) : contents;
 }
 
 /// Whether @p error says that there is a file, but none that can be replaced.
@@ -46,7 +58,7 @@ bool isNotReplaceable(const std::error_code& error)
 
 } // namespace
 
-std::size_t writePacket(const i_ZelInterchangeDataCore& document, const std::string& output)
+std::string writePacket(const i_ZelInterchangeDataCore& document, const std::string& output)
 {
     if (output == standardOutput) return writeInPlace(document, output);
     const std::filesystem::path file = std::filesystem::u8path(output);
@@ -61,7 +73,7 @@ std::size_t writePacket(const i_ZelInterchangeDataCore& document, const std::str
     if (isNotReplaceable(error)) return writeInPlace(document, output);
     if (error) failToWrite(output, error);
     check(code, "writing the packet");
-    return static_cast<std::size_t>(std::filesystem::file_size(file));
+    return replacedContents(document, file);
 }
 
 } // namespace publish

@@ -53,7 +53,7 @@ constexpr Status statuses[] = {
     {"0", "The packet is written, whatever problems the report lists; or you asked for the help or "
           "the version."},
     {"2", "An error, which the last lines name. OUT.xmp is as before, unless the error is about "
-          "--report."}};
+          "--report or --preview."}};
 
 std::string programAndVersion()
 {

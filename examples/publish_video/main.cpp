@@ -8,6 +8,7 @@
 #include "Options.h"
 #include "OutputFile.h"
 #include "PacketWriter.h"
+#include "Preview.h"
 #include "Report.h"
 #include "System.h"
 #include "Usage.h"
@@ -19,6 +20,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <string>
 #include <vector>
 
 namespace publish {
@@ -29,8 +31,7 @@ namespace {
 
 constexpr int failure = 2;
 
-/// Writes the packet; returns the report about it.
-Report publishVideo(const Options& options)
+void publishVideo(const Options& options)
 {
     refuseOverwriting(options);
     const CueFiles files = readCueFiles(options);
@@ -49,18 +50,11 @@ Report publishVideo(const Options& options)
               "the screen text");
 
     Report report = makeReport(options, files, merged, *captions);
-    report.bytes = writePacket(*document, options.output);
-    return report;
-}
-
-void tell(const Report& report, const Options& options)
-{
+    const std::string packet = writePacket(*document, options.output);
+    report.bytes = packet.size();
     std::cerr << reportText(report, options.verbose);
-    if (!options.report) return;
-    if (*options.report == standardOutput)
-        writeStandardOutput(reportJson(report));
-    else
-        writeNewFile(*options.report, reportJson(report));
+    if (options.report) writeOutput(*options.report, reportJson(report));
+    if (options.preview) writeOutput(*options.preview, previewPage(packet));
 }
 
 /// Allocates nothing, because memory may have run out.
@@ -79,7 +73,7 @@ int run(int argc, char** argv)
         else if (options.version)
             writeStandardOutput(versionLine());
         else
-            tell(publishVideo(options), options);
+            publishVideo(options);
         return 0;
     } catch (const std::bad_alloc&) {
         return fail("memory ran out");

@@ -125,7 +125,7 @@ class Testing(unittest.TestCase):
         tree = fresh_folder(self.id())
         absent = left_out(configure_bare(SOURCE, tree, GOOGLETEST))
         folders = {f"tests/{file.parent.name}" for file in SOURCE.glob("tests/*/CMakeLists.txt")}
-        self.assertEqual(set(absent), folders - {"tests/examples"} | {"fuzz"})
+        self.assertEqual(set(absent), folders - {"tests/examples"} | {"fuzz", "page/tests"})
         self.assertEqual(absent["tests/readers"],
                          "Install Python3, xmllint, rapper, exempi, exiftool (Debian: scripts/setup)")
         self.assertIn("core_tests", tests_of(tree))

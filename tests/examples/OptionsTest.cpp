@@ -98,24 +98,18 @@ TEST(OptionDefaults, NothingElseIsSet)
     EXPECT_FALSE(options.length || options.font || options.fontSize);
     EXPECT_FALSE(options.toc || options.screenText);
     EXPECT_FALSE(options.plainText || options.skipEmpty || options.verbose);
-    EXPECT_FALSE(options.help || options.version || options.report);
+    EXPECT_FALSE(options.help || options.version || options.report || options.preview);
     EXPECT_TRUE(options.captions.empty());
 }
 
 TEST(OptionValues, EveryOptionReachesItsField)
 {
-    const Options options = parse({"--title",       "T",
-                                   "--creator",     "C",
-                                   "--description", "D",
-                                   "--app-name",    "A",
-                                   "--app-version", "V",
-                                   "--length",      "5",
-                                   "--font",        "F",
-                                   "--font-size",   "7",
-                                   "--screen-text", "S",
-                                   "--report",      "R",
-                                   "--plain-text",  "--skip-empty",
-                                   "--verbose"});
+    const Options options =
+        parse({"--title",    "T", "--creator",     "C", "--description", "D",
+               "--app-name", "A", "--app-version", "V", "--length",      "5",
+               "--font",     "F", "--font-size",   "7", "--screen-text", "S",
+               "--report",   "R", "--preview",     "P", "--plain-text",  "--skip-empty",
+               "--verbose"});
     EXPECT_EQ(options.title, "T");
     EXPECT_EQ(options.creator, "C");
     EXPECT_EQ(options.description, "D");
@@ -129,6 +123,7 @@ TEST(OptionValues, EveryOptionReachesItsField)
     EXPECT_TRUE(options.skipEmpty);
     EXPECT_TRUE(options.verbose);
     EXPECT_EQ(options.report, "R");
+    EXPECT_EQ(options.preview, "P");
 }
 
 /// Values that argument libraries tend to split.
@@ -296,7 +291,7 @@ TEST(Output, EqualsSignAfterTheShortFormIsRefused)
 
 TEST(Output, LanguageAndFileAreRefusedWithTheWayToMeanThem)
 {
-    for (const std::string option : {"--output", "--report"}) {
+    for (const std::string option : {"--output", "--report", "--preview"}) {
         const Words before = option == "--output" ? Words{} : Words{"-o", "x"};
         for (const std::string file : {"en=film.srt", "xx=a", "pt-BR=", "en==="}) {
             Words all = before;
@@ -313,7 +308,8 @@ TEST(Output, LanguageAndFileAreRefusedWithTheWayToMeanThem)
 
 TEST(Output, FileNameIsNotEmpty)
 {
-    EXPECT_THAT(failureOf({"--report", ""}), HasSubstr("--report"));
+    for (const std::string option : {"--report", "--preview"})
+        EXPECT_EQ(failureOf({option, ""}), option + ": the file name is empty");
 }
 
 TEST(Numbers, PlainDigitsFromOne)

@@ -1,6 +1,7 @@
 /// @file
 /// Where the program writes, and what it leaves there when it fails.
 
+#include "Preview.h"
 #include "examples/ProgramRunner.h"
 
 #include <gmock/gmock.h>
@@ -198,11 +199,41 @@ TEST_F(OutputTest, FileToReadIsNotOverwrittenUnderAnyName)
                       refusal("--output", name), left);
         expectFailure(runAlone({"-o", name, "--size", "1x1", "--screen-text", film}),
                       refusal("--output", name), left);
-        expectFailure(run({"--report", name, "en=" + film}), refusal("--report", name), left);
+        for (const std::string option : {"--report", "--preview"})
+            expectFailure(run({option, name, "en=" + film}), refusal(option, name), left);
     }
     expectFailure(shell("\"$0\" -o - \"$@\" en='" + film + "' >>'" + film + "'"),
                   refusal("--output", "standard output"), left);
     EXPECT_EQ(contentsOf(film), cues);
+}
+
+TEST_F(OutputTest, PreviewHoldsThePacketThatWasWritten)
+{
+    const std::string page = pathOf("page.html");
+    EXPECT_EQ(run({"--length", "1", "--preview", page}).status, 0);
+    EXPECT_EQ(contentsOf(page), publish::previewPage(contentsOf(pathOf("out.xmp"))));
+    const RunResult printed = run({"--length", "1", "--preview", "-"});
+    EXPECT_EQ(printed.out, publish::previewPage(contentsOf(pathOf("out.xmp"))));
+    const RunResult both = shell("\"$0\" -o - --preview '" + page + "' \"$@\"");
+    EXPECT_EQ(contentsOf(page), publish::previewPage(both.out));
+}
+
+TEST_F(OutputTest, PreviewOfAFileThatMayNotBeReadHoldsThePacket)
+{
+    const std::string page = pathOf("page.html");
+    const std::string file = write("out.xmp", "old");
+    fs::permissions(file, fs::perms::owner_write);
+    const RunResult done = run({"--length", "1", "--title", "t", "--preview", page});
+    EXPECT_EQ(done.status, 0) << done.err;
+    EXPECT_GT(contentsOf(page).size(), publish::previewPage("").size() + 1000);
+}
+
+TEST_F(OutputTest, PreviewThatCannotBeWrittenIsAFailure)
+{
+    const RunResult done = run({"--length", "1", "--preview", "/dev/full"});
+    EXPECT_EQ(done.status, 2);
+    EXPECT_THAT(done.err, HasSubstr("publish_video: /dev/full: cannot be written: No space left"));
+    EXPECT_EQ(names(), (std::vector<std::string>{"out.xmp"}));
 }
 
 TEST_F(OutputTest, DeviceMayBeReadAndWritten)
@@ -211,7 +242,7 @@ TEST_F(OutputTest, DeviceMayBeReadAndWritten)
         runAlone({"-o", "/dev/null", "--size", "1x1", "--length", "1", "en=/dev/null"}).status, 0);
 }
 
-TEST_F(OutputTest, ReportAndPacketAreTwoFiles)
+TEST_F(OutputTest, PacketReportAndPreviewAreThreeFiles)
 {
     const std::string named = "is the file of --output";
     expectFailure(run({"--length", "1", "--report", pathOf("./out.xmp")}), named, {});
@@ -220,9 +251,13 @@ TEST_F(OutputTest, ReportAndPacketAreTwoFiles)
         named, {});
     expectFailure(shell("\"$0\" -o - --report - \"$@\""), named, {});
     expectFailure(shell("\"$0\" -o - --report /dev/stdout \"$@\""), named, {});
+    const std::string page = pathOf("page");
+    expectFailure(run({"--length", "1", "--preview", page, "--report", pathOf("./page")}),
+                  "--preview: " + page + " is the file of --report", {});
     write("out.xmp", "old");
     fs::create_hard_link(pathOf("out.xmp"), pathOf("twin"));
-    expectFailure(run({"--length", "1", "--report", pathOf("twin")}), named, {"out.xmp", "twin"});
+    for (const std::string option : {"--report", "--preview"})
+        expectFailure(run({"--length", "1", option, pathOf("twin")}), named, {"out.xmp", "twin"});
     EXPECT_EQ(contentsOf(pathOf("out.xmp")), "old");
 }
 

@@ -1,0 +1,58 @@
+import { element } from './dom.js';
+import { IntervalIndex, lastStarted, sameItems } from './intervals.js';
+import { label } from './labels.js';
+import { formatTime } from './times.js';
+import { VirtualList } from './virtual-list.js';
+
+/** Makes the button of a row: the time and what follows it. */
+export function makeRowButton(time, ...content) {
+    return element('button', { type: 'button', class: 'row' },
+        element('span', { class: 'row-time' }, formatTime(time)), element('span', { class: 'row-content' }, ...content));
+}
+
+/** A list of items with start and end: marks those that show now, and jumps to the one that is pressed. */
+export class ItemList {
+    #current = [];
+
+    /** `makeContent(item)` returns what a row shows besides the time. */
+    constructor(scroller, player, { name, estimate, makeContent }) {
+        this.player = player;
+        this.index = new IntervalIndex([]);
+        this.isFollowing = false;
+        this.empty = element('p', { class: 'empty', hidden: true }, label('nothing'));
+        scroller.before(this.empty);
+        this.list = new VirtualList(scroller, {
+            name, estimate,
+            makeRow: (row) => {
+                const item = this.index.items[row];
+                const button = makeRowButton(item.start, ...makeContent(item));
+                button.addEventListener('click', () => player.seek(item.start));
+                return button;
+            },
+            updateRow: (button, row) => {
+                if (this.#current.includes(this.index.items[row])) button.setAttribute('aria-current', 'true');
+                else button.removeAttribute('aria-current');
+            },
+        });
+    }
+
+    open(items) {
+        this.index = new IntervalIndex(items);
+        this.#current = [];
+        this.empty.hidden = items.length > 0;
+        this.list.reset(items.length);
+        this.draw();
+    }
+
+    draw() {
+        const { time } = this.player;
+        const current = this.index.at(time);
+        if (sameItems(current, this.#current)) return;
+        this.#current = current;
+        // With the focus in the list, it stays where the user moved it.
+        if (this.isFollowing && current.length > 0 && !this.list.hasFocus)
+            this.list.scrollTo(lastStarted(this.index.items, time));
+        else
+            this.list.draw();
+    }
+}
