@@ -74,7 +74,8 @@ class Windows(unittest.TestCase):
     def test_the_library_is_in_bin_and_what_links_it_in_lib(self):
         files = {path for path in self.installed if not path.startswith(("include/", "lib/cmake/"))}
         self.assertEqual(files, {f"bin/{DLL}", "bin/publish_video.exe", f"lib/{DLL}.a",
-                                 "lib/libZelInterchangeData.a", "lib/pkgconfig/ZelInterchangeData.pc"})
+                                 "lib/libZelInterchangeData.a", "lib/pkgconfig/ZelInterchangeData.pc",
+                                 "share/doc/ZelInterchangeData/preview.html"})
         headers = {f"include/ZelInterchangeData/{path.name}"
                    for path in (SOURCE / "include/ZelInterchangeData").iterdir()}
         self.assertLess(headers, self.installed)
