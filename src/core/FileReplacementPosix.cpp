@@ -25,24 +25,22 @@ namespace {
 /// file while it ends could close it twice.
 class Uncancelled {
 public:
-#ifdef PTHREAD_CANCEL_DISABLE
-    Uncancelled()
-    {
-        ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before_);
-    }
-    ~Uncancelled()
-    {
-        ::pthread_setcancelstate(before_, &before_);
-    }
-#else
-    Uncancelled() = default;
-    ~Uncancelled() = default;
-#endif
+    Uncancelled() { swap(); }
+    ~Uncancelled() { swap(); }
     Uncancelled(const Uncancelled&) = delete;
     Uncancelled& operator=(const Uncancelled&) = delete;
 
 private:
-    [[maybe_unused]] int before_ = 0;
+#ifdef PTHREAD_CANCEL_DISABLE
+    void swap()
+    {
+        ::pthread_setcancelstate(state_, &state_);
+    }
+
+    int state_ = PTHREAD_CANCEL_DISABLE;
+#else
+    void swap() {}
+#endif
 };
 
 /// An open file or folder, or none.

@@ -22,7 +22,7 @@ STRICT = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Wsign-
 BESIDE = SOURCE / "build/beside/clang-16/usr/bin"  # where scripts/setup unpacks what conflicts
 STANDARDS = ("c++17", "c++20", "c++2b") # the oldest of the compilers know C++23 as C++2b
 # The headers that throw, and what the compiler must say about each where exceptions are off.
-THROWING = re.compile(r"ZelData(Check.*|Factories|Items|Face)\.h")
+THROWING = re.compile(r"ZelData(Call|Check.*|Face|Factories|Files|Items|Reasons)\.h")
 BARE_LANGUAGE = ["-fno-exceptions", "-fno-rtti"]
 NO_EXCEPTIONS = "Without them, include ZelInterchangeData/ZelInterchangeData.h"
 # Returns 0 if it has written the packet of a header.

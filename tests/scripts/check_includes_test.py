@@ -140,14 +140,40 @@ class CheckIncludes(unittest.TestCase):
             self.assert_refused(f"src/util/A.h:1: std::{name} is left to "
                                 "src/util/TextBlock.h and src/util/ValueStrings.cpp")
 
+    def test_an_assertion_serves_one_conversion(self):
+        self.write("src/util/TextBlock.h", "static_assert(std::is_integral_v<T>);\n"
+                                           "std::to_chars(a, b, number);\nstd::from_chars(a, b, d);\n")
+        self.assert_refused("src/util/TextBlock.h:3: std::from_chars needs "
+                            "static_assert(std::is_integral_v<…> before it")
+
     def test_the_standard_library_gets_no_other_name(self):
-        for line in ("using namespace std;", "namespace s = std;", "namespace s = ::std;"):
+        for line in ("using namespace std;", "namespace s = std;", "namespace s = ::std;",
+                     "#define S std"):
             with self.subTest(line):
                 self.write("src/util/A.cpp", f"{line}\n")
-                self.assert_refused("src/util/A.cpp:1: std must be named, so that this script finds "
-                                    "its names")
+                self.assert_refused("src/util/A.cpp:1: std gets no other name, so that this script "
+                                    "finds its names")
         self.write("src/util/A.cpp", "namespace fs = std::filesystem;\nusing namespace std::chrono;\n")
         self.assert_accepted()
+
+    def test_comments_strings_and_line_ends_hide_nothing(self):
+        for code in ("std::\npmr::string a;", "std::/**/pmr::string a;", '"http://x"; std::pmr::string a;',
+                     "/* // */ std::pmr::string a;", "std::__1::pmr::string a;", "std:: \\\npmr::string a;",
+                     '"/*"; std::pmr::string a;', 'R"x(")x"; std::pmr::string a;'):
+            with self.subTest(code):
+                self.write("src/util/A.cpp", f"{code}\n")
+                self.assert_refused("src/util/A.cpp:1: std::pmr is not in every macOS")
+        self.write("src/util/A.cpp", "#/**/include <experimental/memory_resource>\n")
+        self.assert_refused("src/util/A.cpp:1: <experimental/memory_resource> is not in every macOS")
+
+    def test_comments_and_strings_are_no_code(self):
+        self.write("src/util/A.cpp", '/* std::pmr\n#endif */\n// std\nauto a = "std::pmr";\n'
+                                     'auto b = R"(" std::pmr)";\n')
+        self.assert_accepted()
+
+    def test_a_file_of_another_kind_is_refused(self):
+        self.write("src/util/A.hpp", "")
+        self.assert_refused("src/util/A.hpp:1: is neither a header (.h) nor a source (.cpp)")
 
     def test_an_empty_tree_is_refused(self):
         (self.root / "include/ZelInterchangeData/Thing.h").unlink()
