@@ -218,16 +218,6 @@ TEST_F(OutputTest, PreviewHoldsThePacketThatWasWritten)
     EXPECT_EQ(contentsOf(page), publish::previewPage(both.out));
 }
 
-TEST_F(OutputTest, PreviewOfAFileThatMayNotBeReadHoldsThePacket)
-{
-    const std::string page = pathOf("page.html");
-    const std::string file = write("out.xmp", "old");
-    fs::permissions(file, fs::perms::owner_write);
-    const RunResult done = run({"--length", "1", "--title", "t", "--preview", page});
-    EXPECT_EQ(done.status, 0) << done.err;
-    EXPECT_GT(contentsOf(page).size(), publish::previewPage("").size() + 1000);
-}
-
 TEST_F(OutputTest, PreviewThatCannotBeWrittenIsAFailure)
 {
     const RunResult done = run({"--length", "1", "--preview", "/dev/full"});
@@ -278,6 +268,20 @@ TEST_F(OutputTest, FolderWhoseParentsCannotBeSearchedIsWritten)
     EXPECT_EQ(done.status, 0) << done.err;
     expectPacket(contentsOf(pathOf("closed/open/out.xmp")));
     EXPECT_TRUE(fs::exists(pathOf("closed/open/report.json")));
+}
+
+TEST_F(OutputTest, PreviewHoldsThePacketOfAFileThatMayNotBeRead)
+{
+    if (runShell(asOrdinaryUser + "$user \"$0\" --version", {}).status != 0)
+        GTEST_SKIP() << "An ordinary user cannot run the program.";
+    fs::create_directory(pathOf("open"));
+    fs::permissions(pathOf("open"), fs::perms::all);
+    const RunResult done = shell(asOrdinaryUser + "cd '" + pathOf("open") +
+                                 "' && $user touch out.xmp && $user chmod 200 out.xmp && "
+                                 "$user \"$0\" -o out.xmp --preview page.html \"$@\"");
+    EXPECT_EQ(done.status, 0) << done.err;
+    const std::string packet = contentsOf(pathOf("open/out.xmp"));
+    EXPECT_EQ(contentsOf(pathOf("open/page.html")).size(), publish::previewPage(packet).size());
 }
 
 #ifdef __has_feature

@@ -283,7 +283,7 @@ TEST_F(ReportTest, JsonHasEveryPlaceAndEscapesFileNames)
         cues += std::string("00:0") + start + ".000 --> 00:0" + start + ".500\nx\n\n";
     const RunResult done = publish({"--report", "-", "en=" + write("a\nb\".srt", cues)});
     EXPECT_THAT(done.out, HasSubstr("\"count\": 5"));
-    EXPECT_THAT(done.out, HasSubstr("a\\u000ab\\\".srt\", \"language\": \"en\", \"line\": 13"));
+    EXPECT_THAT(done.out, HasSubstr("a\\u000Ab\\\".srt\", \"language\": \"en\", \"line\": 13"));
     EXPECT_THAT(done.err, HasSubstr("and 2 more"));
 }
 
