@@ -45,7 +45,8 @@ private:
 
     std::string reason(const ZelDataCall& call) const
     {
-        return call.operation == "setHeader" ? ZelDataMessages::reasonOfHeader(call) : "";
+        if (call.operation != "setHeader") return {};
+        return ZelDataMessages::reasonOfHeader(call);
     }
 };
 

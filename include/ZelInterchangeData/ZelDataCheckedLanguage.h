@@ -110,7 +110,8 @@ private:
         const auto unlisted = std::find_if(ids.begin(), ids.end(), [&](const std::string& id) {
             return std::find(listed.begin(), listed.end(), id) == listed.end();
         });
-        return unlisted == ids.end() ? std::string() : shown(&*unlisted) + " is not listed";
+        if (unlisted == ids.end()) return {};
+        return shown(&*unlisted) + " is not listed";
     }
 };
 

@@ -1,7 +1,7 @@
 /// @file
 /// The interfaces of ZelInterchangeData.h, and the face over them: factories that return the new
-/// object, operations that throw instead of returning a code, loops over items, safe files, escaping for
-/// texts that are written as given.
+/// object, operations that throw instead of returning a code, loops over items, safe files, and
+/// escaping for texts that are written as given.
 ///
 /// Nothing here is part of the binary interface: all of it is compiled into the caller. It is a
 /// separate header so that programs that handle the codes themselves can use short names such as

@@ -6,6 +6,7 @@
 
 #include "ZelInterchangeData/ZelDataCall.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/ZelDataReplaceFile.h"
 
@@ -25,8 +26,10 @@ inline void replaceFile(const i_ZelInterchangeDataCore& document, const std::str
     int systemError = 0;
     const auto code = replaceFile(document, path, systemError, format);
     if (systemError != 0) {
-        throw std::system_error(systemError, std::system_category(),
-                                "replaceFile(\"" + path + "\")");
+        throw std::system_error(
+            systemError, std::system_category(),
+            "replaceFile(\"" + ZelDataMessages::onOneLine(path, ZelDataMessages::isUtf8(path)) +
+                "\")");
     }
     if (failed(code)) {
         throwZelDataError({"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}},

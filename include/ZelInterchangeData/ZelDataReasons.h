@@ -93,7 +93,8 @@ std::string reasonOfTime(const View& item, const ZelDataCall& call)
     if (!setsEnd) return {};
     return asking(item.object(), [&] {
         const long long start = item.getStart();
-        return value > start ? std::string() : "not after the start, " + shown(start);
+        if (value > start) return std::string();
+        return "not after the start, " + shown(start);
     });
 }
 
@@ -129,8 +130,8 @@ inline std::string reasonOfSizes(const i_ZelDataHeader& header)
 inline std::string reasonOfHeader(const ZelDataCall& call)
 {
     const auto* header = call.arguments.begin()->as<const i_ZelDataHeader*>();
-    return header == nullptr || call.code != ZelData_InvalidArgument ? std::string()
-                                                                     : reasonOfSizes(**header);
+    if (header == nullptr || call.code != ZelData_InvalidArgument) return {};
+    return reasonOfSizes(**header);
 }
 
 /// The header of @p document, if it cannot be written.
@@ -145,7 +146,8 @@ inline std::string reasonOfWriting(const i_ZelInterchangeDataCore& document,
         const auto got = document.getDataHeader(*header);
         if (got == ZelData_NoData) return std::string("the document has no header");
         // A copy stops at the first size that is 0.
-        return got == ZelData_InvalidArgument ? reasonOfSizes(*header) : "";
+        if (got != ZelData_InvalidArgument) return std::string();
+        return reasonOfSizes(*header);
     });
 }
 
@@ -160,7 +162,8 @@ std::string reasonOfProblem(const Collection& collection, const ZelDataCall& cal
             std::find_if(findings.begin(), findings.end(), [&](const ZelDataFinding& finding) {
                 return codeOf(finding) == call.code;
             });
-        return found == findings.end() ? std::string() : describe(*found);
+        if (found == findings.end()) return std::string();
+        return describe(*found);
     });
 }
 

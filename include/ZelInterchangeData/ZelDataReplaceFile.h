@@ -24,8 +24,11 @@ class i_ZelInterchangeDataCore;
 /// Where the file system can flush neither files nor folders, it goes on without.
 /// - If @p path is a symbolic link, replaces the file that it leads to, even if there is none yet.
 /// - The new file has the permissions of the old one, and its owner and group if the system allows
-///   that. Without an old file, it has the permissions of any new file. Other names of the old file
-///   (hard links) keep the old contents.
+///   that; if not, its group and all others get only what both had, and so they do if the old file has
+///   an access control list. Lists, extended attributes and set-ID bits are lost. Without an old file,
+///   it has the permissions of any new file. Other names of the old file (hard links) keep the old
+///   contents.
+/// - You need permission to create and rename files in the folder, and to write to the old file.
 /// - Refuses everything that is not a regular file: folders, devices, pipes, and links to open files
 ///   such as `/dev/stdout`. Refuses a file without write permission.
 ///
@@ -48,7 +51,8 @@ class i_ZelInterchangeDataCore;
 ///   the old one.
 /// - If Windows removes the old file and then fails to rename the new one, the new file is left
 ///   under its temporary name: `.ZelInterchangeData-` and 16 digits.
-/// - If the process is killed, a file with such a name may be left.
+/// - If the process is killed, or if the folder lets nobody rename and remove files, a file with such a
+///   name may be left.
 ///
 /// On success, @p systemError is 0.
 ///

@@ -15,6 +15,10 @@
 #include <unistd.h>
 #include <utility>
 
+#ifdef __linux__
+#include <sys/xattr.h>
+#endif
+
 namespace ZelInterchangeData {
 
 namespace {
@@ -165,6 +169,16 @@ int find(Target& target)
     return followLinks(target.path);
 }
 
+/// Whether the group's permissions of the file are the limits of its access control list.
+bool hasAccessControlList([[maybe_unused]] const std::string& path)
+{
+#ifdef __linux__
+    return ::getxattr(path.c_str(), "system.posix_acl_access", nullptr, 0) > 0;
+#else
+    return false;
+#endif
+}
+
 /// A new file, removed at the end unless it has replaced the target.
 class NewFile {
 public:
@@ -202,11 +216,15 @@ public:
         if (!target.exists) return 0;
         constexpr auto same = static_cast<uid_t>(-1);
         // Only some users may give a file away, so a refusal is no failure.
-        const bool isOwned =
+        const bool hasGroup =
             ::fchown(file_.number(), target.status.st_uid, target.status.st_gid) == 0 ||
             ::fchown(file_.number(), same, target.status.st_gid) == 0;
-        static_cast<void>(isOwned);
-        const auto mode = target.status.st_mode & static_cast<mode_t>(0777);
+        mode_t mode = target.status.st_mode & 0777U;
+        if (!hasGroup || hasAccessControlList(target.path)) {
+            // Nobody gets more than before: only what the group and all others had.
+            const mode_t shared = (mode >> 3U) & mode & 07U;
+            mode = (mode & 0700U) | (shared << 3U) | shared;
+        }
         return ::fchmod(file_.number(), mode) == 0 ? 0 : errno;
     }
 

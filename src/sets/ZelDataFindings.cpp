@@ -3,14 +3,17 @@
 #include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 
+#include <initializer_list>
+#include <string_view>
+
 namespace ZelInterchangeData {
 
 namespace {
 
-std::string joined(std::initializer_list<std::string> parts)
+std::string joined(std::initializer_list<std::string_view> parts)
 {
     std::string text;
-    for (const std::string& part : parts)
+    for (const std::string_view part : parts)
         text += part;
     return text;
 }
@@ -100,8 +103,9 @@ std::string shortDuration(const std::string& what, const ZelDataFinding& finding
 
 std::string badText(const ZelDataFinding& finding)
 {
-    const bool hasLanguage = finding.subject != ZelDataFindingSubject_ScreenText;
-    return "the text" + (hasLanguage ? " in " + languageOf(finding) : "") + " is not UTF-8";
+    std::string text = "the text";
+    if (finding.subject != ZelDataFindingSubject_ScreenText) text += " in " + languageOf(finding);
+    return text + " is not UTF-8";
 }
 
 std::string tooManyLines(const ZelDataFinding& finding)
@@ -143,10 +147,10 @@ std::string fault(const ZelDataFinding& finding, const char* what)
 
 std::string entryMissing(const ZelDataFinding& finding)
 {
-    const bool hasEntries = finding.limit >= 0;
-    return joined(
-        {"no entry ", number(finding.value), " in the table of contents",
-         hasEntries ? ", the last is " + number(finding.limit) : std::string(", which has none")});
+    const std::string known =
+        joined({"no entry ", number(finding.value), " in the table of contents, "});
+    if (finding.limit < 0) return known + "which has none";
+    return known + "the last is " + number(finding.limit);
 }
 
 std::string notMilliseconds(const ZelDataFinding& finding)

@@ -522,6 +522,10 @@ public:
     void throwFromGetter(std::function<void()> action) { action_ = std::move(action); }
     int asked() const { return asked_; }
 
+    ZelDataResult_tags isValid(bool /*strict*/) const override
+    {
+        return keep(ZelData_WarnItemGuidelines);
+    }
     ZelDataResult_tags setEnd(long long end) override
     {
         return keep(ZelDataCaptionItem::setEnd(end));
@@ -586,15 +590,40 @@ TEST(MessageAboutAnotherImplementation, KeepsItsLastErrorIfAGetterThrows)
     }
 }
 
+TEST(Argument, IsAnObjectOrAValue)
+{
+    const auto header = createHeader();
+    const auto other = createHeader();
+    EXPECT_TRUE(ZelDataArgument(*header).is(*header));
+    EXPECT_FALSE(ZelDataArgument(*other).is(*header));
+    EXPECT_FALSE(ZelDataArgument(true).is(*header));
+    EXPECT_EQ("18446744073709551615", ZelDataArgument(~0ULL).shown());
+}
+
 TEST(MessageAboutAnotherImplementation, ExplainsNoRefusalOfAGoodArgument)
 {
     FailingCaptions captions;
     captions.failAt("setFontSize", ZelData_InvalidArgument, ZelData_InvalidArgument);
     EXPECT_EQ("setFontSize(20): " + unexplained,
               saidBy([&] { checked(captions).setFontSize(20); }));
+    captions.failAt("setForegroundColor", ZelData_InvalidArgument, ZelData_InvalidArgument);
+    EXPECT_EQ("setForegroundColor(0, 0.5, 1): " + unexplained,
+              saidBy([&] { checked(captions).setForegroundColor(0.0F, 0.5F, 1.0F); }));
+    captions.failAt("addCaptionItem", ZelData_InvalidArgument, ZelData_InvalidArgument);
+    EXPECT_EQ("addCaptionItem: " + unexplained, saidBy([&] {
+                  checked(captions).addCaptionItem(*createCaptionItem(0, 1, {{"en", "a"}}));
+              }));
     FailingCaptionItem item;
     item.failAt("setDuration", ZelData_InvalidArgument, ZelData_InvalidArgument);
     EXPECT_EQ("setDuration(500): " + unexplained, saidBy([&] { checked(item).setDuration(500); }));
+    item.failAt("setAlignment", ZelData_InvalidArgument, ZelData_InvalidArgument);
+    EXPECT_EQ("setAlignment(18): " + unexplained,
+              saidBy([&] { checked(item).setAlignment(ZelAlignTop | ZelAlignLeft); }));
+    OwnCaption lasting;
+    checked(lasting).setDuration(5000).setTextForLanguage("Hi", "en");
+    EXPECT_EQ("isValid(true): ZelData_WarnItemGuidelines (0x40000002): "
+              "The caption is valid but shorter, or has more lines, than recommended.",
+              saidBy([&] { checked(lasting).isValid(true); }));
     FailingCaptionItem started;
     started.failAt("setStart", ZelData_InvalidArgument, ZelData_InvalidArgument);
     EXPECT_EQ("setStart(0): " + unexplained, saidBy([&] { checked(started).setStart(0); }));

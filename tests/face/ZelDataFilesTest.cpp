@@ -52,6 +52,16 @@ TEST(Files, ThatCannotBeReplacedThrowTheErrorOfTheSystem)
     EXPECT_TRUE(folder.isEmpty());
 }
 
+TEST(Files, WithAnyPathAreNamedOnOneLine)
+{
+    try {
+        replaceFile(*plainDocument(), std::string("no\n\0.xmp", 8));
+        FAIL() << "nothing was thrown";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ("replaceFile(\"no\\x0A\\x00.xmp\"): " + error.code().message(), error.what());
+    }
+}
+
 TEST(Files, OfADocumentThatCannotBeWrittenThrowItsCode)
 {
     const ScratchFolder folder;

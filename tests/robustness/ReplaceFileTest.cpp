@@ -18,6 +18,7 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <vector>
 
@@ -71,6 +72,16 @@ private:
     std::size_t descriptors_ = openDescriptors();
 };
 
+/// The steps for a file that exists: the folder is opened first and flushed last.
+const Names steps = {"open",  "open",   "fchown", "fchmod", "fsync",
+                     "close", "rename", "fsync",  "close"};
+constexpr std::size_t newFile = 1;
+constexpr std::size_t owner = 2;
+constexpr std::size_t flush = 4;
+constexpr std::size_t closing = 5;
+constexpr std::size_t renaming = 6;
+constexpr std::size_t folderFlush = 7;
+
 // Owners and permissions
 
 TEST_F(FileReplacement, KeepsOwnerAndGroupIfTheSystemAllowsIt)
@@ -81,6 +92,37 @@ TEST_F(FileReplacement, KeepsOwnerAndGroupIfTheSystemAllowsIt)
         struct stat status {};
         if (stat(path().c_str(), &status) != 0) return "not there";
         return status.st_uid == 1234 && status.st_gid == 5678 ? fine : "another owner";
+    }));
+}
+
+TEST_F(FileReplacement, GivesNobodyMoreIfItCannotGiveTheFileToItsGroup)
+{
+    for (const auto& [before, after] : {std::pair{0640, 0600}, {0664, 0644}, {0604, 0600}}) {
+        ASSERT_EQ(0, chmod(path().c_str(), static_cast<mode_t>(before)));
+        const FileCalls calls(owner, EPERM, 2);
+        EXPECT_EQ(0, replace());
+        struct stat status {};
+        ASSERT_EQ(0, stat(path().c_str(), &status));
+        EXPECT_EQ(static_cast<mode_t>(after), status.st_mode & 0777U);
+    }
+}
+
+TEST_F(FileReplacement, GivesNobodyMoreThanAnAccessControlListDid)
+{
+    // The owner may read and write, the group nothing, the list at most read and write.
+    const std::string list("\2\0\0\0"
+                           "\1\0\6\0\377\377\377\377"
+                           "\4\0\0\0\377\377\377\377"
+                           "\20\0\6\0\377\377\377\377"
+                           "\40\0\0\0\377\377\377\377",
+                           36);
+    expectFine(inChild([&]() -> std::string {
+        if (setxattr(path().c_str(), "system.posix_acl_access", list.data(), list.size(), 0) != 0)
+            return refusal("an access control list");
+        if (replace() != 0) return "not replaced";
+        struct stat status {};
+        if (stat(path().c_str(), &status) != 0) return "not there";
+        return (status.st_mode & 0777U) == 0600U ? fine : "other permissions";
     }));
 }
 
@@ -195,16 +237,6 @@ TEST_F(FileReplacement, ContinuesShortWritesAndRepeatsInterruptedOnes)
 }
 
 // Each of the other steps
-
-/// The steps for a file that exists: the folder is opened first and flushed last.
-const Names steps = {"open",  "open",   "fchown", "fchmod", "fsync",
-                     "close", "rename", "fsync",  "close"};
-constexpr std::size_t newFile = 1;
-constexpr std::size_t owner = 2;
-constexpr std::size_t flush = 4;
-constexpr std::size_t closing = 5;
-constexpr std::size_t renaming = 6;
-constexpr std::size_t folderFlush = 7;
 
 TEST_F(FileReplacement, FlushesTheFileBeforeItIsRenamedAndTheFolderAfterwards)
 {
