@@ -1,6 +1,6 @@
 # Puts the page together, as one file without any other: cmake -D OUT=FOLDER -P Bundle.cmake
 # Writes FOLDER/preview.html, the page without a packet, and FOLDER/PreviewPage.inc, the same as literals for
-# C++: the part before the packet in ZEL_BEFORE_PACKET, the rest in ZEL_AFTER_PACKET.
+# C++: ZEL_BEFORE_PACKET, ZEL_BEFORE_REPORT from the packet's place on, and ZEL_AFTER_REPORT.
 cmake_minimum_required(VERSION 3.22)
 
 # Each module imports only from those before it, so that all of them become one script.
@@ -73,12 +73,15 @@ function(append_literals macro text)
     set(literals "${literals}\n" PARENT_SCOPE)
 endfunction()
 
-string(FIND "${page}" "@PACKET@" place)
-string(SUBSTRING "${page}" 0 ${place} before)
-math(EXPR place "${place} + 8")
-string(SUBSTRING "${page}" ${place} -1 after)
+if(NOT page MATCHES "^(.*)@PACKET@(.*)@REPORT@(.*)$")
+    message(FATAL_ERROR "The page has no place for a packet and a report")
+endif()
+set(before_packet "${CMAKE_MATCH_1}")
+set(before_report "${CMAKE_MATCH_2}")
+set(after_report "${CMAKE_MATCH_3}")
 set(literals)
-append_literals(ZEL_BEFORE_PACKET "${before}")
-append_literals(ZEL_AFTER_PACKET "${after}")
+append_literals(ZEL_BEFORE_PACKET "${before_packet}")
+append_literals(ZEL_BEFORE_REPORT "${before_report}")
+append_literals(ZEL_AFTER_REPORT "${after_report}")
 file(WRITE ${OUT}/PreviewPage.inc "${literals}")
-file(WRITE ${OUT}/preview.html "${before}${after}")
+file(WRITE ${OUT}/preview.html "${before_packet}${before_report}${after_report}")

@@ -13,7 +13,8 @@ namespace publish {
 namespace {
 
 constexpr std::string_view beforePacket[] = {ZEL_BEFORE_PACKET};
-constexpr std::string_view afterPacket[] = {ZEL_AFTER_PACKET};
+constexpr std::string_view beforeReport[] = {ZEL_BEFORE_REPORT};
+constexpr std::string_view afterReport[] = {ZEL_AFTER_REPORT};
 
 /// The 24 bits of up to three bytes of @p bytes from @p begin on; the missing ones are zero.
 std::uint32_t threeBytes(std::string_view bytes, std::size_t begin)
@@ -39,13 +40,16 @@ void appendBase64(std::string& text, std::string_view bytes)
 
 } // namespace
 
-std::string previewPage(std::string_view packet)
+std::string previewPage(std::string_view packet, std::string_view report)
 {
     std::string page;
     for (const std::string_view part : beforePacket)
         page += part;
     appendBase64(page, packet);
-    for (const std::string_view part : afterPacket)
+    for (const std::string_view part : beforeReport)
+        page += part;
+    appendBase64(page, report);
+    for (const std::string_view part : afterReport)
         page += part;
     return page;
 }

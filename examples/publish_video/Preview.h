@@ -9,10 +9,10 @@
 
 namespace publish {
 
-/// Returns an HTML page, in ASCII, that needs no other file and shows @p packet, which may hold any
-/// bytes: they become neither markup nor script. Beside the page, it finds the content files and
-/// images that the packet names.
-std::string previewPage(std::string_view packet);
+/// Returns an HTML page, in ASCII, that needs no other file and shows @p packet and the problems in
+/// @p report, a reportJson(). Both may hold any bytes: they become neither markup nor script. Beside
+/// the page, it finds the content files and images that the packet names.
+std::string previewPage(std::string_view packet, std::string_view report);
 
 } // namespace publish
 

@@ -54,7 +54,7 @@ void publishVideo(const Options& options)
     report.bytes = packet.size();
     std::cerr << reportText(report, options.verbose);
     if (options.report) writeOutput(*options.report, reportJson(report));
-    if (options.preview) writeOutput(*options.preview, previewPage(packet));
+    if (options.preview) writeOutput(*options.preview, previewPage(packet, reportJson(report)));
 }
 
 /// Allocates nothing, because memory may have run out.

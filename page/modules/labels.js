@@ -62,7 +62,7 @@ export const labels = {
     noProblems: 'No problems.',
     problemCount: { one: '{count} problem', other: '{count} problems' },
     unreadableValue: { one: 'A value cannot be read', other: '{count} values cannot be read' },
-    overlap: {
+    overlapIn: {
         one: 'Captions in {language} overlap once',
         other: 'Captions in {language} overlap {count} times',
     },
@@ -100,6 +100,30 @@ export const labels = {
         one: 'A screen text belongs to an entry that the contents do not have',
         other: '{count} screen texts belong to entries that the contents do not have',
     },
+    timedSeparately: 'Timed separately, so a caption of one need not have the others: {groups}',
+    // The kinds of problems in the report of the program that wrote the packet.
+    'malformed-cue': { one: 'A malformed cue was left out', other: '{count} malformed cues were left out' },
+    'cue-without-length': {
+        one: 'A cue that does not end after its start was left out',
+        other: '{count} cues that do not end after their starts were left out',
+    },
+    'file-without-cue': { one: 'A file has no cue', other: '{count} files have no cue' },
+    'swallowed-number': {
+        one: 'A text ends with the number of the next cue, for lack of a blank line',
+        other: '{count} texts end with the number of the next cue, for lack of a blank line',
+    },
+    'beyond-length': {
+        one: 'A cue ends after the end of the video',
+        other: '{count} cues end after the end of the video',
+    },
+    'cue-without-text': { one: 'A cue has no text', other: '{count} cues have no text' },
+    'too-short': { one: 'A caption is too short', other: '{count} captions are too short' },
+    'too-many-lines': { one: 'A caption has too many lines', other: '{count} captions have too many lines' },
+    overlap: {
+        one: 'A caption starts while another one shows in its language',
+        other: '{count} captions start while another one shows in their language',
+    },
+    'missing-language': { one: 'A caption lacks a language', other: '{count} captions lack a language' },
     overlapping: '{first} / {second}',
     fault: '{place}, {property}: \u201c{value}\u201d',
     faultOfCaption: 'caption {number}',

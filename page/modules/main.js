@@ -9,6 +9,7 @@ import { Player, StageClock } from './media.js';
 import { PacketError, decodeBase64, decodePacket, parsePacket } from './packet.js';
 import { Pictures } from './pictures.js';
 import { showProblems } from './problem-view.js';
+import { findProblems, readReport } from './problems.js';
 import { SearchView } from './search-view.js';
 import { SeekBar } from './seek-bar.js';
 import { Shortcuts } from './shortcuts.js';
@@ -65,10 +66,11 @@ class Page {
         this.#listen();
     }
 
-    /** Opens the packet that the page contains, if there is one. */
+    /** Opens the packet that the page contains, if there is one, with the problems in the report. */
     openEmbedded() {
-        const embedded = byId('packet').textContent.trim();
-        if (embedded !== '') this.#openPacket(decodeBase64(embedded));
+        const [packet, report] = ['packet', 'report'].map((id) => decodeBase64(byId(id).textContent.trim()));
+        if (packet.length === 0) return;
+        this.#openPacket(packet, report.length === 0 ? undefined : readReport(JSON.parse(new TextDecoder().decode(report))));
     }
 
     #listen() {
@@ -155,7 +157,7 @@ class Page {
         else if (images.length > 0) this.#openLists();
     }
 
-    #openPacket(bytes) {
+    #openPacket(bytes, reported) {
         try {
             this.packet = parsePacket(decodePacket(bytes));
         } catch (error) {
@@ -184,7 +186,7 @@ class Page {
         this.#chooseCaptions();
         this.#openLists();
         showDetails(byId('facts'), this.packet);
-        const problems = showProblems(byId('problems'), this.packet, this.player);
+        const problems = showProblems(byId('problems'), reported ?? findProblems(this.packet), this.player);
         byId('problem-count').textContent = problems === 0 ? '' : String(problems);
         this.player.seek(0);
         this.#tryVideos(header.files);

@@ -1,21 +1,22 @@
 import { element, textElement } from './dom.js';
 import { makeRowButton } from './item-list.js';
 import { label } from './labels.js';
-import { findProblems } from './problems.js';
 import { VirtualList } from './virtual-list.js';
 
 function faultText({ place, property, value }) {
     return label('fault', { place: label(place.key, place), property, value });
 }
 
+function contentOf({ fault, earlier, text, language, file, detail }) {
+    if (fault) return [element('span', { class: 'row-text' }, faultText(fault))];
+    const shown = earlier === undefined ? text || label('noText') : label('overlapping', { first: earlier, second: text });
+    const notes = [file, detail].filter(Boolean).map((note) => textElement('span', note, '', { class: 'row-note' }));
+    return text === undefined ? notes : [textElement('span', shown, language, { class: 'row-text' }), ...notes];
+}
+
 function makePlace(place, player) {
     const time = place.fault ? place.fault.place.time : place.time;
-    const text = place.fault
-        ? element('span', { class: 'row-text' }, faultText(place.fault))
-        : textElement('span', place.earlier === undefined
-            ? place.text || label('noText')
-            : label('overlapping', { first: place.earlier, second: place.text }), place.language, { class: 'row-text' });
-    const button = makeRowButton(time ?? 0, text);
+    const button = makeRowButton(time ?? 0, ...contentOf(place));
     if (time === undefined) {
         button.firstElementChild.remove();
         button.setAttribute('aria-disabled', 'true');
@@ -36,12 +37,16 @@ function makeKind({ key, language, places }, player) {
     return details;
 }
 
-/** Lists the problems of the packet in the container; returns their number. */
-export function showProblems(container, packet, player) {
-    const problems = findProblems(packet);
+function makeNote(text) {
+    return element('p', { class: 'panel-note' }, text);
+}
+
+/** Lists the problems in the container; returns their number. */
+export function showProblems(container, { problems, groups }, player) {
     const count = problems.reduce((sum, { places }) => sum + places.length, 0);
-    const summary = count === 0 ? label('noProblems') : label('problemCount', { count });
-    container.replaceChildren(
-        element('p', { class: 'panel-note' }, summary), ...problems.map((problem) => makeKind(problem, player)));
+    const summary = makeNote(count === 0 ? label('noProblems') : label('problemCount', { count }));
+    const separate = groups.length < 2
+        ? [] : [makeNote(label('timedSeparately', { groups: groups.map((group) => group.join(', ')).join(' | ') }))];
+    container.replaceChildren(summary, ...separate, ...problems.map((problem) => makeKind(problem, player)));
     return count;
 }

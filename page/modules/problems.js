@@ -28,15 +28,34 @@ function overlapsIn(captions, language) {
     return places;
 }
 
-function lackingIn(captions, language) {
+const speaks = (caption, { id }) => !isBlank(caption.texts.get(id) ?? '');
+
+// The languages whose captions were timed together: more than half of one's captions are in the other, too.
+// A language without any text belongs to all.
+function timingGroups(captions, languages) {
+    const count = (...both) => captions.filter((caption) => both.every((language) => speaks(caption, language))).length;
+    let groups = [];
+    for (const language of languages) {
+        const belongs = (other) => {
+            const fewer = Math.min(count(language), count(other));
+            return fewer === 0 || 2 * count(language, other) > fewer;
+        };
+        const together = groups.filter((group) => group.some(belongs));
+        groups = [...groups.filter((group) => !together.includes(group)), [...together.flat(), language]];
+    }
+    return groups;
+}
+
+function lackingIn(captions, language, group) {
     return captions
-        .filter((caption) => isBlank(caption.texts.get(language) ?? '') && !isBlank(firstTextOf(caption)[1]))
+        .filter((caption) => !speaks(caption, language) && group.some((other) => speaks(caption, other)))
         .map(captionPlace);
 }
 
 /**
- * Lists the problems of a packet: the label of each kind, its values, and its places. A place has a time,
- * except if a value there cannot be read (then `fault`).
+ * Finds the problems of a packet. `problems` are kinds, each with its label, the label's values, and places;
+ * `groups` are the languages that were timed together. A place has a time, except if a value there cannot be
+ * read (then `fault`).
  */
 export function findProblems(packet) {
     const { header, languages, faults } = packet;
@@ -51,14 +70,15 @@ export function findProblems(packet) {
     const hasNoEntry = (item) => item.entry !== 0 && !(item.entry > 0 && item.entry < entries.length);
     const problem = (key, places, language) => ({ key, places, language });
 
-    return [
+    const groups = timingGroups(captions, languages);
+    const problems = [
         problem('unreadableValue', faults.map((fault) => ({ fault }))),
-        ...languages.map((language) => problem('overlap', overlapsIn(captions, language.id), language.name)),
+        ...languages.map((language) => problem('overlapIn', overlapsIn(captions, language.id), language.name)),
         problem('captionWithoutLength', captions.filter(hasNoLength).map(captionPlace)),
         problem('captionWithoutText', captions.filter(hasNoText).map(captionPlace)),
         problem('captionBeyondLength', captions.filter(isBeyond).map(captionPlace)),
-        ...languages.map((language) =>
-            problem('captionLacksLanguage', lackingIn(captions, language.id), language.name)),
+        ...groups.flatMap((group) => group.map((language) =>
+            problem('captionLacksLanguage', lackingIn(captions, language, group), language.name))),
         problem('entryWithoutTitle', entries.filter(isEmpty).map(textPlace)),
         problem('entryBeyondLength', entries.filter(isLate).map(textPlace)),
         problem('screenTextWithoutLength', screenTexts.filter(hasNoLength).map(textPlace)),
@@ -66,4 +86,12 @@ export function findProblems(packet) {
         problem('screenTextBeyondLength', screenTexts.filter(isBeyond).map(textPlace)),
         problem('screenTextOfUnknownEntry', screenTexts.filter(hasNoEntry).map(textPlace)),
     ].filter(({ places }) => places.length > 0);
+    return { problems, groups: groups.map((group) => group.map(({ name }) => name)) };
+}
+
+/** Reads the report of the program that wrote the packet, in the form of findProblems(); `file` names a line. */
+export function readReport({ problems, timing_groups: groups }) {
+    const place = ({ start_ms: time, language = '', text, file, line, detail }) =>
+        ({ time, language, text, file: line === undefined ? file : `${file}:${line}`, detail });
+    return { problems: problems.map(({ kind, places }) => ({ key: kind, places: places.map(place) })), groups };
 }

@@ -4,13 +4,10 @@ import { label } from './labels.js';
 import { PacketSearch, fold, splitAtMatches } from './search.js';
 import { VirtualList } from './virtual-list.js';
 
-// Long enough that a reader is not interrupted with each key, in milliseconds.
-const pause = 150;
 const indexStep = 2000;
 
 /** Searches while the user types, announces the number of hits, and jumps to the hit that is pressed. */
 export class SearchView {
-    #timer;
     #hits = [];
     #query = '';
 
@@ -27,14 +24,10 @@ export class SearchView {
                 return button;
             },
         });
-        input.addEventListener('input', () => {
-            clearTimeout(this.#timer);
-            this.#timer = setTimeout(() => this.run(), pause);
-        });
+        input.addEventListener('input', () => this.run());
         input.addEventListener('keydown', (event) => {
             if (event.key !== 'Enter' || event.isComposing) return;
             event.preventDefault();
-            this.run();
             this.list.focus();
         });
         input.placeholder = label('searchHint');
@@ -56,7 +49,6 @@ export class SearchView {
     }
 
     run() {
-        clearTimeout(this.#timer);
         const query = fold(this.input.value.trim());
         if (query === this.#query) return;
         this.#show(query, this.search.find(query));

@@ -11,7 +11,7 @@ const variants = { '\u00df': 'ss', '\u03c2': '\u03c3' };
 export function fold(text) {
     if (simple.test(text)) return text.toLowerCase();
     return text.normalize('NFKD').toLowerCase().replace(ignored, '').replace(/[\u00df\u03c2]/g, (letter) => variants[letter])
-        .replace(/\s/g, ' ');
+        .replace(/[^\S ]/g, ' ');
 }
 
 /** Returns the parts of the text around each place of the folded query: text, match, text, match, text. */

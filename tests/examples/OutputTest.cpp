@@ -207,15 +207,20 @@ TEST_F(OutputTest, FileToReadIsNotOverwrittenUnderAnyName)
     EXPECT_EQ(contentsOf(film), cues);
 }
 
-TEST_F(OutputTest, PreviewHoldsThePacketThatWasWritten)
+TEST_F(OutputTest, PreviewHoldsThePacketThatWasWrittenAndTheReport)
 {
     const std::string page = pathOf("page.html");
-    EXPECT_EQ(run({"--length", "1", "--preview", page}).status, 0);
-    EXPECT_EQ(contentsOf(page), publish::previewPage(contentsOf(pathOf("out.xmp"))));
+    const std::string report = pathOf("report.json");
+    const auto expected = [&](const std::string& packet) {
+        return publish::previewPage(packet, contentsOf(report));
+    };
+    EXPECT_EQ(run({"--length", "1", "--report", report, "--preview", page}).status, 0);
+    EXPECT_EQ(contentsOf(page), expected(contentsOf(pathOf("out.xmp"))));
     const RunResult printed = run({"--length", "1", "--preview", "-"});
-    EXPECT_EQ(printed.out, publish::previewPage(contentsOf(pathOf("out.xmp"))));
-    const RunResult both = shell("\"$0\" -o - --preview '" + page + "' \"$@\"");
-    EXPECT_EQ(contentsOf(page), publish::previewPage(both.out));
+    EXPECT_EQ(printed.out, expected(contentsOf(pathOf("out.xmp"))));
+    const RunResult both =
+        shell("\"$0\" -o - --report '" + report + "' --preview '" + page + "' \"$@\"");
+    EXPECT_EQ(contentsOf(page), expected(both.out));
 }
 
 TEST_F(OutputTest, PreviewThatCannotBeWrittenIsAFailure)
@@ -278,10 +283,12 @@ TEST_F(OutputTest, PreviewHoldsThePacketOfAFileThatMayNotBeRead)
     fs::permissions(pathOf("open"), fs::perms::all);
     const RunResult done = shell(asOrdinaryUser + "cd '" + pathOf("open") +
                                  "' && $user touch out.xmp && $user chmod 200 out.xmp && "
-                                 "$user \"$0\" -o out.xmp --preview page.html \"$@\"");
+                                 "$user \"$0\" -o out.xmp --report report.json "
+                                 "--preview page.html \"$@\"");
     EXPECT_EQ(done.status, 0) << done.err;
-    const std::string packet = contentsOf(pathOf("open/out.xmp"));
-    EXPECT_EQ(contentsOf(pathOf("open/page.html")).size(), publish::previewPage(packet).size());
+    const std::string expected = publish::previewPage(contentsOf(pathOf("open/out.xmp")),
+                                                      contentsOf(pathOf("open/report.json")));
+    EXPECT_EQ(contentsOf(pathOf("open/page.html")).size(), expected.size());
 }
 
 #ifdef __has_feature

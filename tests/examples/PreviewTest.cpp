@@ -14,13 +14,17 @@ using publish::previewPage;
 
 namespace {
 
-/// What the page has in the place of the packet.
-std::string embedded(std::string_view packet)
+/// What @p page has in the element with @p id.
+std::string embedded(const std::string& page, const std::string& id)
 {
-    const std::string page = previewPage(packet);
-    const std::string before = "id=\"packet\">";
+    const std::string before = "id=\"" + id + "\">";
     const std::size_t begin = page.find(before) + before.size();
     return page.substr(begin, page.find("</script>", begin) - begin);
+}
+
+std::string embedded(std::string_view packet)
+{
+    return embedded(previewPage(packet, "report"), "packet");
 }
 
 TEST(PreviewPage, HoldsThePacketInBase64)
@@ -38,9 +42,15 @@ TEST(PreviewPage, HoldsEveryByte)
     EXPECT_EQ(embedded("</script><img onerror=\"x\">"), "PC9zY3JpcHQ+PGltZyBvbmVycm9yPSJ4Ij4=");
 }
 
+TEST(PreviewPage, HoldsTheReportInBase64)
+{
+    EXPECT_EQ(embedded(previewPage("packet", "</script>"), "report"), "PC9zY3JpcHQ+");
+    EXPECT_EQ(embedded(previewPage("packet", ""), "report"), "");
+}
+
 TEST(PreviewPage, IsCompleteAndInAscii)
 {
-    const std::string page = previewPage("\xC3\xA4");
+    const std::string page = previewPage("\xC3\xA4", "\xFF");
     EXPECT_EQ(page.rfind("<!DOCTYPE html>\n", 0), 0U);
     EXPECT_EQ(page.substr(page.size() - 8), "</html>\n");
     EXPECT_TRUE(std::all_of(page.begin(), page.end(), [](char character) {
@@ -48,11 +58,12 @@ TEST(PreviewPage, IsCompleteAndInAscii)
     }));
 }
 
-TEST(PreviewPage, DependsOnThePacketInOnePlaceOnly)
+TEST(PreviewPage, DependsOnThePacketAndTheReportInOnePlaceEach)
 {
-    std::string page = previewPage("foo");
+    std::string page = previewPage("foo", "f");
     page.replace(page.find(">Zm9v<"), 6, "><");
-    EXPECT_EQ(page, previewPage(""));
+    page.replace(page.find(">Zg==<"), 6, "><");
+    EXPECT_EQ(page, previewPage("", ""));
 }
 
 } // namespace

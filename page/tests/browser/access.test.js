@@ -38,6 +38,11 @@ for (const [name, colours] of appearances) {
             }
             await page.getByRole('button', { name: 'Keyboard' }).click();
             findings.push(...await findingsIn(page, 'dialog'));
+            const reported = await openPage(sample, { viewport: { width, height: 800 }, ...colours });
+            await reported.evaluate(axe.source);
+            await reported.getByRole('tab', { name: 'Problems' }).click();
+            for (const summary of await reported.locator('#problems summary').all()) await summary.click();
+            findings.push(...await findingsIn(reported, 'report'));
             assert.deepEqual(findings, []);
         });
     }

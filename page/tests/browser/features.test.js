@@ -352,9 +352,46 @@ test('the details give every fact of the packet', async () => {
     });
 });
 
-test('the problems are listed with their number, and their places jump', async () => {
+test('the problems in the report are listed with their number, files and lines, and their places jump', async () => {
     const page = await openPage(sample);
     assert.equal(await page.locator('#problem-count').innerText(), '11');
+    await openTab(page, 'Problems');
+    assert.deepEqual(await page.locator('#problems summary').allTextContents(), [
+        'A malformed cue was left out', 'A cue that does not end after its start was left out',
+        'A caption is too short', 'A caption has too many lines',
+        '2 captions start while another one shows in their language', '5 captions lack a language',
+    ]);
+    await page.locator('#problems summary').nth(0).click();
+    const malformed = rows(page, 'panel-problems').first();
+    assert.match(await malformed.innerText(), /^00:00:12 --> 00:00:13\n.*paper-boat\.en\.srt:25$/);
+    assert.equal(await malformed.getAttribute('aria-disabled'), 'true');
+    await page.locator('#problems summary').nth(4).click();
+    const place = rows(page, 'panel-problems').nth(1);
+    assert.match(await place.innerText(),
+        /^00:00:16\.000\nNoch ist es kein Hut \u2026\n.*paper-boat\.de\.srt:20\nuntil 00:00:16\.500, .*, line 16$/);
+    await place.click();
+    assert.equal(await textOf(page, '#time'), '00:00:16.000');
+});
+
+test('captions that were timed separately are one line in the list of problems', async () => {
+    const packet = publishCues({
+        captions: { en: [[0, 2000, 'a'], [2000, 4000, 'b']], de: [[100, 1900, 'c'], [2100, 3900, 'd']] },
+    });
+    const page = await openPage(packet);
+    await openTab(page, 'Problems');
+    const notes = (opened) => opened.locator('#problems').locator('*').allTextContents();
+    const separately = 'Timed separately, so a caption of one need not have the others';
+    assert.deepEqual(await notes(page), ['No problems.', `${separately}: de | en`]);
+    const bare = await openPage();
+    await pickFiles(bare, packetFile(packet));
+    await openTab(bare, 'Problems');
+    assert.deepEqual(await notes(bare), ['No problems.', `${separately}: English | German`]);
+});
+
+test('the page finds the problems of a packet without a report', async () => {
+    const page = await openPage();
+    await pickFiles(page, packetFile(sample));
+    await until(page, () => document.getElementById('problem-count').textContent === '11');
     await openTab(page, 'Problems');
     assert.deepEqual(await page.locator('#problems summary').allTextContents(), [
         'Captions in German overlap once', 'Captions in English overlap once', '5 captions lack Arabic',

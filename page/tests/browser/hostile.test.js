@@ -31,7 +31,7 @@ async function visitEverything(page) {
 
 async function assertHarmless(page) {
     assert.equal(await page.evaluate(() => window.hacked), undefined);
-    assert.equal(await page.locator('script').count(), 2);
+    assert.equal(await page.locator('script').count(), 3);
     assert.equal(await page.locator('iframe, object, embed, link, base, [onerror], [onload], [onclick]').count(), 0);
     // The policy complains about what it stops: handlers in a packet, styles of the parser's own messages.
     assert.deepEqual(page.errors.filter((error) => !/Executing inline event|Applying inline style/.test(error)), []);

@@ -30,12 +30,15 @@ after(async () => {
 });
 
 let packets = 0;
+const previews = new Map();
 
 /** Publishes with the example; returns the packet. */
 export function publish(...options) {
     const file = join(scratch, `${++packets}.xmp`);
-    execFileSync(publishVideo, ['-o', file, '--size', '1280x720', ...options], { stdio: 'pipe' });
-    return readFileSync(file, 'utf8');
+    execFileSync(publishVideo, ['-o', file, '--preview', `${file}.html`, '--size', '1280x720', ...options], { stdio: 'pipe' });
+    const packet = readFileSync(file, 'utf8');
+    previews.set(packet, readFileSync(`${file}.html`, 'utf8'));
+    return packet;
 }
 
 /** Publishes captions by language, entries and screen texts, each a list of [start, end, text] in milliseconds. */
@@ -63,16 +66,19 @@ export function publishSample() {
         `en=${sample}.en.srt`, `de=${sample}.de.srt`, `ja=${sample}.ja.vtt`, `ar=${sample}.ar.vtt`);
 }
 
-/**
- * Opens the page with the packet in it (without one if it is undefined) and the files beside it. Returns the
- * browser's page; `errors` of it collects exceptions and complaints of the console.
- */
-export async function openPage(packet, { files = {}, ...options } = {}) {
-    const folder = mkdtempSync(join(scratch, 'open-'));
-    const html = readFileSync(builtPage, 'utf8');
+function pageWith(packet) {
     const place = 'id="packet">';
-    const embedded = packet === undefined ? '' : Buffer.from(packet).toString('base64');
-    writeFileSync(join(folder, 'preview.html'), html.replace(place, () => place + embedded));
+    return readFileSync(builtPage, 'utf8').replace(place, () => place + Buffer.from(packet).toString('base64'));
+}
+
+/**
+ * Opens the page with the packet in it (without one if it is undefined) and the files beside it: the preview
+ * that publish() wrote, if the packet is from there. Returns the browser's page; `errors` of it collects
+ * exceptions and complaints of the console.
+ */
+export async function openPage(packet = '', { files = {}, ...options } = {}) {
+    const folder = mkdtempSync(join(scratch, 'open-'));
+    writeFileSync(join(folder, 'preview.html'), previews.get(packet) ?? pageWith(packet));
     for (const [name, content] of Object.entries(files)) {
         mkdirSync(dirname(join(folder, name)), { recursive: true });
         writeFileSync(join(folder, name), content);
