@@ -43,7 +43,7 @@ std::string contentsOf(const std::string& path, const std::string& name)
     char block[65536];
     while (const std::size_t count = std::fread(block, 1, sizeof block, file.get())) {
         if (count > largestFile - bytes.size())
-            throw PublishError(name + ": the file has more than " +
+            throw PublishError(name + ": the file is larger than " +
                                std::to_string(largestFile / 1'000'000) + " MB");
         bytes.append(block, count);
     }
@@ -76,7 +76,10 @@ CueFile makeCueFile(const LanguageFile& source, const std::string& name, const s
     file.name = name;
     file.path = source.path;
     file.language = source.language;
-    if (subtitles->cues.empty()) file.hint = encodingHint(bytes, source.path, source.language);
+    if (subtitles->cues.empty())
+        file.hint = encodingHint(bytes, source.path, source.language);
+    else
+        file.outside = std::move(subtitles->outside);
     file.malformed = std::move(subtitles->malformed);
     file.withoutLength = std::move(subtitles->withoutLength);
     file.lastEnd = lastEndOf(subtitles->cues);

@@ -22,8 +22,10 @@ struct CueFile {
     /// Empty for screen text.
     std::string language;
     std::vector<Cue> cues;
-    std::vector<SkippedCue> malformed;
-    std::vector<SkippedCue> withoutLength;
+    std::vector<SkippedLines> malformed;
+    std::vector<SkippedLines> withoutLength;
+    /// Empty for a file without any cue.
+    std::vector<SkippedLines> outside;
     /// How many cues contain only blanks; they are among the cues unless empty ones are skipped.
     std::size_t empty = 0;
     /// See encodingHint(); for a file without any cue, otherwise empty.

@@ -99,23 +99,6 @@ const char* eightBitEncodingOf(const std::string& language)
     return found != std::end(encodings) ? found->encoding : westernEncoding;
 }
 
-bool isPlainInAShell(char character)
-{
-    constexpr std::string_view plain = "._-/+,:@%";
-    return isLetter(character) || isDigit(character) || (character & 0x80) != 0 ||
-           plain.find(character) != std::string_view::npos;
-}
-
-/// @p word as a POSIX shell reads it.
-std::string forShell(const std::string& word)
-{
-    if (!word.empty() && std::all_of(word.begin(), word.end(), isPlainInAShell)) return word;
-    std::string quoted = "'";
-    for (const char character : word)
-        quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
-    return quoted + "'";
-}
-
 /// @p path with ".utf-8" before its extension.
 std::string convertedName(const std::string& path)
 {

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <vector>
 
 namespace publish {
 
@@ -46,22 +47,39 @@ std::string inLowerCase(std::string text)
     return text;
 }
 
-/// Whether @p text is like a name of the language @p id.
-bool isName(const std::string& text, const std::string& id)
-{
+struct NamedLanguage {
+    std::string id;
     std::string english;
     std::string native;
-    return !failed(ZelDataUtilities::englishNameForLanguage(id, english)) &&
-           !failed(ZelDataUtilities::nativeNameForLanguage(id, native)) &&
-           (isLike(text, english) || (!text.empty() && inLowerCase(text) == inLowerCase(native)));
+};
+
+std::vector<NamedLanguage> allLanguages()
+{
+    std::vector<NamedLanguage> languages;
+    for (char first = 'a'; first <= 'z'; ++first)
+        for (char second = 'a'; second <= 'z'; ++second) {
+            NamedLanguage language{{first, second}, {}, {}};
+            if (!failed(ZelDataUtilities::englishNameForLanguage(language.id, language.english)) &&
+                !failed(ZelDataUtilities::nativeNameForLanguage(language.id, language.native)))
+                languages.push_back(language);
+        }
+    return languages;
 }
 
+/// The language with the name that is most like @p text; empty if none is.
 std::string languageNamed(const std::string& text)
 {
-    for (char first = 'a'; first <= 'z'; ++first)
-        for (char second = 'a'; second <= 'z'; ++second)
-            if (const std::string id{first, second}; isName(text, id)) return id;
-    return {};
+    const auto mistakesIn = [&](const NamedLanguage& language) {
+        const bool isNative = !text.empty() && inLowerCase(text) == inLowerCase(language.native);
+        return isNative ? 0 : mistakesBetween(text, language.english);
+    };
+    const std::vector<NamedLanguage> languages = allLanguages();
+    const auto nearest = std::min_element(languages.begin(), languages.end(),
+                                          [&](const NamedLanguage& a, const NamedLanguage& b) {
+                                              return mistakesIn(a) < mistakesIn(b);
+                                          });
+    const bool isFound = mistakesIn(*nearest) == 0 || isLike(text, nearest->english);
+    return isFound ? nearest->id : std::string();
 }
 
 /// For a text without a region.

@@ -31,6 +31,12 @@ std::string quoted(std::string_view text)
     return "'" + printable(text) + "'";
 }
 
+/// @p word as you type it, without control characters.
+std::string typed(const std::string& word)
+{
+    return printable(forShell(word));
+}
+
 /// A word of the command line as an option: `--name`, `--name=VALUE`, `-n` or `-nVALUE`.
 struct OptionWord {
     /// As typed, up to the value.
@@ -50,6 +56,9 @@ OptionWord longOption(std::string_view word)
 
 OptionWord shortOption(std::string_view word)
 {
+    const std::string_view typed = word.substr(0, word.find('='));
+    // -output is a slip, hardly a file called utput.
+    if (optionNamed(typed.substr(1)) != nullptr) return {typed, nullptr, std::nullopt};
     OptionWord read{word, optionWithLetter(word[1]), std::nullopt};
     if (read.option != nullptr) read.typed = word.substr(0, 2);
     if (word.size() > 2) read.value = word.substr(2);
@@ -152,6 +161,7 @@ private:
             return {};
         }
         if (!word.value) return nextValue(name);
+        if (word.typed[1] != '-' && word.value == "=") throw PublishError(name + " needs a value");
         if (word.typed[1] != '-' && word.value->substr(0, 1) == "=")
             throw PublishError(name + ": " + quoted(*word.value) +
                                " begins with an equals sign; did you mean " + name +
@@ -166,8 +176,8 @@ private:
         const std::optional<OptionWord> option = optionWord(value);
         if (option && option->option != nullptr)
             throw PublishError(name + ": " + quoted(value) +
-                               " is an option; if you mean it as the value, write " + name + "=" +
-                               printable(value));
+                               " is an option; if you mean it as the value, write " +
+                               typed(name + "=" + value));
         return value;
     }
 
@@ -199,6 +209,11 @@ std::string suggestion(const std::string& language)
     return like.empty() ? "" : "; did you mean " + like + "?";
 }
 
+void refuseEmpty(const std::string& text, const std::string& name, const std::string& what)
+{
+    if (text.empty()) throw PublishError(name + ": the " + what + " is empty");
+}
+
 /// Splits @p argument, which contains a `=`, at the first one.
 LanguageFile languageFile(const std::string& argument, const std::string& name)
 {
@@ -206,7 +221,8 @@ LanguageFile languageFile(const std::string& argument, const std::string& name)
     LanguageFile file{argument.substr(0, equals), argument.substr(equals + 1)};
     if (!isLanguageForm(file.language))
         throw PublishError(name + ": " + quoted(file.language) +
-                           " is not a language such as en or pt-BR" + suggestion(file.language));
+                           " is not a language code such as en or pt-BR" +
+                           suggestion(file.language));
     if (!isKnownLanguage(file.language))
         throw PublishError(name + ": unknown language " + quoted(file.language) +
                            suggestion(file.language));
@@ -228,8 +244,9 @@ unsigned long numberOf(std::string_view digits, const OptionEntry& option)
     const char* const end = digits.data() + digits.size();
     const std::from_chars_result result = std::from_chars(digits.data(), end, value);
     if (result.ec != std::errc() || result.ptr != end || value == 0 || value > option.largest)
-        throw PublishError(nameOf(option) + ": " + quoted(digits) + " is not a number from 1 to " +
-                           std::to_string(option.largest));
+        throw PublishError(nameOf(option) + ": " + quoted(digits) + " is not a number" +
+                           (option.value == std::string_view("MS") ? " of milliseconds" : "") +
+                           " from 1 to " + std::to_string(option.largest));
     return value;
 }
 
@@ -243,12 +260,12 @@ std::optional<unsigned long> readNumber(const Arguments& arguments, std::string_
 /// @p file, which the program writes for the option @p name; refuses what looks like a file to read.
 std::string writtenFile(const std::string& file, const std::string& name)
 {
-    if (file.empty()) throw PublishError(name + ": the file name is empty");
-    if (isLanguageForm(std::string_view(file).substr(0, file.find('='))) &&
-        file.find('=') != std::string::npos)
+    refuseEmpty(file, name, "file name");
+    const std::string language = file.substr(0, file.find('='));
+    if (language != file && (isLanguageForm(language) || !languageLike(language).empty()))
         throw PublishError(name + ": " + quoted(file) +
-                           " looks like LANG=FILE; if you mean a file of that name, write " + name +
-                           "=./" + printable(file));
+                           " looks like LANG=FILE; if you mean a file of that name, write " +
+                           typed(name + "=./" + file));
     return file;
 }
 
@@ -280,7 +297,9 @@ void readTexts(const Arguments& arguments, Options& options)
     options.appVersion = arguments.text("app-version");
     options.keywords = arguments.texts("keyword");
     options.contentNames = arguments.texts("content");
-    if (arguments.has("font")) options.font = arguments.text("font");
+    if (!arguments.has("font")) return;
+    options.font = arguments.text("font");
+    refuseEmpty(*options.font, "--font", "name");
 }
 
 void readToc(const Arguments& arguments, Options& options)
@@ -297,9 +316,10 @@ Options parseOptions(const Words& words)
 {
     Options options;
     options.help = isGiven(words, "--help") || isGiven(words, "-h");
-    options.version = isGiven(words, "--version");
-    if (options.help || options.version) return options;
+    if (options.help) return options;
     const Arguments arguments(words);
+    options.version = arguments.has("version");
+    if (options.version) return options;
     readWritten(arguments, options);
     readSize(arguments, options);
     readTexts(arguments, options);

@@ -26,9 +26,24 @@ fs::path folderOf(const fs::path& file)
     return file.has_parent_path() ? file.parent_path() : ".";
 }
 
-/// Also knows files that are not there yet.
-bool isSameFile(const fs::path& a, const fs::path& b)
+/// The file that a symbolic link leads to, whether or not it is there.
+fs::path behindLinks(fs::path file)
 {
+    constexpr int most = 40; // of a chain that may be a circle
+    std::error_code error;
+    for (int count = 0; count != most; ++count) {
+        const fs::path target = fs::read_symlink(file, error);
+        if (error) break;
+        file = folderOf(file) / target;
+    }
+    return file;
+}
+
+/// Also knows files that are not there yet.
+bool isSameFile(const fs::path& first, const fs::path& second)
+{
+    const fs::path a = behindLinks(first);
+    const fs::path b = behindLinks(second);
     std::error_code ignored;
     return a == b || fs::equivalent(a, b, ignored) ||
            (a.filename() == b.filename() && fs::equivalent(folderOf(a), folderOf(b), ignored));
@@ -48,7 +63,7 @@ public:
         const fs::path path = fs::u8path(input);
         std::error_code ignored;
         if (fs::is_regular_file(path, ignored))
-            files_.push_back({path, "one of the files to read, " + printable(input)});
+            files_.push_back({path, "an input file, " + printable(input)});
     }
 
     void write(const std::string& output, const std::string& option)

@@ -29,11 +29,11 @@ Place placeIn(const CueFile& file)
     return place;
 }
 
-Place placeOf(const CueFile& file, const SkippedCue& cue)
+Place placeOf(const CueFile& file, const SkippedLines& skipped)
 {
     Place place = placeIn(file);
-    place.line = cue.line;
-    place.text = cue.words;
+    place.line = skipped.line;
+    place.text = skipped.words;
     return place;
 }
 
@@ -69,26 +69,33 @@ Places cuesThat(const Published& published, IsBad isBad, DetailOf detailOf)
     });
 }
 
+Places skippedIn(const Published& published, std::vector<SkippedLines> CueFile::*member)
+{
+    return placesInFiles(published, [&](const CueFile& file, Places& places) {
+        for (const SkippedLines& skipped : file.*member)
+            places.push_back(placeOf(file, skipped));
+    });
+}
+
 Places malformed(const Published& published)
 {
-    return placesInFiles(published, [](const CueFile& file, Places& places) {
-        for (const SkippedCue& cue : file.malformed)
-            places.push_back(placeOf(file, cue));
-    });
+    return skippedIn(published, &CueFile::malformed);
 }
 
 Places withoutLength(const Published& published)
 {
-    return placesInFiles(published, [](const CueFile& file, Places& places) {
-        for (const SkippedCue& cue : file.withoutLength)
-            places.push_back(placeOf(file, cue));
-    });
+    return skippedIn(published, &CueFile::withoutLength);
+}
+
+Places outside(const Published& published)
+{
+    return skippedIn(published, &CueFile::outside);
 }
 
 Places withoutCue(const Published& published)
 {
     return placesInFiles(published, [](const CueFile& file, Places& places) {
-        if (!file.cues.empty()) return;
+        if (!file.cues.empty() || file.empty != 0) return;
         places.push_back(placeIn(file));
         places.back().detail = file.hint;
     });
@@ -99,6 +106,13 @@ Places swallowedNumbers(const Published& published)
     return cuesThat(
         published, [](const Cue& cue) { return cue.swallowedNumber != 0; },
         [](const Cue& cue) { return "the number in line " + std::to_string(cue.swallowedNumber); });
+}
+
+Places swallowedTimings(const Published& published)
+{
+    return cuesThat(
+        published, [](const Cue& cue) { return cue.swallowedTiming != 0; },
+        [](const Cue& cue) { return "the times in line " + std::to_string(cue.swallowedTiming); });
 }
 
 Places beyondLength(const Published& published)
@@ -148,16 +162,16 @@ Places findingsOf(const Published& published, ZelDataFinding_tags kind, DetailOf
 Places tooShort(const Published& published)
 {
     return findingsOf(published, ZelDataFinding_TooShort, [](const ZelDataFinding& finding) {
-        return std::to_string(finding.value) + " ms; at least " + std::to_string(finding.limit) +
-               " ms is better";
+        return std::to_string(finding.value) + " ms; should be at least " +
+               std::to_string(finding.limit) + " ms";
     });
 }
 
 Places tooManyLines(const Published& published)
 {
     return findingsOf(published, ZelDataFinding_TooManyLines, [](const ZelDataFinding& finding) {
-        return std::to_string(finding.value) + " lines; at most " + std::to_string(finding.limit) +
-               " is better";
+        return std::to_string(finding.value) + " lines; should be at most " +
+               std::to_string(finding.limit);
     });
 }
 
@@ -189,11 +203,10 @@ Places overlaps(const Published& published)
         for (const ShownCue& shown : cues) {
             if (last != nullptr && last->cue->end > shown.cue->start) {
                 const Place other = placeOf(*last->file, *last->cue);
-                places.push_back(
-                    placeOf(*shown.file, *shown.cue,
-                            "until " + other.end + ", \"" + other.text + "\" shows, line " +
-                                std::to_string(other.line) +
-                                (shown.file == last->file ? "" : " of " + printable(other.path))));
+                places.push_back(placeOf(*shown.file, *shown.cue,
+                                         "\"" + other.text + "\" (" + printable(other.path) + ":" +
+                                             std::to_string(other.line) + ") shows until " +
+                                             other.end));
             }
             if (last == nullptr || last->cue->end < shown.cue->end) last = &shown;
         }
@@ -240,14 +253,18 @@ struct Search {
 /// In the order of the report.
 constexpr Search searches[] = {
     {{"malformed-cue", "malformed cue, left out", "malformed cues, left out"}, malformed},
-    {{"cue-without-length", "cue that does not end after its start, left out",
-      "cues that do not end after their starts, left out"},
+    {{"cue-without-length", "cue without length, left out", "cues without length, left out"},
      withoutLength},
+    {{"text-outside-cue", "text outside a cue, left out", "texts outside a cue, left out"},
+     outside},
     {{"file-without-cue", "file without a cue", "files without a cue"}, withoutCue},
     {{"swallowed-number",
-      "text that ends with the number of the next cue, for lack of a blank line",
-      "texts that end with the number of the next cue, for lack of a blank line"},
+      "text that ends with the number of the next cue, because a blank line is missing",
+      "texts that end with the number of the next cue, because a blank line is missing"},
      swallowedNumbers},
+    {{"swallowed-cue", "text that seems to contain a malformed cue",
+      "texts that seem to contain a malformed cue"},
+     swallowedTimings},
     {{"beyond-length", "cue that ends after --length", "cues that end after --length"},
      beyondLength},
     {{"cue-without-text", "cue without text", "cues without text"}, withoutText},

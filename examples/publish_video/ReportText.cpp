@@ -24,7 +24,7 @@ std::string captionLines(const Report& report)
                         std::to_string(report.joined) + " joined from several languages\n";
     for (const LanguageCount& count : report.languages)
         lines += "  " + count.language + ": " + counted(count.captions, "caption", "captions") +
-                 ", missing in " + std::to_string(count.missing) + "\n";
+                 (count.missing == 0 ? "" : ", missing in " + std::to_string(count.missing)) + "\n";
     return lines;
 }
 
@@ -34,7 +34,7 @@ std::string groupLine(const LanguageGroups& groups)
     std::vector<std::string> parts;
     for (const std::vector<std::string>& group : groups)
         parts.push_back(joined(group, ", "));
-    return "timed separately, so hardly joined: " + joined(parts, " | ") + "\n";
+    return "timed separately, so mostly not joined: " + joined(parts, " | ") + "\n";
 }
 
 std::string summary(const Report& report)

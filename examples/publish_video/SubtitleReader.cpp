@@ -131,39 +131,73 @@ std::optional<Timing> timingOf(std::string_view line)
     return Timing{*start, *end};
 }
 
+/// Whether @p line begins with a time and has an arrow of whatever form.
+bool looksLikeTiming(std::string_view line)
+{
+    LineScanner scanner(line);
+    scanner.skipBlanks();
+    return takeTime(scanner) && scanner.rest().find('>') != std::string_view::npos;
+}
+
+bool isNumber(std::string_view line)
+{
+    return std::all_of(line.begin(), line.end(), isDigit);
+}
+
+/// Whether @p line begins a block of WebVTT that is no cue.
+bool beginsOtherBlock(std::string_view line)
+{
+    const std::string_view word = line.substr(0, line.find_first_of(" \t"));
+    return word == "NOTE" || word == "STYLE" || word == "REGION";
+}
+
 /// Makes cues from lines, one line at a time.
 class CueCollector {
 public:
-    explicit CueCollector(Subtitles& subtitles) : subtitles_(subtitles) {}
+    explicit CueCollector(Subtitles& subtitles)
+        : subtitles_(subtitles), block_(subtitles.isWebVtt ? Block::Ignored : Block::None)
+    {
+    }
     CueCollector(const CueCollector&) = delete;
     CueCollector& operator=(const CueCollector&) = delete;
 
     void takeLine(std::string_view line)
     {
         ++line_;
-        if (line.find(arrow) != std::string_view::npos) {
-            noteSwallowedNumber();
+        const std::string_view text = withoutBlanksAtEnd(line);
+        if (line.find(arrow) != std::string_view::npos)
             open(line);
-        } else if (const std::string_view text = withoutBlanksAtEnd(line); text.empty()) {
-            isOpen_ = false;
-        } else if (isOpen_) {
+        else if (text.empty())
+            endBlock();
+        else if (block_ == Block::Cue)
             append(text);
-        }
+        else if (block_ != Block::Ignored)
+            takeOutside(text);
+    }
+
+    /// At the end of the file, and where a blank line ends a block.
+    void endBlock()
+    {
+        const bool isLoneNumber = outsideLines_ == 1 && isNumber(outside_.words);
+        if (block_ == Block::Outside && !isLoneNumber) noteOutside();
+        block_ = Block::None;
     }
 
 private:
-    void noteSwallowedNumber()
-    {
-        if (isOpen_ && endsWithNumber_) subtitles_.cues.back().swallowedNumber = line_ - 1;
-        endsWithNumber_ = false;
-    }
+    /// What the lines since the last blank line are.
+    enum class Block { None, Cue, Outside, Ignored };
 
     void open(std::string_view line)
     {
+        if (block_ == Block::Cue && endsWithNumber_)
+            subtitles_.cues.back().swallowedNumber = line_ - 1;
+        if (block_ == Block::Outside && outsideLines_ > 1) noteOutside();
+        endsWithNumber_ = false;
         const std::optional<Timing> timing = timingOf(line);
-        isOpen_ = timing && timing->end > timing->start;
-        if (isOpen_)
-            subtitles_.cues.push_back({timing->start, timing->end, {}, line_, 0});
+        const bool isCue = timing && timing->end > timing->start;
+        block_ = isCue ? Block::Cue : Block::Ignored;
+        if (isCue)
+            subtitles_.cues.push_back({timing->start, timing->end, {}, line_, 0, 0});
         else
             (timing ? subtitles_.withoutLength : subtitles_.malformed)
                 .push_back({line_, firstWords(line)});
@@ -171,16 +205,36 @@ private:
 
     void append(std::string_view line)
     {
-        std::string& text = subtitles_.cues.back().text;
-        if (!text.empty()) text += '\n';
-        text += line;
-        endsWithNumber_ = std::all_of(line.begin(), line.end(), isDigit);
+        Cue& cue = subtitles_.cues.back();
+        if (!cue.text.empty()) cue.text += '\n';
+        cue.text += line;
+        endsWithNumber_ = isNumber(line);
+        if (cue.swallowedTiming == 0 && looksLikeTiming(line)) cue.swallowedTiming = line_;
     }
+
+    void takeOutside(std::string_view line)
+    {
+        if (looksLikeTiming(line)) {
+            open(line);
+        } else if (block_ == Block::Outside) {
+            ++outsideLines_;
+        } else if (subtitles_.isWebVtt && beginsOtherBlock(line)) {
+            block_ = Block::Ignored;
+        } else {
+            block_ = Block::Outside;
+            outside_ = {line_, firstWords(line)};
+            outsideLines_ = 1;
+        }
+    }
+
+    void noteOutside() { subtitles_.outside.push_back(outside_); }
 
     Subtitles& subtitles_;
     std::size_t line_ = 0;
-    bool isOpen_ = false;
+    Block block_;
     bool endsWithNumber_ = false;
+    SkippedLines outside_;
+    std::size_t outsideLines_ = 0;
 };
 
 std::string_view withoutByteOrderMark(std::string_view bytes)
@@ -238,6 +292,7 @@ std::optional<Subtitles> readSubtitles(std::string_view bytes)
     subtitles.isWebVtt = isWebVttSignature(std::string_view(text).substr(0, text.find('\n')));
     CueCollector collector(subtitles);
     forEachLine(text, [&collector](std::string_view line) { collector.takeLine(line); });
+    collector.endBlock();
     return subtitles;
 }
 

@@ -80,6 +80,13 @@ std::string_view characterAt(std::string_view text, std::size_t at)
     return text.substr(at, length == 0 ? 1 : length);
 }
 
+bool isPlainInAShell(char character)
+{
+    constexpr std::string_view plain = "._-/+,:@%=";
+    return isLetter(character) || isDigit(character) || (character & 0x80) != 0 ||
+           plain.find(character) != std::string_view::npos;
+}
+
 } // namespace
 
 std::size_t lengthOfStrictUtf8(std::string_view text)
@@ -144,6 +151,15 @@ std::string printable(std::string_view text)
         at += character.size();
     }
     return shown;
+}
+
+std::string forShell(const std::string& word)
+{
+    if (!word.empty() && std::all_of(word.begin(), word.end(), isPlainInAShell)) return word;
+    std::string quoted = "'";
+    for (const char character : word)
+        quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
+    return quoted + "'";
 }
 
 std::string hexadecimal(char byte)

@@ -51,6 +51,9 @@ std::string argumentText(std::string_view argument);
 /// UTF-8.
 std::string printable(std::string_view text);
 
+/// @p word as you type it in a POSIX shell, with quotes if it needs them.
+std::string forShell(const std::string& word);
+
 /// The two hexadecimal digits of @p byte.
 std::string hexadecimal(char byte);
 

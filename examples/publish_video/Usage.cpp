@@ -24,12 +24,12 @@ constexpr std::string_view description[] = {
     "Writes the side data of a video as one XMP packet. LANG=FILE is an SRT or WebVTT file with "
     "the "
     "captions of one language, such as en=film.srt or pt-BR=film.vtt. Each file is in UTF-8 and "
-    "has "
-    "at most 100 MB. The report on standard error counts what is in the packet and lists the "
-    "problems of the captions.",
-    "A value is the next argument, or follows an equals sign; -oOUT.xmp is possible, too. If a "
-    "value is itself an option, use the equals sign: --title=--plain-text. After --, all arguments "
-    "are LANG=FILE."};
+    "at most 100 MB long. The report on standard error counts what is in the packet and lists the "
+    "problems of the files.",
+    "A value is the next argument, or follows an equals sign; -oOUT.xmp is the same as -o OUT.xmp. "
+    "If "
+    "a value is itself an option, use the equals sign: --title=--plain-text. After --, all "
+    "arguments are LANG=FILE."};
 
 struct Example {
     std::string_view purpose;
@@ -53,7 +53,7 @@ constexpr Status statuses[] = {
     {"0", "The packet is written, whatever problems the report lists; or you asked for the help or "
           "the version."},
     {"2", "An error, which the last lines name. OUT.xmp is as before, unless the error is about "
-          "--report or --preview."}};
+          "--report or --preview, or memory ran out."}};
 
 std::string programAndVersion()
 {

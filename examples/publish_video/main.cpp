@@ -76,7 +76,7 @@ int run(int argc, char** argv)
             publishVideo(options);
         return 0;
     } catch (const std::bad_alloc&) {
-        return fail("memory ran out");
+        return fail("out of memory");
     } catch (const std::exception& error) {
         return fail(error.what());
     }

@@ -104,13 +104,18 @@ export const labels = {
     // The kinds of problems in the report of the program that wrote the packet.
     'malformed-cue': { one: 'A malformed cue was left out', other: '{count} malformed cues were left out' },
     'cue-without-length': {
-        one: 'A cue that does not end after its start was left out',
-        other: '{count} cues that do not end after their starts were left out',
+        one: 'A cue without length was left out',
+        other: '{count} cues without length were left out',
     },
     'file-without-cue': { one: 'A file has no cue', other: '{count} files have no cue' },
+    'text-outside-cue': { one: 'A text outside a cue was left out', other: '{count} texts outside a cue were left out' },
+    'swallowed-cue': {
+        one: 'A text seems to contain a malformed cue',
+        other: '{count} texts seem to contain a malformed cue',
+    },
     'swallowed-number': {
-        one: 'A text ends with the number of the next cue, for lack of a blank line',
-        other: '{count} texts end with the number of the next cue, for lack of a blank line',
+        one: 'A text ends with the number of the next cue, because a blank line is missing',
+        other: '{count} texts end with the number of the next cue, because a blank line is missing',
     },
     'beyond-length': {
         one: 'A cue ends after the end of the video',

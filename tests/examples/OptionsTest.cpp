@@ -3,7 +3,10 @@
 
 #include "Options.h"
 
+#include "Language.h"
 #include "PublishError.h"
+
+#include "ZelInterchangeData/ZelDataUtilities.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,6 +19,7 @@ using publish::Options;
 using publish::parseOptions;
 using publish::PublishError;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 
 namespace {
@@ -286,14 +290,35 @@ TEST(Output, ShortAndLongFormAttachedAndSeparate)
 TEST(Output, EqualsSignAfterTheShortFormIsRefused)
 {
     EXPECT_THAT(failureOfAll({"-o=a", "--size", "1x1"}), HasSubstr("did you mean --output=a?"));
+    EXPECT_EQ(failureOfAll({"-o=", "--size", "1x1"}), "--output needs a value");
     EXPECT_EQ(parseAll({"--output==a", "--size", "1x1"}).output, "=a");
+}
+
+TEST(BadOptions, LongNameAfterOneHyphenIsUnknown)
+{
+    EXPECT_EQ(failureOfAll({"-output=a", "--size", "1x1"}),
+              "unknown option -output; did you mean --output?");
+    EXPECT_EQ(failureOfAll({"-help"}), "unknown option -help; did you mean --help?");
+    EXPECT_EQ(parseAll({"-output.xmp", "--size", "1x1"}).output, "utput.xmp");
+}
+
+TEST(BadOptions, WayToMeanAValueIsQuotedForAShell)
+{
+    EXPECT_THAT(failureOf({"--title", "-o my film"}), EndsWith(" write '--title=-o my film'"));
+    EXPECT_THAT(failureOf({"--report", "en=a b"}), EndsWith(" write '--report=./en=a b'"));
+}
+
+TEST(BadOptions, EmptyFontIsRefused)
+{
+    EXPECT_EQ(failureOf({"--font="}), "--font: the name is empty");
 }
 
 TEST(Output, LanguageAndFileAreRefusedWithTheWayToMeanThem)
 {
     for (const std::string option : {"--output", "--report", "--preview"}) {
         const Words before = option == "--output" ? Words{} : Words{"-o", "x"};
-        for (const std::string file : {"en=film.srt", "xx=a", "pt-BR=", "en==="}) {
+        for (const std::string file :
+             {"en=film.srt", "xx=a", "pt-BR=", "en===", "eng=a", "English=a"}) {
             Words all = before;
             all.insert(all.end(), {option, file, "--size", "1x1"});
             EXPECT_EQ(failureOfAll(all), option + ": '" + file +
@@ -302,7 +327,7 @@ TEST(Output, LanguageAndFileAreRefusedWithTheWayToMeanThem)
                                              option + "=./" + file);
         }
     }
-    for (const std::string file : {"./en=film.srt", "en", "a=b", "film.en=x", "english=x"})
+    for (const std::string file : {"./en=film.srt", "en", "a=b", "film.en=x", "film=x"})
         EXPECT_EQ(parseAll({"-o", file, "--size", "1x1"}).output, file);
 }
 
@@ -335,7 +360,8 @@ TEST(Numbers, RangeIsNamed)
               "--font-size: '501' is not a number from 1 to 500");
     EXPECT_EQ(failureOf({"--font-size", "0"}), "--font-size: '0' is not a number from 1 to 500");
     EXPECT_EQ(parse({"--font-size", "500"}).fontSize, 500U);
-    EXPECT_THAT(failureOf({"--length", "0"}), HasSubstr(" from 1 to "));
+    EXPECT_THAT(failureOf({"--length", "00:10:00"}),
+                HasSubstr("'00:10:00' is not a number of milliseconds from 1 to "));
     EXPECT_THAT(failureOfAll({"-o", "x", "--size", "0x1"}), HasSubstr(" from 1 to "));
 }
 
@@ -372,12 +398,33 @@ TEST(LanguageFiles, UnknownLanguageIsRefusedAndTheNearestSuggested)
     EXPECT_EQ(failureOf({"jp=f"}), "'jp=f': unknown language 'jp'; did you mean ja?");
     EXPECT_EQ(failureOf({"--toc", "cn-CN=f"}),
               "--toc: unknown language 'cn-CN'; did you mean zh-CN?");
-    EXPECT_THAT(failureOf({"en_US=f"}), HasSubstr("'en_US' is not a language such as en or pt-BR"));
+    EXPECT_THAT(failureOf({"en_US=f"}),
+                HasSubstr("'en_US' is not a language code such as en or pt-BR"));
     EXPECT_THAT(failureOf({"en_US=f"}), testing::EndsWith("; did you mean en-US?"));
     EXPECT_THAT(failureOf({"deu=f"}), testing::EndsWith("; did you mean de?"));
     EXPECT_THAT(failureOf({"germna=f"}), testing::EndsWith("; did you mean de?"));
     EXPECT_THAT(failureOf({"Deutsch=f"}), testing::EndsWith("; did you mean de?"));
     EXPECT_THAT(failureOf({"=f"}), testing::EndsWith("such as en or pt-BR"));
+}
+
+TEST(LanguageFiles, EveryEnglishNameIsKnown)
+{
+    using Utilities = ZelInterchangeData::ZelDataUtilities;
+    int count = 0;
+    for (char first = 'a'; first <= 'z'; ++first)
+        for (char second = 'a'; second <= 'z'; ++second) {
+            std::string name;
+            if (failed(Utilities::englishNameForLanguage({first, second}, name))) continue;
+            std::string nameOfLike;
+            EXPECT_FALSE(
+                failed(Utilities::englishNameForLanguage(publish::languageLike(name), nameOfLike)))
+                << name;
+            EXPECT_EQ(nameOfLike, name);
+            ++count;
+        }
+    EXPECT_GT(count, 100);
+    EXPECT_EQ(publish::languageLike("Spanish"), "es");
+    EXPECT_EQ(publish::languageLike("Turkich"), "tr");
 }
 
 TEST(LanguageFiles, ArgumentWithoutEqualsSignIsRefused)
@@ -436,7 +483,8 @@ TEST(Help, WinsOverEverything)
 TEST(Version, NeedsNoOtherOption)
 {
     EXPECT_TRUE(parseAll({"--version"}).version);
-    EXPECT_TRUE(parseAll({"--colour", "--version"}).version);
+    EXPECT_FALSE(parse({"--title=--version"}).version);
+    EXPECT_THAT(failureOf({"--title", "--version"}), HasSubstr("'--version' is an option"));
 }
 
 } // namespace

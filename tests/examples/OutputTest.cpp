@@ -190,7 +190,7 @@ TEST_F(OutputTest, FileToReadIsNotOverwrittenUnderAnyName)
     fs::create_hard_link(film, pathOf("twin"));
     const std::vector<std::string> left{"film.srt", "link", "twin"};
     const auto refusal = [](const std::string& option, const std::string& file) {
-        return option + ": " + file + " is one of the files to read, ";
+        return option + ": " + file + " is an input file, ";
     };
     for (const std::string& name : {film, pathOf("./film.srt"), pathOf("link"), pathOf("twin")}) {
         expectFailure(runAlone({"-o", name, "--size", "1x1", "en=" + film}),
@@ -256,6 +256,22 @@ TEST_F(OutputTest, PacketReportAndPreviewAreThreeFiles)
     EXPECT_EQ(contentsOf(pathOf("out.xmp")), "old");
 }
 
+TEST_F(OutputTest, LinksToAMissingFileAreThatFile)
+{
+    fs::create_symlink("new.xmp", pathOf("link"));
+    fs::create_symlink("link", pathOf("longer"));
+    const std::vector<std::string> left{"link", "longer"};
+    const auto runWith = [&](const std::string& output, const std::string& report) {
+        return runAlone(
+            {"-o", output, "--size", "1x1", "--length", "1", "--report", pathOf(report)});
+    };
+    expectFailure(runWith(pathOf("new.xmp"), "longer"), "is the file of --output", left);
+    expectFailure(runWith(pathOf("longer"), "new.xmp"), "is the file of --output", left);
+    expectFailure(runWith(pathOf("longer"), "link"), "is the file of --output", left);
+    fs::create_symlink("circle", pathOf("circle"));
+    EXPECT_EQ(runWith(pathOf("circle"), "new.xmp").status, 2);
+}
+
 /// The program as another user, because permissions do not bind root.
 const std::string asOrdinaryUser =
     "user=; [ \"$(id -u)\" != 0 ] || user='setpriv --reuid 65534 --regid 65534 --clear-groups'; ";
@@ -288,7 +304,7 @@ TEST_F(OutputTest, PreviewHoldsThePacketOfAFileThatMayNotBeRead)
     EXPECT_EQ(done.status, 0) << done.err;
     const std::string expected = publish::previewPage(contentsOf(pathOf("open/out.xmp")),
                                                       contentsOf(pathOf("open/report.json")));
-    EXPECT_EQ(contentsOf(pathOf("open/page.html")).size(), expected.size());
+    EXPECT_EQ(contentsOf(pathOf("open/page.html")), expected);
 }
 
 #ifdef __has_feature
@@ -307,7 +323,7 @@ TEST_F(OutputTest, ExhaustedMemoryIsNamed)
     expectFailure(runShell("ulimit -v 150000; \"$0\" -o '" + pathOf("out.xmp") +
                                "' --size 1x1 en='" + large + "'",
                            {}),
-                  "publish_video: memory ran out\n", {"large.srt"});
+                  "publish_video: out of memory\n", {"large.srt"});
 }
 
 class SignalTest : public OutputTest {

@@ -37,68 +37,69 @@ TEST_F(ReportTest, WholeReport)
     const std::string screen = write("screen.srt", "-->\n");
     const RunResult done = publish({"--toc", toc, "--screen-text", screen, "en=" + en, "de=" + de});
     EXPECT_EQ(done.out, "");
-    EXPECT_EQ(done.err,
-              pathOf("out.xmp") + ": " + std::to_string(contentsOf(pathOf("out.xmp")).size()) +
-                  " bytes written\n"
-                  "captions: 5, 1 joined from several languages\n"
-                  "  de: 1 caption, missing in 4\n"
-                  "  en: 5 captions, missing in 0\n"
-                  "table of contents: 1 entry\n"
-                  "screen texts: 0\n"
-                  "problems:\n"
-                  "  2 malformed cues, left out:\n"
-                  "    en " +
-                  en +
-                  ":20 \"bad --> line\"\n"
-                  "    " +
-                  screen +
-                  ":1 \"-->\"\n"
-                  "  1 cue that does not end after its start, left out:\n"
-                  "    en " +
-                  en +
-                  ":17 \"00:00:04,000 --> 00:00:04,000\"\n"
-                  "  1 file without a cue:\n"
-                  "    " +
-                  screen +
-                  "\n"
-                  "  1 text that ends with the number of the next cue, for lack of a blank line:\n"
-                  "    00:00:04.500 en " +
-                  en +
-                  ":22 \"c 4\": the number in line 24\n"
-                  "  2 cues that end after --length:\n"
-                  "    00:00:04.500 en " +
-                  en +
-                  ":22 \"c 4\": ends at 00:01:46.000\n"
-                  "    00:02:00.000 en " +
-                  en +
-                  ":25: ends at 00:02:02.000\n"
-                  "  1 cue without text:\n"
-                  "    00:02:00.000 en " +
-                  en +
-                  ":25\n"
-                  "  1 caption that is too short:\n"
-                  "    00:00:02.000 en " +
-                  en +
-                  ":6 \"b\": 900 ms; at least 1000 ms is better\n"
-                  "  1 caption with too many lines:\n"
-                  "    00:00:03.000 en " +
-                  en +
-                  ":10 \"1 2 3 4 5\": 5 lines; at most 4 is better\n"
-                  "  1 caption that starts while another one shows in its language:\n"
-                  "    00:00:04.500 en " +
-                  en +
-                  ":22 \"c 4\": until 00:00:05.000, \"1 2 3 4 5\" shows, line 10\n"
-                  "  4 captions that lack a language:\n"
-                  "    00:00:02.000 en " +
-                  en +
-                  ":6 \"b\": lacks de\n"
-                  "    00:00:03.000 en " +
-                  en +
-                  ":10 \"1 2 3 4 5\": lacks de\n"
-                  "    00:00:04.500 en " +
-                  en +
-                  ":22 \"c 4\": lacks de\n"
-                  "    and 1 more (--verbose shows all)\n");
+    EXPECT_EQ(
+        done.err,
+        pathOf("out.xmp") + ": " + std::to_string(contentsOf(pathOf("out.xmp")).size()) +
+            " bytes written\n"
+            "captions: 5, 1 joined from several languages\n"
+            "  de: 1 caption, missing in 4\n"
+            "  en: 5 captions\n"
+            "table of contents: 1 entry\n"
+            "screen texts: 0\n"
+            "problems:\n"
+            "  2 malformed cues, left out:\n"
+            "    en " +
+            en +
+            ":20 \"bad --> line\"\n"
+            "    " +
+            screen +
+            ":1 \"-->\"\n"
+            "  1 cue without length, left out:\n"
+            "    en " +
+            en +
+            ":17 \"00:00:04,000 --> 00:00:04,000\"\n"
+            "  1 file without a cue:\n"
+            "    " +
+            screen +
+            "\n"
+            "  1 text that ends with the number of the next cue, because a blank line is missing:\n"
+            "    00:00:04.500 en " +
+            en +
+            ":22 \"c 4\": the number in line 24\n"
+            "  2 cues that end after --length:\n"
+            "    00:00:04.500 en " +
+            en +
+            ":22 \"c 4\": ends at 00:01:46.000\n"
+            "    00:02:00.000 en " +
+            en +
+            ":25: ends at 00:02:02.000\n"
+            "  1 cue without text:\n"
+            "    00:02:00.000 en " +
+            en +
+            ":25\n"
+            "  1 caption that is too short:\n"
+            "    00:00:02.000 en " +
+            en +
+            ":6 \"b\": 900 ms; should be at least 1000 ms\n"
+            "  1 caption with too many lines:\n"
+            "    00:00:03.000 en " +
+            en +
+            ":10 \"1 2 3 4 5\": 5 lines; should be at most 4\n"
+            "  1 caption that starts while another one shows in its language:\n"
+            "    00:00:04.500 en " +
+            en + ":22 \"c 4\": \"1 2 3 4 5\" (" + en +
+            ":10) shows until 00:00:05.000\n"
+            "  4 captions that lack a language:\n"
+            "    00:00:02.000 en " +
+            en +
+            ":6 \"b\": lacks de\n"
+            "    00:00:03.000 en " +
+            en +
+            ":10 \"1 2 3 4 5\": lacks de\n"
+            "    00:00:04.500 en " +
+            en +
+            ":22 \"c 4\": lacks de\n"
+            "    and 1 more (--verbose shows all)\n");
 }
 
 TEST_F(ReportTest, NothingToReport)
@@ -108,8 +109,8 @@ TEST_F(ReportTest, NothingToReport)
     EXPECT_THAT(report({"en=" + en, "de=" + en}),
                 EndsWith(" bytes written\n"
                          "captions: 2, 2 joined from several languages\n"
-                         "  de: 2 captions, missing in 0\n"
-                         "  en: 2 captions, missing in 0\n"
+                         "  de: 2 captions\n"
+                         "  en: 2 captions\n"
                          "table of contents: 0 entries\n"
                          "screen texts: 0\n"
                          "problems: none\n"));
@@ -137,7 +138,7 @@ TEST_F(ReportTest, FirstThreePlacesOrAll)
     const std::string en = write("en.vtt", "WEBVTT\n\n" + cues);
     const auto place = [&](const std::string& second, const std::string& line) {
         return "    00:00:0" + second + ".000 en " + en + ":" + line +
-               " \"x\": 500 ms; at least 1000 ms is better\n";
+               " \"x\": 500 ms; should be at least 1000 ms\n";
     };
     const std::string first = "problems:\n  5 captions that are too short:\n" + place("1", "3") +
                               place("2", "6") + place("3", "9");
@@ -156,7 +157,7 @@ TEST_F(ReportTest, OverlapsAreThoseOfOneLanguage)
     EXPECT_EQ(problems({"en=" + en, "en=" + more}),
               "problems:\n  1 caption that starts while another one shows in its language:\n"
               "    00:00:04.999 en " +
-                  more + ":1 \"c\": until 00:00:05.000, \"b\" shows, line 4 of " + en + "\n");
+                  more + ":1 \"c\": \"b\" (" + en + ":4) shows until 00:00:05.000\n");
 }
 
 TEST_F(ReportTest, EachCaptionThatStartsDuringALongOneOverlaps)
@@ -168,16 +169,38 @@ TEST_F(ReportTest, EachCaptionThatStartsDuringALongOneOverlaps)
                                            "00:09.000 --> 00:10.000\nd\n\n"
                                            "00:09.000 --> 00:10.000\ne\n");
     const std::string text = problems({"--verbose", "en=" + en});
+    const std::string first = " (" + en + ":4) shows until 00:00:09.000\n";
+    const std::string second = " (" + en + ":13) shows until 00:00:10.000\n";
     EXPECT_THAT(text,
                 EndsWith("  3 captions that start while another one shows in their language:\n"
                          "    00:00:02.000 en " +
-                         en +
-                         ":7 \"b\": until 00:00:09.000, \"a\" shows, line 4\n"
-                         "    00:00:05.000 en " +
-                         en +
-                         ":1 \"c\": until 00:00:09.000, \"a\" shows, line 4\n"
-                         "    00:00:09.000 en " +
-                         en + ":16 \"e\": until 00:00:10.000, \"d\" shows, line 13\n"));
+                         en + ":7 \"b\": \"a\"" + first + "    00:00:05.000 en " + en +
+                         ":1 \"c\": \"a\"" + first + "    00:00:09.000 en " + en +
+                         ":16 \"e\": \"d\"" + second));
+}
+
+TEST_F(ReportTest, TextsOutsideACueAndMalformedCuesInATextAreListed)
+{
+    const std::string en = write("en.srt", "1\n00:01.000 --> 00:02.000\na\n\nlost\n\n"
+                                           "2\n00:03.000 --> 00:04.000\nb\n3\n"
+                                           "00:05.000 -> 00:06.000\nc\n\n"
+                                           "4\n00:07.000 -> 00:08.000\nd\n");
+    EXPECT_EQ(problems({"en=" + en}),
+              "problems:\n"
+              "  1 malformed cue, left out:\n    en " +
+                  en +
+                  ":15 \"00:07.000 -> 00:08.000\"\n"
+                  "  1 text outside a cue, left out:\n    en " +
+                  en +
+                  ":5 \"lost\"\n"
+                  "  1 text that seems to contain a malformed cue:\n    00:00:03.000 en " +
+                  en + ":8 \"b 3 00:05.000 -> 00:06.000 c\": the times in line 11\n");
+}
+
+TEST_F(ReportTest, FileWhoseCuesAreAllSkippedHasCues)
+{
+    const std::string en = write("en.srt", "00:01.000 --> 00:02.000\n\n");
+    EXPECT_EQ(problems({"--skip-empty", "en=" + en}), "problems: none\n");
 }
 
 TEST_F(ReportTest, FilesThatWereTimedSeparatelyAreOneLine)
@@ -195,7 +218,7 @@ TEST_F(ReportTest, FilesThatWereTimedSeparatelyAreOneLine)
                                 "  de: 3 captions, missing in 2\n"
                                 "  en: 3 captions, missing in 2\n"
                                 "  fr: 2 captions, missing in 3\n"
-                                "timed separately, so hardly joined: de | en, fr\n"));
+                                "timed separately, so mostly not joined: de | en, fr\n"));
     EXPECT_THAT(text, EndsWith("problems:\n  1 caption that lacks a language:\n"
                                "    00:00:02.000 en " +
                                en + ":4 \"b\": lacks fr\n"));
@@ -266,7 +289,7 @@ TEST_F(ReportTest, WholeJson)
                   "\", \"language\": \"en\", \"line\": 3, \"start\": \"00:00:01.000\", "
                   "\"end\": \"00:00:01.500\", \"start_ms\": 1000, \"end_ms\": 1500, "
                   "\"text\": \"\\\"a\\\"\\\\\\\\x01\", "
-                  "\"detail\": \"500 ms; at least 1000 ms is better\"}]},\n"
+                  "\"detail\": \"500 ms; should be at least 1000 ms\"}]},\n"
                   "{\"kind\": \"missing-language\", "
                   "\"message\": \"caption that lacks a language\", "
                   "\"count\": 1, \"places\": [{\"file\": \"" +

@@ -41,31 +41,34 @@ TEST_F(SampleTest, ReportNamesEveryIrregularity)
             "screen texts: 4\n"
             "cues without text, left out: 1\n"
             "problems:\n"
-            "  1 malformed cue, left out:\n"
+            "  2 malformed cues, left out:\n"
+            "    en " +
+            en +
+            ":23 \"00:00:11,000 -> 00:00:12,000\"\n"
             "    en " +
             en +
             ":25 \"00:00:12 --> 00:00:13\"\n"
-            "  1 cue that does not end after its start, left out:\n"
+            "  1 cue without length, left out:\n"
             "    en " +
             en +
             ":40 \"00:00:25,000 --> 00:00:25,000\"\n"
             "  1 caption that is too short:\n"
             "    00:00:06.400 en " +
             en +
-            ":11 \"Ready?\": 750 ms; at least 1000 ms is better\n"
+            ":11 \"Ready?\": 750 ms; should be at least 1000 ms\n"
             "  1 caption with too many lines:\n"
             "    00:00:07.500 en " +
             en +
-            ":15 \"\"Half\" means half: edge to edge, corner...\": 5 lines; at most 4 is better\n"
+            ":15 \"\"Half\" means half: edge to edge, corner...\": 5 lines; should be at most 4\n"
             "  2 captions that start while another one shows in their language:\n"
             "    00:00:16.000 de " +
             folder +
-            "de.srt:20 \"Noch ist es kein Hut …\": until 00:00:16.500, \"Die Kante mit dem "
-            "Nagel glätten.\" shows, line 16\n"
+            "de.srt:20 \"Noch ist es kein Hut …\": \"Die Kante mit dem Nagel glätten.\" (" +
+            folder +
+            "de.srt:16) shows until 00:00:16.500\n"
             "    00:00:16.000 en " +
-            en +
-            ":33 \"It's not a hat yet...\": until 00:00:16.500, \"Press the fold with your "
-            "nail.\" shows, line 29\n"
+            en + ":33 \"It's not a hat yet...\": \"Press the fold with your nail.\" (" + en +
+            ":29) shows until 00:00:16.500\n"
             "  5 captions that lack a language:\n"
             "    00:00:03.200 en " +
             en +

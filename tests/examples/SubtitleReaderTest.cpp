@@ -315,6 +315,62 @@ TEST(SwallowedNumber, BlankLineOtherTextOrNoTimingLineIsNone)
     EXPECT_EQ(swallowedNumbers("x --> y\n2\n" + next), (Lines{0}));
 }
 
+/// The lines of @p skipped.
+std::vector<std::size_t> linesOf(const std::vector<publish::SkippedLines>& skipped)
+{
+    std::vector<std::size_t> lines;
+    for (const publish::SkippedLines& one : skipped)
+        lines.push_back(one.line);
+    return lines;
+}
+
+using Lines = std::vector<std::size_t>;
+
+TEST(SwallowedTiming, FirstLineThatBeginsWithATimeAndHasAnotherArrow)
+{
+    const Subtitles subtitles = read("00:01.000 --> 00:02.000\na\n2\n00:03,000 \xE2\x80\x93> x\n"
+                                     "00:04.000 => 00:05.000\n\n"
+                                     "00:06.000 --> 00:07.000\n00:08.000\n1 -> 2\n");
+    ASSERT_EQ(subtitles.cues.size(), 2U);
+    EXPECT_EQ(subtitles.cues[0].swallowedTiming, 4U);
+    EXPECT_EQ(subtitles.cues[1].swallowedTiming, 0U);
+    EXPECT_EQ(linesOf(subtitles.malformed), Lines{});
+}
+
+TEST(MalformedCue, MayHaveAnotherArrow)
+{
+    const Subtitles subtitles = read("1\n00:01.000 -> 00:02.000\nlost\n\n"
+                                     "00:03.000 > 00:04.000\n\n00:05.000 --> 00:06.000\na\n");
+    EXPECT_EQ(linesOf(subtitles.malformed), (Lines{2, 5}));
+    EXPECT_EQ(linesOf(subtitles.outside), Lines{});
+    EXPECT_EQ(subtitles.cues, (Cues{{5000, 6000, "a"}}));
+}
+
+TEST(OutsideACue, EachBlockIsListedByItsFirstLine)
+{
+    const Subtitles subtitles = read("title\n\n00:01.000 --> 00:02.000\na\n\nsecond\nparagraph\n\n"
+                                     "lost\n2\n00:03.000 --> 00:04.000\nb\n\n3\nno times\n\nend");
+    EXPECT_EQ(linesOf(subtitles.outside), (Lines{1, 6, 9, 14, 17}));
+    ASSERT_EQ(subtitles.outside.size(), 5U);
+    EXPECT_EQ(subtitles.outside[1].words, "second");
+}
+
+TEST(OutsideACue, NumbersAndTheLineBeforeATimingLineAreNotListed)
+{
+    EXPECT_EQ(
+        linesOf(read("1\n00:01.000 --> 00:02.000\na\n\nname\n00:03.000 --> 00:04.000\nb\n\n3\n")
+                    .outside),
+        Lines{});
+}
+
+TEST(OutsideACue, HeaderNotesStylesAndRegionsOfWebVttAreNotListed)
+{
+    const std::string blocks = "\n\nNOTE\nx\n\nNOTE y\n\nSTYLE\n::cue {}\n\nREGION\nid:z\n\n"
+                               "NOTES\n\n00:01.000 --> 00:02.000\na\n";
+    EXPECT_EQ(linesOf(read("WEBVTT - a\nKind: b" + blocks).outside), Lines{15});
+    EXPECT_EQ(linesOf(read("x" + blocks).outside), (Lines{1, 3, 6, 8, 11, 14}));
+}
+
 TEST(CueText, MayBeEmpty)
 {
     EXPECT_EQ(cuesOf("00:01.000 --> 00:02.000\n\nlate\n"), (Cues{{1000, 2000, ""}}));

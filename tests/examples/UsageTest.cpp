@@ -145,7 +145,7 @@ TEST_F(UsageTest, UnknownLanguageIsNamed)
 
 TEST_F(UsageTest, FileBeyondTheLargestSizeIsRefused)
 {
-    const std::string cause = ": the file has more than 100 MB\n";
+    const std::string cause = ": the file is larger than 100 MB\n";
     expectFailure(run({"en=/dev/zero"}), "publish_video: en=/dev/zero" + cause, {});
     const std::string large = write("large.srt", "");
     std::filesystem::resize_file(large, 100'000'001);
@@ -171,7 +171,7 @@ TEST_F(UsageTest, HelpThatCannotBePrintedIsAFailure)
 
 TEST_F(UsageTest, VersionIsPrinted)
 {
-    const RunResult done = runAlone({"--version", "--colour"});
+    const RunResult done = runAlone({"--version", "--verbose"});
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
     EXPECT_EQ(done.out, "publish_video " VERSION "\n");

@@ -113,7 +113,7 @@ test('a screen reader meets landmarks, names, states and texts', async () => {
         '- main:', '- region "Player":', 'button "Previous caption"', 'button "Play"', 'button "Next caption"',
         'combobox "Speed"', 'combobox "Captions"', 'combobox "Second captions"',
         '- group "Timeline of captions, contents and screen texts":', '- slider "Position"',
-        '- region "Lists":', '- tablist "Lists":', 'tab "Transcript" \\[selected\\]', 'tab "Problems 11"',
+        '- region "Lists":', '- tablist "Lists":', 'tab "Transcript" \\[selected\\]', 'tab "Problems 12"',
         '- tabpanel "Transcript":', 'combobox "Language of the transcript"', 'checkbox "Follow the video" \\[checked\\]',
         '- list "Transcript":', '- listitem:', 'button "00:00:00.500 A paper boat & a rainy day"',
     ].join('[^]*')));

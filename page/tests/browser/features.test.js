@@ -354,21 +354,21 @@ test('the details give every fact of the packet', async () => {
 
 test('the problems in the report are listed with their number, files and lines, and their places jump', async () => {
     const page = await openPage(sample);
-    assert.equal(await page.locator('#problem-count').innerText(), '11');
+    assert.equal(await page.locator('#problem-count').innerText(), '12');
     await openTab(page, 'Problems');
     assert.deepEqual(await page.locator('#problems summary').allTextContents(), [
-        'A malformed cue was left out', 'A cue that does not end after its start was left out',
+        '2 malformed cues were left out', 'A cue without length was left out',
         'A caption is too short', 'A caption has too many lines',
         '2 captions start while another one shows in their language', '5 captions lack a language',
     ]);
     await page.locator('#problems summary').nth(0).click();
-    const malformed = rows(page, 'panel-problems').first();
+    const malformed = rows(page, 'panel-problems').nth(1);
     assert.match(await malformed.innerText(), /^00:00:12 --> 00:00:13\n.*paper-boat\.en\.srt:25$/);
     assert.equal(await malformed.getAttribute('aria-disabled'), 'true');
     await page.locator('#problems summary').nth(4).click();
-    const place = rows(page, 'panel-problems').nth(1);
+    const place = rows(page, 'panel-problems').nth(2);
     assert.match(await place.innerText(),
-        /^00:00:16\.000\nNoch ist es kein Hut \u2026\n.*paper-boat\.de\.srt:20\nuntil 00:00:16\.500, .*, line 16$/);
+        /^00:00:16\.000\nNoch ist es kein Hut \u2026\n.*paper-boat\.de\.srt:20\n.*:16\) shows until 00:00:16\.500$/);
     await place.click();
     assert.equal(await textOf(page, '#time'), '00:00:16.000');
 });
