@@ -190,7 +190,8 @@ std::string firstWords(std::string_view text)
     // Cuts between words, unless the last one is long.
     if (!isWhole && blank > end / 2) end = blank;
     std::string words(text.substr(0, end));
-    std::replace(words.begin(), words.end(), '\n', ' ');
+    for (const char control : {'\n', '\t'})
+        std::replace(words.begin(), words.end(), control, ' ');
     return printable(words) + (isWhole ? "" : "...");
 }
 

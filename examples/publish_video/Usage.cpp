@@ -156,15 +156,15 @@ std::string manualPage()
                        heading("NAME") + "publish_video \\- " + roff(summary) + "\n" +
                        heading("SYNOPSIS") + ".B publish_video\n" + roff(synopsis) + "\n" +
                        heading("DESCRIPTION");
-    for (const std::string_view paragraph : description)
-        page += ".PP\n" + roff(paragraph) + "\n";
+    for (const std::string_view& paragraph : description)
+        page += (&paragraph == description ? "" : ".PP\n") + roff(paragraph) + "\n";
     page += heading("OPTIONS");
     for (const OptionEntry& option : optionTable)
         page += manualItem(leftSide(option), rightSide(option));
     page += heading("EXAMPLES");
     for (const Example& example : examples)
-        page +=
-            ".PP\n" + roff(example.purpose) + "\n.PP\n.nf\n" + roff(example.command) + "\n.fi\n";
+        page += (&example == examples ? "" : ".PP\n") + roff(example.purpose) + "\n.PP\n.nf\n" +
+                roff(example.command) + "\n.fi\n";
     page += heading("EXIT STATUS");
     for (const Status& status : statuses)
         page += manualItem(status.number, status.meaning);

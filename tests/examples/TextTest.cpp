@@ -117,7 +117,7 @@ TEST(Printable, StaysOnOneLineAndShowsForeignBytes)
 TEST(FirstWords, ShortTextIsWhole)
 {
     EXPECT_EQ(firstWords(""), "");
-    EXPECT_EQ(firstWords("two\nlines\x01"), "two lines\\x01");
+    EXPECT_EQ(firstWords("two\nlines\tmore\x01"), "two lines more\\x01");
     EXPECT_EQ(firstWords(std::string(40, 'x')), std::string(40, 'x'));
 }
 
