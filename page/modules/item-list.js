@@ -13,12 +13,12 @@ export function makeRowButton(time, ...content) {
 /** A list of items with start and end: marks those that show now, and jumps to the one that is pressed. */
 export class ItemList {
     #current = [];
+    #isFollowing = false;
 
     /** `makeContent(item)` returns what a row shows besides the time. */
     constructor(scroller, player, { name, estimate, makeContent }) {
         this.player = player;
         this.index = new IntervalIndex([]);
-        this.isFollowing = false;
         this.empty = element('p', { class: 'empty', hidden: true }, label('nothing'));
         scroller.before(this.empty);
         this.list = new VirtualList(scroller, {
@@ -34,6 +34,14 @@ export class ItemList {
                 else button.removeAttribute('aria-current');
             },
         });
+        // When the list becomes visible, too.
+        new ResizeObserver(() => this.#follow()).observe(scroller);
+    }
+
+    /** Whether the list keeps the row of the time visible, except while the keyboard is at another row. */
+    set isFollowing(isFollowing) {
+        this.#isFollowing = isFollowing;
+        this.#follow();
     }
 
     open(items) {
@@ -49,10 +57,17 @@ export class ItemList {
         const current = this.index.at(time);
         if (sameItems(current, this.#current)) return;
         this.#current = current;
-        // With the focus in the list, it stays where the user moved it.
-        if (this.isFollowing && current.length > 0 && !this.list.hasFocus)
-            this.list.scrollTo(lastStarted(this.index.items, time));
-        else
-            this.list.draw();
+        this.list.draw();
+        this.#follow();
+    }
+
+    /** Makes the rows again, for what they show now. */
+    remake() {
+        this.list.remake();
+    }
+
+    #follow() {
+        const row = lastStarted(this.index.items, this.player.time);
+        if (this.#isFollowing && row >= 0 && !this.list.isBrowsed) this.list.scrollTo(row);
     }
 }

@@ -30,12 +30,13 @@ async function openTab(page, name) {
     await page.getByRole('tab', { name }).click();
 }
 
-test('the page shows its packet from a file, without any other file', async () => {
-    const page = await openPage(sample);
+test('the preview that the tool wrote shows its packet and report, without any other file', async () => {
+    const page = await openPage(sample, { written: true });
     assert.equal(await textOf(page, '#title'), 'The Paper Boat');
     assert.equal(await page.title(), 'The Paper Boat');
     assert.equal(await textOf(page, '#creator'), 'by Ann & Bo');
     assert.equal(await textOf(page, '#duration'), '00:00:32.000');
+    assert.equal(await textOf(page, '#problem-count'), '12');
     assert.equal(await page.locator('#welcome').isVisible(), false);
     // The content file that the packet names is all that it looks for.
     assert.deepEqual(page.requests.map((url) => url.slice(page.folder.length)), ['/preview.html', '/paper-boat.webm']);
