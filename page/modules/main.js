@@ -20,6 +20,8 @@ import { formatTime } from './times.js';
 const jump = 10000;
 
 class Page {
+    hiddenCaptions = ['', ''];
+
     constructor() {
         document.documentElement.lang = labels.language;
         writeLabels(document);
