@@ -13,6 +13,8 @@ export function makeRowButton(time, ...content) {
 /** A list of items with start and end: marks those that show now, and jumps to the one that is pressed. */
 export class ItemList {
     #current = [];
+    // The row of the time: that of the last item that started.
+    #last = -1;
     #isFollowing = false;
 
     /** `makeContent(item)` returns what a row shows besides the time. */
@@ -47,6 +49,7 @@ export class ItemList {
     open(items) {
         this.index = new IntervalIndex(items);
         this.#current = [];
+        this.#last = -1;
         this.empty.hidden = items.length > 0;
         this.list.reset(items.length);
         this.draw();
@@ -55,8 +58,10 @@ export class ItemList {
     draw() {
         const { time } = this.player;
         const current = this.index.at(time);
-        if (sameItems(current, this.#current)) return;
+        const last = lastStarted(this.index.items, time);
+        if (last === this.#last && sameItems(current, this.#current)) return;
         this.#current = current;
+        this.#last = last;
         this.list.draw();
         this.#follow();
     }
@@ -67,7 +72,6 @@ export class ItemList {
     }
 
     #follow() {
-        const row = lastStarted(this.index.items, this.player.time);
-        if (this.#isFollowing && row >= 0 && !this.list.isBrowsed) this.list.scrollTo(row);
+        if (this.#isFollowing && this.#last >= 0 && !this.list.isBrowsed) this.list.scrollTo(this.#last);
     }
 }

@@ -1,7 +1,7 @@
 import { CaptionView } from './caption-view.js';
 import { showDetails } from './detail-view.js';
 import { byId, element, setName, textElement, writeLabels } from './dom.js';
-import { addressBeside, sortFiles } from './files.js';
+import { addressBeside, readFirstPacket, sortFiles } from './files.js';
 import { firstAfter, lastBefore } from './intervals.js';
 import { ItemList } from './item-list.js';
 import { label, labels } from './labels.js';
@@ -361,22 +361,6 @@ class Page {
         byId('error').classList.add('is-empty');
         for (const id of ['error-text', 'error-excerpt']) byId(id).textContent = '';
     }
-}
-
-// Returns the first file that is a packet, with it. Without one, the first file and its error, but rather that
-// of a file whose name says that it is one.
-async function readFirstPacket(files) {
-    const hasName = ({ name }) => /\.xmp$/i.test(name);
-    let failed;
-    for (const file of files) {
-        try {
-            return { file, packet: parsePacket(decodePacket(new Uint8Array(await file.arrayBuffer()))) };
-        } catch (cause) {
-            const error = cause instanceof PacketError ? cause : new PacketError('fileFailed', file);
-            if (!failed || (hasName(file) && !hasName(failed.file))) failed = { file, error };
-        }
-    }
-    return failed ?? {};
 }
 
 function captionSelects() {

@@ -58,7 +58,7 @@ function childOf(node, ...names) {
 // A resource is the elements that may hold its properties. RDF lets them be in an element itself (as attributes,
 // or with parseType Resource) or in a description in it.
 function resourceIn(node) {
-    return node ? [node, ...childrenOf(node, 'rdf:Description')] : [];
+    return node ? [...childrenOf(node, 'rdf:Description'), node] : [];
 }
 
 function propertyOf(resource, name) {

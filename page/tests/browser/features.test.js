@@ -387,6 +387,15 @@ test('the transcript is at the time when its tab is shown, and when it is told t
     await showsRow(page, 'line 0.');
 });
 
+test('the transcript follows from gap to gap', async () => {
+    const page = await openPage(publishCues({
+        captions: { en: Array.from({ length: 60 }, (_, index) => [index * 1000 + 500, index * 1000 + 900, `line ${index}.`]) },
+    }, '--length', '60000'));
+    await showsRow(page, 'line 0.');
+    await page.getByRole('slider').press('End');
+    await showsRow(page, 'line 59.');
+});
+
 test('the transcript follows after a row was pressed, but not away from a row that the keyboard moved to', async () => {
     const page = await openPage(many);
     await rows(page, 'panel-transcript').nth(2).click();
