@@ -374,7 +374,7 @@ function forget(source) {
 
 function imageNote({ image, index, offset }) {
     if (image === '') return [];
-    const values = { name: image, index: String(index), offset: String(offset) };
+    const values = { name: image, index, offset };
     return [textElement('span', label('thumbnail', values), '', { class: 'row-note' })];
 }
 
