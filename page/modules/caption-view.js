@@ -1,5 +1,10 @@
 import { element, textElement } from './dom.js';
 import { IntervalIndex, sameItems } from './intervals.js';
+import { label } from './labels.js';
+import { hasText } from './packet.js';
+
+// More captions at one time than this are a number.
+const limit = 20;
 
 const sides = { left: 'start', center: 'center', right: 'end', top: 'start', bottom: 'end' };
 
@@ -37,26 +42,25 @@ export class CaptionView {
         const captions = this.index.at(time);
         if (this.#shown && sameItems(captions, this.#shown)) return;
         this.#shown = captions;
+        const shown = this.languages.flatMap((language) => captions
+            .filter((caption) => hasText(caption, language)).map((caption) => [caption, language]));
         const places = new Map();
-        for (const language of this.languages) {
-            for (const caption of captions) {
-                const text = caption.texts.get(language) ?? '';
-                if (text.trim() !== '') this.#placeFor(caption, places).append(
-                    textElement('p', text, language, { class: 'caption' }));
-            }
-        }
+        for (const [caption, language] of shown.slice(0, limit))
+            this.#place(caption, textElement('p', caption.texts.get(language), language, { class: 'caption' }), places);
+        if (shown.length > limit)
+            this.#place({}, element('p', { class: 'caption' }, label('moreCaptions', { count: shown.length - limit })), places);
         this.container.replaceChildren(...places.values());
     }
 
-    #placeFor({ vertical, horizontal }, places) {
-        const key = `${vertical} ${horizontal}`;
-        if (!places.has(key)) {
-            const place = element('div', { class: 'caption-place' });
-            place.style.alignSelf = sides[vertical] ?? 'end';
-            place.style.justifySelf = sides[horizontal] ?? 'center';
-            place.style.textAlign = horizontal in sides ? horizontal : 'center';
-            places.set(key, place);
+    // Captions of the same height are one below the other, so that none covers another.
+    #place({ vertical, horizontal }, node, places) {
+        const side = sides[vertical] ?? 'end';
+        if (!places.has(side)) {
+            places.set(side, element('div', { class: 'caption-place' }));
+            places.get(side).style.alignSelf = side;
         }
-        return places.get(key);
+        node.style.justifySelf = sides[horizontal] ?? 'center';
+        node.style.textAlign = horizontal in sides ? horizontal : 'center';
+        places.get(side).append(node);
     }
 }

@@ -12,7 +12,22 @@ export function element(name, attributes = {}, ...children) {
 
 /** Makes an element for a text of the packet, in its language; '' is an unknown one. */
 export function textElement(name, text, language = '', attributes = {}) {
-    return element(name, { dir: 'auto', lang: language, ...attributes }, text);
+    return element(name, { dir: directionOf(language), lang: language, ...attributes }, text);
+}
+
+const rightToLeftScripts = new Set([
+    'Adlm', 'Arab', 'Hebr', 'Mand', 'Mend', 'Nkoo', 'Rohg', 'Samr', 'Syrc', 'Thaa', 'Yezi',
+]);
+
+/** Returns the direction of a language, as the attribute `dir` names it: that of its script, if that is known. */
+export function directionOf(language) {
+    try {
+        const { script } = new Intl.Locale(language).maximize();
+        if (script) return rightToLeftScripts.has(script) ? 'rtl' : 'ltr';
+    } catch {
+        // Not the form of a language tag.
+    }
+    return 'auto';
 }
 
 export function byId(id) {

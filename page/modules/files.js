@@ -1,3 +1,5 @@
+import { PacketError, decodePacket, parsePacket } from './packet.js';
+
 /**
  * Returns the address of a file that a packet names, beside the page or in a folder there; undefined for any
  * other name, and if the page is not a local file: then the names in a packet must not cause requests.
@@ -18,4 +20,22 @@ export function sortFiles(files) {
         else sorted.packets.push(file);
     }
     return sorted;
+}
+
+/**
+ * Returns the first file that is a packet, with it. If there is none, returns the first file with its error, but
+ * rather a file whose name says that it is one.
+ */
+export async function readFirstPacket(files) {
+    const hasName = ({ name }) => /\.xmp$/i.test(name);
+    let failed;
+    for (const file of files) {
+        try {
+            return { file, packet: parsePacket(decodePacket(new Uint8Array(await file.arrayBuffer()))) };
+        } catch (cause) {
+            const error = cause instanceof PacketError ? cause : new PacketError('fileFailed', file);
+            if (!failed || (hasName(file) && !hasName(failed.file))) failed = { file, error };
+        }
+    }
+    return failed ?? {};
 }

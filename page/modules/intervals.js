@@ -38,8 +38,8 @@ export class IntervalIndex {
     at(time) {
         const found = [];
         for (let i = lastStarted(this.items, time); i >= 0 && this.latestEnds[i] > time; --i)
-            if (this.items[i].end > time) found.unshift(this.items[i]);
-        return found;
+            if (this.items[i].end > time) found.push(this.items[i]);
+        return found.reverse();
     }
 }
 

@@ -13,12 +13,14 @@ export function makeRowButton(time, ...content) {
 /** A list of items with start and end: marks those that show now, and jumps to the one that is pressed. */
 export class ItemList {
     #current = [];
+    // The row of the time: that of the last item that started.
+    #last = -1;
+    #isFollowing = false;
 
     /** `makeContent(item)` returns what a row shows besides the time. */
     constructor(scroller, player, { name, estimate, makeContent }) {
         this.player = player;
         this.index = new IntervalIndex([]);
-        this.isFollowing = false;
         this.empty = element('p', { class: 'empty', hidden: true }, label('nothing'));
         scroller.before(this.empty);
         this.list = new VirtualList(scroller, {
@@ -34,11 +36,20 @@ export class ItemList {
                 else button.removeAttribute('aria-current');
             },
         });
+        // When the list becomes visible, too.
+        new ResizeObserver(() => this.#follow()).observe(scroller);
+    }
+
+    /** Whether the list keeps the row of the time visible, except while the keyboard is at another row. */
+    set isFollowing(isFollowing) {
+        this.#isFollowing = isFollowing;
+        this.#follow();
     }
 
     open(items) {
         this.index = new IntervalIndex(items);
         this.#current = [];
+        this.#last = -1;
         this.empty.hidden = items.length > 0;
         this.list.reset(items.length);
         this.draw();
@@ -47,12 +58,20 @@ export class ItemList {
     draw() {
         const { time } = this.player;
         const current = this.index.at(time);
-        if (sameItems(current, this.#current)) return;
+        const last = lastStarted(this.index.items, time);
+        if (last === this.#last && sameItems(current, this.#current)) return;
         this.#current = current;
-        // With the focus in the list, it stays where the user moved it.
-        if (this.isFollowing && current.length > 0 && !this.list.hasFocus)
-            this.list.scrollTo(lastStarted(this.index.items, time));
-        else
-            this.list.draw();
+        this.#last = last;
+        this.list.draw();
+        this.#follow();
+    }
+
+    /** Makes the rows again, for what they show now. */
+    remake() {
+        this.list.remake();
+    }
+
+    #follow() {
+        if (this.#isFollowing && this.#last >= 0 && !this.list.isBrowsed) this.list.scrollTo(this.#last);
     }
 }

@@ -1,6 +1,6 @@
 // Every text of the page, for translation: give the table of another language the same keys. `{name}` is
 // replaced by a value. A label with a plural has a form for each category of Intl.PluralRules, which
-// `{count}` selects.
+// `{count}` selects. The page is ASCII, so write other characters as escapes: \u00fc.
 
 export const labels = {
     language: 'en',
@@ -31,8 +31,8 @@ export const labels = {
     captions: 'Captions',
     secondCaptions: 'Second captions',
     noCaptions: 'None',
+    moreCaptions: { one: 'and {count} more', other: 'and {count} more' },
     timeline: 'Timeline of captions, contents and screen texts',
-    laneOfCaptions: 'Captions: {language}',
     laneOfContents: 'Contents',
     laneOfScreenTexts: 'Screen text',
 
@@ -185,6 +185,7 @@ export const labels = {
     videoOpened: 'Opened the video {name}.',
     imagesOpened: { one: 'Opened an image.', other: 'Opened {count} images.' },
     videoFailed: 'The browser cannot play {name}.',
+    filesNotUsed: 'Not used: {names}.',
     fileFailed: 'The file {name} cannot be read.',
     notUtf8: 'This is not a packet: byte {byte} is not UTF-8.',
     empty: 'This is not a packet: it is empty.',

@@ -65,42 +65,54 @@ export class StageClock extends EventTarget {
 }
 
 /**
- * Plays a video or a StageClock and tells the time in milliseconds: dispatches "time" with every frame that
- * it plays and after every jump, and "state" when it starts or stops.
+ * Plays a video, and a StageClock where there is none: without a video, and after the end of one that is shorter
+ * than the packet. Tells the time in milliseconds: dispatches "time" with every frame that it plays and after
+ * every jump, and "state" when it starts, stops or changes between video and clock.
  */
 export class Player extends EventTarget {
-    #media;
-    #listeners;
+    #clock = new StageClock(0);
+    #media = this.#clock;
+    #listeners = new AbortController();
+    #video;
+    #videoLength = -1;
+    #packetLength = 0;
 
-    constructor(media, duration) {
+    constructor() {
         super();
-        this.duration = duration;
-        this.use(media);
+        this.#listen();
     }
 
-    /** Goes on with the media instead, at the same time and speed. */
-    use(media) {
-        const time = this.#media?.currentTime ?? 0;
-        const rate = this.#media?.playbackRate ?? 1;
-        this.#media?.pause();
-        this.#listeners?.abort();
-        this.#media = media;
-        this.#listeners = new AbortController();
-        const { signal } = this.#listeners;
-        for (const type of ['play', 'pause', 'ended'])
-            media.addEventListener(type, () => this.#tellState(), { signal });
-        media.addEventListener('seeked', () => this.#tellTime(), { signal });
-        media.currentTime = time;
-        media.playbackRate = rate;
-        this.#tellState();
+    /** Sets the length of the packet, in milliseconds. */
+    set packetLength(milliseconds) {
+        this.#packetLength = milliseconds;
+        this.#clock.duration = this.duration / 1000;
+    }
+
+    /** Uses a video of so many seconds, undefined for none, and goes on at the same time and speed. */
+    use(video, seconds = -1) {
+        const { time } = this;
+        this.#video = video;
+        this.#videoLength = Math.round(seconds * 1000);
+        this.#clock.duration = this.duration / 1000;
+        this.seek(time);
+    }
+
+    /** The longer of the packet and the video, if its length is known. */
+    get duration() {
+        return Math.max(this.#packetLength, Number.isFinite(this.#videoLength) ? this.#videoLength : 0);
     }
 
     get time() {
-        return Math.round(this.#media.currentTime * 1000);
+        return Math.min(Math.round(this.#media.currentTime * 1000), this.duration);
     }
 
     get isPlaying() {
         return !this.#media.paused;
+    }
+
+    /** Whether the time is one of the video. */
+    get isInVideo() {
+        return this.#media === this.#video;
     }
 
     set rate(rate) {
@@ -112,13 +124,52 @@ export class Player extends EventTarget {
     }
 
     toggle() {
-        if (this.isPlaying) this.#media.pause();
-        else this.#media.play();
+        if (this.isPlaying) {
+            this.#media.pause();
+        } else {
+            if (this.time >= this.duration) this.seek(0);
+            this.#play();
+        }
     }
 
     seek(milliseconds) {
-        this.#media.currentTime = Math.min(Math.max(milliseconds, 0), this.duration) / 1000;
+        const time = Math.min(Math.max(milliseconds, 0), this.duration);
+        const isInVideo = time < this.#videoLength || this.#videoLength >= this.duration;
+        this.#moveTo(isInVideo ? this.#video : this.#clock, time);
         this.#tellTime();
+    }
+
+    #moveTo(media, time) {
+        const { isPlaying, rate } = this;
+        const isOther = media !== this.#media;
+        if (isOther) {
+            this.#listeners.abort();
+            this.#media.pause();
+            this.#media = media;
+            this.#listen();
+            media.playbackRate = rate;
+        }
+        media.currentTime = time / 1000;
+        if (isOther && isPlaying) this.#play();
+        if (isOther) this.#tellState();
+    }
+
+    #play() {
+        // A video that another action stops before it began is no error.
+        this.#media.play()?.catch(() => {});
+    }
+
+    #listen() {
+        this.#listeners = new AbortController();
+        const { signal } = this.#listeners;
+        for (const type of ['play', 'pause'])
+            this.#media.addEventListener(type, () => this.#tellState(), { signal });
+        this.#media.addEventListener('seeked', () => this.#tellTime(), { signal });
+        this.#media.addEventListener('ended', () => {
+            if (this.#videoLength >= this.duration) return;
+            this.#moveTo(this.#clock, this.#videoLength);
+            this.#play();
+        }, { signal });
     }
 
     #tellTime() {

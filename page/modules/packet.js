@@ -1,11 +1,14 @@
 import { plainText } from './rich-text.js';
 
 const namespaces = {
+    // Of Firefox, for its messages; other browsers use xhtml.
+    errors: 'http://www.mozilla.org/newlayout/xml/parsererror.xml',
     dc: 'http://purl.org/dc/elements/1.1/',
     rdf: 'http://www.w3.org/1999/02/22-rdf-syntax-ns#',
     stDim: 'http://ns.adobe.com/xap/1.0/sType/Dimensions#',
     stFnt: 'http://ns.adobe.com/xap/1.0/sType/Font#',
     x: 'adobe:ns:meta/',
+    xhtml: 'http://www.w3.org/1999/xhtml',
     xml: 'http://www.w3.org/XML/1998/namespace',
     xmpDM: 'http://ns.adobe.com/xmp/1.0/DynamicMedia/',
     xmpG: 'http://ns.adobe.com/xap/1.0/g/',
@@ -52,39 +55,80 @@ function childOf(node, ...names) {
     return names.reduce((parent, name) => childrenOf(parent, name)[0], node);
 }
 
-// RDF lets properties be in a description inside an element or in the element itself.
+// A resource is the elements that may hold its properties. RDF lets them be in an element itself (as attributes,
+// or with parseType Resource) or in a description in it.
 function resourceIn(node) {
-    return childOf(node, 'rdf:Description') ?? node;
+    return node ? [...childrenOf(node, 'rdf:Description'), node] : [];
+}
+
+function propertyOf(resource, name) {
+    for (const part of resource) {
+        const property = childOf(part, name);
+        if (property) return property;
+    }
+    return undefined;
 }
 
 // RDF lets a simple property be an attribute or an element.
 function valueOf(resource, name) {
     const [namespace, local] = resolve(name);
-    return resource?.getAttributeNS(namespace, local) || (childOf(resource, name)?.textContent ?? '');
+    for (const part of resource) {
+        const value = part.getAttributeNS(namespace, local);
+        if (value) return value;
+    }
+    return propertyOf(resource, name)?.textContent ?? '';
+}
+
+function resourceOf(resource, name) {
+    return resourceIn(propertyOf(resource, name));
 }
 
 function itemsOf(resource, name, container) {
-    return childrenOf(childOf(resource, name, container), 'rdf:li');
+    return childrenOf(childOf(propertyOf(resource, name), container), 'rdf:li');
 }
+
+function languageOf(item) {
+    return item.getAttributeNS(namespaces.xml, 'lang') ?? '';
+}
+
+export function isBlank(text) {
+    return text.trim() === '';
+}
+
+/** Returns whether the caption shows in the language. */
+export function hasText(caption, language) {
+    return !isBlank(caption.texts.get(language) ?? '');
+}
+
+const whole = { pattern: /^[+-]?\d+$/ };
+const natural = { pattern: /^\d+$/ };
+const component = { ...natural, maximum: 255 };
+const fraction = { pattern: /^(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i, maximum: 1 };
 
 class PacketReader {
     // What is not as the format says: the place ({key, number, time}), the name and value of the property.
     faults = [];
 
-    number(resource, name, place, pattern = /^[+-]?\d+$/) {
+    // The text of a number, which may be larger than a number can be exact.
+    digits(resource, name, place, { pattern, maximum = Infinity } = whole) {
         const value = valueOf(resource, name);
-        if (pattern.test(value)) return Number(value);
+        if (pattern.test(value) && Number(value) <= maximum) return value;
         this.faults.push({ place, property: name, value });
         return undefined;
     }
 
+    number(resource, name, place, form) {
+        const digits = this.digits(resource, name, place, form);
+        return digits === undefined ? undefined : Number(digits);
+    }
+
     header(description, place) {
-        const duration = childOf(description, 'xmpDM:duration');
+        const duration = resourceOf(description, 'xmpDM:duration');
         const scale = /^(\d+)\/([1-9]\d*)$/.exec(valueOf(duration, 'xmpDM:scale')) ?? [, 1, 1000];
-        const size = childOf(description, 'xmpDM:videoFrameSize');
-        const parameters = itemsOf(
-            childOf(description, 'zelDM:controller', 'rdf:Description'), 'zelDM:parameters', 'rdf:Bag');
-        const search = parameters.find((parameter) => valueOf(parameter, 'xmpDM:name') === 'showsearch');
+        const size = resourceOf(description, 'xmpDM:videoFrameSize');
+        const parameters =
+            itemsOf(resourceOf(description, 'zelDM:controller'), 'zelDM:parameters', 'rdf:Bag').map(resourceIn);
+        const search = parameters.find((parameter) => valueOf(parameter, 'xmpDM:name') === 'showsearch') ?? [];
         const keywords = valueOf(description, 'zelDM:keywords');
         return {
             version: valueOf(description, 'zel:version'),
@@ -98,13 +142,12 @@ class PacketReader {
             thumbnail: valueOf(description, 'zelDM:thumbnail'),
             firstFrame: valueOf(description, 'zelDM:firstFrame'),
             length: Math.round(
-                (this.number(duration, 'xmpDM:value', place, /^\d+$/) ?? 0) * 1000 * scale[1] / scale[2]),
-            width: this.number(size, 'stDim:w', place, /^\d+$/) ?? 0,
-            height: this.number(size, 'stDim:h', place, /^\d+$/) ?? 0,
+                (this.number(duration, 'xmpDM:value', place, natural) ?? 0) * 1000 * scale[1] / scale[2]),
+            width: this.number(size, 'stDim:w', place, natural) ?? 0,
+            height: this.number(size, 'stDim:h', place, natural) ?? 0,
             hasSearchBar: valueOf(search, 'xmpDM:value') === 'true',
-            files: itemsOf(
-                childOf(description, 'zelDM:contentList', 'rdf:Description'), 'zelDM:files', 'rdf:Seq')
-                .map((file) => valueOf(file, 'xmpDM:value')),
+            files: itemsOf(resourceOf(description, 'zelDM:contentList'), 'zelDM:files', 'rdf:Seq')
+                .map((file) => valueOf(resourceIn(file), 'xmpDM:value')),
         };
     }
 
@@ -115,7 +158,8 @@ class PacketReader {
         return 1000;
     }
 
-    // The items of a track in the order of their starts; those without a readable start are left out.
+    // The items of a track in the order of their starts, with their positions in the packet; those without a
+    // readable start are left out.
     items(track, rate, placeKey, readItem) {
         return itemsOf(track, 'xmpDM:markers', 'rdf:Seq')
             .map((marker, index) => {
@@ -128,7 +172,7 @@ class PacketReader {
                 const start = milliseconds('xmpDM:startTime');
                 if (start === undefined) return undefined;
                 place.time = start;
-                return readItem(resource, start, milliseconds, place);
+                return { position: index, ...readItem(resource, start, milliseconds, place) };
             })
             .filter((item) => item !== undefined)
             .sort((a, b) => a.start - b.start);
@@ -137,14 +181,14 @@ class PacketReader {
     image(resource, name, place) {
         return {
             image: valueOf(resource, name),
-            index: this.number(resource, 'zelDM:imageindex', place) ?? 0,
-            offset: this.number(resource, 'zelDM:imageoffset', place) ?? 0,
+            index: this.digits(resource, 'zelDM:imageindex', place) ?? '0',
+            offset: this.digits(resource, 'zelDM:imageoffset', place) ?? '0',
         };
     }
 
     colour(track, name, place) {
-        const colour = childOf(track, name);
-        return ['xmpG:red', 'xmpG:green', 'xmpG:blue'].map((component) => this.number(colour, component, place) ?? 0);
+        const colour = resourceOf(track, name);
+        return ['xmpG:red', 'xmpG:green', 'xmpG:blue'].map((part) => this.number(colour, part, place, component) ?? 0);
     }
 
     captions(track, place) {
@@ -153,7 +197,7 @@ class PacketReader {
             rate,
             fontFamily: valueOf(track, 'stFnt:fontFamily'),
             fontSize: this.number(track, 'zelDM:fontSize', place) ?? 20,
-            opacity: this.number(track, 'zelDM:bgOpacity', place, /^[\d.]+(e[+-]?\d+)?$/) ?? 1,
+            opacity: this.number(track, 'zelDM:bgOpacity', place, fraction) ?? 1,
             colour: this.colour(track, 'zel:fgColor', place),
             background: this.colour(track, 'zel:bgColor', place),
             items: this.items(track, rate, 'faultOfCaption', (resource, start, milliseconds) => ({
@@ -162,22 +206,19 @@ class PacketReader {
                 vertical: valueOf(resource, 'zelDM:valign'),
                 horizontal: valueOf(resource, 'zelDM:halign'),
                 texts: new Map(itemsOf(resource, 'xmpDM:name', 'rdf:Alt').map((text) =>
-                    [valueOf(text, 'xml:lang'), plainText(text.textContent)])),
+                    [languageOf(text), plainText(text.textContent)])),
             })),
         };
     }
 
     contents(track, place) {
         const rate = this.rate(track, place);
-        return {
-            rate,
-            image: valueOf(track, 'zelDM:image'),
-            items: this.items(track, rate, 'faultOfEntry', (resource, start, _, itemPlace) => ({
-                start,
-                text: valueOf(resource, 'xmpDM:name'),
-                ...this.image(resource, 'zelDM:image', itemPlace),
-            })),
-        };
+        const image = valueOf(track, 'zelDM:image');
+        const items = this.items(track, rate, 'faultOfEntry', (resource, start, _, itemPlace) => {
+            const own = this.image(resource, 'zelDM:image', itemPlace);
+            return { start, text: valueOf(resource, 'xmpDM:name'), ...own, image: own.image || image };
+        });
+        return { rate, image, items };
     }
 
     screenTexts(track, place) {
@@ -216,7 +257,7 @@ class PacketReader {
 // The languages of the captions in the order of the packet's list, then those that are not in it.
 function languagesOf(description, captions) {
     const names = new Map(itemsOf(description, 'zel:langName', 'rdf:Bag').map((item) =>
-        [valueOf(item, 'xml:lang'), item.textContent]));
+        [languageOf(item), item.textContent]));
     const used = new Set(captions.items.flatMap((caption) => [...caption.texts.keys()]));
     const listed = [...names.keys()].filter((id) => used.has(id));
     return [...new Set([...listed, ...used])].map((id) => ({ id, name: names.get(id) ?? id }));
@@ -235,8 +276,12 @@ export function readPacket(document) {
         throw new PacketError('foreignRoot', { found: `<${root.nodeName}>`, expected: '<x:xmpmeta>' });
     const rdf = childOf(root, 'rdf:RDF');
     if (!rdf) throw new PacketError('foreignContent', { parent: '<x:xmpmeta>', expected: '<rdf:RDF>' });
-    const description = childrenOf(rdf, 'rdf:Description').find((node) => valueOf(node, 'zel:version') !== '');
-    if (!description)
+    // The descriptions about the same thing are one resource.
+    const aboutOf = (node) => node.getAttributeNS(namespaces.rdf, 'about') ?? '';
+    const descriptions = childrenOf(rdf, 'rdf:Description');
+    const main = descriptions.find((node) => valueOf([node], 'zel:version') !== '');
+    const description = descriptions.filter((node) => main && aboutOf(node) === aboutOf(main));
+    if (!main)
         throw new PacketError('foreignContent',
             { parent: '<rdf:RDF>', expected: '<rdf:Description> with zel:version' });
 
@@ -265,23 +310,39 @@ function excerptAt(text, { line, column }) {
     return found.slice(begin, begin + excerptLength);
 }
 
+// Where the document type declaration would be: after white space, comments and processing instructions.
+function endOfProlog(text) {
+    const part = /\s+|<\?[^]*?\?>|<!-{2}[^]*?-->/y;
+    let end = 0;
+    while (part.test(text)) end = part.lastIndex;
+    return end;
+}
+
+/** Returns what the parser says of a text that is not XML: line, column and reason; undefined for XML. */
+export function parserErrorIn(document) {
+    const [error] = ['xhtml', 'errors'].flatMap((prefix) =>
+        [...document.getElementsByTagNameNS(namespaces[prefix], 'parsererror')]);
+    if (!error) return undefined;
+    // Chromium and Safari have in a div: "error on line 1 at column 3: reason". Firefox has the lines "XML Parsing
+    // Error: reason", the location, and "Line Number 1, Column 3:".
+    const text = (childOf(error, 'xhtml:div') ?? error).textContent;
+    const [, line = 1, column = 1] = /line (?:number )?(\d+)(?: at|,) column (\d+)/i.exec(text) ?? [];
+    const reason = /(?:column \d+|parsing error): *(.+)/i.exec(text)?.[1] ?? '';
+    return { line: Number(line), column: Number(column), reason };
+}
+
 /** Parses the text with the browser's parser and reads it. Throws a PacketError. */
 export function parsePacket(text) {
-    if (text.trim() === '') throw new PacketError('empty');
+    if (isBlank(text)) throw new PacketError('empty');
     // Its entities could make a small file fill the memory.
-    const doctype = text.indexOf('<!DOCTYPE');
-    if (doctype >= 0) {
-        const place = placeAt(text, doctype);
+    const prolog = endOfProlog(text);
+    if (text.startsWith('<!DOCTYPE', prolog)) {
+        const place = placeAt(text, prolog);
         throw new PacketError('doctype', place, excerptAt(text, place));
     }
     const document = new DOMParser().parseFromString(text, 'application/xml');
-    const error = document.getElementsByTagName('parsererror')[0];
-    if (error) {
-        const [, line = 1, column = 1] = /line\D*(\d+)\D+(\d+)/i.exec(error.textContent) ?? [];
-        const place = { line: Number(line), column: Number(column) };
-        const reason = /column \d+: *(.+)/i.exec(error.textContent)?.[1] ?? '';
-        throw new PacketError('malformed', { ...place, reason }, excerptAt(text, place));
-    }
+    const error = parserErrorIn(document);
+    if (error) throw new PacketError('malformed', error, excerptAt(text, error));
     return readPacket(document);
 }
 
@@ -298,8 +359,10 @@ export function decodePacket(bytes) {
     try {
         return new TextDecoder('utf-8', { fatal: true }).decode(bytes);
     } catch {
-        const decoded = new TextDecoder('utf-8').decode(bytes);
-        const valid = decoded.slice(0, decoded.indexOf('\ufffd'));
-        throw new PacketError('notUtf8', { byte: new TextEncoder().encode(valid).length });
+        // The decoder writes U+FFFD for what it cannot read, so that is where the encoded text first differs.
+        const encoded = new TextEncoder().encode(new TextDecoder('utf-8', { ignoreBOM: true }).decode(bytes));
+        let byte = encoded.findIndex((value, index) => value !== bytes[index]);
+        while ((encoded[byte] & 0xc0) === 0x80) --byte;
+        throw new PacketError('notUtf8', { byte });
     }
 }

@@ -13,10 +13,10 @@ export class Pictures {
     #grabber;
     #isGrabbing = false;
 
-    /** Uses a file that the user opened for the items that name it. */
+    /** Uses a file that the user opened for the items that name it, in whatever folder. */
     addFile(file) {
+        URL.revokeObjectURL(this.#files.get(file.name));
         this.#files.set(file.name, URL.createObjectURL(file));
-        this.#failed.delete(file.name);
     }
 
     /** Takes frames from the video at the address; undefined for none. */
@@ -24,6 +24,8 @@ export class Pictures {
         this.#frames.clear();
         this.#queue = [];
         this.#isGrabbing = false;
+        this.#grabber?.removeAttribute('src');
+        this.#grabber?.load();
         this.#grabber = undefined;
         if (address === undefined) return;
         const grabber = element('video', { preload: 'auto' });
@@ -38,7 +40,7 @@ export class Pictures {
     make(name, time) {
         if (name === '' && !this.#grabber) return '';
         const box = element('span', { class: 'thumbnail' });
-        const address = this.#files.get(name) ?? (this.#failed.has(name) ? undefined : addressBeside(name));
+        const address = this.#files.get(name.split('/').pop()) ?? (this.#failed.has(name) ? undefined : addressBeside(name));
         if (address === undefined) {
             this.#showFrame(box, time);
             return box;

@@ -1,4 +1,4 @@
-const isBlank = (text) => text.trim() === '';
+import { hasText, isBlank } from './packet.js';
 
 function firstTextOf(caption) {
     return [...caption.texts].find(([, text]) => !isBlank(text)) ?? ['', ''];
@@ -19,21 +19,19 @@ function overlapsIn(captions, language) {
     const places = [];
     let longest;
     for (const caption of captions) {
-        const text = caption.texts.get(language) ?? '';
-        if (isBlank(text) || caption.end <= caption.start) continue;
+        if (!hasText(caption, language) || caption.end <= caption.start) continue;
+        const textOf = ({ texts }) => texts.get(language);
         if (longest && caption.start < longest.end)
-            places.push({ time: caption.start, language, text, earlier: longest.texts.get(language) });
+            places.push({ time: caption.start, language, text: textOf(caption), earlier: textOf(longest) });
         if (!longest || caption.end > longest.end) longest = caption;
     }
     return places;
 }
 
-const speaks = (caption, { id }) => !isBlank(caption.texts.get(id) ?? '');
-
 // The languages whose captions were timed together: more than half of one's captions are in the other, too.
 // A language without any text belongs to all.
 function timingGroups(captions, languages) {
-    const count = (...both) => captions.filter((caption) => both.every((language) => speaks(caption, language))).length;
+    const count = (...both) => captions.filter((caption) => both.every(({ id }) => hasText(caption, id))).length;
     let groups = [];
     for (const language of languages) {
         const belongs = (other) => {
@@ -48,14 +46,14 @@ function timingGroups(captions, languages) {
 
 function lackingIn(captions, language, group) {
     return captions
-        .filter((caption) => !speaks(caption, language) && group.some((other) => speaks(caption, other)))
+        .filter((caption) => !hasText(caption, language.id) && group.some(({ id }) => hasText(caption, id)))
         .map(captionPlace);
 }
 
 /**
  * Finds the problems of a packet. `problems` are kinds, each with its label, the label's values, and places;
- * `groups` are the languages that were timed together. A place has a time, except if a value there cannot be
- * read (then `fault`).
+ * `groups` are the languages that were timed together. A place has a time, except where a value cannot be read:
+ * that place has only `fault`, the value with its own place, which may lack a time.
  */
 export function findProblems(packet) {
     const { header, languages, faults } = packet;
@@ -67,7 +65,8 @@ export function findProblems(packet) {
     const isLate = (entry) => header.length > 0 && entry.start > header.length;
     const isEmpty = (item) => isBlank(item.text);
     const hasNoText = (caption) => isBlank(firstTextOf(caption)[1]);
-    const hasNoEntry = (item) => item.entry !== 0 && !(item.entry > 0 && item.entry < entries.length);
+    const positions = new Set(entries.map(({ position }) => position));
+    const hasNoEntry = ({ entry }) => entry !== 0 && !positions.has(entry);
     const problem = (key, places, language) => ({ key, places, language });
 
     const groups = timingGroups(captions, languages);
@@ -89,7 +88,10 @@ export function findProblems(packet) {
     return { problems, groups: groups.map((group) => group.map(({ name }) => name)) };
 }
 
-/** Reads the report of the program that wrote the packet, in the form of findProblems(); `file` names a line. */
+/**
+ * Reads the report of the program that wrote the packet, in the form of findProblems(). Here, `file` names a file
+ * or its line, and a place without a `time` is one in a file only.
+ */
 export function readReport({ problems, timing_groups: groups }) {
     const place = ({ start_ms: time, language = '', text, file, line, detail }) =>
         ({ time, language, text, file: line === undefined ? file : `${file}:${line}`, detail });

@@ -28,6 +28,7 @@ export class SearchView {
         input.addEventListener('keydown', (event) => {
             if (event.key !== 'Enter' || event.isComposing) return;
             event.preventDefault();
+            if (this.#hits.length > 0) this.show();
             this.list.focus();
         });
         input.placeholder = label('searchHint');

@@ -1,15 +1,12 @@
 import { element, textElement } from './dom.js';
 import { IntervalIndex } from './intervals.js';
 import { label } from './labels.js';
+import { hasText } from './packet.js';
 import { formatTime } from './times.js';
 
 const svg = 'http://www.w3.org/2000/svg';
 // The width of a lane in its own units.
 const laneWidth = 10000;
-
-function hasText(caption, language) {
-    return (caption.texts.get(language) ?? '').trim() !== '';
-}
 
 /** Draws a lane for the captions of each language, the contents and the screen texts; a click jumps. */
 export class Timeline {
@@ -22,16 +19,16 @@ export class Timeline {
     open(packet) {
         this.lanes = [
             ...packet.languages.map(({ id, name }) => ({
-                kind: 'captions', name: label('laneOfCaptions', { language: name }), title: name, language: id,
+                kind: 'captions', name: textElement('span', name),
                 items: packet.captions.items.filter((caption) => hasText(caption, id)),
                 textOf: (caption) => caption.texts.get(id),
             })),
             {
-                kind: 'contents', name: label('laneOfContents'), items: packet.contents.items,
+                kind: 'contents', name: element('span', {}, label('laneOfContents')), items: packet.contents.items,
                 textOf: (entry) => entry.text,
             },
             {
-                kind: 'screen-texts', name: label('laneOfScreenTexts'), items: packet.screenTexts.items,
+                kind: 'screen-texts', name: element('span', {}, label('laneOfScreenTexts')), items: packet.screenTexts.items,
                 textOf: (item) => item.text,
             },
         ].filter(({ items }) => items.length > 0);
@@ -40,11 +37,20 @@ export class Timeline {
         this.container.style.setProperty(
             '--video-end', beyond ? packet.header.length / this.player.duration : 1);
         this.container.classList.toggle('has-end', beyond);
+        this.#fit();
     }
 
     draw() {
         const { time, duration } = this.player;
         this.container.style.setProperty('--position', duration > 0 ? Math.min(time / duration, 1) : 0);
+    }
+
+    // Lanes that need scrolling can be scrolled by keyboard, and the seek bar is as long as they are.
+    #fit() {
+        const { container } = this;
+        if (container.scrollHeight > container.clientHeight) container.tabIndex = 0;
+        else container.removeAttribute('tabindex');
+        container.parentElement.style.setProperty('--scroll-bar', `${container.offsetWidth - container.clientWidth}px`);
     }
 
     // One path for all items, so that a long packet makes no more elements than a short one.
@@ -73,7 +79,7 @@ export class Timeline {
         });
         track.addEventListener('click', (event) =>
             this.player.seek(index.at(timeAt(event))[0]?.start ?? timeAt(event)));
-        return element('div', { class: `lane lane-${lane.kind}` },
-            textElement('span', lane.title ?? lane.name, 'en', { class: 'lane-name' }), track);
+        lane.name.className = 'lane-name';
+        return element('div', { class: `lane lane-${lane.kind}` }, lane.name, track);
     }
 }

@@ -13,6 +13,9 @@ export class VirtualList {
     #tops = [0];
     #active = 0;
 
+    /** Whether the keyboard is at a row that was not pressed since. */
+    isBrowsed = false;
+
     /**
      * `makeRow(index)` makes the button of a row, and `updateRow(button, index)` shows its state, each time
      * that the row is drawn. Until a row was visible, it counts as `estimate` pixels high.
@@ -27,7 +30,12 @@ export class VirtualList {
         scroller.append(this.list);
         scroller.addEventListener('scroll', () => this.draw(), { passive: true });
         this.list.addEventListener('keydown', (event) => this.#moveFocus(event));
-        this.list.addEventListener('focusin', (event) => this.#setActive(this.#indexOf(event.target)));
+        this.list.addEventListener('focusin', ({ target }) => {
+            this.#setActive(this.#indexOf(target));
+            this.isBrowsed = target.matches(':focus-visible');
+        });
+        for (const type of ['click', 'focusout'])
+            this.list.addEventListener(type, () => { this.isBrowsed = false; });
         new ResizeObserver(() => this.draw()).observe(scroller);
     }
 
@@ -35,20 +43,28 @@ export class VirtualList {
         return this.#heights.length;
     }
 
-    get hasFocus() {
-        return this.list.contains(document.activeElement);
-    }
-
     /** Shows other rows, from the first on. */
     reset(count) {
-        for (const row of this.#rows.values()) row.remove();
-        this.#rows.clear();
+        this.#removeRows();
         this.#heights = new Array(count).fill(this.estimate);
         this.#active = 0;
         this.list.hidden = count === 0;
         this.#place();
         this.scroller.scrollTop = 0;
         this.draw();
+    }
+
+    /** Makes the same rows again; list and focus stay where they are. */
+    remake() {
+        const hasFocus = this.list.contains(document.activeElement);
+        this.#removeRows();
+        this.draw();
+        if (hasFocus) this.#buttonOf(this.#active).focus({ preventScroll: true });
+    }
+
+    #removeRows() {
+        for (const row of this.#rows.values()) row.remove();
+        this.#rows.clear();
     }
 
     /** Draws the rows that are visible now. */
@@ -60,11 +76,9 @@ export class VirtualList {
 
     /** Scrolls to the row, if it is not in the middle of the window already. */
     scrollTo(index) {
-        const view = this.scroller.clientHeight;
-        const top = this.#tops[index] - this.scroller.scrollTop;
-        if (top < view * 0.2 || this.#tops[index + 1] - this.scroller.scrollTop > view * 0.7)
-            this.scroller.scrollTop = this.#tops[index] - view * 0.3;
-        this.draw();
+        this.#settle((top, bottom, view) => {
+            if (top < view * 0.2 || bottom > view * 0.7) this.scroller.scrollTop += top - view * 0.3;
+        }, index);
     }
 
     focus(index = this.#active) {
@@ -90,14 +104,18 @@ export class VirtualList {
         if (now) now.tabIndex = 0;
     }
 
-    // Drawing can change the heights of the rows above, so the place is checked again.
     #reveal(index) {
+        this.#settle((top, bottom, view) => {
+            if (top < 0) this.scroller.scrollTop += top;
+            else if (bottom > view) this.scroller.scrollTop += bottom - view;
+        }, index);
+    }
+
+    // Scrolls and draws. Drawing can change the heights of the rows above, so the place is checked again.
+    #settle(scroll, index) {
         for (let pass = 0; pass < 3; ++pass) {
-            const view = this.scroller.clientHeight;
-            const top = this.#tops[index];
-            if (top < this.scroller.scrollTop) this.scroller.scrollTop = top;
-            else if (this.#tops[index + 1] > this.scroller.scrollTop + view)
-                this.scroller.scrollTop = this.#tops[index + 1] - view;
+            const { scrollTop, clientHeight } = this.scroller;
+            scroll(this.#tops[index] - scrollTop, this.#tops[index + 1] - scrollTop, clientHeight);
             this.draw();
         }
     }

@@ -13,6 +13,7 @@ async function findingsIn(page, state) {
 
 const appearances = [
     ['light', { colorScheme: 'light' }], ['dark', { colorScheme: 'dark' }], ['forced', { forcedColors: 'active' }],
+    ['dark forced', { colorScheme: 'dark', forcedColors: 'active' }],
 ];
 for (const [name, colours] of appearances) {
     for (const width of [1280, 320]) {
@@ -279,6 +280,20 @@ test('shortcuts play, jump and switch captions, and can be switched off', async 
     assert.equal((await shownCaptions(page)).length, 0);
     await page.keyboard.press('c');
     assert.equal((await shownCaptions(page)).length, 1);
+    const selects = [page.locator('#first-language'), page.locator('#second-language')];
+    const chosen = () => Promise.all(selects.map((select) => select.inputValue()));
+    await selects[1].selectOption('de');
+    await page.locator('#play').focus();
+    await page.keyboard.press('c');
+    assert.deepEqual(await shownCaptions(page), []);
+    await page.keyboard.press('c');
+    assert.deepEqual(await chosen(), ['en', 'de']);
+    for (const select of selects) await select.selectOption('');
+    await page.locator('#play').focus();
+    await page.keyboard.press('c');
+    assert.deepEqual(await chosen(), ['en', 'de']);
+    await selects[1].selectOption('');
+    await page.locator('#play').focus();
     assert.equal(await press('Control+l'), '00:00:07.500');
     for (const key of ['k', ' ']) {
         await page.keyboard.press(key);
@@ -296,4 +311,94 @@ test('shortcuts play, jump and switch captions, and can be switched off', async 
     assert.equal((await shownCaptions(page)).length, 1);
     await page.reload();
     assert.equal(await press('l'), '00:00:00.000');
+});
+
+test('shortcuts do no harm without a packet, nor with another one', async () => {
+    const page = await openPage(undefined);
+    for (const key of [',', '.', 'c', 'j', 'l', '/', 'k', 'k']) await page.keyboard.press(key);
+    assert.deepEqual(page.errors, []);
+    await pickFiles(page, packetFile(sample));
+    await until(page, () => document.getElementById('title').textContent === 'The Paper Boat');
+    await page.keyboard.press('c');
+    await pickFiles(page, packetFile(golden));
+    await until(page, () => document.getElementById('title').textContent === 'Tea & "Time"');
+    for (const presses of [1, 2, 3]) {
+        await page.keyboard.press('c');
+        assert.notEqual(await page.locator('#first-language').evaluate((select) => select.selectedIndex), -1, presses);
+    }
+});
+
+// The ratio of the brightnesses of two colours, as WCAG defines it.
+function contrast(page, ...colours) {
+    return page.evaluate((both) => {
+        const [lighter, darker] = both.map((colour) => {
+            const context = new OffscreenCanvas(1, 1).getContext('2d');
+            context.fillStyle = colour;
+            context.fillRect(0, 0, 1, 1);
+            const [red, green, blue] = [...context.getImageData(0, 0, 1, 1).data].map((value) =>
+                value / 255 <= 0.04045 ? value / 255 / 12.92 : ((value / 255 + 0.055) / 1.055) ** 2.4);
+            return 0.2126 * red + 0.7152 * green + 0.0722 * blue;
+        }).sort((a, b) => b - a);
+        return (lighter + 0.05) / (darker + 0.05);
+    }, colours);
+}
+
+test('the hint of the search can be read, as a whole', async () => {
+    for (const colorScheme of ['light', 'dark']) {
+        const page = await openPage(sample, { colorScheme });
+        const colours = await page.locator('#search').evaluate((input) =>
+            [getComputedStyle(input, '::placeholder').color, getComputedStyle(input).backgroundColor]);
+        assert.ok(await contrast(page, ...colours) >= 4.5, colours.join());
+    }
+    for (const width of [320, 640, 1280]) {
+        const page = await openPage(sample, { viewport: { width, height: 800 } });
+        const [space, needed] = await page.locator('#search').evaluate((input) => {
+            const { font, paddingLeft, paddingRight } = getComputedStyle(input);
+            const context = new OffscreenCanvas(1, 1).getContext('2d');
+            context.font = font;
+            return [input.clientWidth - parseFloat(paddingLeft) - parseFloat(paddingRight),
+                context.measureText(input.placeholder).width];
+        });
+        assert.ok(needed <= space, `${needed} of ${space} at ${width}`);
+    }
+});
+
+test('the position is clear on every lane, in forced colours too', async () => {
+    for (const colorScheme of ['light', 'dark']) {
+        const page = await openPage(sample, { forcedColors: 'active', colorScheme });
+        const [line, edge, items] = await page.locator('.lane-track').first().evaluate((track) => {
+            const { borderLeftColor, outlineColor, outlineStyle } = getComputedStyle(track, '::after');
+            return [borderLeftColor, outlineStyle === 'none' ? borderLeftColor : outlineColor,
+                getComputedStyle(track.querySelector('path')).fill];
+        });
+        assert.ok(await contrast(page, line, edge) >= 3, `${line} ${edge}`);
+        assert.ok(await contrast(page, edge, items) >= 3, `${edge} ${items}`);
+    }
+});
+
+test('a message keeps away from the edges of the window', async () => {
+    for (const width of [320, 1280]) {
+        const page = await openPage('<x', { viewport: { width, height: 800 } });
+        const box = await page.locator('#error').boundingBox();
+        assert.ok(box.x >= 12 && box.x + box.width <= width - 12, `${box.x} + ${box.width}`);
+    }
+});
+
+test('many languages and long texts leave room for the lists', async () => {
+    const names = Array.from({ length: 200 }, (_, index) => `x${index}`);
+    const texts = names.map((name) => `<rdf:li xml:lang="${name}">text</rdf:li>`).join('');
+    const packet = golden.replace('Tea &amp;', `${'long '.repeat(20000)}`)
+        .replaceAll(/<xmpDM:name><rdf:Alt>.*?<\/rdf:Alt>/gs, `<xmpDM:name><rdf:Alt>${texts}</rdf:Alt>`);
+    for (const width of [320, 1280]) {
+        const page = await openPage(packet, { viewport: { width, height: 800 } });
+        assert.equal(await page.locator('.lane').count(), 202);
+        assert.ok((await page.locator('#panels').boundingBox()).y < 1400);
+        assert.ok(await page.evaluate(() => document.documentElement.scrollHeight) < 2200);
+        await tabTo(page, 'lanes');
+        await page.keyboard.press('End');
+        await until(page, () => document.getElementById('lanes').scrollTop > 1000);
+        const [bar, lane] = await page.evaluate(() => ['#seek-bar', '.lane-track'].map((selector) =>
+            document.querySelector(selector).getBoundingClientRect().right));
+        assert.ok(Math.abs(bar - lane) < 1, `${bar} ${lane}`);
+    }
 });

@@ -30,12 +30,13 @@ async function openTab(page, name) {
     await page.getByRole('tab', { name }).click();
 }
 
-test('the page shows its packet from a file, without any other file', async () => {
-    const page = await openPage(sample);
+test('the preview that the tool wrote shows its packet and report, without any other file', async () => {
+    const page = await openPage(sample, { written: true });
     assert.equal(await textOf(page, '#title'), 'The Paper Boat');
     assert.equal(await page.title(), 'The Paper Boat');
     assert.equal(await textOf(page, '#creator'), 'by Ann & Bo');
     assert.equal(await textOf(page, '#duration'), '00:00:32.000');
+    assert.equal(await textOf(page, '#problem-count'), '12');
     assert.equal(await page.locator('#welcome').isVisible(), false);
     // The content file that the packet names is all that it looks for.
     assert.deepEqual(page.requests.map((url) => url.slice(page.folder.length)), ['/preview.html', '/paper-boat.webm']);
@@ -166,6 +167,19 @@ test('each alignment puts the caption at its place', async () => {
     }
 });
 
+test('captions of the same height never cover each other', async () => {
+    const cues = [[0, 1000, 'left '.repeat(20)], [0, 1000, 'centre '.repeat(20)], [0, 1000, 'right '.repeat(20)]];
+    const sides = ['left', 'center', 'right'];
+    const page = await openPage(publishCues({ captions: { en: cues } })
+        .replace(/zelDM:halign="\w*"/g, () => `zelDM:halign="${sides.shift()}"`));
+    const boxes = await page.locator('.caption').evaluateAll((captions) =>
+        captions.map((caption) => caption.getBoundingClientRect()).sort((a, b) => a.top - b.top));
+    assert.equal(boxes.length, 3);
+    assert.ok(boxes[0].bottom <= boxes[1].top && boxes[1].bottom <= boxes[2].top);
+    assert.deepEqual(await page.locator('.caption').evaluateAll((captions) =>
+        captions.map((caption) => getComputedStyle(caption).textAlign).sort()), ['center', 'left', 'right']);
+});
+
 test('captions show in one language, in two, or not at all', async () => {
     const page = await openPage(sample);
     await page.getByRole('button', { name: 'Next caption' }).click();
@@ -191,6 +205,23 @@ test('texts run in the direction of their script', async () => {
     await choose(page, '#first-language', 'ja');
     assert.deepEqual(await directions(), ['ltr', 'rtl', 'ltr']);
     assert.equal(await page.locator('#transcript-rows .row-text').first().getAttribute('lang'), 'ar');
+});
+
+test('a text of a right-to-left language runs right to left, whatever its first letter', async () => {
+    const page = await openPage(publishCues({ captions: { ar: [[0, 1000, 'DVD: \u0634\u0627\u0647\u062f!']] } }));
+    const directions = await page.evaluate(() => ['.caption', '#transcript-rows .row-text'].map((selector) => {
+        const text = document.querySelector(selector);
+        const range = document.createRange();
+        range.setStart(text.firstChild, 0);
+        range.setEnd(text.firstChild, 1);
+        const letter = range.getBoundingClientRect();
+        range.selectNodeContents(text);
+        return [text.dir, letter.left > range.getBoundingClientRect().left + 5];
+    }));
+    assert.deepEqual(directions, [['rtl', true], ['rtl', true]]);
+    const unknown = await openPage(golden.replaceAll('xml:lang="de"', 'xml:lang="d_e"'));
+    await choose(unknown, '#transcript-language', 'd_e');
+    assert.equal(await unknown.locator('#transcript-rows .row-text').first().getAttribute('dir'), 'auto');
 });
 
 test('line feeds of a caption are lines, and RTF is not shown', async () => {
@@ -226,6 +257,15 @@ test('each caption shows from its start until just before its end', async () => 
     }
 });
 
+test('the first language is the one that the user prefers most', async () => {
+    const page = await openPage(sample, { locale: 'de-AT' });
+    assert.equal(await page.locator('#first-language').inputValue(), 'de');
+    const context = page.context();
+    await context.addInitScript(() => Object.defineProperty(navigator, 'languages', { value: ['ja', 'fr', 'ar'] }));
+    await page.reload();
+    assert.equal(await page.locator('#first-language').inputValue(), 'ja');
+});
+
 test('the timeline has a lane for each language and set, and a click jumps to the item', async () => {
     const page = await openPage(sample);
     assert.deepEqual(await page.locator('.lane-name').allTextContents(),
@@ -252,6 +292,11 @@ test('the contents jump, mark the entry that shows, and give the image', async (
     assert.deepEqual(await page.locator('#contents-rows .row-text').allTextContents(), ['Boil', 'Pour & drink']);
     assert.deepEqual(await page.locator('#contents-rows .row-note').allTextContents(),
         ['thumbs & more.png, image 0, offset 0', 'thumbs & more.png, image 1, offset 2048']);
+    const large = await openPage(golden.replace('"thumbs &amp; more.png" zelDM:imageindex="0" zelDM:imageoffset="0"',
+        '"" zelDM:imageindex="0" zelDM:imageoffset="18446744073709551615"'));
+    await openTab(large, 'Contents');
+    assert.equal(await large.locator('#contents-rows .row-note').first().textContent(),
+        '<toc>.png, image 0, offset 18446744073709551615');
     assert.equal(await rows(page, 'panel-contents').first().getAttribute('aria-current'), 'true');
     await rows(page, 'panel-contents').nth(1).click();
     assert.equal(await textOf(page, '#time'), '00:00:05.000');
@@ -267,6 +312,9 @@ test('screen texts name their entry, and jump', async () => {
         ['in \u201cPour & drink\u201d', 'shots.png, image 3, offset 4096']);
     await rows(page, 'panel-screen-texts').nth(1).click();
     assert.equal(await textOf(page, '#time'), '00:02:00.000');
+    const other = await openPage(golden.replace('xmpDM:startTime="0"', 'xmpDM:startTime="?"'));
+    await openTab(other, 'Screen text');
+    assert.equal(await other.locator('#screen-text-rows .row-note').nth(1).textContent(), 'in \u201cPour & drink\u201d');
 });
 
 test('thumbnails are files beside the page, or those that were opened', async () => {
@@ -312,6 +360,63 @@ test('the transcript has its own language, follows, and jumps', async () => {
     assert.equal(await textOf(page, '#time'), '00:00:06.400');
 });
 
+const many = publishCues({
+    captions: { en: Array.from({ length: 100 }, (_, index) => [index * 3000, index * 3000 + 2500, `line ${index}.`]) },
+    contents: [[0, 150000, 'First half'], [150000, 300000, 'Second half']],
+});
+
+function showsRow(page, text) {
+    return until(page, (wanted) => {
+        const row = [...document.querySelectorAll('#transcript-rows .row')].find((other) => other.textContent.endsWith(wanted));
+        const view = document.getElementById('transcript-rows').getBoundingClientRect();
+        const box = row?.getBoundingClientRect();
+        return box !== undefined && view.height > 0 && box.top >= view.top - 1 && box.bottom <= view.bottom + 1;
+    }, text);
+}
+
+test('the transcript is at the time when its tab is shown, and when it is told to follow', async () => {
+    const page = await openPage(many);
+    await openTab(page, 'Contents');
+    await rows(page, 'panel-contents').nth(1).click();
+    await openTab(page, 'Transcript');
+    await showsRow(page, 'line 50.');
+    await page.locator('#follow').uncheck();
+    await page.getByRole('slider').press('Home');
+    await showsRow(page, 'line 50.');
+    await page.locator('#follow').check();
+    await showsRow(page, 'line 0.');
+});
+
+test('the transcript follows from gap to gap', async () => {
+    const page = await openPage(publishCues({
+        captions: { en: Array.from({ length: 60 }, (_, index) => [index * 1000 + 500, index * 1000 + 900, `line ${index}.`]) },
+    }, '--length', '60000'));
+    await showsRow(page, 'line 0.');
+    await page.getByRole('slider').press('End');
+    await showsRow(page, 'line 59.');
+});
+
+test('the transcript follows after a row was pressed, but not away from a row that the keyboard moved to', async () => {
+    const page = await openPage(many);
+    await rows(page, 'panel-transcript').nth(2).click();
+    // Without the focus: it is still on the row.
+    await page.evaluate(() => document.querySelectorAll('.lane-track')[1].click());
+    assert.match(await page.evaluate(() => document.activeElement.textContent), /line 2\./);
+    const { width } = await page.locator('.lane-track').first().boundingBox();
+    await page.locator('.lane-track').first().evaluate((track, x) => track.dispatchEvent(new MouseEvent('click',
+        { clientX: track.getBoundingClientRect().left + x })), width * 0.7);
+    await showsRow(page, 'line 70.');
+
+    await page.keyboard.press('Home');
+    await showsRow(page, 'line 0.');
+    await page.keyboard.press('l');
+    await page.waitForTimeout(200);
+    await showsRow(page, 'line 0.');
+    await page.keyboard.press('Enter');
+    for (let presses = 0; presses < 9; ++presses) await page.keyboard.press('l');
+    await showsRow(page, 'line 30.');
+});
+
 test('the search finds all sets and languages, announces the number, marks and jumps', async () => {
     const page = await openPage(sample);
     await page.locator('#search').fill('FOLD');
@@ -333,6 +438,18 @@ test('the search finds all sets and languages, announces the number, marks and j
     await page.locator('#search').fill('');
     await until(page, () => document.getElementById('hit-count').textContent === '');
     assert.equal(await rows(page, 'panel-results').count(), 0);
+});
+
+test('Enter in the search goes to the hits from any tab', async () => {
+    const page = await openPage(sample);
+    await page.locator('#search').fill('paper');
+    await openTab(page, 'Transcript');
+    await page.locator('#search').press('Enter');
+    assert.equal(await page.getByRole('tab', { name: 'Search' }).getAttribute('aria-selected'), 'true');
+    assert.equal(await page.evaluate(() => document.activeElement.closest('#result-rows') !== null), true);
+    await page.keyboard.press('/');
+    await page.keyboard.type('fold');
+    assert.equal(await page.locator('#search').inputValue(), 'fold');
 });
 
 test('the details give every fact of the packet', async () => {

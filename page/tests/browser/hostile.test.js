@@ -128,11 +128,13 @@ test('the policy of the page stops scripts, styles and connections that it does 
 
 const refusals = [
     ['empty', '  \n', /it is empty/, ''],
+    ['not finished', '<x', /^The packet is broken\. Line 1, column 3: Unexpected end of stream$/, /^<x$/],
     ['broken', golden.replace('</rdf:Alt>', '</rdf:Al>'), /broken\. Line 2, column \d+/, /rdf:Al>/],
-    ['cut off', golden.slice(0, 3000), /broken\. Line/, null],
-    ['text', 'Hello', /broken\. Line 1, column 1/, /Hello/],
-    ['an undeclared entity', golden.replace('Tea &amp;', 'Tea &bomb;'), /broken\. Line 1, column \d+/, /&bomb;/],
-    ['an unescaped character', golden.replace('Ann', 'A<nn'), /broken\. Line 1/, /A<nn/],
+    ['cut off', golden.slice(0, 3000),
+        /^The packet is broken\. Line 3, column [\d,]+: Unexpected end of stream: still inside the root element$/, null],
+    ['text', 'Hello', /^The packet is broken\. Line 1, column 1: Unexpected characters outside the root element: H$/, /^Hello$/],
+    ['an undeclared entity', golden.replace('Tea &amp;', 'Tea &bomb;'), /^The packet is broken\. Line 1, column \d+: Unexpected entity: bomb$/, /&bomb;/],
+    ['an unescaped character', golden.replace('Ann', 'A<nn'), /^The packet is broken\. Line 1, column \d+: '<' is not allowed in attributes$/, /A<nn/],
     ['entities that grow', `<!DOCTYPE x [<!ENTITY a "aaaa"><!ENTITY b "&a;&a;&a;&a;">]>\n${golden}`,
         /document type declaration\. Line 1, column 1/, /^<!DOCTYPE/],
     ['an external entity', `<!DOCTYPE x [<!ENTITY a SYSTEM "file:///etc/passwd">]><x>&a;</x>`, /document type/, /SYSTEM/],
@@ -161,6 +163,13 @@ for (const [name, content, message, excerpt] of refusals) {
     });
 }
 
+test('what only looks like a refused packet opens', async () => {
+    const page = await openPage(golden.replace('&lt;b&gt;Tee&lt;/b&gt;', '<![CDATA[<!DOCTYPE x>]]>')
+        .replace('<xmpDM:Tracks>', '<parsererror>line 1 at column 2: fine</parsererror><xmpDM:Tracks>'));
+    assert.equal(await page.locator('#title').textContent(), 'Tea & "Time"');
+    assert.equal(await page.locator('#error-text').textContent(), '');
+});
+
 test('a broken packet in the page itself gets the same message', async () => {
     const page = await openPage('<x>');
     assert.match(await page.locator('#error-text').textContent(), /broken/);
@@ -171,11 +180,12 @@ test('a packet with unreadable values shows the rest, and lists them', async () 
     const page = await openPage(golden
         .replace('xmpDM:startTime="6000"', 'xmpDM:startTime="soon"')
         .replace('xmpDM:value="90500"', 'xmpDM:value=""')
-        .replace('zelDM:bgOpacity="0.25"', 'zelDM:bgOpacity="nan"'));
+        .replace('zelDM:bgOpacity="0.25"', 'zelDM:bgOpacity="1.2.3"').replace('xmpG:red="255"', 'xmpG:red="300"'));
     await page.getByRole('tab', { name: 'Problems' }).click();
     await page.locator('#problems summary').first().click();
     assert.deepEqual(await page.locator('#problems .row').allTextContents(), [
-        'header, xmpDM:value: \u201c\u201d', 'track 1, zelDM:bgOpacity: \u201cnan\u201d',
+        'header, xmpDM:value: \u201c\u201d', 'track 1, zelDM:bgOpacity: \u201c1.2.3\u201d',
+        'track 1, xmpG:red: \u201c300\u201d',
         'screen text 2, xmpDM:startTime: \u201csoon\u201d',
     ]);
     assert.equal(await page.locator('.lane').count(), 4);

@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import test from 'node:test';
 import { captionCount, publishLarge } from './large.js';
-import { openPage, until } from './support.js';
+import { openPage, publishCues, until } from './support.js';
 
 const limit = 700;
 const countElements = () => document.querySelectorAll('*').length;
@@ -74,4 +74,13 @@ test('rows of any height keep their places while the list is scrolled back', asy
         return result;
     });
     assert.deepEqual([...new Set(moved)], [53]);
+});
+
+test('of many captions at one time the stage shows some, and the number of the others', async () => {
+    const cues = Array.from({ length: captionCount }, (_, index) => [0, 1000, `line ${index}`]);
+    const page = await openPage(publishCues({ captions: { en: cues } }));
+    assert.ok(await page.evaluate(countElements) < limit);
+    assert.equal(await page.locator('.caption').count(), 21);
+    assert.equal(await page.locator('.caption').last().textContent(), 'and 9,980 more');
+    assert.deepEqual(page.errors, []);
 });

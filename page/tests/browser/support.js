@@ -66,19 +66,23 @@ export function publishSample() {
         `en=${sample}.en.srt`, `de=${sample}.de.srt`, `ja=${sample}.ja.vtt`, `ar=${sample}.ar.vtt`);
 }
 
+// The built page with the packet, and with the report if publish() wrote one, both taken from its preview.
 function pageWith(packet) {
-    const place = 'id="packet">';
-    return readFileSync(builtPage, 'utf8').replace(place, () => place + Buffer.from(packet).toString('base64'));
+    const preview = previews.get(packet) ?? `id="packet">${Buffer.from(packet).toString('base64')}<`;
+    return ['packet', 'report'].reduce((page, id) => {
+        const [, content = ''] = new RegExp(`id="${id}">([^<]*)<`).exec(preview) ?? [];
+        return page.replace(`id="${id}">`, `$&${content}`);
+    }, readFileSync(builtPage, 'utf8'));
 }
 
 /**
- * Opens the page with the packet in it (without one if it is undefined) and the files beside it: the preview
- * that publish() wrote, if the packet is from there. Returns the browser's page; `errors` of it collects
- * exceptions and complaints of the console.
+ * Opens the page with the packet in it (without one if it is undefined) and the files beside it; `written` opens
+ * the preview that publish() wrote as it is. Returns the browser's page; `errors` of it collects exceptions and
+ * complaints of the console.
  */
-export async function openPage(packet = '', { files = {}, ...options } = {}) {
+export async function openPage(packet = '', { files = {}, written = false, ...options } = {}) {
     const folder = mkdtempSync(join(scratch, 'open-'));
-    writeFileSync(join(folder, 'preview.html'), previews.get(packet) ?? pageWith(packet));
+    writeFileSync(join(folder, 'preview.html'), written ? previews.get(packet) : pageWith(packet));
     for (const [name, content] of Object.entries(files)) {
         mkdirSync(dirname(join(folder, name)), { recursive: true });
         writeFileSync(join(folder, name), content);

@@ -1,6 +1,8 @@
+import { DOMParser } from '@xmldom/xmldom';
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import test from 'node:test';
-import { addressBeside, sortFiles } from '../../modules/files.js';
+import { addressBeside, readFirstPacket, sortFiles } from '../../modules/files.js';
 
 const page = { protocol: 'file:' };
 
@@ -29,4 +31,25 @@ test('files are sorted by their types', () => {
     assert.deepEqual(sortFiles(files), {
         videos: [files[0], files[4]], images: [files[1]], packets: [files[2], files[3]],
     });
+});
+
+function fileOf(name, text) {
+    return { name, arrayBuffer: async () => new TextEncoder().encode(text).buffer };
+}
+
+test('the first file that is a packet is read, else the error of the one that was meant', async (context) => {
+    globalThis.DOMParser = DOMParser;
+    context.after(() => { delete globalThis.DOMParser; });
+    const data = new URL('../../../tests/core/data/header.xmp', import.meta.url);
+    const [empty, foreign, packet] = [fileOf('a.srt', ''), fileOf('b.xmp', '<x/>'), fileOf('c', readFileSync(data, 'utf8'))];
+    const lost = { name: 'd.XMP', arrayBuffer: async () => { throw new Error('gone'); } };
+    const found = async (...files) => {
+        const result = await readFirstPacket(files);
+        return [result.file, result.packet?.header.version ?? result.error?.key];
+    };
+    assert.deepEqual(await found(empty, foreign, packet, lost), [packet, '1.1.0']);
+    assert.deepEqual(await found(empty, foreign, lost), [foreign, 'foreignRoot']);
+    assert.deepEqual(await found(empty, lost), [lost, 'fileFailed']);
+    assert.deepEqual(await found(empty), [empty, 'empty']);
+    assert.deepEqual(await found(), [undefined, undefined]);
 });

@@ -107,8 +107,10 @@ test('entries and screen texts without text are found', () => {
 
 test('screen texts of entries that do not exist are found', () => {
     const screenTexts = [0, 1, -1].map((entry) => ({ start: 5 + entry, end: 9, text: 'y', entry }));
-    assert.deepEqual(kindsOf({ screenTexts, entries: [{ start: 0, end: 9, text: 'x' }] }),
+    assert.deepEqual(kindsOf({ screenTexts, entries: [{ start: 0, end: 9, text: 'x', position: 0 }] }),
         [['screenTextOfUnknownEntry', [6, 4]]]);
+    assert.deepEqual(kindsOf({ screenTexts, entries: [{ start: 0, end: 9, text: 'x', position: 1 }] }),
+        [['screenTextOfUnknownEntry', [4]]]);
     assert.deepEqual(kindsOf({ screenTexts: screenTexts.slice(0, 1) }), []);
 });
 
