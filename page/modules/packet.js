@@ -269,11 +269,16 @@ function linkEntries(contents, length) {
     });
 }
 
+// With the namespace only if that is what differs from a packet.
+function rootTag(name, namespace) {
+    return name === 'x:xmpmeta' ? `<${name} xmlns:x="${namespace}">` : `<${name}>`;
+}
+
 /** Reads the document of a packet. Throws a PacketError if it is another one. */
 export function readPacket(document) {
     const root = document.documentElement;
     if (!isNamed(root, 'x:xmpmeta'))
-        throw new PacketError('foreignRoot', { found: `<${root.nodeName}>`, expected: '<x:xmpmeta>' });
+        throw new PacketError('foreignRoot', { found: rootTag(root.nodeName, root.namespaceURI), expected: '<x:xmpmeta>' });
     const rdf = childOf(root, 'rdf:RDF');
     if (!rdf) throw new PacketError('foreignContent', { parent: '<x:xmpmeta>', expected: '<rdf:RDF>' });
     // The descriptions about the same thing are one resource.
