@@ -21,8 +21,10 @@ unsigned long videoLength(const Options& options, const CueFiles& files)
 {
     if (options.length) return *options.length;
     const std::optional<long long> end = lastEnd(files);
-    if (!end) throw PublishError("--length is missing, and no file has a cue to take it from");
-    return static_cast<unsigned long>(*end);
+    if (end) return static_cast<unsigned long>(*end);
+    for (const CueFile* file : allFiles(files))
+        if (!file->hint.empty()) throw PublishError(file->name + ": " + file->hint);
+    throw PublishError("--length is missing, and no file has a cue to take it from");
 }
 
 void setFont(i_ZelDataCaptions& captions, const Options& options)

@@ -244,6 +244,11 @@ TEST_F(ReportTest, FileInUtf16WithoutAMarkIsNamed)
               "problems:\n  1 file without a cue:\n    en " + en +
                   ": it looks like UTF-16; to convert it:\n  iconv -f UTF-16LE -t UTF-8 " + en +
                   " > " + pathOf("en.utf-8.srt") + "\n");
+    const RunResult withoutLength = run({"en=" + en});
+    EXPECT_EQ(withoutLength.status, 2);
+    EXPECT_THAT(withoutLength.err,
+                HasSubstr("publish_video: en=" + en +
+                          ": it looks like UTF-16; to convert it:\n  iconv -f UTF-16LE "));
 }
 
 TEST_F(ReportTest, LimitsHoldForTheCleanedText)
