@@ -33,7 +33,7 @@ public:
     {
         known_.emplace_back(&tree_, &plain_);
         plainOf_.reserve(mostSteps);
-        nodeOf_.reserve(mostSteps);
+        plain_.counterpart = &tree_;
     }
 
     void doSomething()
@@ -208,11 +208,11 @@ private:
     /// Neither of the two may ever have been the counterpart of another node.
     void requirePair(ZelDataXmlNode& node, PlainNode& plain)
     {
-        const auto toPlain = plainOf_.try_emplace(&node, &plain);
-        const auto toNode = nodeOf_.try_emplace(&plain, &node);
-        require(toPlain.first->second == &plain && toNode.first->second == &node,
+        const auto [known, isNew] = plainOf_.try_emplace(&node, &plain);
+        if (isNew && plain.counterpart == nullptr) plain.counterpart = &node;
+        require(known->second == &plain && plain.counterpart == &node,
                 "a verb returns another node");
-        if (toPlain.second) known_.emplace_back(&node, &plain);
+        if (isNew) known_.emplace_back(&node, &plain);
     }
 
     Input& input_;
@@ -220,7 +220,6 @@ private:
     PlainNode plain_;
     std::vector<std::pair<ZelDataXmlNode*, PlainNode*>> known_;
     std::unordered_map<ZelDataXmlNode*, PlainNode*> plainOf_{{&tree_, &plain_}};
-    std::unordered_map<PlainNode*, ZelDataXmlNode*> nodeOf_{{&plain_, &tree_}};
     std::unordered_set<PlainNode*> reached_; // by the text verb
 };
 

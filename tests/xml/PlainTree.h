@@ -16,6 +16,8 @@ namespace ZelInterchangeData {
 /// A node of the model.
 struct PlainNode {
     PlainNode* parent = nullptr;
+    /// The node of the tree that a test compares with this one.
+    const void* counterpart = nullptr;
     std::string name;
     std::string text;
     std::vector<std::pair<std::string, std::string>> attributes;
