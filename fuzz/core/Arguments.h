@@ -17,6 +17,24 @@
 
 namespace fuzz {
 
+/// A finding with any fields, usually of a kind that exists.
+inline ZelInterchangeData::ZelDataFinding readFinding(Input& input)
+{
+    ZelInterchangeData::ZelDataFinding finding;
+    finding.kind = static_cast<ZelInterchangeData::ZelDataFinding_tags>(input.byte() % 32);
+    finding.subject = static_cast<ZelInterchangeData::ZelDataFindingSubject_tags>(input.below(8));
+    finding.item = input.number<unsigned long>();
+    finding.start = input.number<long long>();
+    finding.language = input.text();
+    finding.property = input.text();
+    finding.component = input.fraction();
+    finding.value = input.number<long long>();
+    finding.limit = input.number<long long>();
+    finding.laterItem = input.number<unsigned long>();
+    finding.laterStart = input.number<long long>();
+    return finding;
+}
+
 /// A value of type @p Value from @p input.
 template <class Value>
 Value readValue(Input& input)
@@ -25,6 +43,10 @@ Value readValue(Input& input)
         return input.text();
     } else if constexpr (std::is_same_v<Value, std::vector<std::string>>) {
         return input.texts();
+    } else if constexpr (std::is_same_v<Value, ZelInterchangeData::ZelDataFinding>) {
+        return readFinding(input);
+    } else if constexpr (std::is_same_v<Value, std::vector<ZelInterchangeData::ZelDataFinding>>) {
+        return Value(input.below(2));
     } else if constexpr (std::is_same_v<Value, bool>) {
         return input.flag();
     } else if constexpr (std::is_same_v<Value, float>) {

@@ -9,13 +9,29 @@
 #include "core/Calls.h"
 #include "core/Operations.h"
 #include "core/OutputPath.h"
+#include "core/Promises.h"
 #include "support/Target.h"
+
+#include <type_traits>
 
 namespace fuzz {
 
 namespace {
 
+using namespace ZelInterchangeData;
+
 constexpr int mostCalls = 200;
+
+/// Requires what is promised of the findings of @p object if it has any.
+template <class Object>
+void requirePromises(const Object& object)
+{
+    constexpr bool hasFindings =
+        std::is_same_v<Object, i_ZelDataHeader> || std::is_same_v<Object, i_ZelDataCaptions> ||
+        std::is_same_v<Object, i_ZelDataToc> || std::is_same_v<Object, i_ZelDataScreenText> ||
+        std::is_same_v<Object, i_ZelInterchangeDataCore>;
+    if constexpr (hasFindings) requireAgreement(object);
+}
 
 } // namespace
 
@@ -26,6 +42,7 @@ void Session::requireTwins()
     tested_.forEach([&](auto& object) { describe(tested, object); });
     twin_.forEach([&](auto& object) { describe(twin, object); });
     requireEqual(twin, tested, "the worlds differ at the end");
+    tested_.forEach([](auto& object) { requirePromises(object); });
 }
 
 std::vector<Operation> allOperations()

@@ -113,6 +113,30 @@ void describe(std::string& text, ZelAlignment_tags value)
     describe(text, static_cast<std::uint32_t>(value));
 }
 
+void describe(std::string& text, const ZelDataFinding& finding)
+{
+    for (const auto tag :
+         {static_cast<std::uint32_t>(finding.kind), static_cast<std::uint32_t>(finding.subject)})
+        describe(text, tag);
+    describe(text, finding.item);
+    describe(text, finding.start);
+    describe(text, finding.language);
+    describe(text, finding.property);
+    describe(text, finding.component);
+    describe(text, finding.value);
+    describe(text, finding.limit);
+    describe(text, finding.laterItem);
+    describe(text, finding.laterStart);
+}
+
+void describe(std::string& text, const std::vector<ZelDataFinding>& findings)
+{
+    for (const ZelDataFinding& finding : findings) {
+        text += " finding";
+        describe(text, finding);
+    }
+}
+
 void describe(std::string& text, i_ZelDataHeader& header)
 {
     using I = i_ZelDataHeader;

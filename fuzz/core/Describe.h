@@ -25,6 +25,8 @@ void describe(std::string& text, Number value)
     text += " " + std::to_string(value);
 }
 void describe(std::string& text, ZelInterchangeData::ZelAlignment_tags value);
+void describe(std::string& text, const ZelInterchangeData::ZelDataFinding& finding);
+void describe(std::string& text, const std::vector<ZelInterchangeData::ZelDataFinding>& findings);
 void describe(std::string& text, ZelInterchangeData::i_ZelDataHeader& header);
 void describe(std::string& text, ZelInterchangeData::i_ZelDataCaptionItem& item);
 void describe(std::string& text, ZelInterchangeData::i_ZelDataCaptions& captions);

@@ -2,12 +2,14 @@
 /// A filled document: its packet is well-formed, and an independent reader finds every text, time
 /// and number in it.
 ///
-/// The target follows the rules for callers: strings are strict UTF-8 without U+FFFE and U+FFFF,
+/// Most inputs follow the rules for callers: strings are strict UTF-8 without U+FFFE and U+FFFF,
 /// those written as given contain none of the five special characters, and those not stripped
-/// contain no control characters except tab, line feed and carriage return.
+/// contain no control characters except tab, line feed and carriage return. In the others, strings
+/// are any bytes. Then, the same must hold if findProblems() finds no error.
 
-#include "ZelInterchangeData/ZelInterchangeData.h"
+#include "ZelInterchangeData/ZelDataFace.h"
 #include "core/Packet.h"
+#include "core/Promises.h"
 #include "support/Input.h"
 #include "support/Require.h"
 #include "support/StrictText.h"
@@ -17,6 +19,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -28,19 +31,6 @@ using fuzz::requireEqual;
 
 namespace {
 
-void check(ZelDataResult_tags code)
-{
-    require(code == ZelData_Ok, "the library refuses what it promises to accept");
-}
-
-template <class Interface>
-std::unique_ptr<Interface> make(ZelDataResult_tags (*factory)(Interface**))
-{
-    Interface* made = nullptr;
-    check(factory(&made));
-    return std::unique_ptr<Interface>(made);
-}
-
 // Texts of the input, and how a reader sees them
 
 bool isXmlCharacter(std::uint32_t value)
@@ -49,33 +39,11 @@ bool isXmlCharacter(std::uint32_t value)
            !fuzz::isNoncharacter(value);
 }
 
-/// A text that the library strips.
-std::string strippedText(Input& input)
+bool isGiven(std::uint32_t value)
 {
-    return fuzz::filtered(input.text(), [](auto value) { return !fuzz::isNoncharacter(value); });
-}
-
-/// A text that the library escapes and does not strip.
-std::string escapedText(Input& input)
-{
-    return fuzz::filtered(input.text(), isXmlCharacter);
-}
-
-/// A text that the library writes as given.
-std::string givenText(Input& input)
-{
-    return fuzz::filtered(input.text(), [](auto value) {
-        const bool isSpecial =
-            value == '"' || value == '&' || value == '\'' || value == '<' || value == '>';
-        return isXmlCharacter(value) && !isSpecial;
-    });
-}
-
-std::string languageID(Input& input)
-{
-    static const char* const codes[] = {"en", "de", "fr", "JA", "ug", "lu", "he", "zh"};
-    const std::string code = codes[input.below(std::size(codes))];
-    return input.flag() ? code : code + "-" + givenText(input);
+    const bool isSpecial =
+        value == '"' || value == '&' || value == '\'' || value == '<' || value == '>';
+    return isXmlCharacter(value) && !isSpecial;
 }
 
 /// A text after stripping.
@@ -140,9 +108,14 @@ public:
     explicit Filler(Input& input) : input_(input) {}
 
     const Expected& expected() const { return expected_; }
+    /// Whether the strings follow the rules for callers.
+    bool isTame() const { return isTame_; }
+    /// Whether a reader must find what is expected, provided that it can read the packet.
+    bool isExact() const { return isExact_; }
 
     void fill(i_ZelInterchangeDataCore& document)
     {
+        isTame_ = input_.below(4) != 0;
         fillHeader(document);
         const std::size_t sets = input_.below(8);
         if ((sets & 1U) != 0) fillCaptions(document);
@@ -154,6 +127,52 @@ public:
     }
 
 private:
+    /// Runs @p action, which may fail only if a string breaks the rules.
+    template <class Action>
+    void attempt(Action&& action)
+    {
+        try {
+            action();
+        } catch (const ZelDataError& error) {
+            require(!isTame_, error.what());
+            const std::string_view message = error.what();
+            require(std::none_of(
+                        message.begin(), message.end(),
+                        [](char character) { return static_cast<unsigned char>(character) < ' '; }),
+                    "a message has more than one line");
+            isExact_ = false;
+        }
+    }
+
+    /// A text of the input with the characters that @p isAllowed takes, or as it is.
+    template <class IsAllowed>
+    std::string text(IsAllowed&& isAllowed)
+    {
+        const std::string text = input_.text();
+        return isTame_ ? fuzz::filtered(text, isAllowed) : text;
+    }
+    /// A text that the library strips.
+    std::string strippedText()
+    {
+        return text([](auto value) { return !fuzz::isNoncharacter(value); });
+    }
+    /// A text that the library escapes and does not strip.
+    std::string escapedText() { return text(isXmlCharacter); }
+    /// A text that the library writes as given.
+    std::string givenText()
+    {
+        std::string given = text(isGiven);
+        if (given.find('&') != std::string::npos) isExact_ = false;
+        return given;
+    }
+
+    std::string languageID()
+    {
+        static const char* const codes[] = {"en", "de", "fr", "JA", "ug", "lu", "he", "zh"};
+        const std::string code = codes[input_.below(std::size(codes))];
+        return input_.flag() ? code : code + "-" + givenText();
+    }
+
     /// A start, which other markers may share.
     long long start()
     {
@@ -163,17 +182,18 @@ private:
 
     void fillHeader(i_ZelInterchangeDataCore& document)
     {
-        const auto header = make(ZelDataUtilities::createHeaderData);
-        const std::string title = escapedText(input_);
-        const std::string creator = givenText(input_);
-        const std::string description = escapedText(input_);
-        const std::string name = escapedText(input_);
-        const std::string version = escapedText(input_);
-        check(header->setTitle(title));
-        check(header->setCreator(creator));
-        check(header->setDescription(description));
-        check(header->setAppName(name));
-        check(header->setAppVersion(version));
+        const auto header = createHeader();
+        const std::string title = escapedText();
+        const std::string creator = givenText();
+        const std::string description = escapedText();
+        const std::string name = escapedText();
+        const std::string version = escapedText();
+        const auto view = checked(*header);
+        attempt([&] { view.setTitle(title); });
+        attempt([&] { view.setCreator(creator); });
+        attempt([&] { view.setDescription(description); });
+        attempt([&] { view.setAppName(name); });
+        attempt([&] { view.setAppVersion(version); });
         expected_.header = {{"dc:title", inAttribute(title)},
                             {"dc:creator", inAttribute(creator)},
                             {"dc:Description", inAttribute(description)},
@@ -181,7 +201,7 @@ private:
         fillKeywords(*header);
         fillContent(*header);
         fillSizes(*header);
-        check(document.setDataHeader(*header));
+        attempt([&] { checked(document).setDataHeader(*header); });
     }
 
     void fillKeywords(i_ZelDataHeader& header)
@@ -189,17 +209,17 @@ private:
         std::vector<std::string> keywords(input_.below(4));
         std::string joined;
         for (std::string& keyword : keywords) {
-            keyword = escapedText(input_);
+            keyword = escapedText();
             joined += (&keyword == &keywords.front() ? "" : ", ") + keyword;
         }
-        check(header.setKeywords(keywords));
+        attempt([&] { checked(header).setKeywords(keywords); });
         expected_.header["zelDM:keywords"] = inAttribute(joined);
     }
 
     void fillContent(i_ZelDataHeader& header)
     {
         for (std::size_t more = input_.below(4); more > 0; --more) {
-            const std::string name = escapedText(input_);
+            const std::string name = escapedText();
             if (!failed(header.addContentName(name)))
                 expected_.content.push_back(inAttribute(name));
         }
@@ -208,11 +228,12 @@ private:
     void fillSizes(i_ZelDataHeader& header)
     {
         const unsigned long length = std::max(1UL, input_.number<unsigned long>());
-        check(header.setVideoLength(length));
-        check(header.setVideoWidth(640));
-        check(header.setVideoHeight(480));
         const bool isExplicit = input_.flag();
-        check(header.setIPodExplicit(isExplicit));
+        checked(header)
+            .setVideoLength(length)
+            .setVideoWidth(640)
+            .setVideoHeight(480)
+            .setIPodExplicit(isExplicit);
         expected_.header["zelDM:iPodExplicit"] = isExplicit ? "true" : "false";
         expected_.header["length"] = std::to_string(length);
     }
@@ -223,10 +244,9 @@ private:
     {
         Texts texts;
         for (std::size_t more = input_.below(5); more > 0; --more) {
-            const std::string text = strippedText(input_);
-            const std::string id = languageID(input_);
-            const auto code = item.setTextForLanguage(text, id);
-            check(code == ZelData_WarnAlreadyExists ? ZelData_Ok : code);
+            const std::string text = strippedText();
+            const std::string id = languageID();
+            attempt([&] { checked(item).allowWarnings().setTextForLanguage(text, id); });
             texts[id] = shown(text);
         }
         return texts;
@@ -234,26 +254,24 @@ private:
 
     void fillCaptions(i_ZelInterchangeDataCore& document)
     {
-        const auto captions = make(ZelDataUtilities::createCaptionData);
-        const std::string family = givenText(input_);
-        if (!family.empty()) check(captions->setFontFamily(family));
+        const auto captions = createCaptions();
+        const std::string family = givenText();
+        if (!family.empty()) attempt([&] { checked(*captions).setFontFamily(family); });
         expected_.captionTrack = {
             {"stFnt:fontFamily", family.empty() ? "Helvetica" : inAttribute(family)}};
         for (std::size_t more = input_.below(8); more > 0; --more)
             addCaption(*captions);
-        check(document.setDataCaptions(*captions));
+        attempt([&] { checked(document).setDataCaptions(*captions); });
     }
 
     void addCaption(i_ZelDataCaptions& captions)
     {
-        const auto item = make(ZelDataUtilities::createCaptionItemData);
+        const auto item = createCaptionItem();
         Marker marker;
         marker.start = start() / 2;
         const long long duration = 1 + input_.byte();
         const auto alignment = static_cast<ZelAlignment_tags>(input_.byte());
-        check(item->setStart(marker.start));
-        check(item->setDuration(duration));
-        check(item->setAlignment(alignment));
+        checked(*item).setStart(marker.start).setDuration(duration).setAlignment(alignment);
         marker.texts = fillTexts(*item);
         const auto isSet = [alignment](unsigned bit) { return (alignment & bit) != 0; };
         const char* vertical = isSet(1) ? "bottom" : isSet(2) ? "top" : "center";
@@ -262,66 +280,62 @@ private:
                              {"xmpDM:duration", std::to_string(duration)},
                              {"zelDM:valign", vertical},
                              {"zelDM:halign", horizontal}};
-        check(captions.addCaptionItem(*item));
+        attempt([&] { checked(captions).addCaptionItem(*item); });
         listLanguages(expected_.languages, marker.texts);
         expected_.captions.push_back(std::move(marker));
     }
 
     void fillToc(i_ZelInterchangeDataCore& document)
     {
-        const auto toc = make(ZelDataUtilities::createTocData);
-        const std::string image = escapedText(input_);
-        check(toc->setImageFile(image));
+        const auto toc = createToc();
+        const std::string image = escapedText();
+        attempt([&] { checked(*toc).setImageFile(image); });
         expected_.tocImage = inAttribute(image);
         for (std::size_t more = input_.below(8); more > 0; --more)
             addEntry(*toc);
-        check(document.setDataToc(*toc));
+        attempt([&] { checked(document).setDataToc(*toc); });
     }
 
     void addEntry(i_ZelDataToc& toc)
     {
-        const auto item = make(ZelDataUtilities::createTocItemData);
+        const auto item = createTocItem();
         Marker marker;
         marker.start = start();
         const auto index = input_.number<unsigned long>();
         const auto offset = input_.number<unsigned long long>();
-        const std::string image = escapedText(input_);
-        check(item->setStart(marker.start));
-        check(item->setImageFile(image));
-        check(item->setImageIndex(index));
-        check(item->setImageOffset(offset));
+        const std::string image = escapedText();
+        checked(*item).setStart(marker.start).setImageIndex(index).setImageOffset(offset);
+        attempt([&] { checked(*item).setImageFile(image); });
         marker.texts = fillTexts(*item);
         marker.attributes = {{"xmpDM:startTime", std::to_string(marker.start)},
                              {"zelDM:image", inAttribute(image)},
                              {"zelDM:imageindex", std::to_string(index)},
                              {"zelDM:imageoffset", std::to_string(offset)}};
-        check(toc.addTocItem(*item));
+        attempt([&] { checked(toc).addTocItem(*item); });
         listLanguages(expected_.tocLanguages, marker.texts);
         expected_.entries.push_back(std::move(marker));
     }
 
     void fillScreenText(i_ZelInterchangeDataCore& document)
     {
-        const auto texts = make(ZelDataUtilities::createScreenTextData);
+        const auto texts = createScreenText();
         for (std::size_t more = input_.below(8); more > 0; --more)
             addScreenText(*texts);
-        check(document.setDataScreenText(*texts));
+        attempt([&] { checked(document).setDataScreenText(*texts); });
     }
 
     void addScreenText(i_ZelDataScreenText& texts)
     {
-        const auto item = make(ZelDataUtilities::createScreenTextItemData);
+        const auto item = createScreenTextItem();
         Marker marker;
         marker.start = start();
-        const std::string text = strippedText(input_);
-        const std::string image = givenText(input_);
+        const std::string text = strippedText();
+        const std::string image = givenText();
         const auto group = input_.number<unsigned long>();
         const long long duration = input_.byte();
-        check(item->setText(text));
-        check(item->setStart(marker.start));
-        check(item->setDuration(duration));
-        check(item->setImageFile(image));
-        check(item->setGroupId(group));
+        checked(*item).setStart(marker.start).setDuration(duration).setGroupId(group);
+        attempt([&] { checked(*item).setText(text); });
+        attempt([&] { checked(*item).setImageFile(image); });
         marker.attributes = {{"xmpDM:name", inAttribute(shown(text))},
                              {"xmpDM:startTime", std::to_string(marker.start)},
                              {"xmpDM:duration", std::to_string(duration)},
@@ -329,13 +343,49 @@ private:
                              {"zelDM:imageindex", "0"},
                              {"zelDM:imageoffset", "0"},
                              {"zelDM:tocEntry", std::to_string(group)}};
-        check(texts.addScreenTextItem(*item));
+        attempt([&] { checked(texts).addScreenTextItem(*item); });
         expected_.screenTexts.push_back(std::move(marker));
     }
 
     Input& input_;
     Expected expected_;
+    bool isTame_ = true;
+    bool isExact_ = true;
 };
+
+/// Checks that the loop over the items of @p set finds those of @p markers, which are sorted.
+template <class Set>
+void checkItems(const Set& set, const std::vector<Marker>& markers)
+{
+    std::vector<long long> starts;
+    for (const auto& item : items(set))
+        starts.push_back(checked(*item).getStart());
+    std::sort(starts.begin(), starts.end());
+    require(starts.size() == markers.size(), "the number of items");
+    for (std::size_t i = 0; i < starts.size(); ++i)
+        require(starts[i] == markers[i].start, "the start of an item");
+}
+
+/// Reads the sets of @p document that have items, as a caller does.
+void checkSets(const i_ZelInterchangeDataCore& document, const Expected& expected)
+{
+    const auto view = checked(document);
+    if (!expected.captions.empty()) {
+        const auto captions = createCaptions();
+        view.getDataCaptions(*captions);
+        checkItems(*captions, expected.captions);
+    }
+    if (!expected.entries.empty()) {
+        const auto toc = createToc();
+        view.getDataToc(*toc);
+        checkItems(*toc, expected.entries);
+    }
+    if (!expected.screenTexts.empty()) {
+        const auto texts = createScreenText();
+        view.getDataScreenText(*texts);
+        checkItems(*texts, expected.screenTexts);
+    }
+}
 
 // The packet
 
@@ -354,7 +404,8 @@ void checkLanguageList(const Element& description, std::vector<std::string> lang
     require(items.size() == languages.size(), "the number of languages");
     for (std::size_t i = 0; i < items.size(); ++i) {
         std::string name;
-        check(ZelDataUtilities::englishNameForLanguage(languages[i], name));
+        require(ZelDataUtilities::englishNameForLanguage(languages[i], name) == ZelData_Ok,
+                "a language of the packet has no name");
         requireEqual(inAttribute(languages[i]), items[i].attribute("xml:lang"), "a language");
         requireEqual(name, items[i].text(), "the name of a language");
     }
@@ -428,22 +479,23 @@ void checkTracks(const Element& description, const Expected& expected)
     if (!expected.captions.empty()) {
         const Element track = nextTrack("Caption", expected.captions);
         checkAttributes(track, expected.captionTrack);
-        for (std::size_t i = 0; i < expected.captions.size(); ++i) {
-            checkAttributes(markersOf(track)[i], expected.captions[i].attributes);
-            checkCaptionTexts(markersOf(track)[i], expected.captions[i].texts, expected.languages);
+        const auto markers = markersOf(track);
+        for (std::size_t i = 0; i < markers.size(); ++i) {
+            checkAttributes(markers[i], expected.captions[i].attributes);
+            checkCaptionTexts(markers[i], expected.captions[i].texts, expected.languages);
         }
     }
     if (!expected.entries.empty()) {
         const Element track = nextTrack("TableOfContents", expected.entries);
         checkAttributes(track, {{"zelDM:image", expected.tocImage}});
-        for (std::size_t i = 0; i < expected.entries.size(); ++i)
-            checkAttributes(markersOf(track)[i],
-                            withTitle(expected.entries[i], expected.tocLanguages));
+        const auto markers = markersOf(track);
+        for (std::size_t i = 0; i < markers.size(); ++i)
+            checkAttributes(markers[i], withTitle(expected.entries[i], expected.tocLanguages));
     }
     if (!expected.screenTexts.empty()) {
-        const Element track = nextTrack("ScreenText", expected.screenTexts);
-        for (std::size_t i = 0; i < expected.screenTexts.size(); ++i)
-            checkAttributes(markersOf(track)[i], expected.screenTexts[i].attributes);
+        const auto markers = markersOf(nextTrack("ScreenText", expected.screenTexts));
+        for (std::size_t i = 0; i < markers.size(); ++i)
+            checkAttributes(markers[i], expected.screenTexts[i].attributes);
     }
     require(next == tracks.size(), "a track too many");
 }
@@ -454,12 +506,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     Input input(data, size);
     Filler filler(input);
-    const std::unique_ptr<i_ZelInterchangeDataCore> document(
-        ZELDataCreator::createInterchangeData());
+    const auto document = createDocument();
     filler.fill(*document);
-    std::string text;
-    check(document->writeString(text, ZelDataFormat_Xmp, false));
-    const fuzz::Packet packet(text);
+    const auto findings = fuzz::problemsOf(*document);
+    const bool isFaulty = !findings || fuzz::hasErrors(*findings);
+    require(!isFaulty || !filler.isTame(), "an error in a document that follows the rules");
+    if (isFaulty) return 0;
+    const fuzz::Packet packet(checked(*document).writeString());
+    if (!filler.isExact()) return 0;
+    checkSets(*document, filler.expected());
     const Element description = packet.root().at("rdf:RDF/rdf:Description");
     checkHeader(description, filler.expected());
     checkTracks(description, filler.expected());

@@ -53,6 +53,26 @@ Code createDocument()
     return document ? ZelData_Ok : ZelData_InternalError;
 }
 
+/// All that the library tells about a finding.
+Code tellFinding(std::string& out, const ZelDataFinding& finding)
+{
+    const std::string line = describe(finding);
+    out = line + ' ' + toString(finding.kind) + ' ' + std::to_string(severityOf(finding));
+    return codeOf(finding);
+}
+
+void addFindings(std::vector<Operation>& operations)
+{
+    using Findings = std::vector<ZelDataFinding>;
+    operations.insert(operations.end(),
+                      {function(&tellFinding, throwing()),
+                       function<const i_ZelDataHeader&, Findings&>(&findProblems),
+                       function<const i_ZelDataCaptions&, Findings&>(&findProblems),
+                       function<const i_ZelDataToc&, Findings&>(&findProblems),
+                       function<const i_ZelDataScreenText&, Findings&>(&findProblems),
+                       function<const i_ZelInterchangeDataCore&, Findings&>(&findProblems)});
+}
+
 void addFactories(std::vector<Operation>& operations)
 {
     operations.insert(
@@ -70,6 +90,7 @@ void addFactories(std::vector<Operation>& operations)
 void addFunctionOperations(std::vector<Operation>& operations)
 {
     addFactories(operations);
+    addFindings(operations);
     operations.insert(
         operations.end(),
         {function(&Utilities::englishNameForLanguage), function(&Utilities::nativeNameForLanguage),

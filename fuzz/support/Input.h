@@ -115,10 +115,12 @@ private:
 
     std::string longText()
     {
-        const std::string piece = bytes();
+        const std::string piece = bytes() + "-and-on";
+        std::size_t times = 1 + below(64);
         std::string whole = "long ";
-        for (std::size_t times = 1 + below(64); times > 0; --times)
-            whole += piece + "-and-on";
+        whole.reserve(whole.size() + times * piece.size());
+        for (; times > 0; --times)
+            whole += piece;
         return whole;
     }
 

@@ -1,9 +1,12 @@
 /// @file
 /// Compares the text utilities with plain descriptions of what they do.
 
+#include "ZelInterchangeData/ZelDataEscaped.h"
+#include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "support/Input.h"
 #include "support/Require.h"
+#include "support/Streamed.h"
 #include "support/Target.h"
 #include "util/TextUtilities.h"
 #include "xml/ZelDataXmlStream.h"
@@ -12,16 +15,16 @@
 #include <array>
 #include <cstdio>
 #include <ctime>
-#include <locale>
-#include <map>
-#include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 using namespace ZelInterchangeData;
 using fuzz::Input;
 using fuzz::require;
 using fuzz::requireEqual;
+using fuzz::streamed;
 using Utilities = ZelDataUtilities;
 
 namespace {
@@ -62,19 +65,20 @@ unsigned long plainLineCount(const std::string& text)
 
 // Escaping
 
-const std::map<char, std::string>& entities()
-{
-    static const std::map<char, std::string> all{
-        {'"', "&quot;"}, {'&', "&amp;"}, {'\'', "&apos;"}, {'<', "&lt;"}, {'>', "&gt;"}};
-    return all;
-}
+constexpr std::array<std::pair<char, std::string_view>, 5> entities{
+    {{'"', "&quot;"}, {'&', "&amp;"}, {'\'', "&apos;"}, {'<', "&lt;"}, {'>', "&gt;"}}};
 
 std::string plainEscaped(const std::string& text)
 {
     std::string escaped;
     for (const char character : text) {
-        const auto entity = entities().find(character);
-        escaped += entity == entities().end() ? std::string(1, character) : entity->second;
+        const auto* const entity =
+            std::find_if(entities.begin(), entities.end(),
+                         [&](const auto& one) { return one.first == character; });
+        if (entity == entities.end())
+            escaped += character;
+        else
+            escaped += entity->second;
     }
     return escaped;
 }
@@ -101,8 +105,10 @@ std::string plainUnescaped(const std::string& text)
             return text.compare(at, entity.second.size(), entity.second) == 0 &&
                    at + entity.second.size() < text.size();
         };
-        const auto found = std::find_if(entities().begin(), entities().end(), isHere);
-        if (found != entities().end()) {
+        const auto* const found = text[at] == '&'
+                                      ? std::find_if(entities.begin(), entities.end(), isHere)
+                                      : entities.end();
+        if (found != entities.end()) {
             out += found->first;
             at += found->second.size();
         } else if (text[at] == '&') {
@@ -120,6 +126,7 @@ void checkEscaping(const std::string& text, const std::string& before)
 {
     const std::string escaped = plainEscaped(text);
     requireEqual(escaped, Utilities::htmlTagsToText(text), "escaping");
+    requireEqual(escaped, ZelInterchangeData::escaped(text), "escaping by the face");
     requireEqual(escaped, ZelDataXmlStream::getSafeXmlString(text), "escaping for the tree");
     requireEqual(text + ' ', Utilities::htmlTagsFromText(escaped + ' '), "escaping and back");
     requireEqual(plainUnescaped(text), Utilities::htmlTagsFromText(text), "unescaping");
@@ -159,6 +166,44 @@ void checkReplacing(const std::string& text, const std::string& from, const std:
     requireEqual(expected, subject, "replacing");
 }
 
+/// How a line shows each byte that it cannot have.
+const std::vector<std::string>& byteCodes()
+{
+    static const std::vector<std::string> codes = [] {
+        std::vector<std::string> all;
+        for (unsigned byte = 0; byte < 256; ++byte) {
+            std::array<char, 5> code{};
+            std::snprintf(code.data(), code.size(), "\\x%02X", byte);
+            all.emplace_back(code.data());
+        }
+        return all;
+    }();
+    return codes;
+}
+
+/// @p text on one line; @p utf8 says whether bytes that are not ASCII stay.
+std::string plainLine(const std::string& text, bool utf8)
+{
+    std::string line;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if ((byte >= ' ' && byte < 0x7F) || (byte > 0x7F && utf8))
+            line += character;
+        else
+            line += byteCodes()[byte];
+    }
+    return line;
+}
+
+void checkLine(const std::string& text)
+{
+    require(ZelDataMessages::isUtf8(text) == (plainCheck(text, false) == ZelData_Ok),
+            "whether the face takes a text for UTF-8");
+    for (const bool utf8 : {false, true})
+        requireEqual(plainLine(text, utf8), ZelDataMessages::onOneLine(text, utf8),
+                     "a text on one line");
+}
+
 // Languages
 
 struct NamesInHex {
@@ -179,43 +224,50 @@ std::string bytesOf(const std::string& hex)
     return bytes;
 }
 
+struct Names {
+    std::string code;
+    std::string englishName;
+    std::string nativeName;
+};
+
+const std::vector<Names>& plainNames()
+{
+    static const std::vector<Names> names = [] {
+        std::vector<Names> all;
+        for (const NamesInHex& one : allNames)
+            all.push_back({one.code, bytesOf(one.englishName), bytesOf(one.nativeName)});
+        return all;
+    }();
+    return names;
+}
+
 /// The language of @p id; null for none.
-const NamesInHex* plainLookup(const std::string& id)
+const Names* plainLookup(const std::string& id)
 {
     const bool hasForm = id.size() == 2 || (id.size() > 2 && id[2] == '-');
     if (!hasForm) return nullptr;
-    const auto isIt = [&](const NamesInHex& names) {
+    const auto isIt = [&](const Names& names) {
         return (id[0] == names.code[0] || id[0] == names.code[0] - 'a' + 'A') &&
                (id[1] == names.code[1] || id[1] == names.code[1] - 'a' + 'A');
     };
-    const auto* const found = std::find_if(std::begin(allNames), std::end(allNames), isIt);
-    return found == std::end(allNames) ? nullptr : found;
+    const auto found = std::find_if(plainNames().begin(), plainNames().end(), isIt);
+    return found == plainNames().end() ? nullptr : &*found;
 }
 
 void checkLanguage(const std::string& id)
 {
-    const NamesInHex* names = plainLookup(id);
+    const Names* names = plainLookup(id);
     const auto code = names != nullptr ? ZelData_Ok : ZelData_UnknownLanguage;
     std::string english = "before";
     std::string native = "before";
     require(Utilities::isValidLanguage(id) == code, "whether a language is known");
     require(Utilities::englishNameForLanguage(id, english) == code, "the code of an English name");
     require(Utilities::nativeNameForLanguage(id, native) == code, "the code of a native name");
-    requireEqual(names != nullptr ? bytesOf(names->englishName) : "before", english,
-                 "an English name");
-    requireEqual(names != nullptr ? bytesOf(names->nativeName) : "before", native, "a native name");
+    requireEqual(names != nullptr ? names->englishName : "before", english, "an English name");
+    requireEqual(names != nullptr ? names->nativeName : "before", native, "a native name");
 }
 
 // Values
-
-template <class Value>
-std::string streamed(Value value)
-{
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << value;
-    return stream.str();
-}
 
 void checkNumbers(Input& input)
 {
@@ -266,6 +318,7 @@ void checkText(const std::string& text, const std::string& before)
     require(Utilities::countLinesInUTF8(text) == plainLineCount(text), "the number of lines");
     checkEscaping(text, before);
     checkBlock(text, before);
+    checkLine(text);
     checkLanguage(text);
 }
 

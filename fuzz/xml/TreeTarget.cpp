@@ -3,17 +3,16 @@
 
 #include "support/Input.h"
 #include "support/Require.h"
+#include "support/Streamed.h"
 #include "support/Target.h"
 #include "xml/PlainTree.h"
 #include "xml/TreeVerbs.h"
 #include "xml/ZelDataXmlStream.h"
 
 #include <algorithm>
-#include <locale>
-#include <map>
-#include <set>
-#include <sstream>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -21,25 +20,21 @@ using namespace ZelInterchangeData;
 using fuzz::Input;
 using fuzz::require;
 using fuzz::requireEqual;
+using fuzz::streamed;
 
 namespace {
 
 constexpr int mostSteps = 400;
 
-/// What the tree writes for a number.
-template <class Number>
-std::string streamed(Number number)
-{
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << number;
-    return stream.str();
-}
-
 /// Does the same to a tree and to its plain description, and compares what the verbs return.
 class TwinTrees {
 public:
-    explicit TwinTrees(Input& input) : input_(input) { known_.emplace_back(&tree_, &plain_); }
+    explicit TwinTrees(Input& input) : input_(input)
+    {
+        known_.emplace_back(&tree_, &plain_);
+        plainOf_.reserve(mostSteps);
+        plain_.counterpart = &tree_;
+    }
 
     void doSomething()
     {
@@ -72,21 +67,24 @@ public:
     {
         std::string expected;
         for (const auto& child : plain_.children)
-            expected += plainText(*child);
+            appendPlainText(expected, *child);
         requireEqual(expected, tree_.getXml(false), "the text of a tree");
         requireEqual("<?xml version=\"1.0\" encoding=\"utf-8\" ?>" + expected, tree_.getXml(true),
                      "the text with its declaration");
         std::string below = "before";
         known_.back().first->write(below);
-        requireEqual("before" + plainText(*known_.back().second), below, "the text of an element");
+        expected = "before";
+        appendPlainText(expected, *known_.back().second);
+        requireEqual(expected, below, "the text of an element");
     }
 
 private:
     /// Any bytes, but no zero byte where the tree takes a C string.
     std::string word()
     {
-        const std::string bytes = input_.text();
-        return bytes.substr(0, bytes.find('\0'));
+        std::string bytes = input_.text();
+        bytes.resize(std::min(bytes.size(), bytes.find('\0')));
+        return bytes;
     }
 
     std::string path()
@@ -210,20 +208,19 @@ private:
     /// Neither of the two may ever have been the counterpart of another node.
     void requirePair(ZelDataXmlNode& node, PlainNode& plain)
     {
-        const auto toPlain = plainOf_.emplace(&node, &plain);
-        const auto toNode = nodeOf_.emplace(&plain, &node);
-        require(toPlain.first->second == &plain && toNode.first->second == &node,
+        const auto [known, isNew] = plainOf_.try_emplace(&node, &plain);
+        if (isNew && plain.counterpart == nullptr) plain.counterpart = &node;
+        require(known->second == &plain && plain.counterpart == &node,
                 "a verb returns another node");
-        if (toPlain.second) known_.emplace_back(&node, &plain);
+        if (isNew) known_.emplace_back(&node, &plain);
     }
 
     Input& input_;
     ZelDataXmlStream tree_;
     PlainNode plain_;
     std::vector<std::pair<ZelDataXmlNode*, PlainNode*>> known_;
-    std::map<ZelDataXmlNode*, PlainNode*> plainOf_{{&tree_, &plain_}};
-    std::map<PlainNode*, ZelDataXmlNode*> nodeOf_{{&plain_, &tree_}};
-    std::set<PlainNode*> reached_; // by the text verb
+    std::unordered_map<ZelDataXmlNode*, PlainNode*> plainOf_{{&tree_, &plain_}};
+    std::unordered_set<PlainNode*> reached_; // by the text verb
 };
 
 } // namespace

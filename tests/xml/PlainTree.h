@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -15,6 +16,8 @@ namespace ZelInterchangeData {
 /// A node of the model.
 struct PlainNode {
     PlainNode* parent = nullptr;
+    /// The node of the tree that a test compares with this one.
+    const void* counterpart = nullptr;
     std::string name;
     std::string text;
     std::vector<std::pair<std::string, std::string>> attributes;
@@ -22,23 +25,22 @@ struct PlainNode {
     std::vector<std::unique_ptr<PlainNode>> children;
 };
 
-inline PlainNode& plainPath(PlainNode& node, const std::string& path);
+inline PlainNode& plainPath(PlainNode& node, std::string_view path);
 
 /// What setName() does.
-inline PlainNode& plainSetName(PlainNode& node, const std::string& path)
+inline PlainNode& plainSetName(PlainNode& node, std::string_view path)
 {
-    node.name = path;
-    if (path.find('/') == std::string::npos) return node;
-    node.name = path.substr(0, path.find('/'));
-    return plainPath(node, path.substr(path.find('/') + 1));
+    const std::size_t slash = path.find('/');
+    node.name = path.substr(0, slash);
+    return slash == std::string_view::npos ? node : plainPath(node, path.substr(slash + 1));
 }
 
 /// What the path verb does.
-inline PlainNode& plainPath(PlainNode& node, const std::string& path)
+inline PlainNode& plainPath(PlainNode& node, std::string_view path)
 {
     const std::size_t slash = path.find('/');
-    const std::string head = slash == std::string::npos ? path : path.substr(0, slash);
-    const std::string rest = slash == std::string::npos ? path : path.substr(slash + 1);
+    const std::string_view head = path.substr(0, slash);
+    const std::string_view rest = slash == std::string_view::npos ? path : path.substr(slash + 1);
     for (const auto& [name, child] : node.currentGroup) {
         if (name != head) continue;
         if (slash == 0) return *child;
@@ -51,18 +53,16 @@ inline PlainNode& plainPath(PlainNode& node, const std::string& path)
     return plainSetName(made, path);
 }
 
-/// What write() appends.
-inline std::string plainText(const PlainNode& node)
+/// Appends to @p text what write() appends.
+inline void appendPlainText(std::string& text, const PlainNode& node)
 {
-    std::string attributes;
+    text.append("<").append(node.name).append(node.attributes.empty() ? "" : " ");
     for (const auto& [name, value] : node.attributes)
-        attributes.append(name).append("=\"").append(value).append("\" ");
-    std::string content;
+        text.append(name).append("=\"").append(value).append("\" ");
+    text.append(">").append(node.children.empty() ? node.text : "");
     for (const auto& child : node.children)
-        content += plainText(*child);
-    if (node.children.empty()) content = node.text;
-    return "<" + node.name + (attributes.empty() ? "" : " ") + attributes + ">" + content + "</" +
-           node.name + ">";
+        appendPlainText(text, *child);
+    text.append("</").append(node.name).append(">");
 }
 
 } // namespace ZelInterchangeData

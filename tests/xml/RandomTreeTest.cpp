@@ -48,7 +48,7 @@ public:
     {
         std::string expected;
         for (const auto& child : plain_.children)
-            expected += plainText(*child);
+            appendPlainText(expected, *child);
         EXPECT_EQ(tree_.getXml(false), expected);
     }
 
