@@ -11,6 +11,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string>
@@ -79,15 +80,28 @@ void checkText(const std::string& text, const std::string& contents)
             "the library refuses the text of a cue");
 }
 
-/// Each line with an arrow is a cue, a malformed one or one without length; all other lines are
-/// none of these.
+bool hasArrow(const std::string& line)
+{
+    return line.find(arrow) != std::string::npos;
+}
+
+/// Each line with an arrow is a cue, a malformed one or one without length. No other line is one of
+/// these, except malformed ones with another arrow.
 void checkCounts(const Subtitles& subtitles, const std::vector<std::string>& lines)
 {
-    std::size_t arrows = 0;
-    for (const std::string& line : lines)
-        if (line.find(arrow) != std::string::npos) ++arrows;
+    std::size_t otherArrows = 0;
+    for (const publish::SkippedLines& skipped : subtitles.malformed) {
+        const std::string& line = lines.at(skipped.line - 1);
+        if (hasArrow(line)) continue;
+        ++otherArrows;
+        require(line.find_first_of("0123456789") == line.find_first_not_of(" \t") &&
+                    line.find('>') != std::string::npos,
+                "a malformed line without a time or an arrow");
+    }
+    const auto arrows =
+        static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), hasArrow));
     require(subtitles.cues.size() + subtitles.malformed.size() + subtitles.withoutLength.size() ==
-                arrows,
+                arrows + otherArrows,
             "the lines with an arrow");
     const std::string& first = lines.front();
     const bool isWebVtt =
