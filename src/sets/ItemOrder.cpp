@@ -55,10 +55,11 @@ public:
         std::size_t place = 0;
         for (std::size_t step = highestStep_; step > 0; step /= 2) {
             std::size_t& sum = sums_[std::min(place + step, size)];
-            const bool isBelow = sum <= count; // not a branch, which would be unpredictable
-            count -= isBelow ? sum : 0;
-            sum -= isBelow ? 0 : 1;
-            place += isBelow ? step : 0;
+            // All bits if it is below, otherwise none: a branch would be unpredictable.
+            const std::size_t below = std::size_t{0} - static_cast<std::size_t>(sum <= count);
+            count -= sum & below;
+            sum -= 1 + below;
+            place += step & below;
         }
         return place;
     }
@@ -170,7 +171,8 @@ public:
         free_.fill(size);
         for (std::size_t i = size; i-- > 0;) {
             const std::size_t place = free_.take(joined_[i]);
-            first[static_cast<std::ptrdiff_t>((place + size - head) % size)] = members_[i];
+            const std::size_t fromHead = place < head ? place + size - head : place - head;
+            first[static_cast<std::ptrdiff_t>(fromHead)] = members_[i];
         }
     }
 
