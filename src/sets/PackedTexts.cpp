@@ -89,6 +89,16 @@ private:
     std::size_t used_ = 0;
 };
 
+/// Compares language IDs, without a call for two letters, as most have.
+int compare(std::string_view a, std::string_view b) noexcept
+{
+    if (a.size() != 2 || b.size() != 2) return a.compare(b);
+    const auto number = [](std::string_view id) {
+        return static_cast<unsigned char>(id[0]) << 8 | static_cast<unsigned char>(id[1]);
+    };
+    return number(a) - number(b);
+}
+
 /// A change of texts: removes those from @p first up to, not including, @p last, and puts @p added,
 /// if there is one, in their place.
 struct Edit {
@@ -157,7 +167,7 @@ std::size_t PackedTexts::placeOf(std::string_view languageID) const noexcept
     std::size_t last = count();
     while (first != last) {
         const std::size_t middle = first + (last - first) / 2;
-        if ((*this)[middle].languageID < languageID) {
+        if (compare((*this)[middle].languageID, languageID) < 0) {
             first = middle + 1;
         } else {
             last = middle;
@@ -168,7 +178,7 @@ std::size_t PackedTexts::placeOf(std::string_view languageID) const noexcept
 
 bool PackedTexts::holds(std::size_t place, std::string_view languageID) const noexcept
 {
-    return place < count() && (*this)[place].languageID == languageID;
+    return place < count() && compare((*this)[place].languageID, languageID) == 0;
 }
 
 std::optional<std::string_view> PackedTexts::find(std::string_view languageID) const noexcept
