@@ -158,23 +158,27 @@ constexpr ByteBlock needingEntityOrControl(ByteBlock block) noexcept
     return needingEntity(block) | zeroBytes(block & repeated(0xE0));
 }
 
-/// Returns the end of the bytes from @p text on that are written as they are. @p mark marks those
-/// of a block that may not be, and @p isHarmless decides for one byte.
+/// Returns the end of the bytes of @p text from @p position on that are written as they are. @p mark
+/// marks those of a block that may not be, and @p isHarmless decides for one byte.
 template <class Mark, class IsHarmless>
-const char* skipHarmless(const char* text, const char* end, Mark mark,
+const char* skipHarmless(std::string_view text, const char* position, Mark mark,
                          IsHarmless isHarmless) noexcept
 {
-    while (end - text >= static_cast<std::ptrdiff_t>(blockSize)) {
-        const ByteBlock marked = mark(loadBlock(text));
+    const char* const end = text.data() + text.size();
+    while (position != end) {
+        const std::size_t size = std::min(blockSize, static_cast<std::size_t>(end - position));
+        const bool isWhole = size == blockSize;
+        const ByteBlock marked = mark(isWhole ? loadBlock(position) : lastBytes(text, size));
         if (marked == 0) {
-            text += blockSize;
+            position += size;
             continue;
         }
-        text += bytesBeforeFirst(marked);
-        if (!isHarmless(*text)) return text;
-        ++text; // a line feed
+        position +=
+            std::min(bytesBeforeFirst(marked), size); // the zeros after the end may be marked
+        if (position == end || !isHarmless(*position)) return position;
+        ++position; // a line feed
     }
-    return std::find_if_not(text, end, isHarmless);
+    return end;
 }
 
 /// Whether @p text may need so many entities that their number matters.
@@ -196,7 +200,7 @@ void appendRuns(Out& out, std::string_view text, Mark mark, IsHarmless isHarmles
     const char* position = text.data();
     const char* const end = position + text.size();
     while (position != end) {
-        const char* const stop = skipHarmless(position, end, mark, isHarmless);
+        const char* const stop = skipHarmless(text, position, mark, isHarmless);
         out.append(std::string_view(position, static_cast<std::size_t>(stop - position)));
         for (position = stop; position != end && !isHarmless(*position); ++position) {
             if (needsEntity(*position)) out.append(entityFor(*position));
