@@ -63,8 +63,9 @@ public:
     ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const override;
 
     const CaptionState& state() const noexcept { return state_; }
-    /// Returns the state, which this item then no longer has.
-    CaptionState takeState() noexcept { return std::move(state_); }
+    /// The code with which a copy of this item ends; leaves the last error that its
+    /// getters would.
+    ZelDataResult_tags checkCopy() const;
     /// As copyFrom(), with the same codes, last errors and half-copied state, but shares the texts:
     /// those of our own items were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataCaptionItem& other);

@@ -31,15 +31,21 @@ ZelDataResult_tags i_ZelDataCaptionItem::copyFrom(const i_ZelDataCaptionItem& ot
     }));
 }
 
+ZelDataResult_tags ZelDataCaptionItem::checkCopy() const
+{
+    setLastError(ZelData_Ok); // as the getters would leave it
+    return state_.time.hasLength() ? ZelData_Ok : ZelData_InvalidArgument;
+}
+
 ZelDataResult_tags ZelDataCaptionItem::copyOwn(const ZelDataCaptionItem& other)
 {
-    other.setLastError(ZelData_Ok); // as the getters would leave it
+    const auto copied = other.checkCopy();
     state_.changeTexts() = other.state_.texts();
     state_.time.start = other.state_.time.start;
-    if (!other.state_.time.hasLength()) return store(ZelData_InvalidArgument);
+    if (failed(copied)) return store(copied);
     state_.time.duration = other.state_.time.duration;
     state_.alignment = other.state_.alignment;
-    return store(ZelData_Ok);
+    return store(copied);
 }
 
 } // namespace ZelInterchangeData

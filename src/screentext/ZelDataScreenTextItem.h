@@ -88,8 +88,9 @@ public:
     ZelDataResult_tags getGroupId(unsigned long& id) const override;
 
     const ScreenTextState& state() const noexcept { return state_; }
-    /// Returns the state, which this item then no longer has.
-    ScreenTextState takeState() noexcept { return std::move(state_); }
+    /// The code with which a copy of this item ends; leaves the last error that its
+    /// getters would.
+    ZelDataResult_tags checkCopy() const;
     /// As copyFrom(), with the same codes and last errors, but shares the strings: those of our own
     /// items were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataScreenTextItem& other);

@@ -32,11 +32,15 @@ ZelDataResult_tags i_ZelDataScreenTextItem::copyFrom(const i_ZelDataScreenTextIt
     }));
 }
 
+ZelDataResult_tags ZelDataScreenTextItem::checkCopy() const
+{
+    return store(ZelData_Ok); // as the getters would leave it
+}
+
 ZelDataResult_tags ZelDataScreenTextItem::copyOwn(const ZelDataScreenTextItem& other)
 {
-    other.setLastError(ZelData_Ok); // as the getters would leave it
     state_ = other.state_;
-    return store(ZelData_Ok);
+    return store(other.checkCopy());
 }
 
 } // namespace ZelInterchangeData

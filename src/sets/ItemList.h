@@ -96,11 +96,11 @@ public:
     }
 
     /// Appends an item of our own that has @p state.
-    void append(State state)
+    void append(const State& state)
     {
         const bool wasKnown = std::exchange(isSummaryKnown_, false); // until the item is in
         if (wasKnown) summary_.add(state);
-        slots_.write().push_back({std::move(state), nullptr});
+        slots_.write().emplace_back(state);
         isSummaryKnown_ = wasKnown;
     }
 
@@ -109,7 +109,7 @@ public:
         if (const auto* own = exactly<Own>(std::as_const(*item))) {
             append(own->state());
         } else {
-            slots_.write().push_back({State(), std::move(item)});
+            slots_.write().emplace_back(std::move(item));
         }
     }
 
@@ -118,10 +118,10 @@ public:
     template <class Announce>
     ZelDataResult_tags appendCopyOf(const Own& item, Announce&& announce)
     {
-        Own copy;
-        if (failed(copy.copyOwn(item))) return copy.getLastError();
-        announce(copy.state());
-        append(copy.takeState());
+        const auto copied = item.checkCopy();
+        if (failed(copied)) return copied;
+        announce(item.state());
+        append(item.state());
         return ZelData_Ok;
     }
 
@@ -236,6 +236,10 @@ public:
 private:
     /// One item: the state of our own, or any other as it is.
     struct Slot {
+        Slot() = default;
+        explicit Slot(const State& own) : state(own) {}
+        explicit Slot(std::unique_ptr<Item> item) : foreign(std::move(item)) {}
+
         long long start() const
         {
             if (!foreign) return state.start();
@@ -283,7 +287,7 @@ private:
         Slots ordered;
         ordered.reserve(places.size());
         for (const std::size_t place : places)
-            ordered.push_back(std::move(slots[place]));
+            ordered.emplace_back(std::move(slots[place]));
         slots = std::move(ordered);
     }
 

@@ -1,93 +1,83 @@
 #include "sets/PackedTexts.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <new>
 #include <utility>
 
 namespace ZelInterchangeData {
 
 namespace {
 
-/// The size of what is stored.
-struct Size {
-    std::size_t entries;
-    std::size_t textBytes; // of all IDs and texts
+/// Numbers of entries, and of characters in all IDs and texts.
+struct Counts {
+    std::uint32_t entries;
+    std::uint32_t characters;
 };
 
-std::size_t bytesOf(const PackedTexts::Entry& entry) noexcept
+/// Where an entry's ID begins among the characters, where its text does, and where that ends.
+struct Span {
+    std::uint32_t begin;
+    std::uint32_t textBegin;
+    std::uint32_t end;
+};
+
+/// The shared bytes: what is used of them, what there is room for, the spans in the order of their IDs,
+/// and the characters in the order in which they were added.
+struct Block {
+    Counts used;
+    Counts room;
+
+    static const Block& in(const SharedBytes& bytes) noexcept
+    {
+        return *reinterpret_cast<const Block*>(bytes.data());
+    }
+    static Block& in(SharedBytes& bytes) noexcept
+    {
+        return *reinterpret_cast<Block*>(bytes.mutableData());
+    }
+
+    const Span* spans() const noexcept { return reinterpret_cast<const Span*>(this + 1); }
+    Span* spans() noexcept { return reinterpret_cast<Span*>(this + 1); }
+    const char* characters() const noexcept
+    {
+        return reinterpret_cast<const char*>(spans() + room.entries);
+    }
+    char* characters() noexcept { return reinterpret_cast<char*>(spans() + room.entries); }
+
+    /// Inserts @p entry, for which there is room, at @p place.
+    void insert(std::size_t place, const PackedTexts::Entry& entry) noexcept
+    {
+        Span* const spans = this->spans();
+        std::copy_backward(spans + place, spans + used.entries, spans + used.entries + 1);
+        spans[place].begin = used.characters;
+        append(entry.languageID);
+        spans[place].textBegin = used.characters;
+        append(entry.text);
+        spans[place].end = used.characters;
+        ++used.entries;
+    }
+
+private:
+    void append(std::string_view text) noexcept
+    {
+        used.characters +=
+            static_cast<std::uint32_t>(text.copy(characters() + used.characters, text.size()));
+    }
+};
+
+SharedBytes emptyBlock(std::size_t entries, std::size_t characters)
+{
+    SharedBytes bytes(sizeof(Block) + entries * sizeof(Span) + characters);
+    new (bytes.mutableData()) Block{
+        {0, 0}, {static_cast<std::uint32_t>(entries), static_cast<std::uint32_t>(characters)}};
+    return bytes;
+}
+
+std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
 {
     return entry.languageID.size() + entry.text.size();
 }
-
-/// Where an entry's text is among the characters. Its ID is between the end of the previous entry
-/// and the text.
-struct Span {
-    std::size_t textBegin;
-    std::size_t end;
-};
-
-/// The shared bytes: the number of entries, a Span for each, and the characters.
-struct Layout {
-    explicit Layout(const SharedBytes& bytes) noexcept
-        : count(reinterpret_cast<const std::size_t*>(bytes.data()))
-    {
-    }
-
-    const Span* spans() const noexcept { return reinterpret_cast<const Span*>(count + 1); }
-    const char* characters() const noexcept
-    {
-        return reinterpret_cast<const char*>(spans() + *count);
-    }
-    std::size_t beginOf(std::size_t index) const noexcept
-    {
-        return index == 0 ? 0 : spans()[index - 1].end;
-    }
-
-    const std::size_t* count;
-};
-
-/// New bytes for entries whose number and bytes are known, filled from first to last.
-class Filling {
-public:
-    explicit Filling(Size size)
-        : bytes_(sizeof(std::size_t) + size.entries * sizeof(Span) + size.textBytes),
-          spans_(reinterpret_cast<Span*>(bytes_.mutableData() + sizeof(std::size_t))),
-          characters_(reinterpret_cast<char*>(spans_ + size.entries))
-    {
-        new (bytes_.mutableData()) std::size_t(size.entries);
-    }
-
-    void append(const PackedTexts::Entry& entry)
-    {
-        copy(entry.languageID);
-        const std::size_t textBegin = used_;
-        copy(entry.text);
-        new (spans_ + filled_++) Span{textBegin, used_};
-    }
-
-    /// Appends the entries of @p other from @p first up to, not including, @p last; copies their
-    /// characters at once.
-    void append(const Layout& other, std::size_t first, std::size_t last)
-    {
-        if (first == last) return;
-        const std::size_t from = other.beginOf(first);
-        const std::size_t to = used_;
-        copy({other.characters() + from, other.beginOf(last) - from});
-        for (std::size_t i = first; i < last; ++i) {
-            const auto [textBegin, end] = other.spans()[i];
-            new (spans_ + filled_++) Span{textBegin - from + to, end - from + to};
-        }
-    }
-
-    SharedBytes take() { return std::move(bytes_); }
-
-private:
-    void copy(std::string_view text) { used_ += text.copy(characters_ + used_, text.size()); }
-
-    SharedBytes bytes_;
-    Span* spans_;
-    char* characters_;
-    std::size_t filled_ = 0;
-    std::size_t used_ = 0;
-};
 
 /// Compares language IDs, without a call for two letters, as most have.
 int compare(std::string_view a, std::string_view b) noexcept
@@ -99,64 +89,28 @@ int compare(std::string_view a, std::string_view b) noexcept
     return number(a) - number(b);
 }
 
-/// A change of texts: removes those from @p first up to, not including, @p last, and puts @p added,
-/// if there is one, in their place.
-struct Edit {
-    std::size_t first;
-    std::size_t last;
-    const PackedTexts::Entry* added;
-};
-
-Size sizeAfter(const PackedTexts& texts, const Edit& edit)
-{
-    Size size{texts.count(), texts.byteCount()};
-    for (std::size_t i = edit.first; i < edit.last; ++i) {
-        --size.entries;
-        size.textBytes -= bytesOf(texts[i]);
-    }
-    if (edit.added != nullptr) {
-        ++size.entries;
-        size.textBytes += bytesOf(*edit.added);
-    }
-    return size;
-}
-
-/// Returns @p texts, which are stored in @p bytes, with @p edit applied.
-SharedBytes edited(const PackedTexts& texts, const SharedBytes& bytes, const Edit& edit)
-{
-    const Size size = sizeAfter(texts, edit);
-    if (size.entries == 0) return {};
-    Filling filling(size);
-    const Layout old(bytes);
-    filling.append(old, 0, edit.first);
-    if (edit.added != nullptr) filling.append(*edit.added);
-    filling.append(old, edit.last, texts.count());
-    return filling.take();
-}
-
 } // namespace
 
 std::size_t PackedTexts::count() const noexcept
 {
-    return bytes_.data() == nullptr ? 0 : *Layout(bytes_).count;
+    return bytes_.data() == nullptr ? 0 : Block::in(bytes_).used.entries;
 }
 
 std::size_t PackedTexts::byteCount() const noexcept
 {
-    return bytes_.data() == nullptr ? 0 : Layout(bytes_).beginOf(count());
+    return bytes_.data() == nullptr ? 0 : Block::in(bytes_).used.characters;
 }
 
 std::size_t PackedTexts::bytesWith(std::size_t added) const noexcept
 {
-    return sizeof(std::size_t) + (count() + 1) * sizeof(Span) + byteCount() + added;
+    return sizeof(Block) + (count() + 1) * sizeof(Span) + byteCount() + added;
 }
 
 PackedTexts::Entry PackedTexts::operator[](std::size_t index) const noexcept
 {
-    const Layout layout(bytes_);
-    const std::size_t begin = layout.beginOf(index);
-    const auto [textBegin, end] = layout.spans()[index];
-    const char* const characters = layout.characters();
+    const Block& block = Block::in(bytes_);
+    const auto [begin, textBegin, end] = block.spans()[index];
+    const char* const characters = block.characters();
     return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
 }
 
@@ -188,19 +142,52 @@ std::optional<std::string_view> PackedTexts::find(std::string_view languageID) c
     return (*this)[place].text;
 }
 
+/// Whether @p added can be inserted in place.
+bool PackedTexts::hasRoomFor(const Entry& added) const noexcept
+{
+    if (bytes_.data() == nullptr || bytes_.isShared()) return false;
+    const auto& [used, room] = Block::in(bytes_);
+    return used.entries < room.entries && room.characters - used.characters >= charactersOf(added);
+}
+
+/// A copy of the bytes with room for @p entries and @p characters, but without the entry at @p place.
+SharedBytes PackedTexts::copyWithout(std::size_t place, std::size_t entries,
+                                     std::size_t characters) const
+{
+    SharedBytes copy = emptyBlock(entries, characters);
+    Block& block = Block::in(copy);
+    for (std::size_t i = 0; i < count(); ++i) {
+        if (i != place) block.insert(block.used.entries, (*this)[i]);
+    }
+    return copy;
+}
+
 bool PackedTexts::set(std::string_view text, std::string_view languageID)
 {
+    const Entry added{languageID, text};
     const std::size_t place = placeOf(languageID);
     const bool replaces = holds(place, languageID);
-    const Entry added{languageID, text};
-    bytes_ = edited(*this, bytes_, {place, replaces ? place + 1 : place, &added});
+    if (!replaces && hasRoomFor(added)) {
+        Block::in(bytes_).insert(place, added);
+        return false;
+    }
+    // With room for another text like this one, although that may be somewhat longer.
+    const std::size_t spare = charactersOf(added) + charactersOf(added) / 2;
+    SharedBytes changed = copyWithout(replaces ? place : count(), count() + 2,
+                                      byteCount() + charactersOf(added) + spare);
+    Block::in(changed).insert(place, added);
+    bytes_ = std::move(changed);
     return replaces;
 }
 
 void PackedTexts::remove(std::string_view languageID)
 {
     const std::size_t place = placeOf(languageID);
-    bytes_ = edited(*this, bytes_, {place, place + 1, nullptr});
+    if (count() == 1) {
+        clear();
+    } else {
+        bytes_ = copyWithout(place, count() - 1, byteCount() - charactersOf((*this)[place]));
+    }
 }
 
 } // namespace ZelInterchangeData

@@ -12,11 +12,12 @@
 
 namespace ZelInterchangeData {
 
-/// Texts by language ID, in ascending byte order. If memory runs out, an operation throws
-/// `std::bad_alloc` and changes nothing.
+/// Texts by language ID, in ascending byte order; less than 4 GB in all. If memory runs out, an
+/// operation throws `std::bad_alloc` and changes nothing.
 ///
-/// All of them are in one block of memory that copies share; a change allocates a new one. Copying
-/// only increments a count, and reading follows only one pointer, but each change copies all texts.
+/// All of them are in one block of memory that copies share, with room for another text like the one
+/// that was set last. Copying only increments a count, and reading follows only one pointer. A text
+/// that fits is added in place unless the block is shared; each other change copies all texts.
 class PackedTexts {
 public:
     /// A language ID and its text.
@@ -47,6 +48,8 @@ public:
 private:
     std::size_t placeOf(std::string_view languageID) const noexcept;
     bool holds(std::size_t place, std::string_view languageID) const noexcept;
+    bool hasRoomFor(const Entry& added) const noexcept;
+    SharedBytes copyWithout(std::size_t place, std::size_t entries, std::size_t characters) const;
 
     SharedBytes bytes_;
 };

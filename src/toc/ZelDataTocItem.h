@@ -70,8 +70,9 @@ public:
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
 
     const TocEntryState& state() const noexcept { return state_; }
-    /// Returns the state, which this entry then no longer has.
-    TocEntryState takeState() noexcept { return std::move(state_); }
+    /// The code with which a copy of this entry ends; leaves the last error that its
+    /// getters would.
+    ZelDataResult_tags checkCopy() const;
     /// As copyFrom(), with the same codes and last errors, but shares the strings: those of our own
     /// entries were checked when they were set.
     ZelDataResult_tags copyOwn(const ZelDataTocItem& other);

@@ -29,11 +29,15 @@ ZelDataResult_tags i_ZelDataTocItem::copyFrom(const i_ZelDataTocItem& source)
     }));
 }
 
+ZelDataResult_tags ZelDataTocItem::checkCopy() const
+{
+    return store(ZelData_Ok); // as the getters would leave it
+}
+
 ZelDataResult_tags ZelDataTocItem::copyOwn(const ZelDataTocItem& other)
 {
-    other.setLastError(ZelData_Ok); // as the getters would leave it
     state_ = other.state_;
-    return store(ZelData_Ok);
+    return store(other.checkCopy());
 }
 
 } // namespace ZelInterchangeData

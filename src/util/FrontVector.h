@@ -41,7 +41,11 @@ public:
     auto end() noexcept { return values_.end(); }
 
     void reserve(std::size_t size) { values_.reserve(front_ + size); }
-    void push_back(Value&& value) { values_.push_back(std::move(value)); }
+    template <class... Arguments>
+    void emplace_back(Arguments&&... arguments)
+    {
+        values_.emplace_back(std::forward<Arguments>(arguments)...);
+    }
 
     void erase(std::size_t index)
     {

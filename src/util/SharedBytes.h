@@ -13,8 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// Bytes that their first owner fills once and that copies share from then on: copying only
-/// increments a count. Bytes and count are in one block of memory, so reading the bytes follows
+/// Bytes that copies share: copying only increments a count. An owner fills them before it shares them. Bytes and count are in one block of memory, so reading the bytes follows
 /// only one pointer.
 ///
 /// You can use owners that share bytes in different threads, each owner in one thread at a time.
@@ -60,7 +59,12 @@ public:
     {
         return head_ == nullptr ? nullptr : reinterpret_cast<const std::byte*>(head_ + 1);
     }
-    /// The bytes, which must exist, to be filled before they are shared.
+    /// Whether there are bytes that another owner has, too.
+    bool isShared() const noexcept
+    {
+        return head_ != nullptr && head_->owners.load(std::memory_order_acquire) != 1;
+    }
+    /// The bytes, which must exist and not be shared, to be filled or changed.
     std::byte* mutableData() noexcept { return reinterpret_cast<std::byte*>(head_ + 1); }
 
 private:

@@ -30,7 +30,7 @@ TEST(FrontVector, MatchesAVectorUnderRandomChanges)
     for (int step = 0; step < 20000; ++step) {
         const auto kind = random() % 8;
         if (expected.empty() || kind < 3) {
-            vector.push_back(std::make_shared<int>(step));
+            vector.emplace_back(std::make_shared<int>(step));
             expected.push_back(step);
         } else if (kind < 6) {
             vector.erase(0);
@@ -60,7 +60,7 @@ TEST(FrontVector, ErasesAnywhereWithoutRoomForMore)
                 std::vector<int> expected;
                 vector.reserve(size); // a sanitizer watches what follows the last element
                 for (std::size_t i = 0; i < size; ++i) {
-                    vector.push_back(std::make_shared<int>(static_cast<int>(i)));
+                    vector.emplace_back(std::make_shared<int>(static_cast<int>(i)));
                     if (i >= fromFront) expected.push_back(static_cast<int>(i));
                 }
                 for (std::size_t i = 0; i < fromFront; ++i)
@@ -77,7 +77,7 @@ TEST(FrontVector, AnErasedElementIsDestroyedAtOnce)
 {
     Vector vector;
     for (int i = 0; i < 10; ++i)
-        vector.push_back(std::make_shared<int>(i));
+        vector.emplace_back(std::make_shared<int>(i));
     for (const std::size_t index : {std::size_t{0}, std::size_t{4}, std::size_t{0}}) {
         const std::weak_ptr<int> erased = vector[index];
         vector.erase(index);
@@ -109,7 +109,7 @@ TEST(FrontVector, ErasingAllFromTheFrontMovesEachElementOnlyAFewTimes)
     FrontVector<Counted> vector;
     vector.reserve(size);
     for (long i = 0; i < size; ++i)
-        vector.push_back(Counted(&moves));
+        vector.emplace_back(Counted(&moves));
     moves = 0;
     for (long i = 0; i < size; ++i)
         vector.erase(0);
