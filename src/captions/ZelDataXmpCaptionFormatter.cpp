@@ -78,8 +78,10 @@ void writeMarker(TextBlock& track, const CaptionState& item,
         .append(R"(" zelDM:halign=")")
         .append(horizontalWord(item.alignment))
         .append(R"(" ><xmpDM:name><rdf:Alt>)");
-    for (const std::string& id : languageIDs)
-        appendCaption(track, id, item.texts().find(id).value_or(std::string_view()));
+    for (std::size_t i = 0; i < languageIDs.size(); ++i) {
+        const std::string& id = languageIDs[i];
+        appendCaption(track, id, item.texts().find(id, i).value_or(std::string_view()));
+    }
     track.append("</rdf:Alt></xmpDM:name></rdf:Description></rdf:li>");
 }
 

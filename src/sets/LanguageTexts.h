@@ -30,10 +30,11 @@ public:
     static ZelDataResult_tags check(const std::string& text, const std::string& languageID);
 
     std::size_t count() const noexcept;
-    /// The text for @p languageID, valid until the texts change; none if there is no such text.
-    std::optional<std::string_view> find(std::string_view languageID) const
+    /// The text for @p languageID, valid until the texts change; none if there is no such text. It is
+    /// found faster if @p likely texts precede it.
+    std::optional<std::string_view> find(std::string_view languageID, std::size_t likely = 0) const
     {
-        return many_ ? many_->read().find(languageID) : few_.find(languageID);
+        return many_ ? many_->read().find(languageID) : few_.find(languageID, likely);
     }
     /// Calls @p visit with each language ID and its text.
     template <class Visit>

@@ -135,9 +135,10 @@ bool PackedTexts::holds(std::size_t place, std::string_view languageID) const no
     return place < count() && compare((*this)[place].languageID, languageID) == 0;
 }
 
-std::optional<std::string_view> PackedTexts::find(std::string_view languageID) const noexcept
+std::optional<std::string_view> PackedTexts::find(std::string_view languageID,
+                                                  std::size_t likely) const noexcept
 {
-    const std::size_t place = placeOf(languageID);
+    const std::size_t place = holds(likely, languageID) ? likely : placeOf(languageID);
     if (!holds(place, languageID)) return std::nullopt;
     return (*this)[place].text;
 }

@@ -29,8 +29,9 @@ public:
     std::size_t count() const noexcept;
     /// The entry at @p index, which is below count(). Its views are valid until the texts change.
     Entry operator[](std::size_t index) const noexcept;
-    /// The text for @p languageID; none if there is no such text.
-    std::optional<std::string_view> find(std::string_view languageID) const noexcept;
+    /// The text for @p languageID, which is probably at @p likely; none if there is no such text.
+    std::optional<std::string_view> find(std::string_view languageID,
+                                         std::size_t likely = 0) const noexcept;
     /// The number of bytes in all IDs and texts.
     std::size_t byteCount() const noexcept;
     /// The number of bytes that adding a text of @p added bytes, including its ID, copies.

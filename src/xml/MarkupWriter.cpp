@@ -20,6 +20,16 @@ MarkupWriter& MarkupWriter::escaped(std::string_view name, std::string_view valu
     return attributeOf(name, [value](TextBlock& text) { appendEscaped(text, value); });
 }
 
+MarkupWriter& MarkupWriter::number(std::string_view name, long long value)
+{
+    return attributeOf(name, [value](TextBlock& text) { text.appendNumber(value); });
+}
+
+MarkupWriter& MarkupWriter::number(std::string_view name, unsigned long long value)
+{
+    return attributeOf(name, [value](TextBlock& text) { text.appendNumber(value); });
+}
+
 void MarkupWriter::beginValue(std::string_view name)
 {
     text_.append(name).append("=\"");

@@ -35,7 +35,8 @@ public:
     template <class Number, class = std::enable_if_t<std::is_integral_v<Number>>>
     MarkupWriter& attribute(std::string_view name, Number value)
     {
-        return attributeOf(name, [value](TextBlock& text) { text.appendNumber(value); });
+        using Widest = std::conditional_t<std::is_signed_v<Number>, long long, unsigned long long>;
+        return number(name, Widest{value});
     }
 
     /// An attribute whose value @p append, a callable, appends to its argument.
@@ -54,6 +55,8 @@ public:
     void finish() { text_.flush(); }
 
 private:
+    MarkupWriter& number(std::string_view name, long long value);
+    MarkupWriter& number(std::string_view name, unsigned long long value);
     void beginValue(std::string_view name);
     MarkupWriter& endValue();
 
