@@ -165,20 +165,22 @@ const char* skipHarmless(std::string_view text, const char* position, Mark mark,
                          IsHarmless isHarmless) noexcept
 {
     const char* const end = text.data() + text.size();
-    while (position != end) {
-        const std::size_t size = std::min(blockSize, static_cast<std::size_t>(end - position));
-        const bool isWhole = size == blockSize;
-        const ByteBlock marked = mark(isWhole ? loadBlock(position) : lastBytes(text, size));
-        if (marked == 0) {
-            position += size;
-            continue;
+    for (;;) {
+        ByteBlock marked = 0;
+        while (end - position >= static_cast<std::ptrdiff_t>(blockSize)) {
+            marked = mark(loadBlock(position));
+            if (marked != 0) break;
+            position += blockSize;
         }
-        position +=
-            std::min(bytesBeforeFirst(marked), size); // the zeros after the end may be marked
-        if (position == end || !isHarmless(*position)) return position;
+        if (marked == 0) {
+            const auto left = static_cast<std::size_t>(end - position);
+            marked = mark(lastBytes(text, left)); // and perhaps the zeros after them
+            if (marked == 0 || bytesBeforeFirst(marked) >= left) return end;
+        }
+        position += bytesBeforeFirst(marked);
+        if (!isHarmless(*position)) return position;
         ++position; // a line feed
     }
-    return end;
 }
 
 /// Whether @p text may need so many entities that their number matters.
