@@ -3,6 +3,7 @@
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "ZelInterchangeData/i_ZelDataCaptionItem.h"
 #include "sets/Factory.h"
+#include "util/TextUtilities.h"
 #include "xml/LanguageAlternative.h"
 #include "xml/MarkupWriter.h"
 #include "xml/TrackMarkup.h"

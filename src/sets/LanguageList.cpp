@@ -16,18 +16,16 @@ ZelDataResult_tags LanguageList::add(const std::string& id)
     return ZelData_Ok;
 }
 
-void LanguageList::addChecked(std::string_view id)
+void LanguageList::addLanguagesOf(const LanguageTexts& texts)
 {
-    if (!contains(id)) ids_.append(id);
-}
-
-void LanguageList::addChecked(std::string_view id, std::size_t& place)
-{
-    if (ids_.isAt(place, id)) {
-        ++place;
-    } else {
-        addChecked(id);
-    }
+    std::size_t place = 0; // most items have the listed languages in the listed order
+    texts.forEach([&](std::string_view id, std::string_view /*text*/) {
+        if (ids_.isAt(place, id)) {
+            ++place;
+        } else if (!contains(id)) {
+            ids_.append(id);
+        }
+    });
 }
 
 ZelDataResult_tags LanguageList::copyFrom(const LanguageList& other)

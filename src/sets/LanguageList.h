@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_SETS_LANGUAGELIST_H
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "sets/LanguageTexts.h"
 #include "util/TextList.h"
 
 #include <cstddef>
@@ -30,11 +31,8 @@ public:
     /// As clear() and add() for each entry of @p other, whose entries are already checked: stops at
     /// a duplicate that reorder() accepted, with #ZelData_WarnAlreadyExists.
     ZelDataResult_tags copyFrom(const LanguageList& other);
-    /// Lists @p id, which has already been checked, unless it is listed.
-    void addChecked(std::string_view id);
-    /// The same, but looks for it first at @p place, which then moves on: most items have the listed
-    /// languages in the listed order.
-    void addChecked(std::string_view id, std::size_t& place);
+    /// Lists the languages of @p texts that are not listed, in ascending order.
+    void addLanguagesOf(const LanguageTexts& texts);
     /// Removes the first identical entry; returns false if there is none.
     bool remove(const std::string& id) { return ids_.remove(id); }
     /// Removes all entries but the first @p count, if there are that many.

@@ -99,12 +99,8 @@ protected:
     ZelDataResult_tags addOwnWithLanguages(const Own& item, Items& items)
     {
         return undoLanguagesIfOutOfMemory([&] {
-            return items.appendCopyOf(item, [this](const auto& state) {
-                std::size_t place = 0;
-                state.texts().forEach([&](std::string_view id, std::string_view /*text*/) {
-                    languages_.addChecked(id, place);
-                });
-            });
+            return items.appendCopyOf(
+                item, [this](const auto& state) { languages_.addLanguagesOf(state.texts()); });
         });
     }
 

@@ -2,6 +2,7 @@
 
 #include "ZelInterchangeData/ZelDataUtilities.h"
 #include "util/LanguageCatalogue.h"
+#include "util/TextUtilities.h"
 
 #include <utility>
 
@@ -45,6 +46,15 @@ LanguageTexts::Map LanguageTexts::unpacked() const
 std::size_t LanguageTexts::count() const noexcept
 {
     return many_ ? many_->read().texts.size() : few_.count();
+}
+
+std::size_t LanguageTexts::sizeWithEntities() const
+{
+    if (!many_) return few_.byteCount(); // so few that their entities do not matter
+    std::size_t size = 0;
+    for (const auto& [languageID, text] : many_->read().texts)
+        size += languageID.size() + ZelInterchangeData::sizeWithEntities(text);
+    return size;
 }
 
 void LanguageTexts::clear() noexcept

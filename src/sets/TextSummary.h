@@ -5,10 +5,8 @@
 #define ZELINTERCHANGEDATA_SETS_TEXTSUMMARY_H
 
 #include "sets/LanguageList.h"
-#include "util/TextUtilities.h"
 
 #include <cstddef>
-#include <string_view>
 
 namespace ZelInterchangeData {
 
@@ -24,11 +22,8 @@ struct TextSummary {
     template <class State>
     void add(const State& state)
     {
-        std::size_t place = 0;
-        state.texts().forEach([&](std::string_view languageID, std::string_view text) {
-            languages.addChecked(languageID, place);
-            size += languageID.size() + sizeWithEntities(text);
-        });
+        languages.addLanguagesOf(state.texts());
+        size += state.texts().sizeWithEntities();
     }
 };
 

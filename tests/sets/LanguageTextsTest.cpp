@@ -81,8 +81,9 @@ TEST(LanguageTexts, HaveRoomForEachByteOfAnotherTextOfAnySize)
     for (std::size_t size = 0; size <= 20; ++size) {
         for (std::size_t other = 0; other <= 2 * size + 4; ++other) {
             LanguageTexts texts;
-            texts.set(std::string(size, 'x'), "en");
-            texts.set(std::string(other, 'y'), "de"); // in place, if it is not much longer
+            EXPECT_EQ(ZelData_Ok, texts.set(std::string(size, 'x'), "en"));
+            // In place, if it is not much longer.
+            EXPECT_EQ(ZelData_Ok, texts.set(std::string(other, 'y'), "de"));
             EXPECT_EQ((Map{{"de", std::string(other, 'y')}, {"en", std::string(size, 'x')}}),
                       mapOf(texts));
         }
@@ -94,18 +95,19 @@ TEST(LanguageTexts, AnotherTextOfSimilarLengthTakesNoMemoryUnlessTheFirstIsShare
     for (const std::size_t size : {std::size_t{2}, std::size_t{10}, std::size_t{200}}) {
         const std::string text(size, 'x');
         const std::string longer(size + (size + 2) / 2, 'y');
+        const std::string tooLong = longer + "y";
         LanguageTexts texts;
-        texts.set(text, "en");
+        EXPECT_EQ(ZelData_Ok, texts.set(text, "en"));
         LanguageTexts copy(texts);
         {
             const FailingAllocation failing(0);
-            EXPECT_THROW(copy.set(longer, "de"), std::bad_alloc);
+            EXPECT_THROW(static_cast<void>(copy.set(longer, "de")), std::bad_alloc);
             EXPECT_EQ((Map{{"en", text}}), mapOf(copy));
         }
         copy.clear();
         {
             const FailingAllocation failing(0);
-            EXPECT_THROW(texts.set(longer + "y", "de"), std::bad_alloc);
+            EXPECT_THROW(static_cast<void>(texts.set(tooLong, "de")), std::bad_alloc);
             EXPECT_EQ(ZelData_Ok, texts.set(longer, "de"));
         }
         EXPECT_EQ((Map{{"de", longer}, {"en", text}}), mapOf(texts));
@@ -116,7 +118,7 @@ TEST(LanguageTexts, AreFoundWhereverTheyAreExpected)
 {
     LanguageTexts texts;
     for (const char* id : {"de", "en", "pt-BR"})
-        texts.set(std::string("text ") + id, id);
+        EXPECT_EQ(ZelData_Ok, texts.set(std::string("text ") + id, id));
     for (const std::size_t likely : {0U, 1U, 2U, 3U, 100U}) {
         EXPECT_EQ("text de", texts.find("de", likely));
         EXPECT_EQ("text en", texts.find("en", likely));
