@@ -1,5 +1,7 @@
 #include "sets/PackedTexts.h"
 
+#include "util/ShortText.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <new>
@@ -79,16 +81,6 @@ std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
     return entry.languageID.size() + entry.text.size();
 }
 
-/// Compares language IDs, without a call for two letters, as most have.
-int compare(std::string_view a, std::string_view b) noexcept
-{
-    if (a.size() != 2 || b.size() != 2) return a.compare(b);
-    const auto number = [](std::string_view id) {
-        return static_cast<unsigned char>(id[0]) << 8 | static_cast<unsigned char>(id[1]);
-    };
-    return number(a) - number(b);
-}
-
 } // namespace
 
 std::size_t PackedTexts::count() const noexcept
@@ -121,7 +113,7 @@ std::size_t PackedTexts::placeOf(std::string_view languageID) const noexcept
     std::size_t last = count();
     while (first != last) {
         const std::size_t middle = first + (last - first) / 2;
-        if (compare((*this)[middle].languageID, languageID) < 0) {
+        if (compareShort((*this)[middle].languageID, languageID) < 0) {
             first = middle + 1;
         } else {
             last = middle;
@@ -132,7 +124,7 @@ std::size_t PackedTexts::placeOf(std::string_view languageID) const noexcept
 
 bool PackedTexts::holds(std::size_t place, std::string_view languageID) const noexcept
 {
-    return place < count() && compare((*this)[place].languageID, languageID) == 0;
+    return place < count() && compareShort((*this)[place].languageID, languageID) == 0;
 }
 
 std::optional<std::string_view> PackedTexts::find(std::string_view languageID,

@@ -10,17 +10,6 @@ namespace {
 /// Up to this many texts are compared one by one, without an index.
 constexpr std::size_t fewTexts = 16;
 
-/// Whether the two are equal. Most texts are language IDs, for which the function call of `==` would take
-/// longer than this.
-bool areEqual(std::string_view left, std::string_view right) noexcept
-{
-    if (left.size() != right.size()) return false;
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        if (left[i] != right[i]) return false;
-    }
-    return true;
-}
-
 } // namespace
 
 TextList::TextList(std::vector<std::string> texts) : texts_(std::move(texts))
@@ -44,12 +33,7 @@ bool TextList::contains(std::string_view text) const
 {
     if (!index_.empty()) return index_.find(text) != index_.end();
     return std::any_of(texts_.begin(), texts_.end(),
-                       [text](const std::string& each) { return areEqual(each, text); });
-}
-
-bool TextList::isAt(std::size_t place, std::string_view text) const noexcept
-{
-    return place < texts_.size() && areEqual(texts_[place], text);
+                       [text](const std::string& each) { return compareShort(each, text) == 0; });
 }
 
 void TextList::clear() noexcept

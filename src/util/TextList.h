@@ -4,6 +4,8 @@
 #ifndef ZELINTERCHANGEDATA_UTIL_TEXTLIST_H
 #define ZELINTERCHANGEDATA_UTIL_TEXTLIST_H
 
+#include "util/ShortText.h"
+
 #include <cstddef>
 #include <functional>
 #include <set>
@@ -28,7 +30,10 @@ public:
     const std::vector<std::string>& texts() const noexcept { return texts_; }
     bool contains(std::string_view text) const;
     /// Whether @p text is at @p place, which may be beyond the end.
-    bool isAt(std::size_t place, std::string_view text) const noexcept;
+    bool isAt(std::size_t place, std::string_view text) const noexcept
+    {
+        return place < texts_.size() && compareShort(texts_[place], text) == 0;
+    }
 
     void clear() noexcept;
     void append(std::string_view text);
