@@ -19,19 +19,6 @@ public:
     /// Prepares @p size places with counts of zero.
     void clear(std::size_t size) { sums_.assign(size, 0); }
 
-    /// Prepares @p size places, at least one, with a count of one at each, for take() alone.
-    void fill(std::size_t size)
-    {
-        clear(size + 1);
-        for (std::size_t i = 1; i < size; ++i) {
-            sums_[i] = lowestBit(i);
-        }
-        sums_[size] = std::numeric_limits<std::size_t>::max(); // where a sum beyond them looks
-        highestStep_ = 1;
-        while (highestStep_ <= size / 2)
-            highestStep_ *= 2;
-    }
-
     void add(std::size_t place)
     {
         for (std::size_t i = place + 1; i < sums_.size(); i += lowestBit(i)) {
@@ -48,27 +35,10 @@ public:
         return sum;
     }
 
-    /// Takes one off the place at which the sum exceeds @p count, and returns the place.
-    std::size_t take(std::size_t count)
-    {
-        const std::size_t size = sums_.size() - 1;
-        std::size_t place = 0;
-        for (std::size_t step = highestStep_; step > 0; step /= 2) {
-            std::size_t& sum = sums_[std::min(place + step, size)];
-            // All bits if it is below, otherwise none: a branch would be unpredictable.
-            const std::size_t below = std::size_t{0} - static_cast<std::size_t>(sum <= count);
-            count -= sum & below;
-            sum -= 1 + below;
-            place += step & below;
-        }
-        return place;
-    }
-
 private:
     static constexpr std::size_t lowestBit(std::size_t i) noexcept { return i & (~i + 1); }
 
     Places sums_;
-    std::size_t highestStep_ = 1;
 };
 
 /// An item's start, relative to the smallest one, in the upper half of the bits, and its place in
@@ -164,35 +134,42 @@ public:
     void arrange(Places::iterator first, Places::iterator last, std::size_t total)
     {
         members_.assign(first, last);
-        joinRing();
-        const std::size_t size = members_.size();
-        const std::size_t head = (head_ + total - counts_[members_.back()]) % size;
-        // Places the last member first: the earlier ones make room for it.
-        free_.fill(size);
-        for (std::size_t i = size; i-- > 0;) {
-            const std::size_t place = free_.take(joined_[i]);
-            const std::size_t fromHead = place < head ? place + size - head : place - head;
-            first[static_cast<std::ptrdiff_t>(fromHead)] = members_[i];
+        // The members that precede the head, a gap, and the others at the end of the range.
+        auto head = first;
+        auto afterGap = last;
+        for (std::size_t i = 0; i < members_.size(); ++i) {
+            const auto place = i == 0 ? first : turned(first, head, i, countBetween(i - 1, i));
+            if (place < head) {
+                afterGap = std::move_backward(place, head, afterGap);
+            } else {
+                const auto next = afterGap + (place - head);
+                std::move(afterGap, next, head);
+                afterGap = next;
+            }
+            *place = members_[i];
+            head = place + 1;
         }
+        const std::size_t afterLast = total - counts_[members_.back()];
+        std::rotate(first, turned(first, head, members_.size(), afterLast), last);
     }
 
 private:
-    /// Records where each member joins the ring, counted from the first member.
-    void joinRing()
+    /// How many smaller starts there are between two members.
+    std::size_t countBetween(std::size_t a, std::size_t b) const
     {
-        joined_.assign(members_.size(), 0);
-        head_ = 0;
-        for (std::size_t i = 1; i < members_.size(); ++i) {
-            head_ = (head_ + counts_[members_[i]] - counts_[members_[i - 1]]) % i;
-            joined_[i] = head_++;
-        }
+        return counts_[members_[b]] - counts_[members_[a]];
+    }
+
+    /// The head of a ring of @p size members from @p first after @p steps steps.
+    static Places::iterator turned(Places::iterator first, Places::iterator head, std::size_t size,
+                                   std::size_t steps)
+    {
+        const auto place = (static_cast<std::size_t>(head - first) + steps) % size;
+        return first + static_cast<std::ptrdiff_t>(place);
     }
 
     const Places& counts_;
     Places members_;
-    Places joined_;
-    std::size_t head_ = 0;
-    PrefixCounts free_;
 };
 
 } // namespace
