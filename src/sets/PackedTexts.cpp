@@ -11,71 +11,6 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Numbers of entries, and of characters in all IDs and texts.
-struct Counts {
-    std::uint32_t entries;
-    std::uint32_t characters;
-};
-
-/// Where an entry's ID begins among the characters, where its text does, and where that ends.
-struct Span {
-    std::uint32_t begin;
-    std::uint32_t textBegin;
-    std::uint32_t end;
-};
-
-/// The shared bytes: what is used of them, what there is room for, the spans in the order of their IDs,
-/// and the characters in the order in which they were added.
-struct Block {
-    Counts used;
-    Counts room;
-
-    static const Block& in(const SharedBytes& bytes) noexcept
-    {
-        return *reinterpret_cast<const Block*>(bytes.data());
-    }
-    static Block& in(SharedBytes& bytes) noexcept
-    {
-        return *reinterpret_cast<Block*>(bytes.mutableData());
-    }
-
-    const Span* spans() const noexcept { return reinterpret_cast<const Span*>(this + 1); }
-    Span* spans() noexcept { return reinterpret_cast<Span*>(this + 1); }
-    const char* characters() const noexcept
-    {
-        return reinterpret_cast<const char*>(spans() + room.entries);
-    }
-    char* characters() noexcept { return reinterpret_cast<char*>(spans() + room.entries); }
-
-    /// Inserts @p entry, for which there is room, at @p place.
-    void insert(std::size_t place, const PackedTexts::Entry& entry) noexcept
-    {
-        Span* const spans = this->spans();
-        std::copy_backward(spans + place, spans + used.entries, spans + used.entries + 1);
-        spans[place].begin = used.characters;
-        append(entry.languageID);
-        spans[place].textBegin = used.characters;
-        append(entry.text);
-        spans[place].end = used.characters;
-        ++used.entries;
-    }
-
-private:
-    void append(std::string_view text) noexcept
-    {
-        used.characters +=
-            static_cast<std::uint32_t>(text.copy(characters() + used.characters, text.size()));
-    }
-};
-
-SharedBytes emptyBlock(std::size_t entries, std::size_t characters)
-{
-    SharedBytes bytes(sizeof(Block) + entries * sizeof(Span) + characters);
-    new (bytes.mutableData()) Block{
-        {0, 0}, {static_cast<std::uint32_t>(entries), static_cast<std::uint32_t>(characters)}};
-    return bytes;
-}
-
 std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
 {
     return entry.languageID.size() + entry.text.size();
@@ -83,9 +18,12 @@ std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
 
 } // namespace
 
-std::size_t PackedTexts::count() const noexcept
+SharedBytes PackedTexts::emptyBlock(std::size_t entries, std::size_t characters)
 {
-    return bytes_.data() == nullptr ? 0 : Block::in(bytes_).used.entries;
+    SharedBytes bytes(sizeof(Block) + entries * sizeof(Span) + characters);
+    new (bytes.mutableData()) Block{
+        {0, 0}, {static_cast<std::uint32_t>(entries), static_cast<std::uint32_t>(characters)}};
+    return bytes;
 }
 
 std::size_t PackedTexts::byteCount() const noexcept
@@ -96,14 +34,6 @@ std::size_t PackedTexts::byteCount() const noexcept
 std::size_t PackedTexts::bytesWith(std::size_t added) const noexcept
 {
     return sizeof(Block) + (count() + 1) * sizeof(Span) + byteCount() + added;
-}
-
-PackedTexts::Entry PackedTexts::operator[](std::size_t index) const noexcept
-{
-    const Block& block = Block::in(bytes_);
-    const auto [begin, textBegin, end] = block.spans()[index];
-    const char* const characters = block.characters();
-    return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
 }
 
 /// The index of the text for @p languageID, or the one that a new text would get.
