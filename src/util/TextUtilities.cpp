@@ -97,8 +97,9 @@ inline bool isWellFormed(std::string_view text) noexcept
         if (highBits(block) == 0 && !sequences.isOpen()) continue;
         if (!sequences.addBlock(block)) return false;
     }
+    const ByteBlock last = lastBytes(text, static_cast<std::size_t>(end - position));
     // It ends with a zero byte, which completes no sequence.
-    return sequences.addBlock(lastBytes(text, static_cast<std::size_t>(end - position)));
+    return (highBits(last) == 0 && !sequences.isOpen()) || sequences.addBlock(last);
 }
 
 /// The control characters below the space, most of which XML forbids, except the line feed.
