@@ -128,6 +128,16 @@ TEST(LanguageTexts, AreFoundWhereverTheyAreExpected)
     }
 }
 
+TEST(LanguageTexts, TheirSizeCountsTheEntitiesOfLongTexts)
+{
+    LanguageTexts texts;
+    EXPECT_EQ(0U, texts.sizeWithEntities());
+    EXPECT_EQ(ZelData_Ok, texts.set("a & b", "en"));
+    EXPECT_EQ(7U, texts.sizeWithEntities()); // five characters and their ID
+    EXPECT_EQ(ZelData_Ok, texts.set(std::string(10000, '&'), "de"));
+    EXPECT_EQ(7U + 2 + 10000 * std::string("&amp;").size(), texts.sizeWithEntities());
+}
+
 TEST(LanguageTexts, ZeroBytesAndEmptyTextsAreTexts)
 {
     LanguageTexts texts;
