@@ -94,7 +94,8 @@ ZelDataResult_tags ZelDataHeader::getDescription(std::string& description) const
 ZelDataResult_tags ZelDataHeader::setKeywords(const std::vector<std::string>& keywords)
 {
     return store(guarded([&] {
-        fields_.keywords = std::make_shared<const std::vector<std::string>>(keywords);
+        using Keywords = const std::vector<std::string>;
+        fields_.keywords = keywords.empty() ? nullptr : std::make_shared<Keywords>(keywords);
         return ZelData_Ok;
     }));
 }

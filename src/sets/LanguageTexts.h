@@ -32,8 +32,8 @@ public:
     std::size_t count() const noexcept;
     /// The approximate number of bytes that all texts and their language IDs take in a packet.
     std::size_t sizeWithEntities() const;
-    /// The text for @p languageID, valid until the texts change; none if there is no such text. It is
-    /// found faster if @p likely texts precede it.
+    /// The text for @p languageID, valid until the texts change; none if there is no such text.
+    /// Looks first at place @p likely.
     std::optional<std::string_view> find(std::string_view languageID, std::size_t likely = 0) const
     {
         return many_ ? many_->read().find(languageID) : few_.find(languageID, likely);

@@ -16,6 +16,13 @@ std::size_t charactersOf(const PackedTexts::Entry& entry) noexcept
     return entry.languageID.size() + entry.text.size();
 }
 
+/// The room to leave for another text after one of @p characters: it may be somewhat longer.
+std::size_t spareFor(std::size_t characters) noexcept
+{
+    constexpr std::size_t most = 256; // longer than most captions
+    return std::min(characters + characters / 2, most);
+}
+
 } // namespace
 
 SharedBytes PackedTexts::emptyBlock(std::size_t entries, std::size_t characters)
@@ -65,6 +72,11 @@ std::optional<std::string_view> PackedTexts::find(std::string_view languageID,
     return (*this)[place].text;
 }
 
+std::size_t PackedTexts::sizeAt(std::size_t place) const noexcept
+{
+    return charactersOf((*this)[place]);
+}
+
 /// Whether @p added can be inserted in place.
 bool PackedTexts::hasRoomFor(const Entry& added) const noexcept
 {
@@ -94,10 +106,10 @@ bool PackedTexts::set(std::string_view text, std::string_view languageID)
         Block::in(bytes_).insert(place, added);
         return false;
     }
-    // With room for another text like this one, although that may be somewhat longer.
-    const std::size_t spare = charactersOf(added) + charactersOf(added) / 2;
-    SharedBytes changed = copyWithout(replaces ? place : count(), count() + 2,
-                                      byteCount() + charactersOf(added) + spare);
+    SharedBytes changed =
+        replaces ? copyWithout(place, count(), byteCount() - sizeAt(place) + charactersOf(added))
+                 : copyWithout(count(), count() + 2,
+                               byteCount() + charactersOf(added) + spareFor(charactersOf(added)));
     Block::in(changed).insert(place, added);
     bytes_ = std::move(changed);
     return replaces;
@@ -109,7 +121,7 @@ void PackedTexts::remove(std::string_view languageID)
     if (count() == 1) {
         clear();
     } else {
-        bytes_ = copyWithout(place, count() - 1, byteCount() - charactersOf((*this)[place]));
+        bytes_ = copyWithout(place, count() - 1, byteCount() - sizeAt(place));
     }
 }
 

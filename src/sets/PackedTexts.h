@@ -18,7 +18,7 @@ namespace ZelInterchangeData {
 /// operation throws `std::bad_alloc` and changes nothing.
 ///
 /// All of them are in one block of memory that copies share, with room for another text like the one
-/// that was set last. Copying only increments a count, and reading follows only one pointer. A text
+/// that was added last, unless that is long. Copying only increments a count, and reading follows only one pointer. A text
 /// that fits is added in place unless the block is shared; each other change copies all texts.
 class PackedTexts {
 public:
@@ -40,7 +40,7 @@ public:
         const char* const characters = block.characters();
         return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
     }
-    /// The text for @p languageID, which is probably at @p likely; none if there is no such text.
+    /// The text for @p languageID; none if there is no such text. Looks first at place @p likely.
     std::optional<std::string_view> find(std::string_view languageID,
                                          std::size_t likely = 0) const noexcept;
     /// The number of bytes in all IDs and texts.
@@ -71,8 +71,8 @@ private:
         std::uint32_t end;
     };
 
-    /// The shared bytes: what is used of them, what there is room for, the spans in the order of their IDs,
-    /// and the characters in the order in which they were added.
+    /// The shared bytes: how much of them is used, how much there is room for, the spans in the order
+    /// of their IDs, and the characters in the order in which they were added.
     struct Block {
         Counts used;
         Counts room;
@@ -118,6 +118,8 @@ private:
     static SharedBytes emptyBlock(std::size_t entries, std::size_t characters);
     std::size_t placeOf(std::string_view languageID) const noexcept;
     bool holds(std::size_t place, std::string_view languageID) const noexcept;
+    /// The number of bytes in the ID and the text at @p place.
+    std::size_t sizeAt(std::size_t place) const noexcept;
     bool hasRoomFor(const Entry& added) const noexcept;
     SharedBytes copyWithout(std::size_t place, std::size_t entries, std::size_t characters) const;
 

@@ -37,9 +37,9 @@ constexpr std::size_t indexOf(std::size_t first, std::size_t second) noexcept
     return first * letterCount + second;
 }
 
-/// All texts of the table, one after the other, each followed by a zero byte. The library contains these
-/// instead of the table: each of the table's pointers would take more room than the name, because it is
-/// relocated when the library is loaded.
+/// All texts of the table, one after the other, each followed by a zero byte. The library contains
+/// these instead of the table: each of the table's pointers would take more room than the name, because
+/// it is relocated when the library is loaded.
 template <std::size_t Size>
 struct Texts {
     std::string_view operator[](std::size_t number) const noexcept

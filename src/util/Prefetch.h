@@ -18,7 +18,7 @@ inline void prefetch([[maybe_unused]] const void* address,
     const auto askFor = [](std::uintptr_t place) {
         // NOLINTNEXTLINE(performance-no-int-to-ptr): a pointer must stay inside its object.
         __builtin_prefetch(reinterpret_cast<const void*>(place));
-        // g++ drops calls of a function that does nothing but prefetch; this is more, and no code.
+        // Otherwise g++ drops calls of a function that does nothing but prefetch. Adds no code.
         __asm__ volatile("");
     };
     constexpr std::uintptr_t cacheLine = 64;

@@ -13,7 +13,8 @@
 
 namespace ZelInterchangeData {
 
-/// Bytes that copies share: copying only increments a count. An owner fills them before it shares them. Bytes and count are in one block of memory, so reading the bytes follows
+/// Bytes that copies share: copying only increments a count. Only the owner of bytes that are not
+/// shared may change them. Bytes and count are in one block of memory, so reading the bytes follows
 /// only one pointer.
 ///
 /// You can use owners that share bytes in different threads, each owner in one thread at a time.
@@ -72,9 +73,9 @@ private:
         std::atomic<std::size_t> owners{1};
     };
 
-    /// Gives up one of the owners; whether it was the last, which must see what the others did before they
-    /// released the bytes. An only owner need not count down, which takes longer: nobody else can copy from
-    /// it.
+    /// Releases the bytes for one owner. Returns whether it was the last one, which must see what the
+    /// others did before they released them. If there is only one owner, does not count down, which
+    /// takes longer: nobody else can copy from it.
     bool isLastRelease() const noexcept
     {
         return head_->owners.load(std::memory_order_acquire) == 1 ||

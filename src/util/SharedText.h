@@ -58,7 +58,7 @@ private:
 
     SharedBytes bytes_;
     std::size_t size_ = 0;
-    std::array<char, 16> short_{}; // a file name, or a number of a version
+    std::array<char, 16> short_{}; // a file name, or a version number
 };
 
 } // namespace ZelInterchangeData

@@ -58,7 +58,7 @@ const char* skipCharacter(const char* text, const char* end) noexcept
 class SequenceBlocks {
 public:
     /// Adds a block. Returns whether it correctly continues the ones before it. No branch depends
-    /// on single bytes of two or three: in mixed text it would be unpredictable.
+    /// on where characters of two or three bytes are: in mixed text it would be unpredictable.
     bool addBlock(ByteBlock block) noexcept
     {
         const ByteBlock high = highBits(block);

@@ -13,7 +13,7 @@
 
 namespace ZelInterchangeData {
 
-/// Appends elements to a text. Their tags are given as they are, except attributes with a value:
+/// Appends elements to a text. You give their tags as text, and attributes by name and value:
 ///
 ///     writer.markup("<xmpDM:duration ").attribute("xmpDM:value", length).markup("></xmpDM:duration>");
 ///

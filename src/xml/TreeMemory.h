@@ -49,7 +49,6 @@ private:
         usual_ += usual_ / 2;
     }
 
-    /// A packet's frame needs two or three pieces, a track's one.
     static constexpr std::size_t firstPiece = 4096;
 
     Piece* newest_ = nullptr;

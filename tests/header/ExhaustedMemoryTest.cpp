@@ -128,6 +128,18 @@ TEST(HeaderWithoutMemory, GettersLeaveTheirArgumentAlone)
     }
 }
 
+TEST(HeaderWithoutMemory, ForgetsItsKeywords)
+{
+    const auto header = longHeader();
+    {
+        const FailingAllocation failing(0);
+        EXPECT_EQ(ZelData_Ok, header->setKeywords({}));
+    }
+    std::vector<std::string> keywords{longText};
+    EXPECT_EQ(ZelData_Ok, header->getKeywords(keywords));
+    EXPECT_TRUE(keywords.empty());
+}
+
 TEST(HeaderWithoutMemory, DisplayNamesEndWithOutOfMemory)
 {
     Texts names;

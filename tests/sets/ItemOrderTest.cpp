@@ -98,7 +98,7 @@ TEST(ExchangeOrder, MatchesTheExchangeSortForLongGroupsOfTies)
 TEST(ExchangeOrder, MatchesTheExchangeSortForOneGroupOfEachSize)
 {
     for (std::size_t size = 2; size <= 140; ++size) {
-        for (std::size_t place = 1; place <= size; ++place) { // each takes memory of its own
+        for (std::size_t place = 1; place <= size; ++place) {
             Starts starts(size, 255);
             starts.insert(starts.begin() + static_cast<std::ptrdiff_t>(place), 0);
             ASSERT_EQ(exchanged(starts), ordered(starts)) << size << ' ' << place;

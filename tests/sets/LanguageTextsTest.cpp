@@ -92,7 +92,7 @@ TEST(LanguageTexts, HaveRoomForEachByteOfAnotherTextOfAnySize)
 
 TEST(LanguageTexts, AnotherTextOfSimilarLengthTakesNoMemoryUnlessTheFirstIsShared)
 {
-    for (const std::size_t size : {std::size_t{2}, std::size_t{10}, std::size_t{200}}) {
+    for (const std::size_t size : {std::size_t{2}, std::size_t{10}, std::size_t{100}}) {
         const std::string text(size, 'x');
         const std::string longer(size + (size + 2) / 2, 'y');
         const std::string tooLong = longer + "y";
