@@ -258,20 +258,20 @@ struct ZelDataCall final {
     }
 };
 
-/// Throws a ZelDataError for @p call. @p reason returns what is known about the failure.
+/// The exception that reports @p call. @p reason returns what is known about the failure.
 ///
 /// If memory runs out, the message is shorter; if there is none for the shortest, throws
 /// `std::bad_alloc`.
 template <class Reason>
-[[noreturn]] void throwZelDataError(const ZelDataCall& call, Reason&& reason)
+ZelDataError zelDataErrorFor(const ZelDataCall& call, Reason&& reason)
 {
     using ZelDataMessages::orNothing;
     const std::string arguments = orNothing([&] { return call.shownArguments(); });
     const std::string known = orNothing(std::forward<Reason>(reason));
     try {
-        throw ZelDataError(call.code, call.operation, arguments, known);
+        return ZelDataError(call.code, call.operation, arguments, known);
     } catch (const std::bad_alloc&) {
-        throw ZelDataError(call.code, call.operation);
+        return ZelDataError(call.code, call.operation);
     }
 }
 

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <utility>
@@ -54,6 +53,13 @@ public:
 
     /// The object itself.
     Object& object() const noexcept { return *object_; }
+
+    /// What the view throws for @p call, which you made without the view. Call this before you call
+    /// anything else. May throw `std::bad_alloc`.
+    ZelDataError errorOf(const ZelDataCall& call) const
+    {
+        return zelDataErrorFor(call, [&] { return self().reason(call); });
+    }
 
 protected:
     /// Returns the view if @p code is not a failure of @p operation; otherwise throws and shows
@@ -128,7 +134,7 @@ protected:
     void require(const char* operation, ZelDataResult_tags code,
                  const Arguments&... arguments) const
     {
-        if (fails(code)) fail(operation, code, {ZelDataArgument(arguments)...});
+        if (fails(code)) throw errorOf({operation, code, {ZelDataArgument(arguments)...}});
     }
 
     /// Whether the view throws for @p code.
@@ -172,13 +178,6 @@ private:
     };
 
     const Self& self() const noexcept { return static_cast<const Self&>(*this); }
-
-    [[noreturn]] void fail(const char* operation, ZelDataResult_tags code,
-                           std::initializer_list<ZelDataArgument> arguments) const
-    {
-        const ZelDataCall call = {operation, code, arguments};
-        throwZelDataError(call, [&] { return self().reason(call); });
-    }
 
     Object* object_;
     bool warningsPass_ = false;
