@@ -1196,7 +1196,7 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_english_name_for_language(const char* id
 /// ZelDataUtilities::nativeNameForLanguage().
 ZELINTERCHANGEDATA_API uint32_t zeldata_native_name_for_language(const char* id, size_t id_length,
                                                                  zeldata_string* name);
-/// #ZelData_Ok if the language of @p id is in the catalogue, otherwise #ZelData_UnknownLanguage.
+/// #ZELDATA_OK if the language of @p id is in the catalogue, otherwise #ZELDATA_UNKNOWN_LANGUAGE.
 /// See ZelDataUtilities::isValidLanguage().
 ZELINTERCHANGEDATA_API uint32_t zeldata_is_valid_language(const char* id, size_t id_length);
 /// @}

@@ -239,8 +239,8 @@ LoadedMade<Type> loaded(Made<Type>& made)
     return {{}, made.out, std::make_unique<Type>(), nullptr};
 }
 
-/// Calls @p operation if all arguments are usable, and @p explain with its code and what a message shows if
-/// it fails.
+/// Calls @p operation if all arguments are usable. If it fails, calls @p explain with its code and
+/// what a message shows.
 template <class Operation, class Explain, class... Arguments>
 ZelDataResult_tags perform(Operation& operation, Explain& explain, Arguments&... arguments)
 {
@@ -257,8 +257,8 @@ ZelDataResult_tags perform(Operation& operation, Explain& explain, Arguments&...
     return call(loaded(arguments)...);
 }
 
-/// Calls @p body under the shared guard. If that fails without a message, keeps one that names @p operation.
-/// Deliberate: no template; with one, every kind of call would have its own guard.
+/// Calls @p body under the shared guard. If that fails without a message, keeps one that names
+/// @p operation. Deliberate: no template; with one, every kind of call would have its own guard.
 std::uint32_t guardedCall(LastMessage& message, const char* operation,
                           ZelDataResult_tags (*body)(void*), void* context)
 {
