@@ -90,6 +90,11 @@ Sets fill(const Document& document)
     return sets;
 }
 
+Sets fillFromCharacters(const Document& document)
+{
+    return fill(Document(document));
+}
+
 std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets)
 {
     std::unique_ptr<i_ZelInterchangeDataCore> core(ZELDataCreator::createInterchangeData());

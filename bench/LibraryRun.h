@@ -25,6 +25,9 @@ struct Sets {
 /// Creates data objects that hold @p document, as an application does.
 Sets fill(const Document& document);
 
+/// The same as fill() for an application whose texts are not in strings: it makes each one first.
+Sets fillFromCharacters(const Document& document);
+
 /// Passes @p sets to a new document object.
 std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
 

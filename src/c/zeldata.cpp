@@ -116,7 +116,7 @@ struct LoadedText : Argument {
     auto shown() const { return std::tie(value); }
 };
 
-LoadedText loaded(Text& text)
+inline LoadedText loaded(Text& text)
 {
     return {{}, std::string(text.text, text.isTerminated() ? std::strlen(text.text) : text.length)};
 }
@@ -257,23 +257,20 @@ ZelDataResult_tags perform(Operation& operation, Explain& explain, Arguments&...
     return call(loaded(arguments)...);
 }
 
-/// Calls @p body under the shared guard. If that fails without a message, keeps one that names
-/// @p operation. Deliberate: no template; with one, every kind of call would have its own guard.
-std::uint32_t guardedCall(LastMessage& message, const char* operation,
-                          ZelDataResult_tags (*body)(void*), void* context)
+/// The end of a failed call: keeps a message that names @p operation unless there is one.
+void complete(LastMessage& message, const char* operation, ZelDataResult_tags code)
 {
-    message.clear();
-    const auto code = guarded([=] { return body(context); });
-    if (failed(code) && message.isEmpty())
-        message.keep(code, [&] { return ZelDataError(code, operation); });
-    return code;
+    if (message.isEmpty()) message.keep(code, [&] { return ZelDataError(code, operation); });
 }
 
+/// Calls @p body under the guard.
 template <class Body>
-std::uint32_t guardedCall(LastMessage& message, const char* operation, Body& body)
+std::uint32_t guardedCall(LastMessage& message, const char* operation, Body&& body)
 {
-    return guardedCall(
-        message, operation, [](void* context) { return (*static_cast<Body*>(context))(); }, &body);
+    message.clear();
+    const ZelDataResult_tags code = guarded(body);
+    if (failed(code)) complete(message, operation, code);
+    return code;
 }
 
 /// Calls @p operation, which has no object.
@@ -317,12 +314,14 @@ auto ofRoot(ZelDataResult_tags (*operation)(const i_ZelDataResult&, Parameters..
 }
 /// @}
 
+/// Deliberate: not inlined; otherwise, each function would have the whole of it.
 template <class Operation, class... Arguments>
-std::uint32_t callObject(const Object* handle, Explain explainCall, const char* name,
-                         Operation operation, Arguments... arguments)
+[[gnu::noinline]] std::uint32_t callObject(const Object* handle, Explain explainCall,
+                                           const char* name, Operation operation,
+                                           Arguments... arguments)
 {
     if (handle == nullptr) return ZelData_InvalidArgument;
-    auto body = [&] {
+    return guardedCall(handle->message, name, [&] {
         const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
             return std::invoke(operation, *handle->object, passed...);
         };
@@ -330,8 +329,7 @@ std::uint32_t callObject(const Object* handle, Explain explainCall, const char* 
             explainCall(*handle, {name, code, {ZelDataArgument(shown)...}});
         };
         return perform(bound, explained, arguments...);
-    };
-    return guardedCall(handle->message, name, body);
+    });
 }
 
 /// Calls @p operation, which messages call @p name, for the object of @p handle.
@@ -347,14 +345,13 @@ template <class Type, class Operation, class... Arguments>
 std::uint32_t callValue(Type* handle, const char* name, Operation operation, Arguments... arguments)
 {
     if (handle == nullptr) return ZelData_InvalidArgument;
-    auto body = [&] {
+    return guardedCall(handle->message, name, [&] {
         const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
             return operation(target(*handle), passed...);
         };
         const auto explainNothing = [](auto&&...) {};
         return perform(bound, explainNothing, arguments...);
-    };
-    return guardedCall(handle->message, name, body);
+    });
 }
 
 /// Stores what @p getter returns for the element of a list at @p index.
@@ -709,7 +706,7 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
                                             std::uint32_t format)
 {
     if (document == nullptr) return ZelData_InvalidArgument;
-    auto body = [&] {
+    return guardedCall(document->message, "replaceFile", [&] {
         Text text{path, path_length};
         if (!text.isUsable() || system_error == nullptr) return ZelData_InvalidArgument;
         *system_error = 0;
@@ -722,8 +719,7 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
             document->message.keep(
                 code, [&] { return zelDataPacketError(target(*document), name, type, code); });
         return code;
-    };
-    return guardedCall(document->message, "replaceFile", body);
+    });
 }
 
 // Headers.

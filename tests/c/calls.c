@@ -191,6 +191,8 @@ static zeldata_header* call_header(void)
     OK(zeldata_header_set_ipod_explicit(header, 5));
     OK(zeldata_header_get_ipod_explicit(header, &truth));
     EXPECT(truth == 1);
+    FAILS(sizeof(long) == 4 ? ZELDATA_INVALID_ARGUMENT : ZELDATA_OK,
+          zeldata_header_set_video_length(header, UINT64_C(4294967296)));
     OK(zeldata_header_set_video_length(header, 90500));
     OK(zeldata_header_get_video_length(header, &number));
     EXPECT(number == 90500);
