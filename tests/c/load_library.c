@@ -22,7 +22,7 @@ static HMODULE library;
 static int write(void* header, void* document, const char* path)
 {
     int32_t system_error = -1;
-    CHECK(CALL("header_set_title", (void*, const char*, size_t))(header, "Title", SIZE_MAX) == 0);
+    CHECK(CALL("header_set_title", (void*, const char*, size_t))(header, "A title", SIZE_MAX) == 0);
     CHECK(CALL("header_set_video_length", (void*, uint64_t))(header, 90500) == 0);
     CHECK(CALL("header_set_video_width", (void*, uint64_t))(header, 640) == 0);
     CHECK(CALL("header_set_video_height", (void*, uint64_t))(header, 480) == 0);
@@ -36,12 +36,12 @@ static int write(void* header, void* document, const char* path)
 /// Whether the file holds the title.
 static int has_title(const char* path)
 {
-    char packet[4096] = "";
+    char packet[20000] = "";
     FILE* file = fopen(path, "rb");
     if (file == NULL) return 0;
     packet[fread(packet, 1, sizeof packet - 1, file)] = '\0';
     fclose(file);
-    return strstr(packet, ">Title<") != NULL;
+    return strstr(packet, "A title") != NULL;
 }
 
 int main(int count, char** arguments)

@@ -19,7 +19,7 @@ TRIPLE, ARCHITECTURE, WINE = {
     "mingw64": ("x86_64-w64-mingw32", "win64", "wine"),
     "mingw32": ("i686-w64-mingw32", "win32", SOURCE / "build/beside/wine32/usr/lib/wine/wine"),
 }[PLATFORM]
-NEEDED = (f"{TRIPLE}-g++-posix", f"{TRIPLE}-objdump", WINE)
+NEEDED = (f"{TRIPLE}-g++-posix", f"{TRIPLE}-objdump", "clang", WINE)
 TREE = WORK / PLATFORM
 DLL = "libZelInterchangeData.dll"
 DATA = SOURCE / "examples" / "data"
@@ -118,13 +118,14 @@ class Windows(unittest.TestCase):
         self.assertEqual((done.returncode, done.stdout, done.stderr), (0, b"", b""))
 
     def test_a_c_program_of_each_compiler_uses_the_shared_library(self):
-        for compiler in ([f"{TRIPLE}-gcc"], ["clang", f"--target={TRIPLE}"]):
+        clang = ["clang", f"--target={TRIPLE}", f"-L{compilers_folder('libgcc.a')}"]
+        for compiler in ([f"{TRIPLE}-gcc-posix"], clang):
             with self.subTest(compiler[0]):
                 self.check_c(*compiler, "-std=c99", "-Werror", "-I", self.prefix / "include",
                              SOURCE / "tests/c/calls.c", self.prefix / "lib" / f"{DLL}.a", imported=[DLL])
 
     def test_a_program_loads_the_library_while_it_runs(self):
-        self.check_c(f"{TRIPLE}-gcc", "-std=c99", "-Wall", "-Werror", SOURCE / "tests/c/load_library.c", imported=[])
+        self.check_c(f"{TRIPLE}-gcc-posix", "-std=c99", "-Wall", "-Werror", SOURCE / "tests/c/load_library.c", imported=[])
 
     def test_pkg_config_names_all_that_the_static_library_needs(self):
         folder = empty_folder(self.id())
