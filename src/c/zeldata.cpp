@@ -55,10 +55,16 @@ struct Value {
     Type value;
 };
 
-/// What a handle of an object points to.
+/// What a handle of an object points to. Deliberate: no std::unique_ptr; with it, the type would not
+/// have standard layout for every compiler, and the message could be elsewhere.
 struct Object {
+    Object() = default;
+    Object(const Object&) = delete;
+    Object& operator=(const Object&) = delete;
+    ~Object() { delete object; }
+
     mutable LastMessage message;
-    std::unique_ptr<i_ZelDataResult> object;
+    i_ZelDataResult* object = nullptr;
 };
 
 /// The same for the objects of an interface.
@@ -228,7 +234,7 @@ struct LoadedMade : Argument {
     auto** passed() { return &made; }
     void deliver()
     {
-        handle->object.reset(made);
+        handle->object = made;
         *out = handle.release();
     }
 };
