@@ -6,9 +6,9 @@
 /// operation that a comment names says what it does, which codes it returns and what a failure
 /// leaves behind; every code of C++ has the same number here.
 ///
-/// - **Ownership**: what a `_create` or `_get_item` stores in `*out` is yours until you pass it to
-///   its `_destroy`; `*out` must be null before. Nothing else is yours to destroy, and the library
-///   keeps none of your pointers.
+/// - **Ownership**: a function with `_create` in its name or `_get_item` at its end stores a handle in
+///   `*out`, which must be null before; the handle is yours until you pass it to the `_destroy` of its
+///   type. Nothing else is yours to destroy, and the library keeps none of your pointers.
 /// - **Texts** that you pass are a pointer and a number of bytes; with #ZELDATA_TERMINATED as the
 ///   number, the text ends before its first zero byte. Texts that you get are stored in a
 ///   zeldata_string that you created; zeldata_string_copy() copies one into a buffer of yours.
@@ -1140,8 +1140,8 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_subject(const zeldata_findi
                                                              uint64_t index, uint32_t* subject);
 /// Index of the item, #ZELDATA_NO_ITEM if the finding is about the collection. See
 /// ZelDataFinding::item.
-ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_item(const zeldata_findings* findings,
-                                                          uint64_t index, uint64_t* item);
+ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings,
+                                                                uint64_t index, uint64_t* item);
 /// The item's start. See ZelDataFinding::start.
 ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_start(const zeldata_findings* findings,
                                                            uint64_t index, int64_t* start);
@@ -1164,9 +1164,8 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_limit(const zeldata_finding
                                                            uint64_t index, int64_t* limit);
 /// Index of the first later item concerned, #ZELDATA_NO_ITEM if there is none. See
 /// ZelDataFinding::laterItem.
-ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_later_item(const zeldata_findings* findings,
-                                                                uint64_t index,
-                                                                uint64_t* later_item);
+ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_later_item_index(
+    const zeldata_findings* findings, uint64_t index, uint64_t* later_item);
 /// The start of that item. See ZelDataFinding::laterStart.
 ZELINTERCHANGEDATA_API uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                                  uint64_t index,

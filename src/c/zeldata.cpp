@@ -168,6 +168,14 @@ private:
     To value_;
 };
 
+/// A truth value that messages do not show.
+struct Flag : Argument {
+    explicit Flag(std::int32_t given) : value(given != 0) {}
+    bool passed() const { return value; }
+
+    bool value;
+};
+
 /// Another handle; a message shows only one that the operation reads.
 template <class Type>
 class Other : public Argument {
@@ -547,8 +555,8 @@ std::size_t zeldata_string_get_size(const zeldata_string* string)
 std::uint32_t zeldata_string_copy(const zeldata_string* string, char* buffer, std::size_t capacity,
                                   std::size_t* needed)
 {
-    if (needed == nullptr) return ZelData_InvalidArgument;
     return callValue(string, "copy", [&](const std::string& text) {
+        if (needed == nullptr) return ZelData_InvalidArgument;
         *needed = text.size() + 1;
         if (buffer == nullptr || capacity < *needed) return ZelData_InvalidArgument;
         std::memcpy(buffer, text.c_str(), *needed);
@@ -616,7 +624,7 @@ std::uint32_t zeldata_document_write_string(const zeldata_document* document, ze
                                             std::uint32_t format, std::int32_t flag)
 {
     return call(document, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Plain<bool>(flag));
+                Plain<ZelDataFormatType_tags>(format), Flag(flag));
 }
 
 std::uint32_t zeldata_document_write_file(const zeldata_document* document, const char* path,
@@ -624,7 +632,7 @@ std::uint32_t zeldata_document_write_file(const zeldata_document* document, cons
                                           std::int32_t flag)
 {
     return call(document, "writeFile", &i_ZelDataFormatterBase::writeFile, Text{path, path_length},
-                Plain<ZelDataFormatType_tags>(format), Plain<bool>(flag));
+                Plain<ZelDataFormatType_tags>(format), Flag(flag));
 }
 
 std::uint32_t zeldata_document_get_header(const zeldata_document* document, zeldata_header* target)
@@ -1963,7 +1971,7 @@ zeldata_header_formatter_write_string(const zeldata_header_formatter* header_for
                                       zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
     return call(header_formatter, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Plain<bool>(flag));
+                Plain<ZelDataFormatType_tags>(format), Flag(flag));
 }
 
 std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* header_formatter,
@@ -2004,7 +2012,7 @@ zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_
                                        zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
     return call(caption_formatter, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Plain<bool>(flag));
+                Plain<ZelDataFormatType_tags>(format), Flag(flag));
 }
 
 std::uint32_t zeldata_caption_formatter_set_captions(zeldata_caption_formatter* caption_formatter,
@@ -2043,7 +2051,7 @@ std::uint32_t zeldata_toc_formatter_write_string(const zeldata_toc_formatter* to
                                                  std::int32_t flag)
 {
     return call(toc_formatter, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Plain<bool>(flag));
+                Plain<ZelDataFormatType_tags>(format), Flag(flag));
 }
 
 std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
@@ -2084,7 +2092,7 @@ std::uint32_t zeldata_screen_text_formatter_write_string(
     std::uint32_t format, std::int32_t flag)
 {
     return call(screen_text_formatter, "writeString", &i_ZelDataFormatterBase::writeString,
-                Other(out), Plain<ZelDataFormatType_tags>(format), Plain<bool>(flag));
+                Other(out), Plain<ZelDataFormatType_tags>(format), Flag(flag));
 }
 
 std::uint32_t
@@ -2125,8 +2133,8 @@ std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std
     return element(findings, index, "subject", &ZelDataFinding::subject, Ref(subject));
 }
 
-std::uint32_t zeldata_findings_get_item(const zeldata_findings* findings, std::uint64_t index,
-                                        std::uint64_t* item)
+std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
+                                              std::uint64_t* item)
 {
     return element(findings, index, "item", itemOf, Ref(item));
 }
@@ -2167,8 +2175,8 @@ std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::
     return element(findings, index, "limit", &ZelDataFinding::limit, Ref(limit));
 }
 
-std::uint32_t zeldata_findings_get_later_item(const zeldata_findings* findings, std::uint64_t index,
-                                              std::uint64_t* later_item)
+std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
+                                                    std::uint64_t index, std::uint64_t* later_item)
 {
     return element(findings, index, "laterItem", laterItemOf, Ref(later_item));
 }

@@ -469,6 +469,7 @@ static zeldata_screen_text* call_screen_text(void)
         COMMON(type##_formatter, formatter);                                                       \
         FAILS(ZELDATA_INVALID_DATA,                                                                \
               zeldata_##type##_formatter_write_string(formatter, text, ZELDATA_FORMAT_XMP, 0));    \
+        EXPECT(strncmp(zeldata_last_message(formatter), "writeString: ", 13) == 0);                \
         OK(zeldata_##type##_formatter_##set(formatter, source));                                   \
         OK(zeldata_string_set(text, "", 0));                                                       \
         OK(zeldata_##type##_formatter_write_string(formatter, text, ZELDATA_FORMAT_XMP, 0));       \
@@ -494,7 +495,7 @@ static void call_findings(const zeldata_captions* captions)
     SAME(zeldata_finding_to_string(tag), "ZelDataFinding_MissingText");
     OK(zeldata_findings_get_subject(findings, 0, &tag));
     EXPECT(tag == ZELDATA_FINDING_SUBJECT_CAPTION);
-    OK(zeldata_findings_get_item(findings, 0, &number));
+    OK(zeldata_findings_get_item_index(findings, 0, &number));
     EXPECT(number == 0);
     OK(zeldata_findings_get_start(findings, 0, &time_value));
     EXPECT(time_value == 1000);
@@ -508,7 +509,7 @@ static void call_findings(const zeldata_captions* captions)
     EXPECT(time_value == 0);
     OK(zeldata_findings_get_limit(findings, 0, &time_value));
     EXPECT(time_value == 0);
-    OK(zeldata_findings_get_later_item(findings, 0, &number));
+    OK(zeldata_findings_get_later_item_index(findings, 0, &number));
     EXPECT(number == ZELDATA_NO_ITEM);
     OK(zeldata_findings_get_later_start(findings, 0, &time_value));
     EXPECT(time_value == 0);
@@ -553,7 +554,7 @@ static void call_document(const char* path)
     FAILS(ZELDATA_INVALID_ARGUMENT,
           zeldata_document_write_string(document, text, ZELDATA_FORMAT_XMP, 0));
     SAME(zeldata_last_message(document),
-         "writeString(false): the document has no header (ZelData_InvalidArgument, 0x80000003)");
+         "writeString: the document has no header (ZelData_InvalidArgument, 0x80000003)");
     OK(zeldata_document_set_header(document, header));
     OK(zeldata_document_set_captions(document, captions));
     OK(zeldata_document_set_toc(document, toc));
@@ -567,6 +568,10 @@ static void call_document(const char* path)
     OK(zeldata_document_write_string(document, text, ZELDATA_FORMAT_XMP, 1));
     EXPECT(strncmp(data(text), "<!-- --><x:xmpmeta ", 19) == 0);
     OK(zeldata_document_write_file(document, path, T, ZELDATA_FORMAT_XMP, 0));
+    FAILS(ZELDATA_UNSUPPORTED_FORMAT, zeldata_document_write_file(document, "file", T, 2, 1));
+    SAME(zeldata_last_message(document),
+         "writeFile(\"file\", format 2): ZelData_UnsupportedFormat (0x8000000E): The format is not "
+         "supported.");
     FAILS(ZELDATA_FILE_OPEN_FAILED,
           zeldata_document_replace_file(document, "", T, &system_error, 1));
     EXPECT(system_error > 0);

@@ -204,6 +204,11 @@ class Interfaces(unittest.TestCase):
                 self.assertEqual(parameter_types(FUNCTIONS[f"{handle}_create"])[0], f"{handle}**")
                 self.assertEqual(parameter_types(FUNCTIONS[f"{handle}_destroy"]), [f"{handle}*"])
 
+    def test_the_name_of_a_function_tells_whether_it_gives_a_handle_to_destroy(self):
+        self.assertEqual({name for name, one in FUNCTIONS.items()
+                          if any(kind.endswith("**") and place == "out" for kind, place in one["parameters"])},
+                         {name for name in FUNCTIONS if re.search("_create(_|$)|_get_item$", name)})
+
 
 class OtherFunctions(unittest.TestCase):
     def exported(self):
@@ -238,7 +243,8 @@ class OtherFunctions(unittest.TestCase):
         fields = re.findall(r"^    [\w:]+(?: long)*(?: long)? (\w+)(?: = [^;]+)?;$", struct, re.MULTILINE)
         self.assertEqual(len(fields), 11)
         for field in fields:
-            self.assertEqual(FUNCTIONS[f"zeldata_findings_get_{words(field)}"]["operation"],
+            place = "_index" if field in ("item", "laterItem") else ""
+            self.assertEqual(FUNCTIONS[f"zeldata_findings_get_{words(field)}{place}"]["operation"],
                              f"ZelDataFinding::{field}")
 
 
