@@ -9,7 +9,8 @@ from pathlib import Path
 
 LIST = json.loads((Path(__file__).parents[2] / "docs/zeldata.json").read_text(encoding="ascii"))
 CONSTANTS = LIST["constants"]
-CODES = {value: name for name, value in CONSTANTS.items() if value == 0 or value >= 0x40000001}
+CODES = {value: name for name, value in CONSTANTS.items() if value in (0, *range(0x40000001, 0x40000010),
+                                                                      *range(0x80000001, 0x80000010))}
 FUNCTIONS = LIST["functions"]
 TERMINATED = ctypes.c_size_t(-1).value
 
