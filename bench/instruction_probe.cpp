@@ -92,7 +92,7 @@ void probeCFace()
     const auto throughC = [&] { return fillThroughC(document); };
     static_cast<void>(tenFills(throughC));
     section("fill", [&] {
-        return tenFills([&] { return fillFromCharacters(document).captions ? 1 : 0; });
+        return tenFills([&] { return fillFromCharacters(document).captions ? 1U : 0U; });
     });
     section("fill.c", [&] { return tenFills(throughC); });
 }

@@ -13,17 +13,23 @@
 ///   number, the text ends before its first zero byte. Texts that you get are stored in a
 ///   zeldata_string that you created; zeldata_string_copy() copies one into a buffer of yours.
 /// - **Results** are the codes below; zeldata_last_message() says in words why a call failed. A
-///   getter leaves its argument unchanged if it fails.
+///   getter leaves its argument unchanged if it fails, with two exceptions: the target of a
+///   document's zeldata_document_get_header() (`_captions`, `_toc`, `_screen_text`) is incomplete if
+///   copying fails, and the display names of languages are those that were found.
 /// - #ZELDATA_INVALID_ARGUMENT, for every function that returns a code: a handle or a pointer is
-///   null, `*out` is not, or a number is too large for the C++ type. In that case, and if memory runs out
-///   before the operation begins, the object stores no last error.
-/// - **Numbers**: what is `unsigned long` in C++ is `uint64_t`. Where `long` has 32 bits, as on
-///   Windows and on 32-bit processors, 4294967295 is the largest that you can pass. A truth value is
-///   an `int32_t`: you get 0 or 1, and everything except 0 that you pass is true.
+///   null, `*out` is not, or a number is too large for the C++ type. In that case, and if memory runs
+///   out before the operation begins, the object stores no last error.
+/// - **Numbers**: what is `unsigned long` in C++ is `uint64_t`, what is `long` is `int64_t`. Where
+///   `long` has 32 bits, as on Windows and on 32-bit processors, you can pass a `uint64_t` up to
+///   4294967295, and to zeldata_get_date_string() and zeldata_get_value_string_int64() -2147483648 to
+///   2147483647; what is `long long` in C++, such as the times of items, has its whole range
+///   everywhere. A truth value is an `int32_t`: you get 0 or 1, and everything except 0 that you pass
+///   is true.
 /// - **Threads**: you can use different objects in different threads. Use one object in one thread
 ///   at a time, also for reading: each call changes the object's last message.
 ///
-/// No exception leaves these functions. `zeldata.json`, which is installed with the library, lists
+/// No exception leaves these functions. The header is C of 1999 or later, and C++ of 2011 or later.
+/// `zeldata.json`, which is installed with the library, lists
 /// them for programs that generate bindings.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATA_H
@@ -232,10 +238,10 @@ typedef struct zeldata_screen_text_formatter zeldata_screen_text_formatter;
 /// @{
 
 /// What the last call through @p handle, a handle of any type above, reported: a message if it
-/// failed,
-/// otherwise "". For a null handle, the meaning of #ZELDATA_INVALID_ARGUMENT. Never null; valid
-/// until the
-/// next call with the handle. If memory ran out, the message is that of zeldata_result_describe().
+/// failed, otherwise "". For a null handle, the meaning of #ZELDATA_INVALID_ARGUMENT: a `_create` or
+/// a function without a handle keeps no message; pass its code to zeldata_result_describe(). Never
+/// null; valid until the next call with the handle. If memory ran out, the message is that of
+/// zeldata_result_describe().
 ZELINTERCHANGEDATA_API const char* zeldata_last_message(const void* handle);
 /// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is not a code.
 /// Never null.
@@ -319,8 +325,9 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_document_write_file(const zeldata_docume
 /// i_ZelInterchangeDataCore::getDataHeader().
 ZELINTERCHANGEDATA_API uint32_t zeldata_document_get_header(const zeldata_document* document,
                                                             zeldata_header* target);
-/// Replaces the document's header with a copy of @p source. See
-/// i_ZelInterchangeDataCore::setDataHeader().
+/// Replaces the document's header with a copy of @p source. Call zeldata_header_is_valid() first: a
+/// header that is not valid is copied only in part, and if the document has captions, the code is
+/// their last error instead. See i_ZelInterchangeDataCore::setDataHeader().
 ZELINTERCHANGEDATA_API uint32_t zeldata_document_set_header(zeldata_document* document,
                                                             const zeldata_header* source);
 /// Replaces the contents of @p target with a copy of the document's captions. See
@@ -584,7 +591,8 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_captions_copy_languages_from_captions(
 /// Replaces the languages with those of @p source. See i_ZelDataLanguage::copyFrom().
 ZELINTERCHANGEDATA_API uint32_t zeldata_captions_copy_languages_from_toc(zeldata_captions* captions,
                                                                          const zeldata_toc* source);
-/// Checks styling, texts and timing; stops at the first problem. See i_ZelDataCaptions::isValid().
+/// Checks styling, texts and timing; stops at the first problem. If @p strict is true, also checks
+/// each item strictly. See i_ZelDataCaptions::isValid().
 ZELINTERCHANGEDATA_API uint32_t zeldata_captions_is_valid(const zeldata_captions* captions,
                                                           int32_t strict);
 /// Orders the items by start, gives each an empty text for every listed language that it lacks, and
@@ -603,7 +611,7 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_captions_set_font_family(zeldata_caption
 /// The font family, as it was set. See i_ZelDataCaptions::getFontFamily().
 ZELINTERCHANGEDATA_API uint32_t zeldata_captions_get_font_family(const zeldata_captions* captions,
                                                                  zeldata_string* family);
-/// 1 to 500. See i_ZelDataCaptions::setFontSize().
+/// 1 to 500, a plain number: the packet names no unit. See i_ZelDataCaptions::setFontSize().
 ZELINTERCHANGEDATA_API uint32_t zeldata_captions_set_font_size(zeldata_captions* captions,
                                                                uint64_t size);
 /// The font size of all captions. See i_ZelDataCaptions::getFontSize().
@@ -676,7 +684,8 @@ zeldata_caption_item_get_last_error(const zeldata_caption_item* caption_item);
 /// Stores @p code as the last error.
 ZELINTERCHANGEDATA_API uint32_t
 zeldata_caption_item_set_last_error(const zeldata_caption_item* caption_item, uint32_t code);
-/// Checks the item except its start. See i_ZelDataCaptionItem::isValid().
+/// Checks the item except its start; if @p strict is true, also the recommended limits of captions.
+/// See i_ZelDataCaptionItem::isValid().
 ZELINTERCHANGEDATA_API uint32_t
 zeldata_caption_item_is_valid(const zeldata_caption_item* caption_item, int32_t strict);
 /// Removes the texts of all languages. See i_ZelDataCaptionItem::clearText().
@@ -780,7 +789,8 @@ zeldata_toc_copy_languages_from_captions(zeldata_toc* toc, const zeldata_caption
 /// Replaces the languages with those of @p source. See i_ZelDataLanguage::copyFrom().
 ZELINTERCHANGEDATA_API uint32_t zeldata_toc_copy_languages_from_toc(zeldata_toc* toc,
                                                                     const zeldata_toc* source);
-/// Checks frame rate, texts and order; stops at the first problem. See i_ZelDataToc::isValid().
+/// Checks frame rate, texts and order; stops at the first problem. If @p deep is true, also checks
+/// each entry deeply. See i_ZelDataToc::isValid().
 ZELINTERCHANGEDATA_API uint32_t zeldata_toc_is_valid(const zeldata_toc* toc, int32_t deep);
 /// Orders the entries by start, gives each an empty text for every listed language that it lacks,
 /// and sets a frame rate that is out of range to 1000. See i_ZelDataToc::makeTocConsistent().

@@ -39,6 +39,13 @@ class Calls(unittest.TestCase):
                 with self.subTest(f"{compiler} {standard}"):
                     self.compile(compiler, f"-std={standard}", "-fsyntax-only", SOURCE)
 
+    def test_the_header_is_cpp_of_2011_and_later_without_a_warning(self):
+        for compiler in COMPILERS:
+            for standard in ("c++11", "c++20"):
+                with self.subTest(f"{compiler} {standard}"):
+                    self.compile(compiler, "-x", "c++", f"-std={standard}", "-fsyntax-only",
+                                 ROOT / "include/ZelInterchangeData/zeldata.h")
+
     def test_the_program_calls_every_function(self):
         made = self.folder / "calls.o"
         self.compile(COMPILERS[0], "-std=c99", "-c", SOURCE, "-o", made)
