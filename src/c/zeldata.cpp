@@ -6,13 +6,12 @@
 #include "sets/Factory.h"
 #include "util/Guard.h"
 
-#include <array>
 #include <cstring>
 #include <functional>
-#include <initializer_list>
+#include <limits>
 #include <memory>
-#include <optional>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <vector>
 
@@ -90,34 +89,49 @@ Interface& target(const ObjectOf<Interface>& handle)
     return static_cast<Interface&>(*handle.object);
 }
 
-/// @name Arguments as the functions below give them
-/// They fit into registers. A message shows what shown() returns, if anything.
-/// @{
-
-using Shown = std::optional<ZelDataArgument>;
-
-/// What most kinds have in common.
-struct Given {
-    static bool isUsable() { return true; }
-    static void deliver() {}
-    static Shown shown() { return {}; }
+/// What most kinds of arguments share. An argument that is usable is loaded and passed to the
+/// operation; if that succeeds, it delivers. A message shows what shown() returns, if anything.
+struct Argument {
+    static constexpr bool isUsable() { return true; }
+    static constexpr void deliver() {}
+    static constexpr std::tuple<> shown() { return {}; }
 };
+
+/// Loads an argument that needs no memory.
+template <class Type>
+Type& loaded(Type& argument)
+{
+    return argument;
+}
 
 struct Text {
     const char* text;
     std::size_t length;
+
+    /// Refuses a length that no text can have: std::string throws std::length_error for it.
+    bool isUsable() const
+    {
+        return text != nullptr && (isTerminated() || length <= PTRDIFF_MAX / 2);
+    }
+    bool isTerminated() const { return length == ZELDATA_TERMINATED; }
 };
 
-/// Where the handle of a new object goes.
-template <class Type>
-struct Made {
-    explicit Made(Type** place) : out(place) {}
-    Type** out;
+struct LoadedText : Argument {
+    std::string value;
+
+    std::string& passed() { return value; }
+    auto shown() const { return std::tie(value); }
 };
+
+/// Deliberate: always inlined; the file is optimised for size, so each text would cost another call.
+[[gnu::always_inline]] inline LoadedText loaded(Text& text)
+{
+    return {{}, std::string(text.text, text.isTerminated() ? std::strlen(text.text) : text.length)};
+}
 
 /// A whole number, as a @p To.
 template <class To>
-class Number : public Given {
+class Number : public Argument {
 public:
     template <class From>
     explicit Number(From value)
@@ -127,13 +141,7 @@ public:
 
     bool isUsable() const { return fits_; }
     To passed() const { return value_; }
-    Shown shown() const
-    {
-        if constexpr (std::is_constructible_v<ZelDataArgument, To>)
-            return ZelDataArgument(value_);
-        else
-            return {};
-    }
+    auto shown() const { return std::make_tuple(value_); }
 
 private:
     To value_;
@@ -142,7 +150,7 @@ private:
 
 /// Any other value, as a @p To.
 template <class To>
-class Plain : public Given {
+class Plain : public Argument {
 public:
     template <class From>
     explicit Plain(From value) : value_(static_cast<To>(value))
@@ -150,12 +158,12 @@ public:
     }
 
     To passed() const { return value_; }
-    Shown shown() const
+    auto shown() const
     {
         if constexpr (std::is_constructible_v<ZelDataArgument, To>)
-            return ZelDataArgument(value_);
+            return std::make_tuple(value_);
         else
-            return {};
+            return std::make_tuple();
     }
 
 private:
@@ -163,7 +171,7 @@ private:
 };
 
 /// A truth value that messages do not show.
-struct Flag : Given {
+struct Flag : Argument {
     explicit Flag(std::int32_t given) : value(given != 0) {}
     bool passed() const { return value; }
 
@@ -172,18 +180,18 @@ struct Flag : Given {
 
 /// Another handle; a message shows only one that the operation reads.
 template <class Type>
-class Other : public Given {
+class Other : public Argument {
 public:
     explicit Other(Type* handle) : handle_(handle) {}
 
     bool isUsable() const { return handle_ != nullptr; }
     auto& passed() const { return target(*handle_); }
-    Shown shown() const
+    auto shown() const
     {
         if constexpr (std::is_const_v<Type>)
-            return ZelDataArgument(target(*handle_));
+            return std::tie(target(*handle_));
         else
-            return {};
+            return std::make_tuple();
     }
 
 private:
@@ -192,7 +200,7 @@ private:
 
 /// Where the operation stores a value of the same type.
 template <class Type>
-class Ref : public Given {
+class Ref : public Argument {
 public:
     explicit Ref(Type* out) : out_(out) {}
 
@@ -205,103 +213,91 @@ private:
 
 /// Where a value goes that the operation stores as a @p From.
 template <class From, class To>
-class Out : public Given {
+class Out : public Argument {
 public:
     explicit Out(To* out) : out_(out) {}
 
     bool isUsable() const { return out_ != nullptr; }
-    void deliver() const { *out_ = static_cast<To>(value_); }
     From& passed() { return value_; }
+    void deliver() const { *out_ = static_cast<To>(value_); }
 
 private:
     To* out_;
     From value_{};
 };
-/// @}
 
-/// An argument of the kind @p Kind during a call: loaded if all arguments are usable, and passed to
-/// the operation; if that succeeds, it delivers.
-template <class Kind>
-struct Held : Kind {
-    explicit Held(const Kind& given) : Kind(given) {}
+/// Where the handle of a new object goes.
+template <class Type>
+struct Made {
+    Type** out;
 
-    void load() {}
-};
-
-template <>
-class Held<Text> : public Given {
-public:
-    explicit Held(const Text& given) : given_(given) {}
-
-    /// Refuses a length that no text can have: std::string throws std::length_error for it.
-    bool isUsable() const
-    {
-        return given_.text != nullptr && (isTerminated() || given_.length <= PTRDIFF_MAX / 2);
-    }
-    void load()
-    {
-        value_.assign(given_.text, isTerminated() ? std::strlen(given_.text) : given_.length);
-    }
-    Shown shown() const { return ZelDataArgument(value_); }
-    std::string& passed() { return value_; }
-
-private:
-    bool isTerminated() const { return given_.length == ZELDATA_TERMINATED; }
-
-    Text given_;
-    std::string value_;
+    explicit Made(Type** place) : out(place) {}
+    bool isUsable() const { return isEmptyOutPointer(out); }
 };
 
 template <class Type>
-class Held<Made<Type>> : public Given {
-public:
-    explicit Held(const Made<Type>& given) : out_(given.out) {}
+struct LoadedMade : Argument {
+    Type** out;
+    std::unique_ptr<Type> handle;
+    typename Type::Interface* made;
 
-    bool isUsable() const { return isEmptyOutPointer(out_); }
-    void load() { handle_ = std::make_unique<Type>(); }
+    auto** passed() { return &made; }
     void deliver()
     {
-        handle_->object = made_;
-        *out_ = handle_.release();
+        handle->object = made;
+        *out = handle.release();
     }
-    auto** passed() { return &made_; }
-
-private:
-    Type** out_;
-    std::unique_ptr<Type> handle_;
-    typename Type::Interface* made_ = nullptr;
 };
 
-/// What a message shows of the arguments.
-class ShownArguments {
-public:
-    void add(const Shown& shown)
-    {
-        if (shown) arguments_[count_++] = *shown;
-    }
+template <class Type>
+LoadedMade<Type> loaded(Made<Type>& made)
+{
+    return {{}, made.out, std::make_unique<Type>(), nullptr};
+}
 
-    /// Calls @p use with the list of them.
-    template <class Use>
-    void passTo(Use&& use) const
-    {
-        switch (count_) {
-        case 0:
-            return use({});
-        case 1:
-            return use({arguments_[0]});
-        case 2:
-            return use({arguments_[0], arguments_[1]});
-        default:
-            return use({arguments_[0], arguments_[1], arguments_[2]});
-        }
-    }
+/// Calls @p operation if all arguments are usable. If it fails, calls @p explain with its code and
+/// what a message shows.
+template <class Operation, class Explain, class... Arguments>
+ZelDataResult_tags perform(Operation& operation, Explain& explain, Arguments&... arguments)
+{
+    if (!(arguments.isUsable() && ...)) return ZelData_InvalidArgument;
+    const auto call = [&](auto&&... argument) {
+        const ZelDataResult_tags code = operation(argument.passed()...);
+        if (failed(code))
+            std::apply([&](const auto&... shown) { explain(code, shown...); },
+                       std::tuple_cat(argument.shown()...));
+        else
+            (argument.deliver(), ...);
+        return code;
+    };
+    return call(loaded(arguments)...);
+}
 
-private:
-    static constexpr std::size_t most = 3;
-    std::array<ZelDataArgument, most> arguments_{ZelDataArgument(false), ZelDataArgument(false),
-                                                 ZelDataArgument(false)};
-    std::size_t count_ = 0;
-};
+/// The end of a failed call: keeps a message that names @p operation unless there is one.
+void complete(LastMessage& message, const char* operation, ZelDataResult_tags code)
+{
+    if (message.isEmpty()) message.keep(code, [&] { return ZelDataError(code, operation); });
+}
+
+/// Calls @p body under the guard.
+template <class Body>
+std::uint32_t guardedCall(LastMessage& message, const char* operation, Body&& body)
+{
+    message.clear();
+    const ZelDataResult_tags code = guarded(body);
+    if (failed(code)) complete(message, operation, code);
+    return code;
+}
+
+/// Calls @p operation, which has no object.
+template <class Operation, class... Arguments>
+std::uint32_t run(Operation operation, Arguments... arguments)
+{
+    return guarded([&] {
+        const auto explainNothing = [](auto&&...) {};
+        return perform(operation, explainNothing, arguments...);
+    });
+}
 
 /// Keeps the message for a call through @p handle, about which a view knows more than its code says.
 using Explain = void (*)(const Object& handle, const ZelDataCall& call);
@@ -311,89 +307,6 @@ void explain(const Object& handle, const ZelDataCall& call)
 {
     const auto view = checked(static_cast<Interface&>(*handle.object));
     handle.message.keep(call.code, [&] { return view.errorOf(call); });
-}
-
-/// What is the same in all calls, whatever the types of their arguments.
-class Call {
-public:
-    /// @p message is null if the function has no handle.
-    Call(LastMessage* message, const char* operation) : message_(message), operation_(operation) {}
-    Call(const Object& handle, Explain explainCall, const char* operation)
-        : message_(&handle.message), operation_(operation), handle_(&handle), explain_(explainCall)
-    {
-    }
-
-    /// Calls @p operation with the arguments if all are usable.
-    template <class Operation, class... Kinds>
-    std::uint32_t operator()(const Operation& operation, Held<Kinds>&&... arguments) const
-    {
-        const auto body = [&](ShownArguments* shown) -> ZelDataResult_tags {
-            if (shown != nullptr) {
-                (shown->add(arguments.shown()), ...);
-                return ZelData_Ok;
-            }
-            (arguments.load(), ...);
-            const ZelDataResult_tags code = operation(arguments.passed()...);
-            if (!failed(code)) (arguments.deliver(), ...);
-            return code;
-        };
-        if (!(arguments.isUsable() && ...)) return perform(refuse, nullptr);
-        return perform(callBody<decltype(body)>, &body);
-    }
-
-private:
-    /// Calls a body: with null, its operation; otherwise, lets it show its arguments.
-    using Body = ZelDataResult_tags (*)(const void* body, ShownArguments* shown);
-
-    template <class Called>
-    static ZelDataResult_tags callBody(const void* body, ShownArguments* shown)
-    {
-        return (*static_cast<const Called*>(body))(shown);
-    }
-    static ZelDataResult_tags refuse(const void* body, ShownArguments* shown);
-
-    std::uint32_t perform(Body call, const void* body) const;
-    void explainCode(ZelDataResult_tags code, Body call, const void* body) const;
-
-    LastMessage* message_;
-    const char* operation_;
-    const Object* handle_ = nullptr;
-    Explain explain_ = nullptr;
-};
-
-ZelDataResult_tags Call::refuse(const void* /*body*/, ShownArguments* /*shown*/)
-{
-    return ZelData_InvalidArgument;
-}
-
-std::uint32_t Call::perform(Body call, const void* body) const
-{
-    if (message_ != nullptr) message_->clear();
-    const auto code = guarded([&] {
-        const ZelDataResult_tags returned = call(body, nullptr);
-        if (failed(returned) && body != nullptr && explain_ != nullptr)
-            explainCode(returned, call, body);
-        return returned;
-    });
-    if (failed(code) && message_ != nullptr && message_->isEmpty())
-        message_->keep(code, [&] { return ZelDataError(code, operation_); });
-    return code;
-}
-
-void Call::explainCode(ZelDataResult_tags code, Body call, const void* body) const
-{
-    ShownArguments shown;
-    static_cast<void>(call(body, &shown));
-    shown.passTo([&](std::initializer_list<ZelDataArgument> arguments) {
-        explain_(*handle_, {operation_, code, arguments});
-    });
-}
-
-/// Calls @p operation, which has no object.
-template <class Operation, class... Arguments>
-[[gnu::noinline]] std::uint32_t run(Operation operation, Arguments... arguments)
-{
-    return Call(nullptr, "")(operation, Held<Arguments>(arguments)...);
 }
 
 /// @name The operation of an interface, as one of the root of all interfaces
@@ -424,10 +337,15 @@ template <class Operation, class... Arguments>
                                            Arguments... arguments)
 {
     if (handle == nullptr) return ZelData_InvalidArgument;
-    const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
-        return std::invoke(operation, *handle->object, passed...);
-    };
-    return Call(*handle, explainCall, name)(bound, Held<Arguments>(arguments)...);
+    return guardedCall(handle->message, name, [&] {
+        const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
+            return std::invoke(operation, *handle->object, passed...);
+        };
+        const auto explained = [&](ZelDataResult_tags code, const auto&... shown) {
+            explainCall(*handle, {name, code, {ZelDataArgument(shown)...}});
+        };
+        return perform(bound, explained, arguments...);
+    });
 }
 
 /// Calls @p operation, which messages call @p name, for the object of @p handle.
@@ -443,16 +361,19 @@ template <class Type, class Operation, class... Arguments>
 std::uint32_t callValue(Type* handle, const char* name, Operation operation, Arguments... arguments)
 {
     if (handle == nullptr) return ZelData_InvalidArgument;
-    const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
-        return operation(target(*handle), passed...);
-    };
-    return Call(&handle->message, name)(bound, Held<Arguments>(arguments)...);
+    return guardedCall(handle->message, name, [&] {
+        const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
+            return operation(target(*handle), passed...);
+        };
+        const auto explainNothing = [](auto&&...) {};
+        return perform(bound, explainNothing, arguments...);
+    });
 }
 
 /// Stores what @p getter returns for the element of a list at @p index.
 template <class Type, class Getter, class Destination>
-[[gnu::noinline]] std::uint32_t element(const Type* handle, std::uint64_t index, const char* name,
-                                        Getter getter, Destination destination)
+std::uint32_t element(const Type* handle, std::uint64_t index, const char* name, Getter getter,
+                      Destination destination)
 {
     const auto read = [getter](const auto& list, std::size_t place, auto& value) {
         using Stored = std::remove_reference_t<decltype(value)>;
@@ -801,19 +722,20 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
                                             std::uint32_t format)
 {
     if (document == nullptr) return ZelData_InvalidArgument;
-    if (system_error != nullptr) *system_error = 0;
-    const auto replace = [&](const std::string& name, int& error, ZelDataFormatType_tags type) {
-        const auto code = replaceFile(target(*document), name, error, type);
-        if (error != 0)
-            document->message.keep(code, [&] { return zelDataFileError(name, error); });
+    return guardedCall(document->message, "replaceFile", [&] {
+        Text text{path, path_length};
+        if (!text.isUsable() || system_error == nullptr) return ZelData_InvalidArgument;
+        *system_error = 0;
+        const std::string name = loaded(text).value;
+        const auto type = static_cast<ZelDataFormatType_tags>(format);
+        const auto code = replaceFile(target(*document), name, *system_error, type);
+        if (*system_error != 0)
+            document->message.keep(code, [&] { return zelDataFileError(name, *system_error); });
         else if (failed(code))
             document->message.keep(
                 code, [&] { return zelDataPacketError(target(*document), name, type, code); });
         return code;
-    };
-    return Call(&document->message, "replaceFile")(replace, Held(Text{path, path_length}),
-                                                   Held(Ref(system_error)),
-                                                   Held(Plain<ZelDataFormatType_tags>(format)));
+    });
 }
 
 // Headers.
