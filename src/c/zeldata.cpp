@@ -99,7 +99,7 @@ struct Argument {
 
 /// Loads an argument that needs no memory.
 template <class Type>
-Type& loaded(Type& argument)
+[[gnu::always_inline]] inline Type& loaded(Type& argument)
 {
     return argument;
 }
@@ -109,7 +109,7 @@ struct Text {
     std::size_t length;
 
     /// Refuses a length that no text can have: std::string throws std::length_error for it.
-    bool isUsable() const
+    [[gnu::always_inline]] bool isUsable() const
     {
         return text != nullptr && (isTerminated() || length <= PTRDIFF_MAX / 2);
     }
@@ -250,7 +250,7 @@ struct LoadedMade : Argument {
 };
 
 template <class Type>
-LoadedMade<Type> loaded(Made<Type>& made)
+[[gnu::always_inline]] inline LoadedMade<Type> loaded(Made<Type>& made)
 {
     return {{}, made.out, std::make_unique<Type>(), nullptr};
 }
@@ -258,7 +258,8 @@ LoadedMade<Type> loaded(Made<Type>& made)
 /// Calls @p operation if all arguments are usable. If it fails, calls @p explain with its code and
 /// what a message shows.
 template <class Operation, class Explain, class... Arguments>
-ZelDataResult_tags perform(Operation& operation, Explain& explain, Arguments&... arguments)
+[[gnu::always_inline]] inline ZelDataResult_tags perform(Operation& operation, Explain& explain,
+                                                         Arguments&... arguments)
 {
     if (!(arguments.isUsable() && ...)) return ZelData_InvalidArgument;
     const auto call = [&](auto&&... argument) {
@@ -281,7 +282,8 @@ void complete(LastMessage& message, const char* operation, ZelDataResult_tags co
 
 /// Calls @p body under the guard.
 template <class Body>
-std::uint32_t guardedCall(LastMessage& message, const char* operation, Body&& body)
+[[gnu::always_inline]] inline std::uint32_t guardedCall(LastMessage& message, const char* operation,
+                                                        Body&& body)
 {
     message.clear();
     const ZelDataResult_tags code = guarded(body);
