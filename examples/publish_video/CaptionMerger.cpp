@@ -21,15 +21,15 @@ struct Simultaneous {
 
 class CaptionMerger {
 public:
-    void take(const Cue& cue, const std::string& language)
+    void take(const Cue& cue, LanguageText text)
     {
         Simultaneous& same = simultaneous_[{cue.start, cue.end}];
-        const std::size_t position = same.filled[language]++;
+        const std::size_t position = same.filled[text.language]++;
         if (position == same.captions.size()) {
             same.captions.push_back(captions_.size());
             captions_.push_back({cue.start, cue.end, {}});
         }
-        captions_[same.captions[position]].texts.push_back({language, cue.text});
+        captions_[same.captions[position]].texts.push_back(std::move(text));
     }
 
     std::vector<MergedCaption> captions() && { return std::move(captions_); }
@@ -44,9 +44,13 @@ private:
 std::vector<MergedCaption> mergeCaptions(const std::vector<CueFile>& files)
 {
     CaptionMerger merger;
-    for (const CueFile& file : files)
-        for (const Cue& cue : file.cues)
-            merger.take(cue, file.language);
+    for (std::size_t file = 0; file != files.size(); ++file) {
+        const CueFile& source = files[file];
+        for (std::size_t at = 0; at != source.cues.size(); ++at) {
+            const Cue& cue = source.cues[at];
+            merger.take(cue, {source.language, cue.text, file, at});
+        }
+    }
     return std::move(merger).captions();
 }
 

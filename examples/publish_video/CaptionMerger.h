@@ -6,14 +6,19 @@
 
 #include "CueFile.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace publish {
 
+/// The text of a caption in one language.
 struct LanguageText {
     std::string language;
     std::string text;
+    /// Where it comes from: the index of its file, and that of its cue there.
+    std::size_t file = 0;
+    std::size_t cue = 0;
 };
 
 /// A caption under construction.

@@ -20,7 +20,7 @@ std::string wordsFor(ZelDataResult_tags code)
     case ZelData_InvalidArgument:
         return "the value is out of range";
     case ZelData_OutOfMemory:
-        return "memory ran out";
+        return "out of memory";
     case ZelData_InvalidUtf8:
         return "the text is not UTF-8";
     case ZelData_UnknownLanguage:

@@ -18,13 +18,18 @@ namespace publish {
 struct CueFile {
     /// As on the command line, for messages.
     std::string name;
+    std::string path;
     /// Empty for screen text.
     std::string language;
     std::vector<Cue> cues;
-    std::size_t malformed = 0;
-    std::size_t withoutLength = 0;
-    /// Cues that contain only blanks; they are among the cues unless empty ones are skipped.
+    std::vector<SkippedLines> malformed;
+    std::vector<SkippedLines> withoutLength;
+    /// Empty for a file without any cue.
+    std::vector<SkippedLines> outside;
+    /// How many cues contain only blanks; they are among the cues unless empty ones are skipped.
     std::size_t empty = 0;
+    /// See encodingHint(); for a file without any cue, otherwise empty.
+    std::string hint;
     /// The latest end of a cue, including skipped ones; `std::nullopt` without cues.
     std::optional<long long> lastEnd;
 };
@@ -36,12 +41,17 @@ struct CueFiles {
     std::optional<CueFile> screenText;
 };
 
-/// Makes a file's cues from its contents; throws PublishError if they are not UTF-8.
-CueFile makeCueFile(const std::string& name, const std::string& bytes, const Options& options);
+/// Makes the cues of the file @p source, which messages call @p name, from its contents; throws
+/// PublishError if they are not UTF-8.
+CueFile makeCueFile(const LanguageFile& source, const std::string& name, const std::string& bytes,
+                    const Options& options);
 
 /// Reads every file that @p options name, and removes markup and skips empty cues if they say so;
 /// throws PublishError.
 CueFiles readCueFiles(const Options& options);
+
+/// Every file of @p files, in the order of the fields.
+std::vector<const CueFile*> allFiles(const CueFiles& files);
 
 /// The latest end of a cue in all files; `std::nullopt` without cues.
 std::optional<long long> lastEnd(const CueFiles& files);

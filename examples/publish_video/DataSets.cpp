@@ -3,7 +3,6 @@
 
 #include "DataSets.h"
 
-#include "CaptionMerger.h"
 #include "Check.h"
 #include "PublishError.h"
 
@@ -22,8 +21,10 @@ unsigned long videoLength(const Options& options, const CueFiles& files)
 {
     if (options.length) return *options.length;
     const std::optional<long long> end = lastEnd(files);
-    if (!end) throw PublishError("--length is missing, and no file has a cue to take it from");
-    return static_cast<unsigned long>(*end);
+    if (end) return static_cast<unsigned long>(*end);
+    for (const CueFile* file : allFiles(files))
+        if (!file->hint.empty()) throw PublishError(file->name + ": " + file->hint);
+    throw PublishError("--length is missing, and no file has a cue to take it from");
 }
 
 void setFont(i_ZelDataCaptions& captions, const Options& options)
@@ -106,11 +107,11 @@ std::unique_ptr<i_ZelDataHeader> makeHeader(const i_ZelInterchangeDataCore& docu
 
 std::unique_ptr<i_ZelDataCaptions> makeCaptions(const i_ZelInterchangeDataCore& document,
                                                 const Options& options,
-                                                const std::vector<CueFile>& files)
+                                                const std::vector<MergedCaption>& merged)
 {
     auto captions = make(document, &i_ZelInterchangeDataCore::createDataCaptions);
     setFont(*captions, options);
-    for (const MergedCaption& caption : mergeCaptions(files))
+    for (const MergedCaption& caption : merged)
         addCaption(*captions, caption);
     return captions;
 }

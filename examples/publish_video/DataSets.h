@@ -4,6 +4,7 @@
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_DATASETS_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_DATASETS_H
 
+#include "CaptionMerger.h"
 #include "CueFile.h"
 #include "Options.h"
 
@@ -20,10 +21,10 @@ std::unique_ptr<ZelInterchangeData::i_ZelDataHeader>
 makeHeader(const ZelInterchangeData::i_ZelInterchangeDataCore& document, const Options& options,
            const CueFiles& files);
 
-/// The captions of all languages, unsorted, in the font of the options.
+/// The captions @p merged, in that order, in the font of the options.
 std::unique_ptr<ZelInterchangeData::i_ZelDataCaptions>
 makeCaptions(const ZelInterchangeData::i_ZelInterchangeDataCore& document, const Options& options,
-             const std::vector<CueFile>& files);
+             const std::vector<MergedCaption>& merged);
 
 /// One entry for each cue of @p file.
 std::unique_ptr<ZelInterchangeData::i_ZelDataToc>

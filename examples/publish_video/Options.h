@@ -16,10 +16,14 @@ struct LanguageFile {
     std::string path;
 };
 
+/// The file name that means standard output.
+constexpr const char* standardOutput = "-";
+
 /// What the command line says. The texts are ready for the packet: see argumentText(). Paths are as
 /// given.
 struct Options {
     bool help = false;
+    bool version = false;
     std::string output;
     unsigned long width = 0;
     unsigned long height = 0;
@@ -37,15 +41,15 @@ struct Options {
     std::optional<std::string> screenText;
     bool plainText = false;
     bool skipEmpty = false;
+    bool verbose = false;
+    std::optional<std::string> report;
+    std::optional<std::string> preview;
     std::vector<LanguageFile> captions;
 };
 
-/// Reads the command line; throws PublishError. With `--help`, checks nothing else. Checks only the
-/// form of a language, not whether the library knows it.
-Options parseOptions(int argc, const char* const* argv);
-
-/// Returns the help text.
-const char* usage();
+/// Reads the command line, which begins with the name of the program; throws PublishError. With
+/// `--help`, and then with `--version`, checks nothing else.
+Options parseOptions(const std::vector<std::string>& words);
 
 } // namespace publish
 

@@ -6,15 +6,15 @@
 
 #include "ZelInterchangeData/i_ZelInterchangeDataCore.h"
 
-#include <cstddef>
 #include <string>
 
 namespace publish {
 
-/// Writes the packet of @p document to @p output and returns its size in bytes. Replaces an
+/// Writes the packet of @p document to @p output and returns the bytes written. Replaces an
 /// existing regular file once the packet is complete, and leaves it unchanged on failure; writes
-/// anything else in place. Throws PublishError.
-std::size_t writePacket(const ZelInterchangeData::i_ZelInterchangeDataCore& document,
+/// anything else, and standard output, directly. Throws PublishError. A signal never leaves a part
+/// of the packet in the file, nor another file beside it.
+std::string writePacket(const ZelInterchangeData::i_ZelInterchangeDataCore& document,
                         const std::string& output);
 
 } // namespace publish

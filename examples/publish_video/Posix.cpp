@@ -26,16 +26,50 @@ bool writeAll(int descriptor, std::string_view bytes)
     return true;
 }
 
-} // namespace
-
-void writeDirectly(const std::string& output, std::string_view bytes)
+void openAndWrite(const std::string& output, int flags, std::string_view bytes)
 {
-    const int descriptor = ::open(output.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NOCTTY);
+    const int descriptor = ::open(output.c_str(), O_WRONLY | flags | O_CLOEXEC | O_NOCTTY, 0666);
     if (descriptor < 0) failToWrite(output, errno);
     const int writeError = writeAll(descriptor, bytes) ? 0 : errno;
     const int closeError = ::close(descriptor) == 0 ? 0 : errno;
     if (writeError != 0) failToWrite(output, writeError);
     if (closeError != 0) failToWrite(output, closeError);
+}
+
+/// While it lives, the signals that end the program wait.
+class HeldSignals {
+public:
+    HeldSignals()
+    {
+        sigset_t held;
+        ::sigemptyset(&held);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+            ::sigaddset(&held, signal);
+        ::pthread_sigmask(SIG_BLOCK, &held, &before_);
+    }
+    ~HeldSignals() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    HeldSignals(const HeldSignals&) = delete;
+    HeldSignals& operator=(const HeldSignals&) = delete;
+
+private:
+    sigset_t before_{};
+};
+
+} // namespace
+
+void writeDirectly(const std::string& output, std::string_view bytes)
+{
+    openAndWrite(output, O_APPEND, bytes);
+}
+
+void writeNewFile(const std::string& file, std::string_view bytes)
+{
+    openAndWrite(file, O_CREAT | O_TRUNC, bytes);
+}
+
+void writeStandardOutput(std::string_view bytes)
+{
+    if (!writeAll(STDOUT_FILENO, bytes)) failToWrite(standardOutput, errno);
 }
 
 std::vector<std::string> commandLine(int argc, char** argv)
@@ -47,6 +81,12 @@ void prepareStreams()
 {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+}
+
+void uninterrupted(const std::function<void()>& action)
+{
+    const HeldSignals held;
+    action();
 }
 
 std::FILE* openToRead(const std::string& path)

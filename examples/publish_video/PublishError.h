@@ -8,7 +8,8 @@
 
 namespace publish {
 
-/// Ends the program. The message is one line that names the option, file or operation at fault.
+/// Ends the program. The message is a line that names the option, file or operation at fault; a
+/// second line may give a command that helps.
 class PublishError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

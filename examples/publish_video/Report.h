@@ -1,27 +1,53 @@
 /// @file
-/// What the program reports.
+/// What the program reports about a packet.
 
 #ifndef ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_REPORT_H
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_REPORT_H
 
-#include "CueFile.h"
+#include "Problems.h"
 
-#include "ZelInterchangeData/i_ZelDataCaptions.h"
-
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace publish {
 
-/// One line about the cues of @p file.
-std::string describeFile(const CueFile& file, bool skipEmpty);
+/// The captions of one language.
+struct LanguageCount {
+    std::string language;
+    /// The captions with a text in the language, and those without.
+    std::size_t captions = 0;
+    std::size_t missing = 0;
+};
 
-/// One line for each caption that breaks a recommended limit, in the packet's order: its start, and
-/// every reason (too short, too many lines, overlap with a later one).
-std::vector<std::string> describeCaptions(const ZelInterchangeData::i_ZelDataCaptions& captions);
+/// What is in the packet, and what is wrong with it.
+struct Report {
+    std::string output;
+    std::size_t bytes = 0;
+    std::size_t captions = 0;
+    /// The captions with texts in several languages.
+    std::size_t joined = 0;
+    /// In alphabetical order.
+    std::vector<LanguageCount> languages;
+    /// More than one group if files were timed separately.
+    LanguageGroups groups;
+    std::size_t entries = 0;
+    std::size_t screenTexts = 0;
+    /// The cues without text that --skip-empty left out.
+    std::size_t skipped = 0;
+    std::vector<Problem> problems;
+};
 
-/// One line with the packet's languages, which are those of the captions.
-std::string describeLanguages(const ZelInterchangeData::i_ZelDataCaptions& captions);
+/// Everything except the number of bytes. Throws PublishError.
+Report makeReport(const Options& options, const CueFiles& files,
+                  const std::vector<MergedCaption>& merged,
+                  const ZelInterchangeData::i_ZelDataCaptions& captions);
+
+/// The report for people: each kind of problem with the first three places, or with all.
+std::string reportText(const Report& report, bool isVerbose);
+
+/// The report for programs, with all places, as JSON.
+std::string reportJson(const Report& report);
 
 } // namespace publish
 

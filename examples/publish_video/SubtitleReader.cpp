@@ -6,6 +6,7 @@
 #include "PlainText.h"
 #include "Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -24,11 +25,6 @@ struct Timing {
     long long start = 0;
     long long end = 0;
 };
-
-bool isDigit(char character)
-{
-    return '0' <= character && character <= '9';
-}
 
 /// Takes tokens from the front of a timing line, if they are there.
 class LineScanner {
@@ -135,43 +131,110 @@ std::optional<Timing> timingOf(std::string_view line)
     return Timing{*start, *end};
 }
 
+/// Whether @p line begins with a time and has an arrow of whatever form.
+bool looksLikeTiming(std::string_view line)
+{
+    LineScanner scanner(line);
+    scanner.skipBlanks();
+    return takeTime(scanner) && scanner.rest().find('>') != std::string_view::npos;
+}
+
+bool isNumber(std::string_view line)
+{
+    return std::all_of(line.begin(), line.end(), isDigit);
+}
+
+/// Whether @p line begins a block of WebVTT that is no cue.
+bool beginsOtherBlock(std::string_view line)
+{
+    const std::string_view word = line.substr(0, line.find_first_of(" \t"));
+    return word == "NOTE" || word == "STYLE" || word == "REGION";
+}
+
 /// Makes cues from lines, one line at a time.
 class CueCollector {
 public:
-    explicit CueCollector(Subtitles& subtitles) : subtitles_(subtitles) {}
+    explicit CueCollector(Subtitles& subtitles)
+        : subtitles_(subtitles), block_(subtitles.isWebVtt ? Block::Ignored : Block::None)
+    {
+    }
     CueCollector(const CueCollector&) = delete;
     CueCollector& operator=(const CueCollector&) = delete;
 
     void takeLine(std::string_view line)
     {
-        if (line.find(arrow) != std::string_view::npos) {
-            open(timingOf(line));
-        } else if (const std::string_view text = withoutBlanksAtEnd(line); text.empty()) {
-            isOpen_ = false;
-        } else if (isOpen_) {
+        ++line_;
+        const std::string_view text = withoutBlanksAtEnd(line);
+        if (line.find(arrow) != std::string_view::npos)
+            open(line);
+        else if (text.empty())
+            endBlock();
+        else if (block_ == Block::Cue)
             append(text);
-        }
+        else if (block_ != Block::Ignored)
+            takeOutside(text);
+    }
+
+    /// At the end of the file, and where a blank line ends a block.
+    void endBlock()
+    {
+        const bool isLoneNumber = outsideLines_ == 1 && isNumber(outside_.words);
+        if (block_ == Block::Outside && !isLoneNumber) noteOutside();
+        block_ = Block::None;
     }
 
 private:
-    void open(const std::optional<Timing>& timing)
+    /// What the lines since the last blank line are.
+    enum class Block { None, Cue, Outside, Ignored };
+
+    void open(std::string_view line)
     {
-        isOpen_ = timing && timing->end > timing->start;
-        if (isOpen_)
-            subtitles_.cues.push_back({timing->start, timing->end, {}});
+        if (block_ == Block::Cue && endsWithNumber_)
+            subtitles_.cues.back().swallowedNumber = line_ - 1;
+        if (block_ == Block::Outside && outsideLines_ > 1) noteOutside();
+        endsWithNumber_ = false;
+        const std::optional<Timing> timing = timingOf(line);
+        const bool isCue = timing && timing->end > timing->start;
+        block_ = isCue ? Block::Cue : Block::Ignored;
+        if (isCue)
+            subtitles_.cues.push_back({timing->start, timing->end, {}, line_, 0, 0});
         else
-            ++(timing ? subtitles_.withoutLength : subtitles_.malformed);
+            (timing ? subtitles_.withoutLength : subtitles_.malformed)
+                .push_back({line_, firstWords(line)});
     }
 
     void append(std::string_view line)
     {
-        std::string& text = subtitles_.cues.back().text;
-        if (!text.empty()) text += '\n';
-        text += line;
+        Cue& cue = subtitles_.cues.back();
+        if (!cue.text.empty()) cue.text += '\n';
+        cue.text += line;
+        endsWithNumber_ = isNumber(line);
+        if (cue.swallowedTiming == 0 && looksLikeTiming(line)) cue.swallowedTiming = line_;
     }
 
+    void takeOutside(std::string_view line)
+    {
+        if (looksLikeTiming(line)) {
+            open(line);
+        } else if (block_ == Block::Outside) {
+            ++outsideLines_;
+        } else if (subtitles_.isWebVtt && beginsOtherBlock(line)) {
+            block_ = Block::Ignored;
+        } else {
+            block_ = Block::Outside;
+            outside_ = {line_, firstWords(line)};
+            outsideLines_ = 1;
+        }
+    }
+
+    void noteOutside() { subtitles_.outside.push_back(outside_); }
+
     Subtitles& subtitles_;
-    bool isOpen_ = false;
+    std::size_t line_ = 0;
+    Block block_;
+    bool endsWithNumber_ = false;
+    SkippedLines outside_;
+    std::size_t outsideLines_ = 0;
 };
 
 std::string_view withoutByteOrderMark(std::string_view bytes)
@@ -199,7 +262,27 @@ bool isWebVttSignature(std::string_view line)
     return line.size() == signature.size() || isBlank(line[signature.size()]);
 }
 
+std::string padded(long long value, std::size_t digits)
+{
+    const std::string text = std::to_string(value);
+    return std::string(digits - std::min(digits, text.size()), '0') + text;
+}
+
 } // namespace
+
+std::string timeText(long long time)
+{
+    constexpr long long msPerSecond = 1'000;
+    const long long seconds = time / msPerSecond;
+    return padded(seconds / 3'600, 2) + ":" + padded(seconds / 60 % 60, 2) + ":" +
+           padded(seconds % 60, 2) + "." + padded(time % msPerSecond, 3);
+}
+
+std::size_t countOfLines(std::string_view text)
+{
+    const std::string unified = withLineFeeds(text);
+    return 1 + static_cast<std::size_t>(std::count(unified.begin(), unified.end(), '\n'));
+}
 
 std::optional<Subtitles> readSubtitles(std::string_view bytes)
 {
@@ -209,6 +292,7 @@ std::optional<Subtitles> readSubtitles(std::string_view bytes)
     subtitles.isWebVtt = isWebVttSignature(std::string_view(text).substr(0, text.find('\n')));
     CueCollector collector(subtitles);
     forEachLine(text, [&collector](std::string_view line) { collector.takeLine(line); });
+    collector.endBlock();
     return subtitles;
 }
 

@@ -6,6 +6,7 @@
 #define ZELINTERCHANGEDATA_EXAMPLES_PUBLISH_VIDEO_SYSTEM_H
 
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,10 @@ std::vector<std::string> commandLine(int argc, char** argv);
 /// Makes writing to a closed pipe, or beyond the allowed file size, fail instead of ending the
 /// program. On Windows, keeps the standard streams from writing a line feed as two bytes.
 void prepareStreams();
+
+/// Calls @p action. A signal that would end the program (SIGINT, SIGTERM, SIGHUP; on Windows Ctrl-C
+/// and the like) ends it afterwards.
+void uninterrupted(const std::function<void()>& action);
 
 /// Opens the file at @p path, which is UTF-8, to read its bytes. The caller closes it. If it cannot
 /// be opened, returns a null pointer and sets errno.

@@ -80,22 +80,36 @@ std::string_view characterAt(std::string_view text, std::size_t at)
     return text.substr(at, length == 0 ? 1 : length);
 }
 
-std::string escapedByte(unsigned char byte)
+bool isPlainInAShell(char character)
 {
-    constexpr char digits[] = "0123456789ABCDEF";
-    return {'\\', 'x', digits[byte / 16], digits[byte % 16]};
+    constexpr std::string_view plain = "._-/+,:@%=";
+    return isLetter(character) || isDigit(character) || (character & 0x80) != 0 ||
+           plain.find(character) != std::string_view::npos;
 }
 
 } // namespace
 
-bool isStrictUtf8(std::string_view text)
+std::size_t lengthOfStrictUtf8(std::string_view text)
 {
-    for (std::size_t at = 0; at < text.size();) {
+    std::size_t at = 0;
+    while (at < text.size()) {
         const std::size_t length = sequenceLength(text, at);
-        if (length == 0) return false;
+        if (length == 0) break;
         at += length;
     }
-    return true;
+    return at;
+}
+
+std::size_t countOfLongCharacters(std::string_view text)
+{
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+        return static_cast<unsigned char>(byte) >= 0xC2; // the first byte of such a character
+    }));
+}
+
+bool isStrictUtf8(std::string_view text)
+{
+    return lengthOfStrictUtf8(text) == text.size();
 }
 
 std::string withoutNoncharacters(std::string_view text)
@@ -133,10 +147,52 @@ std::string printable(std::string_view text)
             shown += character;
         else
             for (const char byte : character)
-                shown += escapedByte(static_cast<unsigned char>(byte));
+                shown += "\\x" + hexadecimal(byte);
         at += character.size();
     }
     return shown;
+}
+
+std::string forShell(const std::string& word)
+{
+    if (!word.empty() && std::all_of(word.begin(), word.end(), isPlainInAShell)) return word;
+    std::string quoted = "'";
+    for (const char character : word)
+        quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
+    return quoted + "'";
+}
+
+std::string hexadecimal(char byte)
+{
+    constexpr char digits[] = "0123456789ABCDEF";
+    const auto value = static_cast<unsigned char>(byte);
+    return {digits[value / 16], digits[value % 16]};
+}
+
+std::string joined(const std::vector<std::string>& parts, std::string_view separator)
+{
+    std::string text;
+    for (const std::string& part : parts)
+        text.append(&part == parts.data() ? std::string_view() : separator).append(part);
+    return text;
+}
+
+std::string firstWords(std::string_view text)
+{
+    constexpr int most = 40;
+    std::size_t end = 0;
+    std::size_t blank = 0;
+    for (int count = 0; end < text.size() && count != most; ++count) {
+        end += characterAt(text, end).size();
+        if (text.substr(end, 1) == " " || text.substr(end, 1) == "\n") blank = end;
+    }
+    const bool isWhole = end == text.size();
+    // Cuts between words, unless the last one is long.
+    if (!isWhole && blank > end / 2) end = blank;
+    std::string words(text.substr(0, end));
+    for (const char control : {'\n', '\t'})
+        std::replace(words.begin(), words.end(), control, ' ');
+    return printable(words) + (isWhole ? "" : "...");
 }
 
 } // namespace publish

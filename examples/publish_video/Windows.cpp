@@ -15,8 +15,10 @@
 #include <io.h>
 #include <iterator>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <share.h>
+#include <sys/stat.h>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -62,19 +64,44 @@ std::string utf8(const wchar_t* text)
     return converted;
 }
 
-} // namespace
-
-void writeDirectly(const std::string& output, std::string_view bytes)
+void openAndWrite(const std::string& output, int flags, std::string_view bytes)
 {
     int descriptor = -1;
     const int openError =
         ::_wsopen_s(&descriptor, fs::u8path(output).c_str(),
-                    _O_WRONLY | _O_APPEND | _O_BINARY | _O_NOINHERIT, _SH_DENYNO, 0);
+                    _O_WRONLY | flags | _O_BINARY | _O_NOINHERIT, _SH_DENYNO, _S_IREAD | _S_IWRITE);
     if (openError != 0) failToWrite(output, openError);
     const int writeError = writeAll(descriptor, bytes) ? 0 : errno;
     const int closeError = ::_close(descriptor) == 0 ? 0 : errno;
     if (writeError != 0) failToWrite(output, writeError);
     if (closeError != 0) failToWrite(output, closeError);
+}
+
+/// Held while nothing may end the program. The system calls waitForTheAction() in a thread of its
+/// own, and then ends the program.
+std::mutex action;
+
+BOOL WINAPI waitForTheAction(DWORD /*event*/)
+{
+    action.lock(); // never unlocked: the program ends
+    return FALSE;
+}
+
+} // namespace
+
+void writeDirectly(const std::string& output, std::string_view bytes)
+{
+    openAndWrite(output, _O_APPEND, bytes);
+}
+
+void writeNewFile(const std::string& file, std::string_view bytes)
+{
+    openAndWrite(file, _O_CREAT | _O_TRUNC, bytes);
+}
+
+void writeStandardOutput(std::string_view bytes)
+{
+    if (!writeAll(::_fileno(stdout), bytes)) failToWrite(standardOutput, errno);
 }
 
 std::vector<std::string> commandLine(int /*argc*/, char** /*argv*/)
@@ -92,6 +119,16 @@ void prepareStreams()
 {
     for (std::FILE* stream : {stdout, stderr})
         ::_setmode(::_fileno(stream), _O_BINARY);
+}
+
+void uninterrupted(const std::function<void()>& act)
+{
+    ::SetConsoleCtrlHandler(waitForTheAction, TRUE);
+    {
+        const std::lock_guard<std::mutex> held(action);
+        act();
+    }
+    ::SetConsoleCtrlHandler(waitForTheAction, FALSE);
 }
 
 std::FILE* openToRead(const std::string& path)

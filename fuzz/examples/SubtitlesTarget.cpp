@@ -86,7 +86,8 @@ void checkCounts(const Subtitles& subtitles, const std::vector<std::string>& lin
     std::size_t arrows = 0;
     for (const std::string& line : lines)
         if (line.find(arrow) != std::string::npos) ++arrows;
-    require(subtitles.cues.size() + subtitles.malformed + subtitles.withoutLength == arrows,
+    require(subtitles.cues.size() + subtitles.malformed.size() + subtitles.withoutLength.size() ==
+                arrows,
             "the lines with an arrow");
     const std::string& first = lines.front();
     const bool isWebVtt =
@@ -117,7 +118,7 @@ std::string tidied(const std::vector<Cue>& cues, const char* lineEnd)
 void requireSameCues(const std::vector<Cue>& expected, const std::string& file)
 {
     const auto actual = publish::readSubtitles(file);
-    require(actual && actual->malformed == 0 && actual->withoutLength == 0, "a tidy file");
+    require(actual && actual->malformed.empty() && actual->withoutLength.empty(), "a tidy file");
     requireEqual(tidied(expected, "\n"), tidied(actual->cues, "\n"), "the cues of a tidy file");
 }
 

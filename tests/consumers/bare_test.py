@@ -70,12 +70,20 @@ class Bare(ChecksOfPrograms):
 
     def test_it_says_what_is_left_out_and_what_to_install(self):
         self.assertEqual(left_out(self.output), {
-            "the tests": "Install GoogleTest (Debian: libgtest-dev libgmock-dev)",
-            "publish_video": "Install cxxopts (Debian: libcxxopts-dev)"})
+            "the tests": "Install GoogleTest (Debian: libgtest-dev libgmock-dev)"})
         self.assertNotIn("CMake Warning", self.output)
 
     def test_it_builds_and_installs_both_libraries(self):
         self.assertLess({SHARED, STATIC}, self.installed)
+
+    def test_it_builds_and_installs_the_tool(self):
+        self.assertLess({"bin/publish_video", "share/man/man1/publish_video.1",
+                         "share/doc/ZelInterchangeData/preview.html"}, self.installed)
+        moved = self.folder / "moved"
+        shutil.copytree(self.folder / "prefix", moved, symlinks=True)
+        self.assertRegex(run(moved / "bin/publish_video", "--version"), r"^publish_video \d+\.\d+\.\d+\n$")
+        program = run("readelf", "--dynamic", moved / "bin/publish_video")
+        self.assertIn("[$ORIGIN/../lib]", program)
 
     def test_it_is_optimised(self):
         cache = (self.tree / "CMakeCache.txt").read_text(encoding="utf-8")
@@ -118,7 +126,7 @@ class Testing(unittest.TestCase):
         tree = fresh_folder(self.id())
         absent = left_out(configure_bare(SOURCE, tree, GOOGLETEST))
         folders = {f"tests/{file.parent.name}" for file in SOURCE.glob("tests/*/CMakeLists.txt")}
-        self.assertEqual(set(absent), folders - {"tests/examples"} | {"fuzz", "publish_video"})
+        self.assertEqual(set(absent), folders - {"tests/examples"} | {"fuzz", "page/tests"})
         self.assertEqual(absent["tests/readers"],
                          "Install Python3, xmllint, rapper, exempi, exiftool (Debian: scripts/setup)")
         self.assertIn("core_tests", tests_of(tree))

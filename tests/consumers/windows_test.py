@@ -1,5 +1,6 @@
 """The library for Windows, cross-compiled and installed, and programs that use it, run under Wine."""
 
+import json
 import os
 import re
 import shutil
@@ -72,9 +73,10 @@ class Windows(unittest.TestCase):
 
     def test_the_library_is_in_bin_and_what_links_it_in_lib(self):
         files = {path for path in self.installed if not path.startswith(("include/", "lib/cmake/"))}
-        self.assertEqual(files, {f"bin/{DLL}", f"lib/{DLL}.a", "lib/libZelInterchangeData.a",
-                                 "lib/pkgconfig/ZelInterchangeData.pc",
-                                 "share/ZelInterchangeData/zeldata.json"})
+        self.assertEqual(files, {f"bin/{DLL}", "bin/publish_video.exe", f"lib/{DLL}.a",
+                                 "lib/libZelInterchangeData.a", "lib/pkgconfig/ZelInterchangeData.pc",
+                                 "share/ZelInterchangeData/zeldata.json",
+                                 "share/doc/ZelInterchangeData/preview.html"})
         headers = {f"include/ZelInterchangeData/{path.name}"
                    for path in (SOURCE / "include/ZelInterchangeData").iterdir()}
         self.assertLess(headers, self.installed)
@@ -157,11 +159,31 @@ class Windows(unittest.TestCase):
         return status, files
 
     def test_publish_video_writes_the_same_packet_under_any_name(self):
-        for name in ("vidéo-日本.xmp", "old.xmp", "-"):
+        for name in ("vidéo-日本.xmp", "old.xmp", "./-"):
             with self.subTest(name):
                 status, files = self.same("-o", name, *OPTIONS, f"en={INPUT}")
+                name = name.removeprefix("./")
                 self.assertEqual((status, set(files)), (0, {name, "old.xmp", INPUT}))
                 self.assertIn("日本” 😀".encode(), files[name])
+
+    def test_publish_video_writes_the_same_report(self):
+        status, files = self.same("-o", "old.xmp", "--report", "é.json", *OPTIONS, f"en={INPUT}")
+        self.assertEqual(status, 0)
+        kinds = [problem["kind"] for problem in json.loads(files["é.json"])["problems"]]
+        self.assertIn("too-short", kinds)
+
+    def test_publish_video_does_not_overwrite_what_it_reads(self):
+        status, files = self.same("-o", f"./{INPUT}", *OPTIONS, f"en={INPUT}")
+        self.assertEqual((status, files[INPUT]), (2, (DATA / "paper-boat.en.srt").read_bytes()))
+
+    def test_publish_video_writes_to_standard_output(self):
+        folder = empty_folder(self.id())
+        done = wine(TREE / "examples/publish_video/publish_video.exe", "-o", "-", *OPTIONS,
+                    libraries=[TREE / "src"], folder=folder)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertTrue(done.stdout.startswith(b'<?xml version="1.0" encoding="utf-8" ?><x:xmpmeta '))
+        self.assertTrue(done.stdout.endswith(b"</x:xmpmeta>"))
+        self.assertEqual(list(folder.iterdir()), [])
 
     def test_publish_video_prints_the_same_help(self):
         self.assertEqual(self.same("--help")[0], 0)
@@ -183,7 +205,8 @@ class Windows(unittest.TestCase):
         output.chmod(0o444)
         done = wine(TREE / "examples/publish_video/publish_video.exe", "-o", output.name, *OPTIONS,
                     libraries=[TREE / "src"], folder=folder)
-        self.assertEqual(done.stderr, b"publish_video: out.xmp: cannot be written: Permission denied\n")
+        self.assertEqual(done.stderr, b"publish_video: out.xmp: cannot be written: Permission denied\n"
+                                      b"Try 'publish_video --help'.\n")
         self.assertEqual((done.returncode, output.read_text(encoding="utf-8")), (2, "old"))
         self.assertEqual(list(folder.iterdir()), [output])
 

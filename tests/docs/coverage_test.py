@@ -21,9 +21,9 @@ ANY_FENCE = re.compile(r"^[ \t>*+-]*(?:`{3,}|~{3,})[ \t]*(\w[^\s`]*)", re.MULTIL
 
 
 def documents():
-    """All Markdown files outside build folders and hidden folders."""
+    """All Markdown files outside hidden folders, build folders and packages of Node.js."""
     for folder, folders, files in os.walk(ROOT):
-        folders[:] = [name for name in folders if name[0] != "." and name not in ("build", "out")]
+        folders[:] = [name for name in folders if name[0] != "." and name not in ("build", "out", "node_modules")]
         yield from (Path(folder, name) for name in files if name.endswith((".md", ".markdown")))
 
 

@@ -90,6 +90,17 @@ TEST(CaptionMerger, LanguagesAreComparedByteForByte)
               (Lines{"1-2 en:a EN:b"}));
 }
 
+TEST(CaptionMerger, TextsNameTheirCues)
+{
+    const std::vector<MergedCaption> captions =
+        mergeCaptions({fileOf("en", {{1, 2, "a"}, {3, 4, "b"}}), fileOf("de", {{3, 4, "c"}})});
+    ASSERT_EQ(captions.size(), 2U);
+    EXPECT_EQ(captions[1].texts[0].file, 0U);
+    EXPECT_EQ(captions[1].texts[0].cue, 1U);
+    EXPECT_EQ(captions[1].texts[1].file, 1U);
+    EXPECT_EQ(captions[1].texts[1].cue, 0U);
+}
+
 TEST(CaptionMerger, ManyCuesAtTheSameTimeAreMergedQuickly)
 {
     const CueFile en = fileOf("en", std::vector<Cue>(200'000, Cue{1, 2, "a"}));

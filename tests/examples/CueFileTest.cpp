@@ -31,7 +31,7 @@ const std::string bytes = "00:01.000 --> 00:02.000\n<i>a</i>\n\n"
 
 TEST(MakeCueFile, TextIsUnchangedWithoutOptions)
 {
-    const CueFile file = makeCueFile("f", bytes, optionsOf(false, false));
+    const CueFile file = makeCueFile({"en", "dir/f"}, "f", bytes, optionsOf(false, false));
     ASSERT_EQ(file.cues.size(), 3U);
     EXPECT_EQ(file.cues[0].text, "<i>a</i>");
     EXPECT_EQ(file.cues[1].text, "<i></i>");
@@ -39,23 +39,25 @@ TEST(MakeCueFile, TextIsUnchangedWithoutOptions)
 
 TEST(MakeCueFile, CountsEveryKind)
 {
-    const CueFile file = makeCueFile("f", bytes, optionsOf(false, false));
+    const CueFile file = makeCueFile({"en", "dir/f"}, "f", bytes, optionsOf(false, false));
     EXPECT_EQ(file.name, "f");
-    EXPECT_EQ(file.malformed, 1U);
-    EXPECT_EQ(file.withoutLength, 1U);
+    EXPECT_EQ(file.path, "dir/f");
+    EXPECT_EQ(file.language, "en");
+    EXPECT_EQ(file.malformed.size(), 1U);
+    EXPECT_EQ(file.withoutLength.size(), 1U);
     EXPECT_EQ(file.empty, 1U);
 }
 
 TEST(MakeCueFile, SkippingLeavesOutEmptyCues)
 {
-    const CueFile file = makeCueFile("f", bytes, optionsOf(false, true));
+    const CueFile file = makeCueFile({"en", "dir/f"}, "f", bytes, optionsOf(false, true));
     EXPECT_EQ(file.cues.size(), 2U);
     EXPECT_EQ(file.empty, 1U);
 }
 
 TEST(MakeCueFile, CueThatOnlyHeldMarkupIsEmptyInPlainText)
 {
-    const CueFile file = makeCueFile("f", bytes, optionsOf(true, true));
+    const CueFile file = makeCueFile({"en", "dir/f"}, "f", bytes, optionsOf(true, true));
     ASSERT_EQ(file.cues.size(), 1U);
     EXPECT_EQ(file.cues[0].text, "a");
     EXPECT_EQ(file.empty, 2U);
@@ -63,28 +65,32 @@ TEST(MakeCueFile, CueThatOnlyHeldMarkupIsEmptyInPlainText)
 
 TEST(MakeCueFile, SkippedCuesCountForTheLastEnd)
 {
-    EXPECT_EQ(makeCueFile("f", bytes, optionsOf(true, true)).lastEnd, 9000);
+    EXPECT_EQ(makeCueFile({"en", "dir/f"}, "f", bytes, optionsOf(true, true)).lastEnd, 9000);
 }
 
 TEST(MakeCueFile, CuesWithoutLengthDoNotCountForTheLastEnd)
 {
-    EXPECT_FALSE(makeCueFile("f", "00:04.000 --> 00:04.000\n", Options()).lastEnd.has_value());
+    EXPECT_FALSE(makeCueFile({"en", "dir/f"}, "f", "00:04.000 --> 00:04.000\n", Options())
+                     .lastEnd.has_value());
 }
 
 TEST(MakeCueFile, EntitiesAreDecodedOnlyInWebVtt)
 {
     const std::string cue = "\n00:01.000 --> 00:02.000\n&amp;";
-    EXPECT_EQ(makeCueFile("f", "WEBVTT\n" + cue, optionsOf(true, false)).cues.at(0).text, "&");
-    EXPECT_EQ(makeCueFile("f", cue, optionsOf(true, false)).cues.at(0).text, "&amp;");
+    EXPECT_EQ(
+        makeCueFile({"en", "dir/f"}, "f", "WEBVTT\n" + cue, optionsOf(true, false)).cues.at(0).text,
+        "&");
+    EXPECT_EQ(makeCueFile({"en", "dir/f"}, "f", cue, optionsOf(true, false)).cues.at(0).text,
+              "&amp;");
 }
 
 TEST(MakeCueFile, BytesThatAreNotUtf8AreRefusedByName)
 {
     try {
-        makeCueFile("film.srt", "\xC0\x80", Options());
+        makeCueFile({"en", "dir/film.srt"}, "film.srt", "a\x01\xC0\x80", Options());
         FAIL() << "accepted";
     } catch (const PublishError& error) {
-        EXPECT_STREQ(error.what(), "film.srt: the file is not UTF-8");
+        EXPECT_STREQ(error.what(), "film.srt: the file is not UTF-8: line 1");
     }
 }
 

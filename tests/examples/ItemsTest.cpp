@@ -238,8 +238,8 @@ TEST_F(ItemsTest, NoLengthAtAllIsAnError)
 
 TEST_F(ItemsTest, FileThatIsNotUtf8IsNamed)
 {
-    const std::string file = write("bad.srt", "00:01.000 --> 00:02.000\n\xED\xA0\x80\n");
-    expectFailure(run({"en=" + file}), "bad.srt", {"bad.srt"});
+    const std::string file = write("bad.srt", "00:01.000 --> 00:02.000\n\x01\xED\xA0\x80\n");
+    expectFailure(run({"en=" + file}), "bad.srt: the file is not UTF-8: line 2\n", {"bad.srt"});
     expectFailure(run({"--toc", file}), "bad.srt", {"bad.srt"});
     expectFailure(run({"--screen-text", file}), "bad.srt", {"bad.srt"});
 }

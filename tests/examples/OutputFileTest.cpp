@@ -8,6 +8,7 @@
 
 using publish::PublishError;
 using publish::writeDirectly;
+using publish::writeNewFile;
 
 namespace {
 
@@ -23,6 +24,16 @@ TEST_F(OutputFileTest, DirectWritingMakesNoFile)
 {
     EXPECT_THROW(writeDirectly(pathOf("none"), "x"), PublishError);
     EXPECT_TRUE(names().empty());
+}
+
+TEST_F(OutputFileTest, NewFileHasTheBytesAndNothingElse)
+{
+    const std::string file = write("a", "older and longer");
+    writeNewFile(file, "new");
+    EXPECT_EQ(contentsOf(file), "new");
+    writeNewFile(pathOf("b"), "b");
+    EXPECT_EQ(contentsOf(pathOf("b")), "b");
+    EXPECT_THROW(writeNewFile(pathOf("none/b"), "b"), PublishError);
 }
 
 } // namespace

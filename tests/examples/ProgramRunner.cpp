@@ -61,7 +61,8 @@ int statusOf(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
-RunResult runProgram(const std::vector<std::string>& words)
+RunResult runProgram(const std::vector<std::string>& words,
+                     const std::function<void(int)>& meanwhile = {})
 {
     const Capture out;
     const Capture err;
@@ -77,6 +78,7 @@ RunResult runProgram(const std::vector<std::string>& words)
         ::execv(arguments[0], arguments.data());
         ::_exit(127);
     }
+    if (meanwhile) meanwhile(child);
     const int status = statusOf(child);
     return {status, out.text(), err.text()};
 }
@@ -124,11 +126,12 @@ std::vector<std::string> ProgramRunner::names() const
     return names;
 }
 
-RunResult ProgramRunner::runAlone(const std::vector<std::string>& words)
+RunResult ProgramRunner::runAlone(const std::vector<std::string>& words,
+                                  const std::function<void(int)>& meanwhile)
 {
     std::vector<std::string> all{PUBLISH_VIDEO};
     all.insert(all.end(), words.begin(), words.end());
-    return runProgram(all);
+    return runProgram(all, meanwhile);
 }
 
 RunResult ProgramRunner::run(const std::vector<std::string>& words) const
@@ -168,8 +171,9 @@ void ProgramRunner::expectFailure(const RunResult& run, const std::string& named
 {
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
     EXPECT_THAT(run.err, testing::StartsWith("publish_video: "));
+    EXPECT_THAT(run.err, testing::EndsWith("\nTry 'publish_video --help'.\n"));
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 2) << run.err;
     EXPECT_THAT(run.err, testing::HasSubstr(named));
     EXPECT_EQ(names(), left);
 }

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,8 +39,9 @@ protected:
     /// The names of the folder's files, in order.
     std::vector<std::string> names() const;
 
-    /// Runs the program with @p words only.
-    static RunResult runAlone(const std::vector<std::string>& words);
+    /// Runs the program with @p words only, and calls @p meanwhile with its process.
+    static RunResult runAlone(const std::vector<std::string>& words,
+                              const std::function<void(int)>& meanwhile = {});
     /// Runs the program with an output in the folder, a size, and @p words.
     RunResult run(const std::vector<std::string>& words) const;
     /// As run(), with a length, and expects success.
@@ -50,8 +52,8 @@ protected:
     /// The text between the tags of the packet's tracks.
     std::string tracks() const;
 
-    /// Expects that @p run failed with one line that names @p named, and that no file but @p left
-    /// is in the folder.
+    /// Expects that @p run failed with one line that names @p named, and one with the way to the
+    /// help, and that no file but @p left is in the folder.
     void expectFailure(const RunResult& run, const std::string& named,
                        const std::vector<std::string>& left) const;
 

@@ -48,14 +48,14 @@ void expectTiming(const std::string& line, long long start, long long end)
 {
     const Subtitles subtitles = read(line + "\nx\n");
     EXPECT_EQ(subtitles.cues, (Cues{{start, end, "x"}})) << line;
-    EXPECT_EQ(subtitles.malformed, 0U) << line;
+    EXPECT_EQ(subtitles.malformed.size(), 0U) << line;
 }
 
 /// Expects that @p line is malformed, and that its text is dropped with it.
 void expectMalformed(const std::string& line)
 {
     const Subtitles subtitles = read(line + "\nlost\n\n00:09.000 --> 00:10.000\nkept\n");
-    EXPECT_EQ(subtitles.malformed, 1U) << line;
+    EXPECT_EQ(subtitles.malformed.size(), 1U) << line;
     EXPECT_EQ(subtitles.cues, (Cues{{9000, 10000, "kept"}})) << line;
 }
 
@@ -116,7 +116,7 @@ TEST(FileBytes, SecondByteOrderMarkIsText)
 {
     EXPECT_EQ(read("\xEF\xBB\xBF\xEF\xBB\xBF"
                    "00:01.000 --> 00:02.000\na")
-                  .malformed,
+                  .malformed.size(),
               1U);
 }
 
@@ -251,8 +251,8 @@ TEST(CueWithoutLength, EndAtOrBeforeTheStartIsLeftOutWithItsText)
     const Subtitles subtitles = read("00:01.000 --> 00:01.000\nlost\n\n"
                                      "00:02.000 --> 00:01.000\nlost\n\n"
                                      "00:01.000 --> 00:01.001\nkept\n");
-    EXPECT_EQ(subtitles.withoutLength, 2U);
-    EXPECT_EQ(subtitles.malformed, 0U);
+    EXPECT_EQ(subtitles.withoutLength.size(), 2U);
+    EXPECT_EQ(subtitles.malformed.size(), 0U);
     EXPECT_EQ(subtitles.cues, (Cues{{1000, 1001, "kept"}}));
 }
 
@@ -276,13 +276,99 @@ TEST(CueText, EndsAtAMalformedArrowToo)
 {
     const Subtitles subtitles = read("00:01.000 --> 00:02.000\na\nb --> c\nd\n");
     EXPECT_EQ(subtitles.cues, (Cues{{1000, 2000, "a"}}));
-    EXPECT_EQ(subtitles.malformed, 1U);
+    EXPECT_EQ(subtitles.malformed.size(), 1U);
 }
 
 TEST(CueText, NumberBeforeAnArrowWithoutAnEmptyLineBelongsToTheText)
 {
     EXPECT_EQ(cuesOf("00:01.000 --> 00:02.000\na\n2\n00:03.000 --> 00:04.000\nb"),
               (Cues{{1000, 2000, "a\n2"}, {3000, 4000, "b"}}));
+}
+
+/// The lines of the numbers that the texts of @p bytes swallowed; 0 for a cue that swallowed none.
+std::vector<std::size_t> swallowedNumbers(const std::string& bytes)
+{
+    std::vector<std::size_t> lines;
+    for (const Cue& cue : cuesOf(bytes))
+        lines.push_back(cue.swallowedNumber);
+    return lines;
+}
+
+using Lines = std::vector<std::size_t>;
+
+TEST(SwallowedNumber, DigitsRightBeforeATimingLine)
+{
+    EXPECT_EQ(swallowedNumbers("1\n00:01.000 --> 00:02.000\na\n2 \n00:03.000 --> 00:04.000\nb\n"
+                               "17\nx --> y\n"),
+              (Lines{4, 7}));
+    EXPECT_EQ(swallowedNumbers("00:01.000 --> 00:02.000\n2\n00:03.000 --> 00:04.000\n"),
+              (Lines{2, 0}));
+}
+
+TEST(SwallowedNumber, BlankLineOtherTextOrNoTimingLineIsNone)
+{
+    const std::string next = "00:03.000 --> 00:04.000\nb\n";
+    const std::string first = "00:01.000 --> 00:02.000\n";
+    for (const std::string text : {"a\n2\n\n", "a\n\n2\n", "2\na\n", "a 2\n", "2.\n", "-2\n"})
+        EXPECT_EQ(swallowedNumbers(first + text + next), (Lines{0, 0})) << text;
+    EXPECT_EQ(swallowedNumbers(first + "a\n2\n"), (Lines{0}));
+    EXPECT_EQ(swallowedNumbers("x --> y\n2\n" + next), (Lines{0}));
+}
+
+/// The lines of @p skipped.
+std::vector<std::size_t> linesOf(const std::vector<publish::SkippedLines>& skipped)
+{
+    std::vector<std::size_t> lines;
+    for (const publish::SkippedLines& one : skipped)
+        lines.push_back(one.line);
+    return lines;
+}
+
+using Lines = std::vector<std::size_t>;
+
+TEST(SwallowedTiming, FirstLineThatBeginsWithATimeAndHasAnotherArrow)
+{
+    const Subtitles subtitles = read("00:01.000 --> 00:02.000\na\n2\n00:03,000 \xE2\x80\x93> x\n"
+                                     "00:04.000 => 00:05.000\n\n"
+                                     "00:06.000 --> 00:07.000\n00:08.000\n1 -> 2\n");
+    ASSERT_EQ(subtitles.cues.size(), 2U);
+    EXPECT_EQ(subtitles.cues[0].swallowedTiming, 4U);
+    EXPECT_EQ(subtitles.cues[1].swallowedTiming, 0U);
+    EXPECT_EQ(linesOf(subtitles.malformed), Lines{});
+}
+
+TEST(MalformedCue, MayHaveAnotherArrow)
+{
+    const Subtitles subtitles = read("1\n00:01.000 -> 00:02.000\nlost\n\n"
+                                     "00:03.000 > 00:04.000\n\n00:05.000 --> 00:06.000\na\n");
+    EXPECT_EQ(linesOf(subtitles.malformed), (Lines{2, 5}));
+    EXPECT_EQ(linesOf(subtitles.outside), Lines{});
+    EXPECT_EQ(subtitles.cues, (Cues{{5000, 6000, "a"}}));
+}
+
+TEST(OutsideACue, EachBlockIsListedByItsFirstLine)
+{
+    const Subtitles subtitles = read("title\n\n00:01.000 --> 00:02.000\na\n\nsecond\nparagraph\n\n"
+                                     "lost\n2\n00:03.000 --> 00:04.000\nb\n\n3\nno times\n\nend");
+    EXPECT_EQ(linesOf(subtitles.outside), (Lines{1, 6, 9, 14, 17}));
+    ASSERT_EQ(subtitles.outside.size(), 5U);
+    EXPECT_EQ(subtitles.outside[1].words, "second");
+}
+
+TEST(OutsideACue, NumbersAndTheLineBeforeATimingLineAreNotListed)
+{
+    EXPECT_EQ(
+        linesOf(read("1\n00:01.000 --> 00:02.000\na\n\nname\n00:03.000 --> 00:04.000\nb\n\n3\n")
+                    .outside),
+        Lines{});
+}
+
+TEST(OutsideACue, HeaderNotesStylesAndRegionsOfWebVttAreNotListed)
+{
+    const std::string blocks = "\n\nNOTE\nx\n\nNOTE y\n\nSTYLE\n::cue {}\n\nREGION\nid:z\n\n"
+                               "NOTES\n\n00:01.000 --> 00:02.000\na\n";
+    EXPECT_EQ(linesOf(read("WEBVTT - a\nKind: b" + blocks).outside), Lines{15});
+    EXPECT_EQ(linesOf(read("x" + blocks).outside), (Lines{1, 3, 6, 8, 11, 14}));
 }
 
 TEST(CueText, MayBeEmpty)
@@ -315,7 +401,7 @@ TEST(BeforeACue, NumbersNamesNotesStylesAndRegionsAreIgnored)
                                      "the first\n00:01.000 --> 00:02.000\na\n\n"
                                      "NOTE between\nremark\n\n17\n00:03.000 --> 00:04.000\nb\n");
     EXPECT_EQ(subtitles.cues, (Cues{{1000, 2000, "a"}, {3000, 4000, "b"}}));
-    EXPECT_EQ(subtitles.malformed, 0U);
+    EXPECT_EQ(subtitles.malformed.size(), 0U);
 }
 
 TEST(BeforeACue, ArrowInANoteOpensACue)
@@ -323,7 +409,39 @@ TEST(BeforeACue, ArrowInANoteOpensACue)
     const Subtitles subtitles = read("WEBVTT\n\nNOTE\n00:01.000 --> 00:02.000\na\n\n"
                                      "NOTE old --> new\nlost\n");
     EXPECT_EQ(subtitles.cues, (Cues{{1000, 2000, "a"}}));
-    EXPECT_EQ(subtitles.malformed, 1U);
+    EXPECT_EQ(subtitles.malformed.size(), 1U);
+}
+
+TEST(LineNumbers, CountEveryKindOfLineEnd)
+{
+    const Subtitles subtitles = read("WEBVTT\r\n\r\n00:01.000 --> 00:02.000\ra\r\n\n"
+                                     "00:03.000 --> 00:03.000\n\r\rbad --> line and more of it "
+                                     "that is too long for a message\n00:05.000 --> 00:06.000");
+    ASSERT_EQ(subtitles.cues.size(), 2U);
+    EXPECT_EQ(subtitles.cues[0].line, 3U);
+    EXPECT_EQ(subtitles.cues[1].line, 10U);
+    ASSERT_EQ(subtitles.withoutLength.size(), 1U);
+    EXPECT_EQ(subtitles.withoutLength[0].line, 6U);
+    EXPECT_EQ(subtitles.withoutLength[0].words, "00:03.000 --> 00:03.000");
+    ASSERT_EQ(subtitles.malformed.size(), 1U);
+    EXPECT_EQ(subtitles.malformed[0].line, 9U);
+    EXPECT_EQ(subtitles.malformed[0].words, "bad --> line and more of it that is too...");
+}
+
+TEST(LineNumbers, CountedInAText)
+{
+    EXPECT_EQ(publish::countOfLines(""), 1U);
+    EXPECT_EQ(publish::countOfLines("a\r\nb\rc\nd"), 4U);
+    EXPECT_EQ(publish::countOfLines("a\n"), 2U);
+}
+
+TEST(TimeText, HasHoursAndMilliseconds)
+{
+    EXPECT_EQ(publish::timeText(0), "00:00:00.000");
+    EXPECT_EQ(publish::timeText(39'200), "00:00:39.200");
+    EXPECT_EQ(publish::timeText(45'296'007), "12:34:56.007");
+    EXPECT_EQ(publish::timeText(360'000'000), "100:00:00.000");
+    EXPECT_EQ(publish::timeText(latest), "2562047788015:12:55.807");
 }
 
 TEST(LargeFiles, LongLinesAreReadQuickly)
@@ -334,7 +452,7 @@ TEST(LargeFiles, LongLinesAreReadQuickly)
              "x" + std::string(4'000'000, '\t') + "\n" + std::string(4'000'000, '-') + ">\n");
     ASSERT_EQ(subtitles.cues.size(), 1U);
     EXPECT_EQ(subtitles.cues[0].text.size(), 4'000'001U);
-    EXPECT_EQ(subtitles.malformed, 1U);
+    EXPECT_EQ(subtitles.malformed.size(), 1U);
 }
 
 TEST(LargeFiles, EveryLineOfACueIsKept)

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using publish::argumentText;
+using publish::firstWords;
 using publish::isStrictUtf8;
 using publish::printable;
 using publish::withoutNoncharacters;
@@ -111,6 +112,38 @@ TEST(Printable, StaysOnOneLineAndShowsForeignBytes)
     EXPECT_EQ(printable("a\nb\x7F\xFF\xC3\xA9"), "a\\x0Ab\\x7F\\xFF\xC3\xA9");
     EXPECT_EQ(printable("\xC2\x85"), "\\xC2\\x85");
     EXPECT_EQ(printable("\xE2\x82"), "\\xE2\\x82");
+}
+
+TEST(FirstWords, ShortTextIsWhole)
+{
+    EXPECT_EQ(firstWords(""), "");
+    EXPECT_EQ(firstWords("two\nlines\tmore\x01"), "two lines more\\x01");
+    EXPECT_EQ(firstWords(std::string(40, 'x')), std::string(40, 'x'));
+}
+
+TEST(FirstWords, LongTextIsCutBetweenWords)
+{
+    EXPECT_EQ(firstWords("It was a dark and stormy night; the rain fell in torrents"),
+              "It was a dark and stormy night; the rain...");
+    EXPECT_EQ(firstWords("It was a dark and stormy night; the rainy season"),
+              "It was a dark and stormy night; the...");
+}
+
+TEST(FirstWords, LongWordIsCutBetweenCharacters)
+{
+    EXPECT_EQ(firstWords(std::string(41, 'x')), std::string(40, 'x') + "...");
+    std::string boat;
+    for (int count = 0; count < 40; ++count)
+        boat += "\xE8\x88\x9F";
+    EXPECT_EQ(firstWords(boat), boat);
+    EXPECT_EQ(firstWords(boat + "\xE8\x88\x9F"), boat + "...");
+}
+
+TEST(Joined, SeparatesEachTwoParts)
+{
+    EXPECT_EQ(publish::joined({}, ", "), "");
+    EXPECT_EQ(publish::joined({"a"}, ", "), "a");
+    EXPECT_EQ(publish::joined({"", "b", ""}, ", "), ", b, ");
 }
 
 } // namespace

@@ -1,12 +1,20 @@
 /// @file
 /// The program's arguments and the resulting header.
 
+#include "Usage.h"
+#include "OptionTable.h"
 #include "examples/ProgramRunner.h"
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+
+using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 namespace {
 
@@ -135,12 +143,112 @@ TEST_F(UsageTest, UnknownLanguageIsNamed)
     expectFailure(run({"deu=" + file}), "'deu'", {"a.srt"});
 }
 
+TEST_F(UsageTest, FileBeyondTheLargestSizeIsRefused)
+{
+    const std::string cause = ": the file is larger than 100 MB\n";
+    expectFailure(run({"en=/dev/zero"}), "publish_video: en=/dev/zero" + cause, {});
+    const std::string large = write("large.srt", "");
+    std::filesystem::resize_file(large, 100'000'001);
+    expectFailure(run({"--toc", large}), "publish_video: --toc " + large + cause, {"large.srt"});
+    EXPECT_THAT(publish::manualPage(), HasSubstr("at most 100 MB"));
+}
+
 TEST_F(UsageTest, HelpIsPrinted)
 {
-    const RunResult done = runAlone({"--help"});
+    for (const std::string help : {"--help", "-h"}) {
+        const RunResult done = runAlone({"--colour", help, "--version"});
+        EXPECT_EQ(done.status, 0);
+        EXPECT_EQ(done.err, "");
+        EXPECT_THAT(done.out, StartsWith("Usage: publish_video "));
+    }
+}
+
+TEST_F(UsageTest, HelpThatCannotBePrintedIsAFailure)
+{
+    const RunResult done = runShell("\"$0\" --help >/dev/full", {});
+    expectFailure(done, "standard output: cannot be written: No space left on device", {});
+}
+
+TEST_F(UsageTest, VersionIsPrinted)
+{
+    const RunResult done = runAlone({"--version", "--verbose"});
     EXPECT_EQ(done.status, 0);
     EXPECT_EQ(done.err, "");
-    EXPECT_THAT(done.out, HasSubstr("--screen-text FILE"));
+    EXPECT_EQ(done.out, "publish_video " VERSION "\n");
+}
+
+TEST_F(UsageTest, ErrorsAreTheWholeOutput)
+{
+    EXPECT_EQ(run({"--lenght", "5"}).err, "publish_video: unknown option --lenght; did you mean "
+                                          "--length?\nTry 'publish_video --help'.\n");
+}
+
+TEST(Help, ListsEveryOptionWithItsDefault)
+{
+    const std::string help = publish::usage();
+    for (const publish::OptionEntry& option : publish::optionTable) {
+        EXPECT_THAT(help, HasSubstr(std::string("--") + option.name));
+        EXPECT_THAT(help, HasSubstr(option.value != nullptr ? option.value : ""));
+    }
+    EXPECT_THAT(help, HasSubstr("\n  -o, --output OUT.xmp       the file to write"));
+    EXPECT_THAT(help, HasSubstr("\n      --font-size N          the captions' font size, 1 to 500 "
+                                "(default: 20)\n"));
+}
+
+TEST(Help, HasTwoExamplesAndTheExitStatuses)
+{
+    const std::string help = publish::usage();
+    const std::string examples = help.substr(help.find("\nExamples:\n"));
+    EXPECT_THAT(examples, ContainsRegex("\n    publish_video -o .*\n    publish_video -o "));
+    EXPECT_THAT(examples, ContainsRegex("\nExit status:\n  0  .*\n  2  "));
+}
+
+TEST(Help, FitsAnOrdinaryTerminal)
+{
+    std::istringstream help(publish::usage());
+    for (std::string line; std::getline(help, line);)
+        EXPECT_LE(line.size(), 80U) << line;
+}
+
+class ExampleTest : public ProgramRunner {};
+
+TEST_F(ExampleTest, EachExampleOfTheHelpRuns)
+{
+    const std::string help = publish::usage();
+    const std::size_t begin = help.find("\nExamples:\n");
+    std::istringstream lines(help.substr(begin, help.find("\nExit status:") - begin));
+    std::string script = "set -e\ncd '" + pathOf(".") + "'\npublish_video() { \"$0\" \"$@\"; }\n";
+    for (std::string line; std::getline(lines, line);)
+        if (line.substr(0, 4) == "    ") script += line + "\n";
+    for (const std::string name : {"film.en.srt", "film.de.srt", "film.vtt", "chapters.vtt"})
+        write(name, "WEBVTT\n\n00:01.000 --> 00:02.000\nx\n");
+    const RunResult done = runShell(script, {});
+    EXPECT_EQ(done.status, 0) << done.err;
+    EXPECT_THAT(names(), testing::IsSupersetOf({"film.json", "film.xmp"}));
+}
+
+class ManualPageTest : public ProgramRunner {};
+
+TEST_F(ManualPageTest, IsFormattedWithoutAWarning)
+{
+    const std::string page = write("publish_video.1", publish::manualPage());
+    const RunResult done =
+        runShell("command -v groff >&2 || exit 77; groff -ww -man -Tascii -P-c '" + page + "'", {});
+    if (done.status == 77) GTEST_SKIP() << "groff is not installed.";
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(std::count(done.err.begin(), done.err.end(), '\n'), 1) << done.err;
+    EXPECT_THAT(done.out, HasSubstr("--title=--plain-text"));
+}
+
+TEST(ManualPage, HasTheTextsOfTheHelp)
+{
+    const std::string page = publish::manualPage();
+    EXPECT_THAT(page,
+                StartsWith(".TH PUBLISH_VIDEO 1 \"\" \"publish_video " VERSION "\"\n.SH NAME\n"));
+    EXPECT_THAT(page, HasSubstr("\n.TP\n.B \\-o, \\-\\-output OUT.xmp\nthe file to write; \\- is "
+                                "standard output (required)\n"));
+    EXPECT_THAT(page, HasSubstr("\n.SH EXIT STATUS\n.TP\n.B 0\n"));
+    EXPECT_THAT(page, HasSubstr(" \\e\n"));
 }
 
 } // namespace
