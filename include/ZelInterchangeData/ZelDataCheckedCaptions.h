@@ -191,7 +191,7 @@ private:
             return asking(this->object(),
                           [&] { return reasonOfIndex(call, getCaptionItemCount()); });
         const std::string known = reasonOfStyle(call);
-        return known.empty() ? this->reasonOfList(call) : known;
+        return known.empty() ? reasonOfList(this->object(), call) : known;
     }
 
     std::string reasonOfStyle(const ZelDataCall& call) const

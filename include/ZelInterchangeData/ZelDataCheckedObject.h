@@ -54,12 +54,9 @@ public:
     /// The object itself.
     Object& object() const noexcept { return *object_; }
 
-    /// What the view throws for @p call, which you made without the view. Call this before you call
-    /// anything else. May throw `std::bad_alloc`.
-    ZelDataError errorOf(const ZelDataCall& call) const
-    {
-        return zelDataErrorFor(call, [&] { return self().reason(call); });
-    }
+    /// What is known about the failure of @p call, which you made without the view; may be empty.
+    /// Call this before you call anything else. May throw `std::bad_alloc`.
+    std::string reasonOf(const ZelDataCall& call) const { return self().reason(call); }
 
 protected:
     /// Returns the view if @p code is not a failure of @p operation; otherwise throws and shows
@@ -134,7 +131,9 @@ protected:
     void require(const char* operation, ZelDataResult_tags code,
                  const Arguments&... arguments) const
     {
-        if (fails(code)) throw errorOf({operation, code, {ZelDataArgument(arguments)...}});
+        if (!fails(code)) return;
+        const ZelDataCall call{operation, code, {ZelDataArgument(arguments)...}};
+        throw zelDataErrorFor(call, [&] { return reasonOf(call); });
     }
 
     /// Whether the view throws for @p code.

@@ -136,7 +136,7 @@ private:
             call.is("removeTocItemAt", ZelData_InvalidArgument))
             return asking(this->object(), [&] { return reasonOfIndex(call, getTocItemCount()); });
         const std::string known = reasonOfFrameRate(call);
-        return known.empty() ? this->reasonOfList(call) : known;
+        return known.empty() ? reasonOfList(this->object(), call) : known;
     }
 };
 

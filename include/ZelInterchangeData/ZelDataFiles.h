@@ -23,15 +23,6 @@ inline std::system_error zelDataFileError(const std::string& path, int systemErr
             "replaceFile(\"" + onOneLine(path, isUtf8(path)) + "\")"};
 }
 
-/// What replaceFile() throws if there is no packet to write.
-inline ZelDataError zelDataPacketError(const i_ZelInterchangeDataCore& document,
-                                       const std::string& path, ZelDataFormatType_tags format,
-                                       ZelDataResult_tags code)
-{
-    return zelDataErrorFor({"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}},
-                           [&] { return ZelDataMessages::reasonOfWriting(document, code); });
-}
-
 /// Writes @p document to the file at @p path, completely or not at all: see the function of this
 /// name that returns a code. If the file cannot be written, throws a `std::system_error` with the
 /// system's error number, `std::system_category()` and a message such as
@@ -43,7 +34,9 @@ inline void replaceFile(const i_ZelInterchangeDataCore& document, const std::str
     int systemError = 0;
     const auto code = replaceFile(document, path, systemError, format);
     if (systemError != 0) throw zelDataFileError(path, systemError);
-    if (failed(code)) throw zelDataPacketError(document, path, format, code);
+    if (!failed(code)) return;
+    const ZelDataCall call{"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}};
+    throw zelDataErrorFor(call, [&] { return ZelDataMessages::reasonOfWriting(document, code); });
 }
 
 } // namespace ZelInterchangeData

@@ -8,7 +8,7 @@
 
 #include <cstring>
 #include <functional>
-#include <limits>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <tuple>
@@ -22,369 +22,429 @@ namespace {
 using Texts = std::vector<std::string>;
 using Findings = std::vector<ZelDataFinding>;
 
-/// What zeldata_last_message() returns.
-class LastMessage {
-public:
-    const char* shown() const noexcept { return shown_; }
-    bool isEmpty() const noexcept { return *shown_ == '\0'; }
-    void clear() noexcept { shown_ = ""; }
+/// @name What a handle points to
+/// In each kind of handle, the message comes first, so that a handle of any type leads to it.
+/// @{
 
-    /// Keeps the message of the exception that @p makeError returns or, if memory runs out, what
-    /// @p code means.
-    template <class MakeError>
-    void keep(ZelDataResult_tags code, MakeError&& makeError)
-    {
-        shown_ = describe(code);
-        static_cast<void>(guarded([&] {
-            text_ = makeError().what();
-            shown_ = text_.c_str();
-            return ZelData_Ok;
-        }));
-    }
-
-private:
-    const char* shown_ = "";
-    std::string text_;
+struct Message {
+    const char* shown = "";
+    std::string text;
 };
 
-/// What a handle of a text or a list points to. In each kind of handle, the message comes first, so
-/// that a handle of any type leads to it.
 template <class Type>
 struct Value {
-    mutable LastMessage message;
+    mutable Message message;
     Type value;
 };
 
-/// What a handle of an object points to. Deliberate: no std::unique_ptr; with it, the type would not
-/// have standard layout for every compiler, and the message could be elsewhere.
+/// Returns what the view of @p object knows about the failure of @p call.
+using Reason = std::string (*)(i_ZelDataResult& object, const ZelDataCall& call);
+
+/// Deliberate: no std::unique_ptr; with it, the type would not have standard layout for every
+/// compiler, and the message could be elsewhere.
 struct Object {
-    Object() = default;
-    Object(const Object&) = delete;
-    Object& operator=(const Object&) = delete;
-    ~Object() { delete object; }
-
-    mutable LastMessage message;
-    i_ZelDataResult* object = nullptr;
+    mutable Message message;
+    i_ZelDataResult* object;
+    Reason reason;
 };
+/// @}
 
-/// The same for the objects of an interface.
-template <class Type>
-struct ObjectOf : Object {
-    using Interface = Type;
-};
-
-template <class Type>
-Type& target(Value<Type>& handle)
+/// The object of a handle; only zeldata.h tells these types apart.
+template <class Handle>
+Object* objectOf(const Handle* handle)
 {
-    return handle.value;
-}
-template <class Type>
-const Type& target(const Value<Type>& handle)
-{
-    return handle.value;
-}
-template <class Interface>
-Interface& target(const ObjectOf<Interface>& handle)
-{
-    return static_cast<Interface&>(*handle.object);
+    return const_cast<Object*>(reinterpret_cast<const Object*>(handle));
 }
 
-/// What most kinds of arguments share. An argument that is usable is loaded and passed to the
-/// operation; if that succeeds, it delivers. A message shows what shown() returns, if anything.
-struct Argument {
-    static constexpr bool isUsable() { return true; }
-    static constexpr void deliver() {}
-    static constexpr std::tuple<> shown() { return {}; }
-};
-
-/// Loads an argument that needs no memory.
-template <class Type>
-[[gnu::always_inline]] inline Type& loaded(Type& argument)
+template <class Handle>
+void destroy(Handle* handle)
 {
-    return argument;
+    const std::unique_ptr<Object> object(objectOf(handle));
+    if (object != nullptr) delete object->object;
 }
+
+/// @name What a call keeps if it fails
+/// Each function returns the code.
+/// @{
+
+/// Keeps what @p makeMessage returns or, if memory runs out, what @p code means.
+std::uint32_t keep(Message& message, ZelDataResult_tags code,
+                   const ZelDataMessages::TextMaker& makeMessage)
+{
+    message.text = ZelDataMessages::orNothing(makeMessage);
+    message.shown = message.text.empty() ? describe(code) : message.text.c_str();
+    return code;
+}
+
+/// For a @p code of the C function itself.
+[[gnu::noinline]] std::uint32_t keep(Message& message, const char* operation,
+                                     ZelDataResult_tags code)
+{
+    return keep(message, code, [&] { return ZelDataError(code, operation).what(); });
+}
+
+/// For a @p code of the object's operation.
+[[gnu::noinline]] std::uint32_t keep(const Object& handle, const char* operation,
+                                     ZelDataResult_tags code,
+                                     std::initializer_list<ZelDataArgument> arguments)
+{
+    const ZelDataCall call{operation, code, arguments};
+    return keep(handle.message, code, [&] {
+        return zelDataErrorFor(call, [&] { return handle.reason(*handle.object, call); }).what();
+    });
+}
+
+/// The code of the exception that was caught.
+[[gnu::noinline]] ZelDataResult_tags caught()
+{
+    return guarded([]() -> ZelDataResult_tags { throw; });
+}
+/// @}
+
+/// @name From the arguments of a C function to the parameters of an operation
+/// An argument that is usable is passed; if the operation succeeds, it delivers. A message shows what
+/// shown() returns, if anything.
+/// @{
 
 struct Text {
     const char* text;
     std::size_t length;
-
-    /// Refuses a length that no text can have: std::string throws std::length_error for it.
-    [[gnu::always_inline]] bool isUsable() const
-    {
-        return text != nullptr && (isTerminated() || length <= PTRDIFF_MAX / 2);
-    }
-    bool isTerminated() const { return length == ZELDATA_TERMINATED; }
 };
 
-struct LoadedText : Argument {
-    std::string value;
-
-    std::string& passed() { return value; }
-    auto shown() const { return std::tie(value); }
+/// A pointer to a handle of any type.
+struct Place {
+    void* out;
 };
 
-/// Deliberate: always inlined; the file is optimised for size, so each text would cost another call.
-[[gnu::always_inline]] inline LoadedText loaded(Text& text)
+/// How a message refers to @p object.
+ZelDataArgument argumentOf(const i_ZelDataResult& object)
 {
-    return {{}, std::string(text.text, text.isTerminated() ? std::strlen(text.text) : text.length)};
+    if (const auto* header = dynamic_cast<const i_ZelDataHeader*>(&object))
+        return ZelDataArgument(*header);
+    if (const auto* caption = dynamic_cast<const i_ZelDataCaptionItem*>(&object))
+        return ZelDataArgument(*caption);
+    return ZelDataArgument(object);
 }
 
-/// A whole number, as a @p To.
-template <class To>
-class Number : public Argument {
-public:
-    template <class From>
-    explicit Number(From value)
-        : value_(static_cast<To>(value)), fits_(static_cast<From>(value_) == value)
-    {
-    }
-
-    bool isUsable() const { return fits_; }
-    To passed() const { return value_; }
-    auto shown() const { return std::make_tuple(value_); }
-
-private:
-    To value_;
-    bool fits_;
+/// A truth value that messages do not show.
+struct Flag {
+    std::int32_t value;
+    operator bool() const { return value != 0; }
 };
 
-/// Any other value, as a @p To.
-template <class To>
-class Plain : public Argument {
-public:
-    template <class From>
-    explicit Plain(From value) : value_(static_cast<To>(value))
+/// A value.
+template <class Parameter, class Given, class = void>
+struct Passed {
+    explicit Passed(Given argument)
+        : given(argument), value(static_cast<Parameter>(argument)) {}
+    bool isUsable() const
     {
+        if constexpr (sizeof(Parameter) < sizeof(Given) && !std::is_same_v<Parameter, bool>)
+            return static_cast<Given>(value) == given;
+        return true;
     }
-
-    To passed() const { return value_; }
+    Parameter passed() const { return value; }
+    void deliver() const {}
     auto shown() const
     {
-        if constexpr (std::is_constructible_v<ZelDataArgument, To>)
-            return std::make_tuple(value_);
+        if constexpr (std::is_constructible_v<ZelDataArgument, Parameter> && std::is_scalar_v<Given>)
+            return std::make_tuple(value);
         else
             return std::make_tuple();
     }
 
-private:
-    To value_;
+    Given given;
+    Parameter value;
 };
 
-/// A truth value that messages do not show.
-struct Flag : Argument {
-    explicit Flag(std::int32_t given) : value(given != 0) {}
-    bool passed() const { return value; }
+/// A text.
+template <class String>
+struct Passed<String&, Text> {
+    explicit Passed(Text given) : isGiven(given.text != nullptr)
+    {
+        if (isGiven && given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.text);
+        isGiven = isGiven && given.length <= longest;
+        if (isGiven) value.assign(given.text, given.length);
+    }
+    bool isUsable() const { return isGiven; }
+    std::string& passed() { return value; }
+    void deliver() const {}
+    auto shown() const { return std::tie(value); }
 
-    bool value;
+    /// For a longer text, std::string throws std::length_error.
+    static constexpr std::size_t longest = PTRDIFF_MAX / 2;
+
+    bool isGiven;
+    std::string value;
 };
 
-/// Another handle; a message shows only one that the operation reads.
-template <class Type>
-class Other : public Argument {
-public:
-    explicit Other(Type* handle) : handle_(handle) {}
-
-    bool isUsable() const { return handle_ != nullptr; }
-    auto& passed() const { return target(*handle_); }
+/// A text or a list; a message shows it only if the operation reads it.
+template <class Type, class Handle>
+struct Passed<Type&, Handle*, std::enable_if_t<std::is_class_v<Handle>>> {
+    explicit Passed(Handle* argument) : handle(argument) {}
+    bool isUsable() const { return handle != nullptr; }
+    Type& passed() const { return handle->value; }
+    void deliver() const {}
     auto shown() const
     {
         if constexpr (std::is_const_v<Type>)
-            return std::tie(target(*handle_));
+            return std::tie(handle->value);
         else
             return std::make_tuple();
     }
 
-private:
-    Type* handle_;
+    Handle* handle;
 };
 
-/// Where the operation stores a value of the same type.
-template <class Type>
-class Ref : public Argument {
-public:
-    explicit Ref(Type* out) : out_(out) {}
+/// Another object.
+template <>
+struct Passed<i_ZelDataResult&, const Object*> {
+    explicit Passed(const Object* argument) : handle(argument) {}
+    bool isUsable() const { return handle != nullptr; }
+    i_ZelDataResult& passed() const { return *handle->object; }
+    void deliver() const {}
+    auto shown() const { return std::make_tuple(argumentOf(*handle->object)); }
 
-    bool isUsable() const { return out_ != nullptr; }
-    Type& passed() const { return *out_; }
-
-private:
-    Type* out_;
+    const Object* handle;
 };
 
-/// Where a value goes that the operation stores as a @p From.
-template <class From, class To>
-class Out : public Argument {
-public:
-    explicit Out(To* out) : out_(out) {}
+/// Where a number goes.
+template <class Type, class To>
+struct Passed<Type&, To*,
+              std::enable_if_t<std::is_arithmetic_v<To>>> {
+    explicit Passed(To* argument) : out(argument) {}
+    bool isUsable() const { return out != nullptr; }
+    Type& passed() { return value; }
+    void deliver() const { *out = static_cast<To>(value); }
+    auto shown() const { return std::make_tuple(); }
 
-    bool isUsable() const { return out_ != nullptr; }
-    From& passed() { return value_; }
-    void deliver() const { *out_ = static_cast<To>(value_); }
-
-private:
-    To* out_;
-    From value_{};
+    To* out;
+    Type value{};
 };
 
 /// Where the handle of a new object goes.
-template <class Type>
-struct Made {
-    Type** out;
-
-    explicit Made(Type** place) : out(place) {}
-    bool isUsable() const { return isEmptyOutPointer(out); }
-};
-
-template <class Type>
-struct LoadedMade : Argument {
-    Type** out;
-    std::unique_ptr<Type> handle;
-    typename Type::Interface* made;
-
-    auto** passed() { return &made; }
-    void deliver()
+template <>
+struct Passed<Object*&, Place> {
+    explicit Passed(Place argument) : out(argument.out) {}
+    bool isUsable() const
     {
-        handle->object = made;
-        *out = handle.release();
+        void* stored = nullptr;
+        if (out != nullptr) std::memcpy(&stored, out, sizeof stored);
+        return out != nullptr && stored == nullptr;
+    }
+    Object*& passed() { return made; }
+    void deliver() const { std::memcpy(out, &made, sizeof made); }
+    auto shown() const { return std::make_tuple(); }
+
+    void* out;
+    Object* made = nullptr;
+};
+/// @}
+
+/// @name Calls
+/// @{
+
+/// Calls @p operation, which messages call @p name, for the object of @p handle. The order of the
+/// parameters is that of the C functions, so these need not move their arguments.
+template <class... Parameters>
+struct With {
+    template <class Operation, class... Arguments>
+    [[gnu::noinline]] static std::uint32_t call(const Object* handle, Arguments... arguments,
+                                                const char* name, Operation operation)
+    {
+        if (handle == nullptr) return ZelData_InvalidArgument;
+        handle->message.shown = "";
+        const auto perform = [&](auto&&... argument) -> std::uint32_t {
+            if (!(argument.isUsable() && ...))
+                return keep(handle->message, name, ZelData_InvalidArgument);
+            const ZelDataResult_tags code =
+                std::invoke(operation, *handle->object, argument.passed()...);
+            if (failed(code))
+                return std::apply(
+                    [&](const auto&... shown) {
+                        return keep(*handle, name, code, {ZelDataArgument(shown)...});
+                    },
+                    std::tuple_cat(argument.shown()...));
+            (argument.deliver(), ...);
+            return code;
+        };
+        try {
+            return perform(Passed<Parameters, Arguments>(arguments)...);
+        } catch (...) {
+            return keep(handle->message, name, caught());
+        }
+    }
+
+    /// Calls @p operation, which has no object.
+    template <class Operation, class... Arguments>
+    [[gnu::noinline]] static std::uint32_t run(Operation operation, Arguments... arguments)
+    {
+        const auto perform = [&](auto&&... argument) {
+            if (!(argument.isUsable() && ...)) return ZelData_InvalidArgument;
+            const ZelDataResult_tags code = operation(argument.passed()...);
+            if (!failed(code)) (argument.deliver(), ...);
+            return code;
+        };
+        try {
+            return perform(Passed<Parameters, Arguments>(arguments)...);
+        } catch (...) {
+            return caught();
+        }
     }
 };
 
-template <class Type>
-[[gnu::always_inline]] inline LoadedMade<Type> loaded(Made<Type>& made)
+/// Calls an operation of any interface as one of the root of all, so that operations with the same
+/// parameters share their code.
+template <class Handle, class Interface, class... Parameters, class... Arguments>
+std::uint32_t call(const Handle* handle, const char* name,
+                   ZelDataResult_tags (Interface::*operation)(Parameters...),
+                   Arguments... arguments)
 {
-    return {{}, made.out, std::make_unique<Type>(), nullptr};
+    using OfRoot = ZelDataResult_tags (i_ZelDataResult::*)(Parameters...);
+    return With<Parameters...>::template call<OfRoot, Arguments...>(
+        objectOf(handle), arguments..., name, static_cast<OfRoot>(operation));
+}
+template <class Handle, class Interface, class... Parameters, class... Arguments>
+std::uint32_t call(const Handle* handle, const char* name,
+                   ZelDataResult_tags (Interface::*operation)(Parameters...) const,
+                   Arguments... arguments)
+{
+    using OfRoot = ZelDataResult_tags (i_ZelDataResult::*)(Parameters...) const;
+    return With<Parameters...>::template call<OfRoot, Arguments...>(
+        objectOf(handle), arguments..., name, static_cast<OfRoot>(operation));
+}
+template <class Handle, class... Parameters, class... Arguments>
+std::uint32_t call(const Handle* handle, const char* name,
+                   ZelDataResult_tags (*operation)(i_ZelDataResult&, Parameters...),
+                   Arguments... arguments)
+{
+    return With<Parameters...>::template call<decltype(operation), Arguments...>(
+        objectOf(handle), arguments..., name, operation);
+}
+template <class... Parameters, class... Arguments>
+std::uint32_t run(ZelDataResult_tags (*operation)(Parameters...), Arguments... arguments)
+{
+    return With<Parameters...>::run(operation, arguments...);
 }
 
-/// Calls @p operation if all arguments are usable. If it fails, calls @p explain with its code and
-/// what a message shows.
-template <class Operation, class Explain, class... Arguments>
-[[gnu::always_inline]] inline ZelDataResult_tags perform(Operation& operation, Explain& explain,
-                                                         Arguments&... arguments)
+/// As run(), but @p operation returns what goes to the last argument.
+template <class Result, class... Parameters, class... Arguments>
+std::uint32_t store(Result (*operation)(Parameters...), Arguments... arguments)
 {
-    if (!(arguments.isUsable() && ...)) return ZelData_InvalidArgument;
-    const auto call = [&](auto&&... argument) {
-        const ZelDataResult_tags code = operation(argument.passed()...);
-        if (failed(code))
-            std::apply([&](const auto&... shown) { explain(code, shown...); },
-                       std::tuple_cat(argument.shown()...));
-        else
-            (argument.deliver(), ...);
-        return code;
+    const auto stored = [operation](Parameters... parameters, Result& result) {
+        result = operation(parameters...);
+        return ZelData_Ok;
     };
-    return call(loaded(arguments)...);
+    return With<Parameters..., Result&>::run(stored, arguments...);
 }
-
-/// The end of a failed call: keeps a message that names @p operation unless there is one.
-void complete(LastMessage& message, const char* operation, ZelDataResult_tags code)
-{
-    if (message.isEmpty()) message.keep(code, [&] { return ZelDataError(code, operation); });
-}
-
-/// Calls @p body under the guard.
-template <class Body>
-[[gnu::always_inline]] inline std::uint32_t guardedCall(LastMessage& message, const char* operation,
-                                                        Body&& body)
-{
-    message.clear();
-    const ZelDataResult_tags code = guarded(body);
-    if (failed(code)) complete(message, operation, code);
-    return code;
-}
-
-/// Calls @p operation, which has no object.
-template <class Operation, class... Arguments>
-std::uint32_t run(Operation operation, Arguments... arguments)
-{
-    return guarded([&] {
-        const auto explainNothing = [](auto&&...) {};
-        return perform(operation, explainNothing, arguments...);
-    });
-}
-
-/// Keeps the message for a call through @p handle, about which a view knows more than its code says.
-using Explain = void (*)(const Object& handle, const ZelDataCall& call);
 
 template <class Interface>
-void explain(const Object& handle, const ZelDataCall& call)
+std::string reasonOf(i_ZelDataResult& object, const ZelDataCall& call)
 {
-    const auto view = checked(static_cast<Interface&>(*handle.object));
-    handle.message.keep(call.code, [&] { return view.errorOf(call); });
+    return checked(static_cast<Interface&>(object)).reasonOf(call);
 }
 
-/// @name The operation of an interface, as one of the root of all interfaces
-/// Because of it, operations of different interfaces with the same arguments share their code.
+/// Stores a handle of @p made, which an operation made that returned @p code.
+[[gnu::noinline]] ZelDataResult_tags own(ZelDataResult_tags code, i_ZelDataResult* made, Reason reason, Object*& out)
+{
+    if (failed(code)) return code;
+    out = new (std::nothrow) Object{{}, made, reason};
+    if (out != nullptr) return code;
+    delete made;
+    return ZelData_OutOfMemory;
+}
+
+/// @name Operations with other objects, for objects of any type
+/// They share the code of their calls.
 /// @{
 
-template <class Interface, class... Parameters>
-auto ofRoot(ZelDataResult_tags (Interface::*operation)(Parameters...))
+template <auto operation, class Interface, class Other>
+constexpr auto erased(ZelDataResult_tags (Interface::*)(Other&))
 {
-    return static_cast<ZelDataResult_tags (i_ZelDataResult::*)(Parameters...)>(operation);
+    return +[](i_ZelDataResult& object, i_ZelDataResult& other) {
+        return (static_cast<Interface&>(object).*operation)(static_cast<Other&>(other));
+    };
 }
-template <class Interface, class... Parameters>
-auto ofRoot(ZelDataResult_tags (Interface::*operation)(Parameters...) const)
+template <auto operation, class Interface, class Other>
+constexpr auto erased(ZelDataResult_tags (Interface::*)(Other&) const)
 {
-    return static_cast<ZelDataResult_tags (i_ZelDataResult::*)(Parameters...) const>(operation);
+    return +[](i_ZelDataResult& object, i_ZelDataResult& other) {
+        return (static_cast<Interface&>(object).*operation)(static_cast<Other&>(other));
+    };
 }
-template <class... Parameters>
-auto ofRoot(ZelDataResult_tags (*operation)(const i_ZelDataResult&, Parameters...))
+template <auto operation, class Interface, class Made, class... Parameters>
+constexpr auto erased(ZelDataResult_tags (Interface::*)(Made**, Parameters...) const)
 {
-    return operation;
+    return +[](i_ZelDataResult& object, Object*& out, Parameters... parameters) {
+        Made* made = nullptr;
+        const auto code = (static_cast<Interface&>(object).*operation)(&made, parameters...);
+        return own(code, made, reasonOf<Made>, out);
+    };
+}
+template <auto operation, class Made, class... Parameters>
+constexpr auto erased(ZelDataResult_tags (*)(Made**, Parameters...))
+{
+    return +[](Object*& out, Parameters... parameters) {
+        Made* made = nullptr;
+        const auto code = operation(&made, parameters...);
+        return own(code, made, reasonOf<Made>, out);
+    };
+}
+
+template <auto operation, class Handle, class Other>
+std::uint32_t callWith(const Handle* handle, const char* name, const Other* other)
+{
+    return call(handle, name, erased<operation>(operation), static_cast<const Object*>(objectOf(other)));
+}
+template <auto operation, class Handle, class Made, class... Arguments>
+std::uint32_t make(const Handle* handle, const char* name, Made** out, Arguments... arguments)
+{
+    return call(handle, name, erased<operation>(operation), Place{out}, arguments...);
+}
+template <auto operation, class Made, class... Arguments>
+std::uint32_t create(Made** out, Arguments... arguments)
+{
+    return run(erased<operation>(operation), Place{out}, arguments...);
 }
 /// @}
 
-/// Deliberate: not inlined; otherwise, each function would have the whole of it.
-template <class Operation, class... Arguments>
-[[gnu::noinline]] std::uint32_t callObject(const Object* handle, Explain explainCall,
-                                           const char* name, Operation operation,
-                                           Arguments... arguments)
+/// Calls @p body for the text or the list of @p handle.
+template <class Type, class Body>
+std::uint32_t callValue(Type* handle, const char* name, Body body)
 {
     if (handle == nullptr) return ZelData_InvalidArgument;
-    return guardedCall(handle->message, name, [&] {
-        const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
-            return std::invoke(operation, *handle->object, passed...);
-        };
-        const auto explained = [&](ZelDataResult_tags code, const auto&... shown) {
-            explainCall(*handle, {name, code, {ZelDataArgument(shown)...}});
-        };
-        return perform(bound, explained, arguments...);
-    });
+    handle->message.shown = "";
+    ZelDataResult_tags code = ZelData_Ok;
+    try {
+        code = body(handle->value);
+    } catch (...) {
+        code = caught();
+    }
+    return failed(code) ? keep(handle->message, name, code) : code;
 }
 
-/// Calls @p operation, which messages call @p name, for the object of @p handle.
-template <class Type, class Operation, class... Arguments>
-std::uint32_t call(Type* handle, const char* name, Operation operation, Arguments... arguments)
+/// Calls @p read, which stores something of the element at @p index, such as a finding's kind.
+template <class Element, class Out>
+[[gnu::noinline]] std::uint32_t element(const Value<std::vector<Element>>* list, std::uint64_t index, Out* out, const char* name, std::common_type_t<void (*)(const Element&, Out&)> read)
 {
-    return callObject(handle, &explain<typename Type::Interface>, name, ofRoot(operation),
-                      arguments...);
-}
-
-/// Calls @p operation for the text or the list of @p handle.
-template <class Type, class Operation, class... Arguments>
-std::uint32_t callValue(Type* handle, const char* name, Operation operation, Arguments... arguments)
-{
-    if (handle == nullptr) return ZelData_InvalidArgument;
-    return guardedCall(handle->message, name, [&] {
-        const auto bound = [&](auto&&... passed) -> ZelDataResult_tags {
-            return operation(target(*handle), passed...);
-        };
-        const auto explainNothing = [](auto&&...) {};
-        return perform(bound, explainNothing, arguments...);
-    });
-}
-
-/// Stores what @p getter returns for the element of a list at @p index.
-template <class Type, class Getter, class Destination>
-std::uint32_t element(const Type* handle, std::uint64_t index, const char* name, Getter getter,
-                      Destination destination)
-{
-    const auto read = [getter](const auto& list, std::size_t place, auto& value) {
-        using Stored = std::remove_reference_t<decltype(value)>;
-        if (place >= list.size()) return ZelData_InvalidArgument;
-        value = static_cast<Stored>(std::invoke(getter, list[place]));
+    return callValue(list, name, [&](const auto& elements) {
+        if (index >= elements.size() || out == nullptr) return ZelData_InvalidArgument;
+        read(elements[static_cast<std::size_t>(index)], *out);
         return ZelData_Ok;
-    };
-    return callValue(handle, name, read, Number<std::size_t>(index), destination);
+    });
 }
+
+/// Stores how many elements @p list has.
+template <class Element>
+[[gnu::noinline]] std::uint32_t elementCount(const Value<std::vector<Element>>* list, std::uint64_t* out)
+{
+    return callValue(list, "getCount", [out](const auto& elements) {
+        if (out == nullptr) return ZelData_InvalidArgument;
+        *out = elements.size();
+        return ZelData_Ok;
+    });
+}
+/// @}
 
 /// @name Operations that are no function of the library
 /// @{
@@ -393,28 +453,25 @@ template <class Interface>
 constexpr ZelDataResult_tags (Interface::*copyFrom)(const Interface&) = &Interface::copyFrom;
 
 template <class Interface>
-ZelDataResult_tags findProblemsOf(const i_ZelDataResult& object, Findings& findings)
+ZelDataResult_tags findProblemsOf(i_ZelDataResult& object, Findings& findings)
 {
     return findProblems(static_cast<const Interface&>(object), findings);
 }
 
-/// @p function, but it stores what it returns.
-template <class Result, class... Parameters>
-auto stored(Result (*function)(Parameters...))
+ZelDataResult_tags replaceFileWith(i_ZelDataResult& document, const std::string& path,
+                                   std::int32_t& systemError, ZelDataFormatType_tags format)
 {
-    return [function](Parameters... parameters, Result& result) {
-        result = function(parameters...);
-        return ZelData_Ok;
-    };
+    return replaceFile(static_cast<const i_ZelInterchangeDataCore&>(document), path, systemError,
+                       format);
 }
 
-template <class Type>
-std::uint32_t lastError(const Type* handle)
+template <class Handle>
+std::uint32_t lastError(const Handle* handle)
 {
-    return handle == nullptr ? ZelData_InvalidArgument : target(*handle).getLastError();
+    return handle == nullptr ? ZelData_InvalidArgument : objectOf(handle)->object->getLastError();
 }
 
-ZelDataResult_tags storeLastError(const i_ZelDataResult& object, ZelDataResult_tags code)
+ZelDataResult_tags storeLastError(i_ZelDataResult& object, ZelDataResult_tags code)
 {
     object.setLastError(code);
     return ZelData_Ok;
@@ -434,44 +491,6 @@ std::uint64_t indexOf(unsigned long item)
 {
     return item == ZelDataFinding::noItem ? ZELDATA_NO_ITEM : item;
 }
-std::uint64_t itemOf(const ZelDataFinding& finding)
-{
-    return indexOf(finding.item);
-}
-std::uint64_t laterItemOf(const ZelDataFinding& finding)
-{
-    return indexOf(finding.laterItem);
-}
-
-ZelDataResult_tags replaceText(std::string& text, const std::string& replacement)
-{
-    text = replacement;
-    return ZelData_Ok;
-}
-
-ZelDataResult_tags clearTexts(Texts& texts)
-{
-    texts.clear();
-    return ZelData_Ok;
-}
-
-ZelDataResult_tags addText(Texts& texts, const std::string& text)
-{
-    texts.push_back(text);
-    return ZelData_Ok;
-}
-
-template <class List>
-ZelDataResult_tags countOf(const List& list, unsigned long& count)
-{
-    count = static_cast<unsigned long>(list.size());
-    return ZelData_Ok;
-}
-
-const std::string& identical(const std::string& text)
-{
-    return text;
-}
 /// @}
 
 } // namespace
@@ -479,29 +498,17 @@ const std::string& identical(const std::string& text)
 struct zeldata_string : Value<std::string> {};
 struct zeldata_strings : Value<Texts> {};
 struct zeldata_findings : Value<Findings> {};
-struct zeldata_document : ObjectOf<i_ZelInterchangeDataCore> {};
-struct zeldata_header : ObjectOf<i_ZelDataHeader> {};
-struct zeldata_captions : ObjectOf<i_ZelDataCaptions> {};
-struct zeldata_caption_item : ObjectOf<i_ZelDataCaptionItem> {};
-struct zeldata_toc : ObjectOf<i_ZelDataToc> {};
-struct zeldata_toc_item : ObjectOf<i_ZelDataTocItem> {};
-struct zeldata_screen_text : ObjectOf<i_ZelDataScreenText> {};
-struct zeldata_screen_text_item : ObjectOf<i_ZelDataScreenTextItem> {};
-struct zeldata_header_formatter : ObjectOf<i_ZelDataHeaderFormatter> {};
-struct zeldata_caption_formatter : ObjectOf<i_ZelDataCaptionFormatter> {};
-struct zeldata_toc_formatter : ObjectOf<i_ZelDataTocFormatter> {};
-struct zeldata_screen_text_formatter : ObjectOf<i_ZelDataScreenTextFormatter> {};
 
 // zeldata_last_message() takes a handle of any type for its message.
 static_assert(std::is_standard_layout_v<zeldata_string> &&
-              std::is_standard_layout_v<zeldata_header>);
+              std::is_standard_layout_v<Object>);
 
 // Results.
 
 const char* zeldata_last_message(const void* handle)
 {
     if (handle == nullptr) return describe(ZelData_InvalidArgument);
-    return static_cast<const LastMessage*>(handle)->shown();
+    return static_cast<const Message*>(handle)->shown;
 }
 
 const char* zeldata_result_to_string(std::uint32_t code)
@@ -543,7 +550,12 @@ void zeldata_string_destroy(zeldata_string* string)
 
 std::uint32_t zeldata_string_set(zeldata_string* string, const char* text, std::size_t text_length)
 {
-    return callValue(string, "set", replaceText, Text{text, text_length});
+    return callValue(string, "set", [=](std::string& target) {
+        Passed<const std::string&, Text> replacement({text, text_length});
+        if (!replacement.isUsable()) return ZelData_InvalidArgument;
+        target.swap(replacement.value);
+        return ZelData_Ok;
+    });
 }
 
 const char* zeldata_string_get_data(const zeldata_string* string)
@@ -582,36 +594,45 @@ void zeldata_strings_destroy(zeldata_strings* strings)
 
 std::uint32_t zeldata_strings_clear(zeldata_strings* strings)
 {
-    return callValue(strings, "clear", clearTexts);
+    return callValue(strings, "clear", [](Texts& texts) {
+        texts.clear();
+        return ZelData_Ok;
+    });
 }
 
 std::uint32_t zeldata_strings_add(zeldata_strings* strings, const char* text,
                                   std::size_t text_length)
 {
-    return callValue(strings, "add", addText, Text{text, text_length});
+    return callValue(strings, "add", [=](Texts& texts) {
+        const Passed<const std::string&, Text> added({text, text_length});
+        if (!added.isUsable()) return ZelData_InvalidArgument;
+        texts.push_back(added.value);
+        return ZelData_Ok;
+    });
 }
 
 std::uint32_t zeldata_strings_get_count(const zeldata_strings* strings, std::uint64_t* count)
 {
-    return callValue(strings, "getCount", countOf<Texts>, Out<unsigned long, std::uint64_t>(count));
+    return elementCount(strings, count);
 }
 
 std::uint32_t zeldata_strings_get(const zeldata_strings* strings, std::uint64_t index,
                                   zeldata_string* text)
 {
-    return element(strings, index, "get", identical, Other(text));
+    return element(strings, index, text, "get",
+                   [](const std::string& stored, zeldata_string& out) { out.value = stored; });
 }
 
 // Documents.
 
 std::uint32_t zeldata_document_create(zeldata_document** out)
 {
-    return run(createObject<ZelDataCore, i_ZelInterchangeDataCore>, Made(out));
+    return create<&createObject<ZelDataCore, i_ZelInterchangeDataCore>>(out);
 }
 
 void zeldata_document_destroy(zeldata_document* document)
 {
-    delete document;
+    destroy(document);
 }
 
 std::uint32_t zeldata_document_get_last_error(const zeldata_document* document)
@@ -621,14 +642,14 @@ std::uint32_t zeldata_document_get_last_error(const zeldata_document* document)
 
 std::uint32_t zeldata_document_set_last_error(const zeldata_document* document, std::uint32_t code)
 {
-    return call(document, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(document, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_document_write_string(const zeldata_document* document, zeldata_string* out,
                                             std::uint32_t format, std::int32_t flag)
 {
-    return call(document, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Flag(flag));
+    return call(document, "writeString", &i_ZelDataFormatterBase::writeString, out,
+                format, Flag{flag});
 }
 
 std::uint32_t zeldata_document_write_file(const zeldata_document* document, const char* path,
@@ -636,107 +657,93 @@ std::uint32_t zeldata_document_write_file(const zeldata_document* document, cons
                                           std::int32_t flag)
 {
     return call(document, "writeFile", &i_ZelDataFormatterBase::writeFile, Text{path, path_length},
-                Plain<ZelDataFormatType_tags>(format), Flag(flag));
+                format, Flag{flag});
 }
 
 std::uint32_t zeldata_document_get_header(const zeldata_document* document, zeldata_header* target)
 {
-    return call(document, "getDataHeader", &i_ZelInterchangeDataCore::getDataHeader, Other(target));
+    return callWith<&i_ZelInterchangeDataCore::getDataHeader>(document, "getDataHeader", target);
 }
 
 std::uint32_t zeldata_document_set_header(zeldata_document* document, const zeldata_header* source)
 {
-    return call(document, "setDataHeader", &i_ZelInterchangeDataCore::setDataHeader, Other(source));
+    return callWith<&i_ZelInterchangeDataCore::setDataHeader>(document, "setDataHeader", source);
 }
 
 std::uint32_t zeldata_document_get_captions(const zeldata_document* document,
                                             zeldata_captions* target)
 {
-    return call(document, "getDataCaptions", &i_ZelInterchangeDataCore::getDataCaptions,
-                Other(target));
+    return callWith<&i_ZelInterchangeDataCore::getDataCaptions>(document, "getDataCaptions", target);
 }
 
 std::uint32_t zeldata_document_set_captions(zeldata_document* document,
                                             const zeldata_captions* source)
 {
-    return call(document, "setDataCaptions", &i_ZelInterchangeDataCore::setDataCaptions,
-                Other(source));
+    return callWith<&i_ZelInterchangeDataCore::setDataCaptions>(document, "setDataCaptions", source);
 }
 
 std::uint32_t zeldata_document_get_toc(const zeldata_document* document, zeldata_toc* target)
 {
-    return call(document, "getDataToc", &i_ZelInterchangeDataCore::getDataToc, Other(target));
+    return callWith<&i_ZelInterchangeDataCore::getDataToc>(document, "getDataToc", target);
 }
 
 std::uint32_t zeldata_document_set_toc(zeldata_document* document, const zeldata_toc* source)
 {
-    return call(document, "setDataToc", &i_ZelInterchangeDataCore::setDataToc, Other(source));
+    return callWith<&i_ZelInterchangeDataCore::setDataToc>(document, "setDataToc", source);
 }
 
 std::uint32_t zeldata_document_get_screen_text(const zeldata_document* document,
                                                zeldata_screen_text* target)
 {
-    return call(document, "getDataScreenText", &i_ZelInterchangeDataCore::getDataScreenText,
-                Other(target));
+    return callWith<&i_ZelInterchangeDataCore::getDataScreenText>(document, "getDataScreenText", target);
 }
 
 std::uint32_t zeldata_document_set_screen_text(zeldata_document* document,
                                                const zeldata_screen_text* source)
 {
-    return call(document, "setDataScreenText", &i_ZelInterchangeDataCore::setDataScreenText,
-                Other(source));
+    return callWith<&i_ZelInterchangeDataCore::setDataScreenText>(document, "setDataScreenText", source);
 }
 
 std::uint32_t zeldata_document_create_header(const zeldata_document* document, zeldata_header** out)
 {
-    return call(document, "createDataHeader", &i_ZelInterchangeDataCore::createDataHeader,
-                Made(out));
+    return make<&i_ZelInterchangeDataCore::createDataHeader>(document, "createDataHeader", out);
 }
 
 std::uint32_t zeldata_document_create_captions(const zeldata_document* document,
                                                zeldata_captions** out)
 {
-    return call(document, "createDataCaptions", &i_ZelInterchangeDataCore::createDataCaptions,
-                Made(out));
+    return make<&i_ZelInterchangeDataCore::createDataCaptions>(document, "createDataCaptions", out);
 }
 
 std::uint32_t zeldata_document_create_toc(const zeldata_document* document, zeldata_toc** out)
 {
-    return call(document, "createDataToc", &i_ZelInterchangeDataCore::createDataToc, Made(out));
+    return make<&i_ZelInterchangeDataCore::createDataToc>(document, "createDataToc", out);
 }
 
 std::uint32_t zeldata_document_create_screen_text(const zeldata_document* document,
                                                   zeldata_screen_text** out)
 {
-    return call(document, "createDataScreenText", &i_ZelInterchangeDataCore::createDataScreenText,
-                Made(out));
+    return make<&i_ZelInterchangeDataCore::createDataScreenText>(document, "createDataScreenText", out);
 }
 
 std::uint32_t zeldata_document_find_problems(const zeldata_document* document,
                                              zeldata_findings* findings)
 {
     return call(document, "findProblems", findProblemsOf<i_ZelInterchangeDataCore>,
-                Other(findings));
+                findings);
 }
 
 std::uint32_t zeldata_document_replace_file(const zeldata_document* document, const char* path,
                                             std::size_t path_length, std::int32_t* system_error,
                                             std::uint32_t format)
 {
-    if (document == nullptr) return ZelData_InvalidArgument;
-    return guardedCall(document->message, "replaceFile", [&] {
-        Text text{path, path_length};
-        if (!text.isUsable() || system_error == nullptr) return ZelData_InvalidArgument;
-        *system_error = 0;
-        const std::string name = loaded(text).value;
-        const auto type = static_cast<ZelDataFormatType_tags>(format);
-        const auto code = replaceFile(target(*document), name, *system_error, type);
-        if (*system_error != 0)
-            document->message.keep(code, [&] { return zelDataFileError(name, *system_error); });
-        else if (failed(code))
-            document->message.keep(
-                code, [&] { return zelDataPacketError(target(*document), name, type, code); });
-        return code;
+    if (system_error != nullptr) *system_error = 0;
+    const Text given{path, path_length};
+    const std::uint32_t code =
+        call(document, "replaceFile", replaceFileWith, given, system_error, format);
+    if (document == nullptr || system_error == nullptr || *system_error == 0) return code;
+    return keep(objectOf(document)->message, static_cast<ZelDataResult_tags>(code), [&] {
+        return zelDataFileError(Passed<const std::string&, Text>(given).value, *system_error).what();
     });
 }
 
@@ -744,12 +751,12 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
 
 std::uint32_t zeldata_header_create(zeldata_header** out)
 {
-    return run(&ZelDataUtilities::createHeaderData, Made(out));
+    return create<&ZelDataUtilities::createHeaderData>(out);
 }
 
 void zeldata_header_destroy(zeldata_header* header)
 {
-    delete header;
+    destroy(header);
 }
 
 std::uint32_t zeldata_header_get_last_error(const zeldata_header* header)
@@ -759,7 +766,7 @@ std::uint32_t zeldata_header_get_last_error(const zeldata_header* header)
 
 std::uint32_t zeldata_header_set_last_error(const zeldata_header* header, std::uint32_t code)
 {
-    return call(header, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(header, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_header_clear_languages(zeldata_header* header)
@@ -783,59 +790,59 @@ std::uint32_t zeldata_header_set_ordered_language_ids(zeldata_header* header,
                                                       const zeldata_strings* ids)
 {
     return call(header, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs,
-                Other(ids));
+                ids);
 }
 
 std::uint32_t zeldata_header_get_ordered_language_ids(const zeldata_header* header,
                                                       zeldata_strings* ids)
 {
     return call(header, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs,
-                Other(ids));
+                ids);
 }
 
 std::uint32_t zeldata_header_get_language_count(const zeldata_header* header, std::uint64_t* count)
 {
     return call(header, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_header_get_language_display_names(const zeldata_header* header,
                                                         zeldata_strings* names)
 {
     return call(header, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames,
-                Other(names));
+                names);
 }
 
 std::uint32_t zeldata_header_get_language_native_display_names(const zeldata_header* header,
                                                                zeldata_strings* names)
 {
     return call(header, "getLanguageNativeDisplayNames",
-                &i_ZelDataLanguage::getLanguageNativeDisplayNames, Other(names));
+                &i_ZelDataLanguage::getLanguageNativeDisplayNames, names);
 }
 
 std::uint32_t zeldata_header_does_language_exist(const zeldata_header* header, const char* id,
                                                  std::size_t id_length, std::int32_t* exists)
 {
     return call(header, "doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist,
-                Text{id, id_length}, Out<bool, std::int32_t>(exists));
+                Text{id, id_length}, exists);
 }
 
 std::uint32_t zeldata_header_copy_languages_from_header(zeldata_header* header,
                                                         const zeldata_header* source)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(header, "copyFrom", source);
 }
 
 std::uint32_t zeldata_header_copy_languages_from_captions(zeldata_header* header,
                                                           const zeldata_captions* source)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(header, "copyFrom", source);
 }
 
 std::uint32_t zeldata_header_copy_languages_from_toc(zeldata_header* header,
                                                      const zeldata_toc* source)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(header, "copyFrom", source);
 }
 
 std::uint32_t zeldata_header_is_valid(const zeldata_header* header)
@@ -882,88 +889,88 @@ std::uint32_t zeldata_header_set_description(zeldata_header* header, const char*
 
 std::uint32_t zeldata_header_set_keywords(zeldata_header* header, const zeldata_strings* keywords)
 {
-    return call(header, "setKeywords", &i_ZelDataHeader::setKeywords, Other(keywords));
+    return call(header, "setKeywords", &i_ZelDataHeader::setKeywords, keywords);
 }
 
 std::uint32_t zeldata_header_set_ipod_explicit(zeldata_header* header, std::int32_t is_explicit)
 {
     return call(header, "setIPodExplicit", &i_ZelDataHeader::setIPodExplicit,
-                Plain<bool>(is_explicit));
+                is_explicit);
 }
 
 std::uint32_t zeldata_header_set_video_length(zeldata_header* header, std::uint64_t milliseconds)
 {
     return call(header, "setVideoLength", &i_ZelDataHeader::setVideoLength,
-                Number<unsigned long>(milliseconds));
+                milliseconds);
 }
 
 std::uint32_t zeldata_header_set_video_width(zeldata_header* header, std::uint64_t pixels)
 {
     return call(header, "setVideoWidth", &i_ZelDataHeader::setVideoWidth,
-                Number<unsigned long>(pixels));
+                pixels);
 }
 
 std::uint32_t zeldata_header_set_video_height(zeldata_header* header, std::uint64_t pixels)
 {
     return call(header, "setVideoHeight", &i_ZelDataHeader::setVideoHeight,
-                Number<unsigned long>(pixels));
+                pixels);
 }
 
 std::uint32_t zeldata_header_get_app_name(const zeldata_header* header, zeldata_string* name)
 {
-    return call(header, "getAppName", &i_ZelDataHeader::getAppName, Other(name));
+    return call(header, "getAppName", &i_ZelDataHeader::getAppName, name);
 }
 
 std::uint32_t zeldata_header_get_app_version(const zeldata_header* header, zeldata_string* version)
 {
-    return call(header, "getAppVersion", &i_ZelDataHeader::getAppVersion, Other(version));
+    return call(header, "getAppVersion", &i_ZelDataHeader::getAppVersion, version);
 }
 
 std::uint32_t zeldata_header_get_title(const zeldata_header* header, zeldata_string* title)
 {
-    return call(header, "getTitle", &i_ZelDataHeader::getTitle, Other(title));
+    return call(header, "getTitle", &i_ZelDataHeader::getTitle, title);
 }
 
 std::uint32_t zeldata_header_get_creator(const zeldata_header* header, zeldata_string* creator)
 {
-    return call(header, "getCreator", &i_ZelDataHeader::getCreator, Other(creator));
+    return call(header, "getCreator", &i_ZelDataHeader::getCreator, creator);
 }
 
 std::uint32_t zeldata_header_get_description(const zeldata_header* header,
                                              zeldata_string* description)
 {
-    return call(header, "getDescription", &i_ZelDataHeader::getDescription, Other(description));
+    return call(header, "getDescription", &i_ZelDataHeader::getDescription, description);
 }
 
 std::uint32_t zeldata_header_get_keywords(const zeldata_header* header, zeldata_strings* keywords)
 {
-    return call(header, "getKeywords", &i_ZelDataHeader::getKeywords, Other(keywords));
+    return call(header, "getKeywords", &i_ZelDataHeader::getKeywords, keywords);
 }
 
 std::uint32_t zeldata_header_get_ipod_explicit(const zeldata_header* header,
                                                std::int32_t* is_explicit)
 {
     return call(header, "getIPodExplicit", &i_ZelDataHeader::getIPodExplicit,
-                Out<bool, std::int32_t>(is_explicit));
+                is_explicit);
 }
 
 std::uint32_t zeldata_header_get_video_length(const zeldata_header* header,
                                               std::uint64_t* milliseconds)
 {
     return call(header, "getVideoLength", &i_ZelDataHeader::getVideoLength,
-                Out<unsigned long, std::uint64_t>(milliseconds));
+                milliseconds);
 }
 
 std::uint32_t zeldata_header_get_video_width(const zeldata_header* header, std::uint64_t* pixels)
 {
     return call(header, "getVideoWidth", &i_ZelDataHeader::getVideoWidth,
-                Out<unsigned long, std::uint64_t>(pixels));
+                pixels);
 }
 
 std::uint32_t zeldata_header_get_video_height(const zeldata_header* header, std::uint64_t* pixels)
 {
     return call(header, "getVideoHeight", &i_ZelDataHeader::getVideoHeight,
-                Out<unsigned long, std::uint64_t>(pixels));
+                pixels);
 }
 
 std::uint32_t zeldata_header_clear_content_names(zeldata_header* header)
@@ -989,52 +996,52 @@ std::uint32_t zeldata_header_get_content_name_count(const zeldata_header* header
                                                     std::uint64_t* count)
 {
     return call(header, "getContentNameCount", &i_ZelDataHeader::getContentNameCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_header_get_content_names(const zeldata_header* header, zeldata_strings* names)
 {
-    return call(header, "getContentNames", &i_ZelDataHeader::getContentNames, Other(names));
+    return call(header, "getContentNames", &i_ZelDataHeader::getContentNames, names);
 }
 
 std::uint32_t zeldata_header_does_content_name_exist(const zeldata_header* header, const char* name,
                                                      std::size_t name_length, std::int32_t* exists)
 {
     return call(header, "doesContentNameExist", &i_ZelDataHeader::doesContentNameExist,
-                Text{name, name_length}, Out<bool, std::int32_t>(exists));
+                Text{name, name_length}, exists);
 }
 
 std::uint32_t zeldata_header_set_show_search_bar(zeldata_header* header, std::int32_t show)
 {
-    return call(header, "setShowSearchBar", &i_ZelDataHeader::setShowSearchBar, Plain<bool>(show));
+    return call(header, "setShowSearchBar", &i_ZelDataHeader::setShowSearchBar, show);
 }
 
 std::uint32_t zeldata_header_get_show_search_bar(const zeldata_header* header, std::int32_t* show)
 {
     return call(header, "getShowSearchBar", &i_ZelDataHeader::getShowSearchBar,
-                Out<bool, std::int32_t>(show));
+                show);
 }
 
 std::uint32_t zeldata_header_copy_from(zeldata_header* header, const zeldata_header* other)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataHeader>, Other(other));
+    return callWith<copyFrom<i_ZelDataHeader>>(header, "copyFrom", other);
 }
 
 std::uint32_t zeldata_header_find_problems(const zeldata_header* header, zeldata_findings* findings)
 {
-    return call(header, "findProblems", findProblemsOf<i_ZelDataHeader>, Other(findings));
+    return call(header, "findProblems", findProblemsOf<i_ZelDataHeader>, findings);
 }
 
 // Captions.
 
 std::uint32_t zeldata_captions_create(zeldata_captions** out)
 {
-    return run(&ZelDataUtilities::createCaptionData, Made(out));
+    return create<&ZelDataUtilities::createCaptionData>(out);
 }
 
 void zeldata_captions_destroy(zeldata_captions* captions)
 {
-    delete captions;
+    destroy(captions);
 }
 
 std::uint32_t zeldata_captions_get_last_error(const zeldata_captions* captions)
@@ -1044,7 +1051,7 @@ std::uint32_t zeldata_captions_get_last_error(const zeldata_captions* captions)
 
 std::uint32_t zeldata_captions_set_last_error(const zeldata_captions* captions, std::uint32_t code)
 {
-    return call(captions, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(captions, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_captions_clear_languages(zeldata_captions* captions)
@@ -1069,65 +1076,65 @@ std::uint32_t zeldata_captions_set_ordered_language_ids(zeldata_captions* captio
                                                         const zeldata_strings* ids)
 {
     return call(captions, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs,
-                Other(ids));
+                ids);
 }
 
 std::uint32_t zeldata_captions_get_ordered_language_ids(const zeldata_captions* captions,
                                                         zeldata_strings* ids)
 {
     return call(captions, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs,
-                Other(ids));
+                ids);
 }
 
 std::uint32_t zeldata_captions_get_language_count(const zeldata_captions* captions,
                                                   std::uint64_t* count)
 {
     return call(captions, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_captions_get_language_display_names(const zeldata_captions* captions,
                                                           zeldata_strings* names)
 {
     return call(captions, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames,
-                Other(names));
+                names);
 }
 
 std::uint32_t zeldata_captions_get_language_native_display_names(const zeldata_captions* captions,
                                                                  zeldata_strings* names)
 {
     return call(captions, "getLanguageNativeDisplayNames",
-                &i_ZelDataLanguage::getLanguageNativeDisplayNames, Other(names));
+                &i_ZelDataLanguage::getLanguageNativeDisplayNames, names);
 }
 
 std::uint32_t zeldata_captions_does_language_exist(const zeldata_captions* captions, const char* id,
                                                    std::size_t id_length, std::int32_t* exists)
 {
     return call(captions, "doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist,
-                Text{id, id_length}, Out<bool, std::int32_t>(exists));
+                Text{id, id_length}, exists);
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_header(zeldata_captions* captions,
                                                           const zeldata_header* source)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(captions, "copyFrom", source);
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_captions(zeldata_captions* captions,
                                                             const zeldata_captions* source)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(captions, "copyFrom", source);
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_toc(zeldata_captions* captions,
                                                        const zeldata_toc* source)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(captions, "copyFrom", source);
 }
 
 std::uint32_t zeldata_captions_is_valid(const zeldata_captions* captions, std::int32_t strict)
 {
-    return call(captions, "isValid", &i_ZelDataCaptions::isValid, Plain<bool>(strict));
+    return call(captions, "isValid", &i_ZelDataCaptions::isValid, strict);
 }
 
 std::uint32_t zeldata_captions_make_consistent(zeldata_captions* captions)
@@ -1138,13 +1145,13 @@ std::uint32_t zeldata_captions_make_consistent(zeldata_captions* captions)
 std::uint32_t zeldata_captions_set_frame_rate(zeldata_captions* captions, std::uint64_t rate)
 {
     return call(captions, "setFrameRate", &i_ZelDataCaptions::setFrameRate,
-                Number<unsigned long>(rate));
+                rate);
 }
 
 std::uint32_t zeldata_captions_get_frame_rate(const zeldata_captions* captions, std::uint64_t* rate)
 {
     return call(captions, "getFrameRate", &i_ZelDataCaptions::getFrameRate,
-                Out<unsigned long, std::uint64_t>(rate));
+                rate);
 }
 
 std::uint32_t zeldata_captions_set_font_family(zeldata_captions* captions, const char* family,
@@ -1157,60 +1164,60 @@ std::uint32_t zeldata_captions_set_font_family(zeldata_captions* captions, const
 std::uint32_t zeldata_captions_get_font_family(const zeldata_captions* captions,
                                                zeldata_string* family)
 {
-    return call(captions, "getFontFamily", &i_ZelDataCaptions::getFontFamily, Other(family));
+    return call(captions, "getFontFamily", &i_ZelDataCaptions::getFontFamily, family);
 }
 
 std::uint32_t zeldata_captions_set_font_size(zeldata_captions* captions, std::uint64_t size)
 {
     return call(captions, "setFontSize", &i_ZelDataCaptions::setFontSize,
-                Number<unsigned long>(size));
+                size);
 }
 
 std::uint32_t zeldata_captions_get_font_size(const zeldata_captions* captions, std::uint64_t* size)
 {
     return call(captions, "getFontSize", &i_ZelDataCaptions::getFontSize,
-                Out<unsigned long, std::uint64_t>(size));
+                size);
 }
 
 std::uint32_t zeldata_captions_set_foreground_color(zeldata_captions* captions, float red,
                                                     float green, float blue)
 {
     return call(captions, "setForegroundColor", &i_ZelDataCaptions::setForegroundColor,
-                Plain<float>(red), Plain<float>(green), Plain<float>(blue));
+                red, green, blue);
 }
 
 std::uint32_t zeldata_captions_get_foreground_color(const zeldata_captions* captions, float* red,
                                                     float* green, float* blue)
 {
-    return call(captions, "getForegroundColor", &i_ZelDataCaptions::getForegroundColor, Ref(red),
-                Ref(green), Ref(blue));
+    return call(captions, "getForegroundColor", &i_ZelDataCaptions::getForegroundColor, red,
+                green, blue);
 }
 
 std::uint32_t zeldata_captions_set_background_color(zeldata_captions* captions, float red,
                                                     float green, float blue)
 {
     return call(captions, "setBackgroundColor", &i_ZelDataCaptions::setBackgroundColor,
-                Plain<float>(red), Plain<float>(green), Plain<float>(blue));
+                red, green, blue);
 }
 
 std::uint32_t zeldata_captions_get_background_color(const zeldata_captions* captions, float* red,
                                                     float* green, float* blue)
 {
-    return call(captions, "getBackgroundColor", &i_ZelDataCaptions::getBackgroundColor, Ref(red),
-                Ref(green), Ref(blue));
+    return call(captions, "getBackgroundColor", &i_ZelDataCaptions::getBackgroundColor, red,
+                green, blue);
 }
 
 std::uint32_t zeldata_captions_set_background_opacity(zeldata_captions* captions, float opacity)
 {
     return call(captions, "setBackgroundOpacity", &i_ZelDataCaptions::setBackgroundOpacity,
-                Plain<float>(opacity));
+                opacity);
 }
 
 std::uint32_t zeldata_captions_get_background_opacity(const zeldata_captions* captions,
                                                       float* opacity)
 {
     return call(captions, "getBackgroundOpacity", &i_ZelDataCaptions::getBackgroundOpacity,
-                Ref(opacity));
+                opacity);
 }
 
 std::uint32_t zeldata_captions_clear_items(zeldata_captions* captions)
@@ -1221,19 +1228,19 @@ std::uint32_t zeldata_captions_clear_items(zeldata_captions* captions)
 std::uint32_t zeldata_captions_add_item(zeldata_captions* captions,
                                         const zeldata_caption_item* item)
 {
-    return call(captions, "addCaptionItem", &i_ZelDataCaptions::addCaptionItem, Other(item));
+    return callWith<&i_ZelDataCaptions::addCaptionItem>(captions, "addCaptionItem", item);
 }
 
 std::uint32_t zeldata_captions_create_item(const zeldata_captions* captions,
                                            zeldata_caption_item** out)
 {
-    return call(captions, "createCaptionItem", &i_ZelDataCaptions::createCaptionItem, Made(out));
+    return make<&i_ZelDataCaptions::createCaptionItem>(captions, "createCaptionItem", out);
 }
 
 std::uint32_t zeldata_captions_remove_item(zeldata_captions* captions, std::uint64_t index)
 {
     return call(captions, "removeCaptionItemAt", &i_ZelDataCaptions::removeCaptionItemAt,
-                Number<unsigned long>(index));
+                index);
 }
 
 std::uint32_t zeldata_captions_remove_items_for_language(zeldata_captions* captions,
@@ -1249,37 +1256,36 @@ std::uint32_t zeldata_captions_get_item_count(const zeldata_captions* captions,
                                               std::uint64_t* count)
 {
     return call(captions, "getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_captions_get_item(const zeldata_captions* captions,
                                         zeldata_caption_item** out, std::uint64_t index)
 {
-    return call(captions, "getCaptionItemAt", &i_ZelDataCaptions::getCaptionItemAt, Made(out),
-                Number<unsigned long>(index));
+    return make<&i_ZelDataCaptions::getCaptionItemAt>(captions, "getCaptionItemAt", out, index);
 }
 
 std::uint32_t zeldata_captions_copy_from(zeldata_captions* captions, const zeldata_captions* other)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataCaptions>, Other(other));
+    return callWith<copyFrom<i_ZelDataCaptions>>(captions, "copyFrom", other);
 }
 
 std::uint32_t zeldata_captions_find_problems(const zeldata_captions* captions,
                                              zeldata_findings* findings)
 {
-    return call(captions, "findProblems", findProblemsOf<i_ZelDataCaptions>, Other(findings));
+    return call(captions, "findProblems", findProblemsOf<i_ZelDataCaptions>, findings);
 }
 
 // Caption items.
 
 std::uint32_t zeldata_caption_item_create(zeldata_caption_item** out)
 {
-    return run(&ZelDataUtilities::createCaptionItemData, Made(out));
+    return create<&ZelDataUtilities::createCaptionItemData>(out);
 }
 
 void zeldata_caption_item_destroy(zeldata_caption_item* caption_item)
 {
-    delete caption_item;
+    destroy(caption_item);
 }
 
 std::uint32_t zeldata_caption_item_get_last_error(const zeldata_caption_item* caption_item)
@@ -1290,13 +1296,13 @@ std::uint32_t zeldata_caption_item_get_last_error(const zeldata_caption_item* ca
 std::uint32_t zeldata_caption_item_set_last_error(const zeldata_caption_item* caption_item,
                                                   std::uint32_t code)
 {
-    return call(caption_item, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(caption_item, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_caption_item_is_valid(const zeldata_caption_item* caption_item,
                                             std::int32_t strict)
 {
-    return call(caption_item, "isValid", &i_ZelDataCaptionItem::isValid, Plain<bool>(strict));
+    return call(caption_item, "isValid", &i_ZelDataCaptionItem::isValid, strict);
 }
 
 std::uint32_t zeldata_caption_item_clear_text(zeldata_caption_item* caption_item)
@@ -1316,26 +1322,26 @@ std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* c
 std::uint32_t zeldata_caption_item_set_start(zeldata_caption_item* caption_item, std::int64_t start)
 {
     return call(caption_item, "setStart", &i_ZelDataCaptionItem::setStart,
-                Number<long long>(start));
+                start);
 }
 
 std::uint32_t zeldata_caption_item_set_end(zeldata_caption_item* caption_item, std::int64_t end)
 {
-    return call(caption_item, "setEnd", &i_ZelDataCaptionItem::setEnd, Number<long long>(end));
+    return call(caption_item, "setEnd", &i_ZelDataCaptionItem::setEnd, end);
 }
 
 std::uint32_t zeldata_caption_item_set_duration(zeldata_caption_item* caption_item,
                                                 std::int64_t duration)
 {
     return call(caption_item, "setDuration", &i_ZelDataCaptionItem::setDuration,
-                Number<long long>(duration));
+                duration);
 }
 
 std::uint32_t zeldata_caption_item_set_alignment(zeldata_caption_item* caption_item,
                                                  std::uint32_t alignment)
 {
     return call(caption_item, "setAlignment", &i_ZelDataCaptionItem::setAlignment,
-                Plain<ZelAlignment_tags>(alignment));
+                alignment);
 }
 
 std::uint32_t zeldata_caption_item_remove_text_for_language(zeldata_caption_item* caption_item,
@@ -1349,7 +1355,7 @@ std::uint32_t zeldata_caption_item_remove_text_for_language(zeldata_caption_item
 std::uint32_t zeldata_caption_item_get_language_ids(const zeldata_caption_item* caption_item,
                                                     zeldata_strings* ids)
 {
-    return call(caption_item, "getLanguageIDs", &i_ZelDataCaptionItem::getLanguageIDs, Other(ids));
+    return call(caption_item, "getLanguageIDs", &i_ZelDataCaptionItem::getLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_item* caption_item,
@@ -1358,53 +1364,53 @@ std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_i
                                                          std::size_t language_id_length)
 {
     return call(caption_item, "getTextForLanguage", &i_ZelDataCaptionItem::getTextForLanguage,
-                Other(text), Text{language_id, language_id_length});
+                text, Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_get_start(const zeldata_caption_item* caption_item,
                                              std::int64_t* start)
 {
     return call(caption_item, "getStart", &i_ZelDataCaptionItem::getStart,
-                Out<long long, std::int64_t>(start));
+                start);
 }
 
 std::uint32_t zeldata_caption_item_get_end(const zeldata_caption_item* caption_item,
                                            std::int64_t* end)
 {
     return call(caption_item, "getEnd", &i_ZelDataCaptionItem::getEnd,
-                Out<long long, std::int64_t>(end));
+                end);
 }
 
 std::uint32_t zeldata_caption_item_get_duration(const zeldata_caption_item* caption_item,
                                                 std::int64_t* duration)
 {
     return call(caption_item, "getDuration", &i_ZelDataCaptionItem::getDuration,
-                Out<long long, std::int64_t>(duration));
+                duration);
 }
 
 std::uint32_t zeldata_caption_item_get_alignment(const zeldata_caption_item* caption_item,
                                                  std::uint32_t* alignment)
 {
     return call(caption_item, "getAlignment", &i_ZelDataCaptionItem::getAlignment,
-                Out<ZelAlignment_tags, std::uint32_t>(alignment));
+                alignment);
 }
 
 std::uint32_t zeldata_caption_item_copy_from(zeldata_caption_item* caption_item,
                                              const zeldata_caption_item* other)
 {
-    return call(caption_item, "copyFrom", copyFrom<i_ZelDataCaptionItem>, Other(other));
+    return callWith<copyFrom<i_ZelDataCaptionItem>>(caption_item, "copyFrom", other);
 }
 
 // Tables of contents.
 
 std::uint32_t zeldata_toc_create(zeldata_toc** out)
 {
-    return run(&ZelDataUtilities::createTocData, Made(out));
+    return create<&ZelDataUtilities::createTocData>(out);
 }
 
 void zeldata_toc_destroy(zeldata_toc* toc)
 {
-    delete toc;
+    destroy(toc);
 }
 
 std::uint32_t zeldata_toc_get_last_error(const zeldata_toc* toc)
@@ -1414,7 +1420,7 @@ std::uint32_t zeldata_toc_get_last_error(const zeldata_toc* toc)
 
 std::uint32_t zeldata_toc_set_last_error(const zeldata_toc* toc, std::uint32_t code)
 {
-    return call(toc, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(toc, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_toc_clear_languages(zeldata_toc* toc)
@@ -1435,60 +1441,60 @@ std::uint32_t zeldata_toc_remove_language(zeldata_toc* toc, const char* id, std:
 std::uint32_t zeldata_toc_set_ordered_language_ids(zeldata_toc* toc, const zeldata_strings* ids)
 {
     return call(toc, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs,
-                Other(ids));
+                ids);
 }
 
 std::uint32_t zeldata_toc_get_ordered_language_ids(const zeldata_toc* toc, zeldata_strings* ids)
 {
     return call(toc, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs,
-                Other(ids));
+                ids);
 }
 
 std::uint32_t zeldata_toc_get_language_count(const zeldata_toc* toc, std::uint64_t* count)
 {
     return call(toc, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_toc_get_language_display_names(const zeldata_toc* toc, zeldata_strings* names)
 {
     return call(toc, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames,
-                Other(names));
+                names);
 }
 
 std::uint32_t zeldata_toc_get_language_native_display_names(const zeldata_toc* toc,
                                                             zeldata_strings* names)
 {
     return call(toc, "getLanguageNativeDisplayNames",
-                &i_ZelDataLanguage::getLanguageNativeDisplayNames, Other(names));
+                &i_ZelDataLanguage::getLanguageNativeDisplayNames, names);
 }
 
 std::uint32_t zeldata_toc_does_language_exist(const zeldata_toc* toc, const char* id,
                                               std::size_t id_length, std::int32_t* exists)
 {
     return call(toc, "doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist,
-                Text{id, id_length}, Out<bool, std::int32_t>(exists));
+                Text{id, id_length}, exists);
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_header(zeldata_toc* toc, const zeldata_header* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(toc, "copyFrom", source);
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_captions(zeldata_toc* toc,
                                                        const zeldata_captions* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(toc, "copyFrom", source);
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_toc(zeldata_toc* toc, const zeldata_toc* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataLanguage>, Other(source));
+    return callWith<copyFrom<i_ZelDataLanguage>>(toc, "copyFrom", source);
 }
 
 std::uint32_t zeldata_toc_is_valid(const zeldata_toc* toc, std::int32_t deep)
 {
-    return call(toc, "isValid", &i_ZelDataToc::isValid, Plain<bool>(deep));
+    return call(toc, "isValid", &i_ZelDataToc::isValid, deep);
 }
 
 std::uint32_t zeldata_toc_make_consistent(zeldata_toc* toc)
@@ -1498,13 +1504,13 @@ std::uint32_t zeldata_toc_make_consistent(zeldata_toc* toc)
 
 std::uint32_t zeldata_toc_set_frame_rate(zeldata_toc* toc, std::uint64_t rate)
 {
-    return call(toc, "setFrameRate", &i_ZelDataToc::setFrameRate, Number<unsigned long>(rate));
+    return call(toc, "setFrameRate", &i_ZelDataToc::setFrameRate, rate);
 }
 
 std::uint32_t zeldata_toc_get_frame_rate(const zeldata_toc* toc, std::uint64_t* rate)
 {
     return call(toc, "getFrameRate", &i_ZelDataToc::getFrameRate,
-                Out<unsigned long, std::uint64_t>(rate));
+                rate);
 }
 
 std::uint32_t zeldata_toc_set_image_file(zeldata_toc* toc, const char* name,
@@ -1515,7 +1521,7 @@ std::uint32_t zeldata_toc_set_image_file(zeldata_toc* toc, const char* name,
 
 std::uint32_t zeldata_toc_get_image_file(const zeldata_toc* toc, zeldata_string* name)
 {
-    return call(toc, "getImageFile", &i_ZelDataToc::getImageFile, Other(name));
+    return call(toc, "getImageFile", &i_ZelDataToc::getImageFile, name);
 }
 
 std::uint32_t zeldata_toc_clear_items(zeldata_toc* toc)
@@ -1525,18 +1531,18 @@ std::uint32_t zeldata_toc_clear_items(zeldata_toc* toc)
 
 std::uint32_t zeldata_toc_add_item(zeldata_toc* toc, const zeldata_toc_item* item)
 {
-    return call(toc, "addTocItem", &i_ZelDataToc::addTocItem, Other(item));
+    return callWith<&i_ZelDataToc::addTocItem>(toc, "addTocItem", item);
 }
 
 std::uint32_t zeldata_toc_create_item(const zeldata_toc* toc, zeldata_toc_item** out)
 {
-    return call(toc, "createTocItem", &i_ZelDataToc::createTocItem, Made(out));
+    return make<&i_ZelDataToc::createTocItem>(toc, "createTocItem", out);
 }
 
 std::uint32_t zeldata_toc_remove_item(zeldata_toc* toc, std::uint64_t index)
 {
     return call(toc, "removeTocItemAt", &i_ZelDataToc::removeTocItemAt,
-                Number<unsigned long>(index));
+                index);
 }
 
 std::uint32_t zeldata_toc_remove_items_for_language(zeldata_toc* toc, const char* language_id,
@@ -1549,36 +1555,35 @@ std::uint32_t zeldata_toc_remove_items_for_language(zeldata_toc* toc, const char
 std::uint32_t zeldata_toc_get_item_count(const zeldata_toc* toc, std::uint64_t* count)
 {
     return call(toc, "getTocItemCount", &i_ZelDataToc::getTocItemCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_toc_get_item(const zeldata_toc* toc, zeldata_toc_item** out,
                                    std::uint64_t index)
 {
-    return call(toc, "getTocItemAt", &i_ZelDataToc::getTocItemAt, Made(out),
-                Number<unsigned long>(index));
+    return make<&i_ZelDataToc::getTocItemAt>(toc, "getTocItemAt", out, index);
 }
 
 std::uint32_t zeldata_toc_copy_from(zeldata_toc* toc, const zeldata_toc* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataToc>, Other(source));
+    return callWith<copyFrom<i_ZelDataToc>>(toc, "copyFrom", source);
 }
 
 std::uint32_t zeldata_toc_find_problems(const zeldata_toc* toc, zeldata_findings* findings)
 {
-    return call(toc, "findProblems", findProblemsOf<i_ZelDataToc>, Other(findings));
+    return call(toc, "findProblems", findProblemsOf<i_ZelDataToc>, findings);
 }
 
 // Entries of a table of contents.
 
 std::uint32_t zeldata_toc_item_create(zeldata_toc_item** out)
 {
-    return run(&ZelDataUtilities::createTocItemData, Made(out));
+    return create<&ZelDataUtilities::createTocItemData>(out);
 }
 
 void zeldata_toc_item_destroy(zeldata_toc_item* toc_item)
 {
-    delete toc_item;
+    destroy(toc_item);
 }
 
 std::uint32_t zeldata_toc_item_get_last_error(const zeldata_toc_item* toc_item)
@@ -1588,12 +1593,12 @@ std::uint32_t zeldata_toc_item_get_last_error(const zeldata_toc_item* toc_item)
 
 std::uint32_t zeldata_toc_item_set_last_error(const zeldata_toc_item* toc_item, std::uint32_t code)
 {
-    return call(toc_item, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(toc_item, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_toc_item_is_valid(const zeldata_toc_item* toc_item, std::int32_t deep)
 {
-    return call(toc_item, "isValid", &i_ZelDataTocItem::isValid, Plain<bool>(deep));
+    return call(toc_item, "isValid", &i_ZelDataTocItem::isValid, deep);
 }
 
 std::uint32_t zeldata_toc_item_clear_text(zeldata_toc_item* toc_item)
@@ -1612,7 +1617,7 @@ std::uint32_t zeldata_toc_item_set_text_for_language(zeldata_toc_item* toc_item,
 
 std::uint32_t zeldata_toc_item_set_start(zeldata_toc_item* toc_item, std::int64_t start)
 {
-    return call(toc_item, "setStart", &i_ZelDataTocItem::setStart, Number<long long>(start));
+    return call(toc_item, "setStart", &i_ZelDataTocItem::setStart, start);
 }
 
 std::uint32_t zeldata_toc_item_set_image_file(zeldata_toc_item* toc_item, const char* name,
@@ -1624,13 +1629,13 @@ std::uint32_t zeldata_toc_item_set_image_file(zeldata_toc_item* toc_item, const 
 std::uint32_t zeldata_toc_item_set_image_index(zeldata_toc_item* toc_item, std::uint64_t index)
 {
     return call(toc_item, "setImageIndex", &i_ZelDataTocItem::setImageIndex,
-                Number<unsigned long>(index));
+                index);
 }
 
 std::uint32_t zeldata_toc_item_set_image_offset(zeldata_toc_item* toc_item, std::uint64_t offset)
 {
     return call(toc_item, "setImageOffset", &i_ZelDataTocItem::setImageOffset,
-                Number<unsigned long long>(offset));
+                offset);
 }
 
 std::uint32_t zeldata_toc_item_remove_text_for_language(zeldata_toc_item* toc_item,
@@ -1644,58 +1649,58 @@ std::uint32_t zeldata_toc_item_remove_text_for_language(zeldata_toc_item* toc_it
 std::uint32_t zeldata_toc_item_get_language_ids(const zeldata_toc_item* toc_item,
                                                 zeldata_strings* ids)
 {
-    return call(toc_item, "getLanguageIDs", &i_ZelDataTocItem::getLanguageIDs, Other(ids));
+    return call(toc_item, "getLanguageIDs", &i_ZelDataTocItem::getLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_toc_item_get_text_for_language(const zeldata_toc_item* toc_item,
                                                      zeldata_string* text, const char* language_id,
                                                      std::size_t language_id_length)
 {
-    return call(toc_item, "getTextForLanguage", &i_ZelDataTocItem::getTextForLanguage, Other(text),
+    return call(toc_item, "getTextForLanguage", &i_ZelDataTocItem::getTextForLanguage, text,
                 Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_toc_item_get_start(const zeldata_toc_item* toc_item, std::int64_t* start)
 {
     return call(toc_item, "getStart", &i_ZelDataTocItem::getStart,
-                Out<long long, std::int64_t>(start));
+                start);
 }
 
 std::uint32_t zeldata_toc_item_get_image_file(const zeldata_toc_item* toc_item,
                                               zeldata_string* name)
 {
-    return call(toc_item, "getImageFile", &i_ZelDataTocItem::getImageFile, Other(name));
+    return call(toc_item, "getImageFile", &i_ZelDataTocItem::getImageFile, name);
 }
 
 std::uint32_t zeldata_toc_item_get_image_index(const zeldata_toc_item* toc_item,
                                                std::uint64_t* index)
 {
     return call(toc_item, "getImageIndex", &i_ZelDataTocItem::getImageIndex,
-                Out<unsigned long, std::uint64_t>(index));
+                index);
 }
 
 std::uint32_t zeldata_toc_item_get_image_offset(const zeldata_toc_item* toc_item,
                                                 std::uint64_t* offset)
 {
     return call(toc_item, "getImageOffset", &i_ZelDataTocItem::getImageOffset,
-                Out<unsigned long long, std::uint64_t>(offset));
+                offset);
 }
 
 std::uint32_t zeldata_toc_item_copy_from(zeldata_toc_item* toc_item, const zeldata_toc_item* source)
 {
-    return call(toc_item, "copyFrom", copyFrom<i_ZelDataTocItem>, Other(source));
+    return callWith<copyFrom<i_ZelDataTocItem>>(toc_item, "copyFrom", source);
 }
 
 // Screen text.
 
 std::uint32_t zeldata_screen_text_create(zeldata_screen_text** out)
 {
-    return run(&ZelDataUtilities::createScreenTextData, Made(out));
+    return create<&ZelDataUtilities::createScreenTextData>(out);
 }
 
 void zeldata_screen_text_destroy(zeldata_screen_text* screen_text)
 {
-    delete screen_text;
+    destroy(screen_text);
 }
 
 std::uint32_t zeldata_screen_text_get_last_error(const zeldata_screen_text* screen_text)
@@ -1706,13 +1711,13 @@ std::uint32_t zeldata_screen_text_get_last_error(const zeldata_screen_text* scre
 std::uint32_t zeldata_screen_text_set_last_error(const zeldata_screen_text* screen_text,
                                                  std::uint32_t code)
 {
-    return call(screen_text, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(screen_text, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_screen_text_is_valid(const zeldata_screen_text* screen_text,
                                            std::int32_t deep)
 {
-    return call(screen_text, "isValid", &i_ZelDataScreenText::isValid, Plain<bool>(deep));
+    return call(screen_text, "isValid", &i_ZelDataScreenText::isValid, deep);
 }
 
 std::uint32_t zeldata_screen_text_make_consistent(zeldata_screen_text* screen_text)
@@ -1725,14 +1730,14 @@ std::uint32_t zeldata_screen_text_set_frame_rate(zeldata_screen_text* screen_tex
                                                  std::uint64_t rate)
 {
     return call(screen_text, "setFrameRate", &i_ZelDataScreenText::setFrameRate,
-                Number<unsigned long>(rate));
+                rate);
 }
 
 std::uint32_t zeldata_screen_text_get_frame_rate(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* rate)
 {
     return call(screen_text, "getFrameRate", &i_ZelDataScreenText::getFrameRate,
-                Out<unsigned long, std::uint64_t>(rate));
+                rate);
 }
 
 std::uint32_t zeldata_screen_text_clear_items(zeldata_screen_text* screen_text)
@@ -1743,59 +1748,56 @@ std::uint32_t zeldata_screen_text_clear_items(zeldata_screen_text* screen_text)
 std::uint32_t zeldata_screen_text_add_item(zeldata_screen_text* screen_text,
                                            const zeldata_screen_text_item* item)
 {
-    return call(screen_text, "addScreenTextItem", &i_ZelDataScreenText::addScreenTextItem,
-                Other(item));
+    return callWith<&i_ZelDataScreenText::addScreenTextItem>(screen_text, "addScreenTextItem", item);
 }
 
 std::uint32_t zeldata_screen_text_create_item(const zeldata_screen_text* screen_text,
                                               zeldata_screen_text_item** out)
 {
-    return call(screen_text, "createScreenTextItem", &i_ZelDataScreenText::createScreenTextItem,
-                Made(out));
+    return make<&i_ZelDataScreenText::createScreenTextItem>(screen_text, "createScreenTextItem", out);
 }
 
 std::uint32_t zeldata_screen_text_remove_item(zeldata_screen_text* screen_text, std::uint64_t index)
 {
     return call(screen_text, "removeScreenTextItemAt", &i_ZelDataScreenText::removeScreenTextItemAt,
-                Number<unsigned long>(index));
+                index);
 }
 
 std::uint32_t zeldata_screen_text_get_item_count(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* count)
 {
     return call(screen_text, "getScreenTextItemCount", &i_ZelDataScreenText::getScreenTextItemCount,
-                Out<unsigned long, std::uint64_t>(count));
+                count);
 }
 
 std::uint32_t zeldata_screen_text_get_item(const zeldata_screen_text* screen_text,
                                            zeldata_screen_text_item** out, std::uint64_t index)
 {
-    return call(screen_text, "getScreenTextItemAt", &i_ZelDataScreenText::getScreenTextItemAt,
-                Made(out), Number<unsigned long>(index));
+    return make<&i_ZelDataScreenText::getScreenTextItemAt>(screen_text, "getScreenTextItemAt", out, index);
 }
 
 std::uint32_t zeldata_screen_text_copy_from(zeldata_screen_text* screen_text,
                                             const zeldata_screen_text* source)
 {
-    return call(screen_text, "copyFrom", copyFrom<i_ZelDataScreenText>, Other(source));
+    return callWith<copyFrom<i_ZelDataScreenText>>(screen_text, "copyFrom", source);
 }
 
 std::uint32_t zeldata_screen_text_find_problems(const zeldata_screen_text* screen_text,
                                                 zeldata_findings* findings)
 {
-    return call(screen_text, "findProblems", findProblemsOf<i_ZelDataScreenText>, Other(findings));
+    return call(screen_text, "findProblems", findProblemsOf<i_ZelDataScreenText>, findings);
 }
 
 // Screen text items.
 
 std::uint32_t zeldata_screen_text_item_create(zeldata_screen_text_item** out)
 {
-    return run(&ZelDataUtilities::createScreenTextItemData, Made(out));
+    return create<&ZelDataUtilities::createScreenTextItemData>(out);
 }
 
 void zeldata_screen_text_item_destroy(zeldata_screen_text_item* screen_text_item)
 {
-    delete screen_text_item;
+    destroy(screen_text_item);
 }
 
 std::uint32_t
@@ -1808,13 +1810,13 @@ std::uint32_t
 zeldata_screen_text_item_set_last_error(const zeldata_screen_text_item* screen_text_item,
                                         std::uint32_t code)
 {
-    return call(screen_text_item, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(screen_text_item, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_screen_text_item_is_valid(const zeldata_screen_text_item* screen_text_item,
                                                 std::int32_t deep)
 {
-    return call(screen_text_item, "isValid", &i_ZelDataScreenTextItem::isValid, Plain<bool>(deep));
+    return call(screen_text_item, "isValid", &i_ZelDataScreenTextItem::isValid, deep);
 }
 
 std::uint32_t zeldata_screen_text_item_clear_text(zeldata_screen_text_item* screen_text_item)
@@ -1833,21 +1835,21 @@ std::uint32_t zeldata_screen_text_item_set_start(zeldata_screen_text_item* scree
                                                  std::int64_t start)
 {
     return call(screen_text_item, "setStart", &i_ZelDataScreenTextItem::setStart,
-                Number<long long>(start));
+                start);
 }
 
 std::uint32_t zeldata_screen_text_item_set_end(zeldata_screen_text_item* screen_text_item,
                                                std::int64_t end)
 {
     return call(screen_text_item, "setEnd", &i_ZelDataScreenTextItem::setEnd,
-                Number<long long>(end));
+                end);
 }
 
 std::uint32_t zeldata_screen_text_item_set_duration(zeldata_screen_text_item* screen_text_item,
                                                     std::int64_t duration)
 {
     return call(screen_text_item, "setDuration", &i_ZelDataScreenTextItem::setDuration,
-                Number<long long>(duration));
+                duration);
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_file(zeldata_screen_text_item* screen_text_item,
@@ -1861,41 +1863,41 @@ std::uint32_t zeldata_screen_text_item_set_image_index(zeldata_screen_text_item*
                                                        std::uint64_t index)
 {
     return call(screen_text_item, "setImageIndex", &i_ZelDataScreenTextItem::setImageIndex,
-                Number<unsigned long>(index));
+                index);
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_offset(zeldata_screen_text_item* screen_text_item,
                                                         std::uint64_t offset)
 {
     return call(screen_text_item, "setImageOffset", &i_ZelDataScreenTextItem::setImageOffset,
-                Number<unsigned long long>(offset));
+                offset);
 }
 
 std::uint32_t zeldata_screen_text_item_set_group_id(zeldata_screen_text_item* screen_text_item,
                                                     std::uint64_t id)
 {
     return call(screen_text_item, "setGroupId", &i_ZelDataScreenTextItem::setGroupId,
-                Number<unsigned long>(id));
+                id);
 }
 
 std::uint32_t zeldata_screen_text_item_get_text(const zeldata_screen_text_item* screen_text_item,
                                                 zeldata_string* text)
 {
-    return call(screen_text_item, "getText", &i_ZelDataScreenTextItem::getText, Other(text));
+    return call(screen_text_item, "getText", &i_ZelDataScreenTextItem::getText, text);
 }
 
 std::uint32_t zeldata_screen_text_item_get_start(const zeldata_screen_text_item* screen_text_item,
                                                  std::int64_t* start)
 {
     return call(screen_text_item, "getStart", &i_ZelDataScreenTextItem::getStart,
-                Out<long long, std::int64_t>(start));
+                start);
 }
 
 std::uint32_t zeldata_screen_text_item_get_end(const zeldata_screen_text_item* screen_text_item,
                                                std::int64_t* end)
 {
     return call(screen_text_item, "getEnd", &i_ZelDataScreenTextItem::getEnd,
-                Out<long long, std::int64_t>(end));
+                end);
 }
 
 std::uint32_t
@@ -1903,7 +1905,7 @@ zeldata_screen_text_item_get_duration(const zeldata_screen_text_item* screen_tex
                                       std::int64_t* duration)
 {
     return call(screen_text_item, "getDuration", &i_ZelDataScreenTextItem::getDuration,
-                Out<long long, std::int64_t>(duration));
+                duration);
 }
 
 std::uint32_t
@@ -1911,7 +1913,7 @@ zeldata_screen_text_item_get_image_file(const zeldata_screen_text_item* screen_t
                                         zeldata_string* name)
 {
     return call(screen_text_item, "getImageFile", &i_ZelDataScreenTextItem::getImageFile,
-                Other(name));
+                name);
 }
 
 std::uint32_t
@@ -1919,7 +1921,7 @@ zeldata_screen_text_item_get_image_index(const zeldata_screen_text_item* screen_
                                          std::uint64_t* index)
 {
     return call(screen_text_item, "getImageIndex", &i_ZelDataScreenTextItem::getImageIndex,
-                Out<unsigned long, std::uint64_t>(index));
+                index);
 }
 
 std::uint32_t
@@ -1927,7 +1929,7 @@ zeldata_screen_text_item_get_image_offset(const zeldata_screen_text_item* screen
                                           std::uint64_t* offset)
 {
     return call(screen_text_item, "getImageOffset", &i_ZelDataScreenTextItem::getImageOffset,
-                Out<unsigned long long, std::uint64_t>(offset));
+                offset);
 }
 
 std::uint32_t
@@ -1935,26 +1937,25 @@ zeldata_screen_text_item_get_group_id(const zeldata_screen_text_item* screen_tex
                                       std::uint64_t* id)
 {
     return call(screen_text_item, "getGroupId", &i_ZelDataScreenTextItem::getGroupId,
-                Out<unsigned long, std::uint64_t>(id));
+                id);
 }
 
 std::uint32_t zeldata_screen_text_item_copy_from(zeldata_screen_text_item* screen_text_item,
                                                  const zeldata_screen_text_item* source)
 {
-    return call(screen_text_item, "copyFrom", copyFrom<i_ZelDataScreenTextItem>, Other(source));
+    return callWith<copyFrom<i_ZelDataScreenTextItem>>(screen_text_item, "copyFrom", source);
 }
 
 // Header formatters.
 
 std::uint32_t zeldata_header_formatter_create(zeldata_header_formatter** out, std::uint32_t format)
 {
-    return run(&ZelDataUtilities::createHeaderFormatter, Made(out),
-               Plain<ZelDataFormatType_tags>(format));
+    return create<&ZelDataUtilities::createHeaderFormatter>(out, format);
 }
 
 void zeldata_header_formatter_destroy(zeldata_header_formatter* header_formatter)
 {
-    delete header_formatter;
+    destroy(header_formatter);
 }
 
 std::uint32_t
@@ -1967,21 +1968,21 @@ std::uint32_t
 zeldata_header_formatter_set_last_error(const zeldata_header_formatter* header_formatter,
                                         std::uint32_t code)
 {
-    return call(header_formatter, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(header_formatter, "setLastError", storeLastError, code);
 }
 
 std::uint32_t
 zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
                                       zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call(header_formatter, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Flag(flag));
+    return call(header_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
+                format, Flag{flag});
 }
 
 std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* header_formatter,
                                                   const zeldata_header* header)
 {
-    return call(header_formatter, "setHeader", &i_ZelDataHeaderFormatter::setHeader, Other(header));
+    return callWith<&i_ZelDataHeaderFormatter::setHeader>(header_formatter, "setHeader", header);
 }
 
 // Caption formatters.
@@ -1989,13 +1990,12 @@ std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* head
 std::uint32_t zeldata_caption_formatter_create(zeldata_caption_formatter** out,
                                                std::uint32_t format)
 {
-    return run(&ZelDataUtilities::createCaptionFormatter, Made(out),
-               Plain<ZelDataFormatType_tags>(format));
+    return create<&ZelDataUtilities::createCaptionFormatter>(out, format);
 }
 
 void zeldata_caption_formatter_destroy(zeldata_caption_formatter* caption_formatter)
 {
-    delete caption_formatter;
+    destroy(caption_formatter);
 }
 
 std::uint32_t
@@ -2008,35 +2008,33 @@ std::uint32_t
 zeldata_caption_formatter_set_last_error(const zeldata_caption_formatter* caption_formatter,
                                          std::uint32_t code)
 {
-    return call(caption_formatter, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(caption_formatter, "setLastError", storeLastError, code);
 }
 
 std::uint32_t
 zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
                                        zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call(caption_formatter, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Flag(flag));
+    return call(caption_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
+                format, Flag{flag});
 }
 
 std::uint32_t zeldata_caption_formatter_set_captions(zeldata_caption_formatter* caption_formatter,
                                                      const zeldata_captions* captions)
 {
-    return call(caption_formatter, "setCaptions", &i_ZelDataCaptionFormatter::setCaptions,
-                Other(captions));
+    return callWith<&i_ZelDataCaptionFormatter::setCaptions>(caption_formatter, "setCaptions", captions);
 }
 
 // Formatters of tables of contents.
 
 std::uint32_t zeldata_toc_formatter_create(zeldata_toc_formatter** out, std::uint32_t format)
 {
-    return run(&ZelDataUtilities::createTocFormatter, Made(out),
-               Plain<ZelDataFormatType_tags>(format));
+    return create<&ZelDataUtilities::createTocFormatter>(out, format);
 }
 
 void zeldata_toc_formatter_destroy(zeldata_toc_formatter* toc_formatter)
 {
-    delete toc_formatter;
+    destroy(toc_formatter);
 }
 
 std::uint32_t zeldata_toc_formatter_get_last_error(const zeldata_toc_formatter* toc_formatter)
@@ -2047,21 +2045,21 @@ std::uint32_t zeldata_toc_formatter_get_last_error(const zeldata_toc_formatter* 
 std::uint32_t zeldata_toc_formatter_set_last_error(const zeldata_toc_formatter* toc_formatter,
                                                    std::uint32_t code)
 {
-    return call(toc_formatter, "setLastError", storeLastError, Plain<ZelDataResult_tags>(code));
+    return call(toc_formatter, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_toc_formatter_write_string(const zeldata_toc_formatter* toc_formatter,
                                                  zeldata_string* out, std::uint32_t format,
                                                  std::int32_t flag)
 {
-    return call(toc_formatter, "writeString", &i_ZelDataFormatterBase::writeString, Other(out),
-                Plain<ZelDataFormatType_tags>(format), Flag(flag));
+    return call(toc_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
+                format, Flag{flag});
 }
 
 std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
                                             const zeldata_toc* toc)
 {
-    return call(toc_formatter, "setToc", &i_ZelDataTocFormatter::setToc, Other(toc));
+    return callWith<&i_ZelDataTocFormatter::setToc>(toc_formatter, "setToc", toc);
 }
 
 // Screen text formatters.
@@ -2069,13 +2067,12 @@ std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter
 std::uint32_t zeldata_screen_text_formatter_create(zeldata_screen_text_formatter** out,
                                                    std::uint32_t format)
 {
-    return run(&ZelDataUtilities::createScreenTextFormatter, Made(out),
-               Plain<ZelDataFormatType_tags>(format));
+    return create<&ZelDataUtilities::createScreenTextFormatter>(out, format);
 }
 
 void zeldata_screen_text_formatter_destroy(zeldata_screen_text_formatter* screen_text_formatter)
 {
-    delete screen_text_formatter;
+    destroy(screen_text_formatter);
 }
 
 std::uint32_t zeldata_screen_text_formatter_get_last_error(
@@ -2088,7 +2085,7 @@ std::uint32_t zeldata_screen_text_formatter_set_last_error(
     const zeldata_screen_text_formatter* screen_text_formatter, std::uint32_t code)
 {
     return call(screen_text_formatter, "setLastError", storeLastError,
-                Plain<ZelDataResult_tags>(code));
+                code);
 }
 
 std::uint32_t zeldata_screen_text_formatter_write_string(
@@ -2096,15 +2093,14 @@ std::uint32_t zeldata_screen_text_formatter_write_string(
     std::uint32_t format, std::int32_t flag)
 {
     return call(screen_text_formatter, "writeString", &i_ZelDataFormatterBase::writeString,
-                Other(out), Plain<ZelDataFormatType_tags>(format), Flag(flag));
+                out, format, Flag{flag});
 }
 
 std::uint32_t
 zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* screen_text_formatter,
                                               const zeldata_screen_text* screen_text)
 {
-    return call(screen_text_formatter, "setScreenText",
-                &i_ZelDataScreenTextFormatter::setScreenText, Other(screen_text));
+    return callWith<&i_ZelDataScreenTextFormatter::setScreenText>(screen_text_formatter, "setScreenText", screen_text);
 }
 
 // Findings.
@@ -2121,93 +2117,91 @@ void zeldata_findings_destroy(zeldata_findings* findings)
 
 std::uint32_t zeldata_findings_get_count(const zeldata_findings* findings, std::uint64_t* count)
 {
-    return callValue(findings, "getCount", countOf<Findings>,
-                     Out<unsigned long, std::uint64_t>(count));
+    return elementCount(findings, count);
 }
 
 std::uint32_t zeldata_findings_get_kind(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* kind)
 {
-    return element(findings, index, "kind", &ZelDataFinding::kind, Ref(kind));
+    return element(findings, index, kind, "kind", [](const ZelDataFinding& finding, std::uint32_t& out) { out = finding.kind; });
 }
 
 std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std::uint64_t index,
                                            std::uint32_t* subject)
 {
-    return element(findings, index, "subject", &ZelDataFinding::subject, Ref(subject));
+    return element(findings, index, subject, "subject", [](const ZelDataFinding& finding, std::uint32_t& out) { out = finding.subject; });
 }
 
 std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
                                               std::uint64_t* item)
 {
-    return element(findings, index, "item", itemOf, Ref(item));
+    return element(findings, index, item, "item", [](const ZelDataFinding& finding, std::uint64_t& out) { out = indexOf(finding.item); });
 }
 
 std::uint32_t zeldata_findings_get_start(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* start)
 {
-    return element(findings, index, "start", &ZelDataFinding::start, Ref(start));
+    return element(findings, index, start, "start", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.start; });
 }
 
 std::uint32_t zeldata_findings_get_language(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* language)
 {
-    return element(findings, index, "language", &ZelDataFinding::language, Other(language));
+    return element(findings, index, language, "language", [](const ZelDataFinding& finding, zeldata_string& out) { out.value = finding.language; });
 }
 
 std::uint32_t zeldata_findings_get_property(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* property)
 {
-    return element(findings, index, "property", &ZelDataFinding::property, Other(property));
+    return element(findings, index, property, "property", [](const ZelDataFinding& finding, zeldata_string& out) { out.value = finding.property; });
 }
 
 std::uint32_t zeldata_findings_get_component(const zeldata_findings* findings, std::uint64_t index,
                                              float* component)
 {
-    return element(findings, index, "component", &ZelDataFinding::component, Ref(component));
+    return element(findings, index, component, "component", [](const ZelDataFinding& finding, float& out) { out = finding.component; });
 }
 
 std::uint32_t zeldata_findings_get_value(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* value)
 {
-    return element(findings, index, "value", &ZelDataFinding::value, Ref(value));
+    return element(findings, index, value, "value", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.value; });
 }
 
 std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* limit)
 {
-    return element(findings, index, "limit", &ZelDataFinding::limit, Ref(limit));
+    return element(findings, index, limit, "limit", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.limit; });
 }
 
 std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
                                                     std::uint64_t index, std::uint64_t* later_item)
 {
-    return element(findings, index, "laterItem", laterItemOf, Ref(later_item));
+    return element(findings, index, later_item, "laterItem", [](const ZelDataFinding& finding, std::uint64_t& out) { out = indexOf(finding.laterItem); });
 }
 
 std::uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                std::uint64_t index, std::int64_t* later_start)
 {
-    return element(findings, index, "laterStart", &ZelDataFinding::laterStart, Ref(later_start));
+    return element(findings, index, later_start, "laterStart", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.laterStart; });
 }
 
 std::uint32_t zeldata_findings_get_severity(const zeldata_findings* findings, std::uint64_t index,
                                             std::uint32_t* severity)
 {
-    return element(findings, index, "severityOf", &severityOf, Ref(severity));
+    return element(findings, index, severity, "severityOf", [](const ZelDataFinding& finding, std::uint32_t& out) { out = severityOf(finding); });
 }
 
 std::uint32_t zeldata_findings_get_code(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* code)
 {
-    return element(findings, index, "codeOf", &codeOf, Ref(code));
+    return element(findings, index, code, "codeOf", [](const ZelDataFinding& finding, std::uint32_t& out) { out = codeOf(finding); });
 }
 
 std::uint32_t zeldata_findings_describe(const zeldata_findings* findings, std::uint64_t index,
                                         zeldata_string* text)
 {
-    return element(findings, index, "describe",
-                   static_cast<std::string (*)(const ZelDataFinding&)>(&describe), Other(text));
+    return element(findings, index, text, "describe", [](const ZelDataFinding& finding, zeldata_string& out) { out.value = describe(finding); });
 }
 
 const char* zeldata_finding_to_string(std::uint32_t kind)
@@ -2220,13 +2214,13 @@ const char* zeldata_finding_to_string(std::uint32_t kind)
 std::uint32_t zeldata_english_name_for_language(const char* id, std::size_t id_length,
                                                 zeldata_string* name)
 {
-    return run(&ZelDataUtilities::englishNameForLanguage, Text{id, id_length}, Other(name));
+    return run(&ZelDataUtilities::englishNameForLanguage, Text{id, id_length}, name);
 }
 
 std::uint32_t zeldata_native_name_for_language(const char* id, std::size_t id_length,
                                                zeldata_string* name)
 {
-    return run(&ZelDataUtilities::nativeNameForLanguage, Text{id, id_length}, Other(name));
+    return run(&ZelDataUtilities::nativeNameForLanguage, Text{id, id_length}, name);
 }
 
 std::uint32_t zeldata_is_valid_language(const char* id, std::size_t id_length)
@@ -2239,86 +2233,85 @@ std::uint32_t zeldata_is_valid_language(const char* id, std::size_t id_length)
 std::uint32_t zeldata_verify_utf8_format(const char* text, std::size_t text_length,
                                          std::int32_t bmp_only)
 {
-    return run(&ZelDataUtilities::verifyUtf8Format, Text{text, text_length}, Plain<bool>(bmp_only));
+    return run(&ZelDataUtilities::verifyUtf8Format, Text{text, text_length}, bmp_only);
 }
 
 std::uint32_t zeldata_count_lines_in_utf8(const char* text, std::size_t text_length,
                                           std::uint64_t* count)
 {
-    return run(stored(&ZelDataUtilities::countLinesInUTF8), Text{text, text_length},
-               Out<unsigned long, std::uint64_t>(count));
+    return store(&ZelDataUtilities::countLinesInUTF8, Text{text, text_length},
+               count);
 }
 
 std::uint32_t zeldata_strip_unsupported_characters(const char* text, std::size_t text_length,
                                                    zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::stripUnsupportedCharacters), Text{text, text_length},
-               Other(result));
+    return store(&ZelDataUtilities::stripUnsupportedCharacters, Text{text, text_length},
+               result);
 }
 
 std::uint32_t zeldata_html_tags_to_text(const char* text, std::size_t text_length,
                                         zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::htmlTagsToText), Text{text, text_length}, Other(result));
+    return store(&ZelDataUtilities::htmlTagsToText, Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_from_text(const char* text, std::size_t text_length,
                                           zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::htmlTagsFromText), Text{text, text_length}, Other(result));
+    return store(&ZelDataUtilities::htmlTagsFromText, Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_get_vertical_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::getVerticalAlignment), Plain<ZelAlignment_tags>(alignment),
-               Other(result));
+    return store(&ZelDataUtilities::getVerticalAlignment, alignment,
+               result);
 }
 
 std::uint32_t zeldata_get_horizontal_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::getHorizontalAlignment),
-               Plain<ZelAlignment_tags>(alignment), Other(result));
+    return store(&ZelDataUtilities::getHorizontalAlignment,
+               alignment, result);
 }
 
 // Texts of values.
 
 std::uint32_t zeldata_get_value_string_float(float value, zeldata_string* result)
 {
-    return run(stored(static_cast<std::string (*)(float)>(&ZelDataUtilities::getValueString)),
-               Plain<float>(value), Other(result));
+    return store(static_cast<std::string (*)(float)>(&ZelDataUtilities::getValueString),
+               value, result);
 }
 
 std::uint32_t zeldata_get_value_string_uint64(std::uint64_t value, zeldata_string* result)
 {
-    return run(
-        stored(static_cast<std::string (*)(unsigned long long)>(&ZelDataUtilities::getValueString)),
-        Number<unsigned long long>(value), Other(result));
+    return store(static_cast<std::string (*)(unsigned long long)>(&ZelDataUtilities::getValueString),
+        value, result);
 }
 
 std::uint32_t zeldata_get_rate_string(std::uint64_t rate, zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::getRateString), Number<unsigned long>(rate),
-               Other(result));
+    return store(&ZelDataUtilities::getRateString, rate,
+               result);
 }
 
 std::uint32_t zeldata_get_version_string(std::uint64_t version, zeldata_string* result)
 {
-    return run(stored(&ZelDataUtilities::getVersionString), Number<unsigned long>(version),
-               Other(result));
+    return store(&ZelDataUtilities::getVersionString, version,
+               result);
 }
 
 std::uint32_t zeldata_get_date_string(std::int64_t seconds, zeldata_string* date)
 {
-    return run(stored(&dateOf), Number<long>(seconds), Other(date));
+    return store(&dateOf, seconds, date);
 }
 
 std::uint32_t zeldata_get_date_string_now(zeldata_string* date)
 {
-    return run(stored(&dateOfNow), Other(date));
+    return store(&dateOfNow, date);
 }
 
 std::uint32_t zeldata_get_value_string_int64(std::int64_t value, zeldata_string* result)
 {
-    return run(stored(static_cast<std::string (*)(long)>(&getValueString)), Number<long>(value),
-               Other(result));
+    return store(static_cast<std::string (*)(long)>(&getValueString), value,
+               result);
 }
