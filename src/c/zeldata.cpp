@@ -5,6 +5,7 @@
 #include "core/ZelDataCore.h"
 #include "sets/Factory.h"
 #include "util/Guard.h"
+#include "util/TextUtilities.h"
 
 #include <cstring>
 #include <functional>
@@ -160,19 +161,14 @@ struct Passed {
 /// A text.
 template <class String>
 struct Passed<String&, Text> {
-    explicit Passed(Text given) : isGiven(given.text != nullptr)
+    [[gnu::always_inline]] explicit Passed(Text given)
+        : value(textOf(given.text, given.length, isGiven))
     {
-        if (isGiven && given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.text);
-        isGiven = isGiven && given.length <= longest;
-        if (isGiven) value.assign(given.text, given.length);
     }
     bool isUsable() const { return isGiven; }
     std::string& passed() { return value; }
     void deliver() const {}
     auto shown() const { return std::tie(value); }
-
-    /// For a longer text, std::string throws std::length_error.
-    static constexpr std::size_t longest = PTRDIFF_MAX / 2;
 
     bool isGiven;
     std::string value;
@@ -226,14 +222,13 @@ struct Passed<Type&, To*,
 template <>
 struct Passed<Object*&, Place> {
     explicit Passed(Place argument) : out(argument.out) {}
-    bool isUsable() const
+    [[gnu::always_inline]] bool isUsable()
     {
-        void* stored = nullptr;
-        if (out != nullptr) std::memcpy(&stored, out, sizeof stored);
-        return out != nullptr && stored == nullptr;
+        if (out != nullptr) std::memcpy(&made, out, sizeof made);
+        return out != nullptr && made == nullptr;
     }
     Object*& passed() { return made; }
-    void deliver() const { std::memcpy(out, &made, sizeof made); }
+    [[gnu::always_inline]] void deliver() const { std::memcpy(out, &made, sizeof made); }
     auto shown() const { return std::make_tuple(); }
 
     void* out;
@@ -347,11 +342,10 @@ std::string reasonOf(i_ZelDataResult& object, const ZelDataCall& call)
 /// Stores a handle of @p made, which an operation made that returned @p code.
 [[gnu::noinline]] ZelDataResult_tags own(ZelDataResult_tags code, i_ZelDataResult* made, Reason reason, Object*& out)
 {
-    if (failed(code)) return code;
-    out = new (std::nothrow) Object{{}, made, reason};
-    if (out != nullptr) return code;
-    delete made;
-    return ZelData_OutOfMemory;
+    std::unique_ptr<i_ZelDataResult> owner(made);
+    if (!failed(code)) out = new Object{{}, made, reason};
+    static_cast<void>(owner.release());
+    return code;
 }
 
 /// @name Operations with other objects, for objects of any type
