@@ -15,13 +15,15 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-/// What replaceFile() throws if the system reports @p systemError for the file at @p path.
-inline std::system_error zelDataFileError(const std::string& path, int systemError)
+namespace ZelDataMessages {
+
+/// The call for the file at @p path, as messages show it.
+inline std::string replacing(const std::string& path)
 {
-    using namespace ZelDataMessages;
-    return {systemError, std::system_category(),
-            "replaceFile(\"" + onOneLine(path, isUtf8(path)) + "\")"};
+    return "replaceFile(\"" + onOneLine(path, isUtf8(path)) + "\")";
 }
+
+} // namespace ZelDataMessages
 
 /// Writes @p document to the file at @p path, completely or not at all: see the function of this
 /// name that returns a code. If the file cannot be written, throws a `std::system_error` with the
@@ -33,7 +35,9 @@ inline void replaceFile(const i_ZelInterchangeDataCore& document, const std::str
 {
     int systemError = 0;
     const auto code = replaceFile(document, path, systemError, format);
-    if (systemError != 0) throw zelDataFileError(path, systemError);
+    if (systemError != 0)
+        throw std::system_error(systemError, std::system_category(),
+                                ZelDataMessages::replacing(path));
     if (!failed(code)) return;
     const ZelDataCall call{"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}};
     throw zelDataErrorFor(call, [&] { return ZelDataMessages::reasonOfWriting(document, code); });

@@ -12,6 +12,7 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <tuple>
 #include <type_traits>
 #include <vector>
@@ -44,6 +45,8 @@ using Reason = std::string (*)(i_ZelDataResult& object, const ZelDataCall& call)
 /// Deliberate: no std::unique_ptr; with it, the type would not have standard layout for every
 /// compiler, and the message could be elsewhere.
 struct Object {
+    Object(i_ZelDataResult* made, Reason of) noexcept : object(made), reason(of) {}
+
     mutable Message message;
     i_ZelDataResult* object;
     Reason reason;
@@ -343,7 +346,7 @@ std::string reasonOf(i_ZelDataResult& object, const ZelDataCall& call)
 [[gnu::noinline]] ZelDataResult_tags own(ZelDataResult_tags code, i_ZelDataResult* made, Reason reason, Object*& out)
 {
     std::unique_ptr<i_ZelDataResult> owner(made);
-    if (!failed(code)) out = new Object{{}, made, reason};
+    if (!failed(code)) out = new Object(made, reason);
     static_cast<void>(owner.release());
     return code;
 }
@@ -737,7 +740,8 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
         call(document, "replaceFile", replaceFileWith, given, system_error, format);
     if (document == nullptr || system_error == nullptr || *system_error == 0) return code;
     return keep(objectOf(document)->message, static_cast<ZelDataResult_tags>(code), [&] {
-        return zelDataFileError(Passed<const std::string&, Text>(given).value, *system_error).what();
+        return ZelDataMessages::replacing(Passed<const std::string&, Text>(given).value) + ": " +
+               std::system_category().message(*system_error);
     });
 }
 
