@@ -84,7 +84,8 @@ std::uint32_t keep(Message& message, ZelDataResult_tags code,
 [[gnu::noinline]] std::uint32_t keep(Message& message, const char* operation,
                                      ZelDataResult_tags code)
 {
-    return keep(message, code, [&] { return ZelDataError(code, operation).what(); });
+    return keep(message, code,
+                [&] { return ZelDataMessages::messageFor(code, operation, {}, {}); });
 }
 
 /// For a @p code of the object's operation.
@@ -92,9 +93,11 @@ std::uint32_t keep(Message& message, ZelDataResult_tags code,
                                      ZelDataResult_tags code,
                                      std::initializer_list<ZelDataArgument> arguments)
 {
+    using namespace ZelDataMessages;
     const ZelDataCall call{operation, code, arguments};
     return keep(handle.message, code, [&] {
-        return zelDataErrorFor(call, [&] { return handle.reason(*handle.object, call); }).what();
+        return messageFor(code, operation, orNothing([&] { return call.shownArguments(); }),
+                          orNothing([&] { return handle.reason(*handle.object, call); }));
     });
 }
 
@@ -139,8 +142,7 @@ struct Flag {
 /// A value.
 template <class Parameter, class Given, class = void>
 struct Passed {
-    explicit Passed(Given argument)
-        : given(argument), value(static_cast<Parameter>(argument)) {}
+    explicit Passed(Given argument) : given(argument), value(static_cast<Parameter>(argument)) {}
     bool isUsable() const
     {
         if constexpr (sizeof(Parameter) < sizeof(Given) && !std::is_same_v<Parameter, bool>)
@@ -151,7 +153,8 @@ struct Passed {
     void deliver() const {}
     auto shown() const
     {
-        if constexpr (std::is_constructible_v<ZelDataArgument, Parameter> && std::is_scalar_v<Given>)
+        if constexpr (std::is_constructible_v<ZelDataArgument, Parameter> &&
+                      std::is_scalar_v<Given>)
             return std::make_tuple(value);
         else
             return std::make_tuple();
@@ -209,8 +212,7 @@ struct Passed<i_ZelDataResult&, const Object*> {
 
 /// Where a number goes.
 template <class Type, class To>
-struct Passed<Type&, To*,
-              std::enable_if_t<std::is_arithmetic_v<To>>> {
+struct Passed<Type&, To*, std::enable_if_t<std::is_arithmetic_v<To>>> {
     explicit Passed(To* argument) : out(argument) {}
     bool isUsable() const { return out != nullptr; }
     Type& passed() { return value; }
@@ -343,7 +345,8 @@ std::string reasonOf(i_ZelDataResult& object, const ZelDataCall& call)
 }
 
 /// Stores a handle of @p made, which an operation made that returned @p code.
-[[gnu::noinline]] ZelDataResult_tags own(ZelDataResult_tags code, i_ZelDataResult* made, Reason reason, Object*& out)
+[[gnu::noinline]] ZelDataResult_tags own(ZelDataResult_tags code, i_ZelDataResult* made,
+                                         Reason reason, Object*& out)
 {
     std::unique_ptr<i_ZelDataResult> owner(made);
     if (!failed(code)) out = new Object(made, reason);
@@ -391,7 +394,8 @@ constexpr auto erased(ZelDataResult_tags (*)(Made**, Parameters...))
 template <auto operation, class Handle, class Other>
 std::uint32_t callWith(const Handle* handle, const char* name, const Other* other)
 {
-    return call(handle, name, erased<operation>(operation), static_cast<const Object*>(objectOf(other)));
+    return call(handle, name, erased<operation>(operation),
+                static_cast<const Object*>(objectOf(other)));
 }
 template <auto operation, class Handle, class Made, class... Arguments>
 std::uint32_t make(const Handle* handle, const char* name, Made** out, Arguments... arguments)
@@ -422,7 +426,9 @@ std::uint32_t callValue(Type* handle, const char* name, Body body)
 
 /// Calls @p read, which stores something of the element at @p index, such as a finding's kind.
 template <class Element, class Out>
-[[gnu::noinline]] std::uint32_t element(const Value<std::vector<Element>>* list, std::uint64_t index, Out* out, const char* name, std::common_type_t<void (*)(const Element&, Out&)> read)
+[[gnu::noinline]] std::uint32_t element(const Value<std::vector<Element>>* list,
+                                        std::uint64_t index, Out* out, const char* name,
+                                        std::common_type_t<void (*)(const Element&, Out&)> read)
 {
     return callValue(list, name, [&](const auto& elements) {
         if (index >= elements.size() || out == nullptr) return ZelData_InvalidArgument;
@@ -433,7 +439,8 @@ template <class Element, class Out>
 
 /// Stores how many elements @p list has.
 template <class Element>
-[[gnu::noinline]] std::uint32_t elementCount(const Value<std::vector<Element>>* list, std::uint64_t* out)
+[[gnu::noinline]] std::uint32_t elementCount(const Value<std::vector<Element>>* list,
+                                             std::uint64_t* out)
 {
     return callValue(list, "getCount", [out](const auto& elements) {
         if (out == nullptr) return ZelData_InvalidArgument;
@@ -497,8 +504,7 @@ struct zeldata_strings : Value<Texts> {};
 struct zeldata_findings : Value<Findings> {};
 
 // zeldata_last_message() takes a handle of any type for its message.
-static_assert(std::is_standard_layout_v<zeldata_string> &&
-              std::is_standard_layout_v<Object>);
+static_assert(std::is_standard_layout_v<zeldata_string> && std::is_standard_layout_v<Object>);
 
 // Results.
 
@@ -645,8 +651,8 @@ std::uint32_t zeldata_document_set_last_error(const zeldata_document* document, 
 std::uint32_t zeldata_document_write_string(const zeldata_document* document, zeldata_string* out,
                                             std::uint32_t format, std::int32_t flag)
 {
-    return call(document, "writeString", &i_ZelDataFormatterBase::writeString, out,
-                format, Flag{flag});
+    return call(document, "writeString", &i_ZelDataFormatterBase::writeString, out, format,
+                Flag{flag});
 }
 
 std::uint32_t zeldata_document_write_file(const zeldata_document* document, const char* path,
@@ -670,13 +676,15 @@ std::uint32_t zeldata_document_set_header(zeldata_document* document, const zeld
 std::uint32_t zeldata_document_get_captions(const zeldata_document* document,
                                             zeldata_captions* target)
 {
-    return callWith<&i_ZelInterchangeDataCore::getDataCaptions>(document, "getDataCaptions", target);
+    return callWith<&i_ZelInterchangeDataCore::getDataCaptions>(document, "getDataCaptions",
+                                                                target);
 }
 
 std::uint32_t zeldata_document_set_captions(zeldata_document* document,
                                             const zeldata_captions* source)
 {
-    return callWith<&i_ZelInterchangeDataCore::setDataCaptions>(document, "setDataCaptions", source);
+    return callWith<&i_ZelInterchangeDataCore::setDataCaptions>(document, "setDataCaptions",
+                                                                source);
 }
 
 std::uint32_t zeldata_document_get_toc(const zeldata_document* document, zeldata_toc* target)
@@ -692,13 +700,15 @@ std::uint32_t zeldata_document_set_toc(zeldata_document* document, const zeldata
 std::uint32_t zeldata_document_get_screen_text(const zeldata_document* document,
                                                zeldata_screen_text* target)
 {
-    return callWith<&i_ZelInterchangeDataCore::getDataScreenText>(document, "getDataScreenText", target);
+    return callWith<&i_ZelInterchangeDataCore::getDataScreenText>(document, "getDataScreenText",
+                                                                  target);
 }
 
 std::uint32_t zeldata_document_set_screen_text(zeldata_document* document,
                                                const zeldata_screen_text* source)
 {
-    return callWith<&i_ZelInterchangeDataCore::setDataScreenText>(document, "setDataScreenText", source);
+    return callWith<&i_ZelInterchangeDataCore::setDataScreenText>(document, "setDataScreenText",
+                                                                  source);
 }
 
 std::uint32_t zeldata_document_create_header(const zeldata_document* document, zeldata_header** out)
@@ -720,14 +730,14 @@ std::uint32_t zeldata_document_create_toc(const zeldata_document* document, zeld
 std::uint32_t zeldata_document_create_screen_text(const zeldata_document* document,
                                                   zeldata_screen_text** out)
 {
-    return make<&i_ZelInterchangeDataCore::createDataScreenText>(document, "createDataScreenText", out);
+    return make<&i_ZelInterchangeDataCore::createDataScreenText>(document, "createDataScreenText",
+                                                                 out);
 }
 
 std::uint32_t zeldata_document_find_problems(const zeldata_document* document,
                                              zeldata_findings* findings)
 {
-    return call(document, "findProblems", findProblemsOf<i_ZelInterchangeDataCore>,
-                findings);
+    return call(document, "findProblems", findProblemsOf<i_ZelInterchangeDataCore>, findings);
 }
 
 std::uint32_t zeldata_document_replace_file(const zeldata_document* document, const char* path,
@@ -787,21 +797,18 @@ std::uint32_t zeldata_header_remove_language(zeldata_header* header, const char*
 std::uint32_t zeldata_header_set_ordered_language_ids(zeldata_header* header,
                                                       const zeldata_strings* ids)
 {
-    return call(header, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs,
-                ids);
+    return call(header, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_header_get_ordered_language_ids(const zeldata_header* header,
                                                       zeldata_strings* ids)
 {
-    return call(header, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs,
-                ids);
+    return call(header, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_header_get_language_count(const zeldata_header* header, std::uint64_t* count)
 {
-    return call(header, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount,
-                count);
+    return call(header, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount, count);
 }
 
 std::uint32_t zeldata_header_get_language_display_names(const zeldata_header* header,
@@ -892,26 +899,22 @@ std::uint32_t zeldata_header_set_keywords(zeldata_header* header, const zeldata_
 
 std::uint32_t zeldata_header_set_ipod_explicit(zeldata_header* header, std::int32_t is_explicit)
 {
-    return call(header, "setIPodExplicit", &i_ZelDataHeader::setIPodExplicit,
-                is_explicit);
+    return call(header, "setIPodExplicit", &i_ZelDataHeader::setIPodExplicit, is_explicit);
 }
 
 std::uint32_t zeldata_header_set_video_length(zeldata_header* header, std::uint64_t milliseconds)
 {
-    return call(header, "setVideoLength", &i_ZelDataHeader::setVideoLength,
-                milliseconds);
+    return call(header, "setVideoLength", &i_ZelDataHeader::setVideoLength, milliseconds);
 }
 
 std::uint32_t zeldata_header_set_video_width(zeldata_header* header, std::uint64_t pixels)
 {
-    return call(header, "setVideoWidth", &i_ZelDataHeader::setVideoWidth,
-                pixels);
+    return call(header, "setVideoWidth", &i_ZelDataHeader::setVideoWidth, pixels);
 }
 
 std::uint32_t zeldata_header_set_video_height(zeldata_header* header, std::uint64_t pixels)
 {
-    return call(header, "setVideoHeight", &i_ZelDataHeader::setVideoHeight,
-                pixels);
+    return call(header, "setVideoHeight", &i_ZelDataHeader::setVideoHeight, pixels);
 }
 
 std::uint32_t zeldata_header_get_app_name(const zeldata_header* header, zeldata_string* name)
@@ -948,27 +951,23 @@ std::uint32_t zeldata_header_get_keywords(const zeldata_header* header, zeldata_
 std::uint32_t zeldata_header_get_ipod_explicit(const zeldata_header* header,
                                                std::int32_t* is_explicit)
 {
-    return call(header, "getIPodExplicit", &i_ZelDataHeader::getIPodExplicit,
-                is_explicit);
+    return call(header, "getIPodExplicit", &i_ZelDataHeader::getIPodExplicit, is_explicit);
 }
 
 std::uint32_t zeldata_header_get_video_length(const zeldata_header* header,
                                               std::uint64_t* milliseconds)
 {
-    return call(header, "getVideoLength", &i_ZelDataHeader::getVideoLength,
-                milliseconds);
+    return call(header, "getVideoLength", &i_ZelDataHeader::getVideoLength, milliseconds);
 }
 
 std::uint32_t zeldata_header_get_video_width(const zeldata_header* header, std::uint64_t* pixels)
 {
-    return call(header, "getVideoWidth", &i_ZelDataHeader::getVideoWidth,
-                pixels);
+    return call(header, "getVideoWidth", &i_ZelDataHeader::getVideoWidth, pixels);
 }
 
 std::uint32_t zeldata_header_get_video_height(const zeldata_header* header, std::uint64_t* pixels)
 {
-    return call(header, "getVideoHeight", &i_ZelDataHeader::getVideoHeight,
-                pixels);
+    return call(header, "getVideoHeight", &i_ZelDataHeader::getVideoHeight, pixels);
 }
 
 std::uint32_t zeldata_header_clear_content_names(zeldata_header* header)
@@ -993,8 +992,7 @@ std::uint32_t zeldata_header_remove_content_name(zeldata_header* header, const c
 std::uint32_t zeldata_header_get_content_name_count(const zeldata_header* header,
                                                     std::uint64_t* count)
 {
-    return call(header, "getContentNameCount", &i_ZelDataHeader::getContentNameCount,
-                count);
+    return call(header, "getContentNameCount", &i_ZelDataHeader::getContentNameCount, count);
 }
 
 std::uint32_t zeldata_header_get_content_names(const zeldata_header* header, zeldata_strings* names)
@@ -1016,8 +1014,7 @@ std::uint32_t zeldata_header_set_show_search_bar(zeldata_header* header, std::in
 
 std::uint32_t zeldata_header_get_show_search_bar(const zeldata_header* header, std::int32_t* show)
 {
-    return call(header, "getShowSearchBar", &i_ZelDataHeader::getShowSearchBar,
-                show);
+    return call(header, "getShowSearchBar", &i_ZelDataHeader::getShowSearchBar, show);
 }
 
 std::uint32_t zeldata_header_copy_from(zeldata_header* header, const zeldata_header* other)
@@ -1073,22 +1070,19 @@ std::uint32_t zeldata_captions_remove_language(zeldata_captions* captions, const
 std::uint32_t zeldata_captions_set_ordered_language_ids(zeldata_captions* captions,
                                                         const zeldata_strings* ids)
 {
-    return call(captions, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs,
-                ids);
+    return call(captions, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_captions_get_ordered_language_ids(const zeldata_captions* captions,
                                                         zeldata_strings* ids)
 {
-    return call(captions, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs,
-                ids);
+    return call(captions, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_captions_get_language_count(const zeldata_captions* captions,
                                                   std::uint64_t* count)
 {
-    return call(captions, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount,
-                count);
+    return call(captions, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount, count);
 }
 
 std::uint32_t zeldata_captions_get_language_display_names(const zeldata_captions* captions,
@@ -1142,14 +1136,12 @@ std::uint32_t zeldata_captions_make_consistent(zeldata_captions* captions)
 
 std::uint32_t zeldata_captions_set_frame_rate(zeldata_captions* captions, std::uint64_t rate)
 {
-    return call(captions, "setFrameRate", &i_ZelDataCaptions::setFrameRate,
-                rate);
+    return call(captions, "setFrameRate", &i_ZelDataCaptions::setFrameRate, rate);
 }
 
 std::uint32_t zeldata_captions_get_frame_rate(const zeldata_captions* captions, std::uint64_t* rate)
 {
-    return call(captions, "getFrameRate", &i_ZelDataCaptions::getFrameRate,
-                rate);
+    return call(captions, "getFrameRate", &i_ZelDataCaptions::getFrameRate, rate);
 }
 
 std::uint32_t zeldata_captions_set_font_family(zeldata_captions* captions, const char* family,
@@ -1167,42 +1159,40 @@ std::uint32_t zeldata_captions_get_font_family(const zeldata_captions* captions,
 
 std::uint32_t zeldata_captions_set_font_size(zeldata_captions* captions, std::uint64_t size)
 {
-    return call(captions, "setFontSize", &i_ZelDataCaptions::setFontSize,
-                size);
+    return call(captions, "setFontSize", &i_ZelDataCaptions::setFontSize, size);
 }
 
 std::uint32_t zeldata_captions_get_font_size(const zeldata_captions* captions, std::uint64_t* size)
 {
-    return call(captions, "getFontSize", &i_ZelDataCaptions::getFontSize,
-                size);
+    return call(captions, "getFontSize", &i_ZelDataCaptions::getFontSize, size);
 }
 
 std::uint32_t zeldata_captions_set_foreground_color(zeldata_captions* captions, float red,
                                                     float green, float blue)
 {
-    return call(captions, "setForegroundColor", &i_ZelDataCaptions::setForegroundColor,
-                red, green, blue);
+    return call(captions, "setForegroundColor", &i_ZelDataCaptions::setForegroundColor, red, green,
+                blue);
 }
 
 std::uint32_t zeldata_captions_get_foreground_color(const zeldata_captions* captions, float* red,
                                                     float* green, float* blue)
 {
-    return call(captions, "getForegroundColor", &i_ZelDataCaptions::getForegroundColor, red,
-                green, blue);
+    return call(captions, "getForegroundColor", &i_ZelDataCaptions::getForegroundColor, red, green,
+                blue);
 }
 
 std::uint32_t zeldata_captions_set_background_color(zeldata_captions* captions, float red,
                                                     float green, float blue)
 {
-    return call(captions, "setBackgroundColor", &i_ZelDataCaptions::setBackgroundColor,
-                red, green, blue);
+    return call(captions, "setBackgroundColor", &i_ZelDataCaptions::setBackgroundColor, red, green,
+                blue);
 }
 
 std::uint32_t zeldata_captions_get_background_color(const zeldata_captions* captions, float* red,
                                                     float* green, float* blue)
 {
-    return call(captions, "getBackgroundColor", &i_ZelDataCaptions::getBackgroundColor, red,
-                green, blue);
+    return call(captions, "getBackgroundColor", &i_ZelDataCaptions::getBackgroundColor, red, green,
+                blue);
 }
 
 std::uint32_t zeldata_captions_set_background_opacity(zeldata_captions* captions, float opacity)
@@ -1237,8 +1227,7 @@ std::uint32_t zeldata_captions_create_item(const zeldata_captions* captions,
 
 std::uint32_t zeldata_captions_remove_item(zeldata_captions* captions, std::uint64_t index)
 {
-    return call(captions, "removeCaptionItemAt", &i_ZelDataCaptions::removeCaptionItemAt,
-                index);
+    return call(captions, "removeCaptionItemAt", &i_ZelDataCaptions::removeCaptionItemAt, index);
 }
 
 std::uint32_t zeldata_captions_remove_items_for_language(zeldata_captions* captions,
@@ -1253,8 +1242,7 @@ std::uint32_t zeldata_captions_remove_items_for_language(zeldata_captions* capti
 std::uint32_t zeldata_captions_get_item_count(const zeldata_captions* captions,
                                               std::uint64_t* count)
 {
-    return call(captions, "getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount,
-                count);
+    return call(captions, "getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount, count);
 }
 
 std::uint32_t zeldata_captions_get_item(const zeldata_captions* captions,
@@ -1319,8 +1307,7 @@ std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* c
 
 std::uint32_t zeldata_caption_item_set_start(zeldata_caption_item* caption_item, std::int64_t start)
 {
-    return call(caption_item, "setStart", &i_ZelDataCaptionItem::setStart,
-                start);
+    return call(caption_item, "setStart", &i_ZelDataCaptionItem::setStart, start);
 }
 
 std::uint32_t zeldata_caption_item_set_end(zeldata_caption_item* caption_item, std::int64_t end)
@@ -1331,15 +1318,13 @@ std::uint32_t zeldata_caption_item_set_end(zeldata_caption_item* caption_item, s
 std::uint32_t zeldata_caption_item_set_duration(zeldata_caption_item* caption_item,
                                                 std::int64_t duration)
 {
-    return call(caption_item, "setDuration", &i_ZelDataCaptionItem::setDuration,
-                duration);
+    return call(caption_item, "setDuration", &i_ZelDataCaptionItem::setDuration, duration);
 }
 
 std::uint32_t zeldata_caption_item_set_alignment(zeldata_caption_item* caption_item,
                                                  std::uint32_t alignment)
 {
-    return call(caption_item, "setAlignment", &i_ZelDataCaptionItem::setAlignment,
-                alignment);
+    return call(caption_item, "setAlignment", &i_ZelDataCaptionItem::setAlignment, alignment);
 }
 
 std::uint32_t zeldata_caption_item_remove_text_for_language(zeldata_caption_item* caption_item,
@@ -1361,36 +1346,32 @@ std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_i
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call(caption_item, "getTextForLanguage", &i_ZelDataCaptionItem::getTextForLanguage,
-                text, Text{language_id, language_id_length});
+    return call(caption_item, "getTextForLanguage", &i_ZelDataCaptionItem::getTextForLanguage, text,
+                Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_get_start(const zeldata_caption_item* caption_item,
                                              std::int64_t* start)
 {
-    return call(caption_item, "getStart", &i_ZelDataCaptionItem::getStart,
-                start);
+    return call(caption_item, "getStart", &i_ZelDataCaptionItem::getStart, start);
 }
 
 std::uint32_t zeldata_caption_item_get_end(const zeldata_caption_item* caption_item,
                                            std::int64_t* end)
 {
-    return call(caption_item, "getEnd", &i_ZelDataCaptionItem::getEnd,
-                end);
+    return call(caption_item, "getEnd", &i_ZelDataCaptionItem::getEnd, end);
 }
 
 std::uint32_t zeldata_caption_item_get_duration(const zeldata_caption_item* caption_item,
                                                 std::int64_t* duration)
 {
-    return call(caption_item, "getDuration", &i_ZelDataCaptionItem::getDuration,
-                duration);
+    return call(caption_item, "getDuration", &i_ZelDataCaptionItem::getDuration, duration);
 }
 
 std::uint32_t zeldata_caption_item_get_alignment(const zeldata_caption_item* caption_item,
                                                  std::uint32_t* alignment)
 {
-    return call(caption_item, "getAlignment", &i_ZelDataCaptionItem::getAlignment,
-                alignment);
+    return call(caption_item, "getAlignment", &i_ZelDataCaptionItem::getAlignment, alignment);
 }
 
 std::uint32_t zeldata_caption_item_copy_from(zeldata_caption_item* caption_item,
@@ -1438,26 +1419,22 @@ std::uint32_t zeldata_toc_remove_language(zeldata_toc* toc, const char* id, std:
 
 std::uint32_t zeldata_toc_set_ordered_language_ids(zeldata_toc* toc, const zeldata_strings* ids)
 {
-    return call(toc, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs,
-                ids);
+    return call(toc, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_toc_get_ordered_language_ids(const zeldata_toc* toc, zeldata_strings* ids)
 {
-    return call(toc, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs,
-                ids);
+    return call(toc, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, ids);
 }
 
 std::uint32_t zeldata_toc_get_language_count(const zeldata_toc* toc, std::uint64_t* count)
 {
-    return call(toc, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount,
-                count);
+    return call(toc, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount, count);
 }
 
 std::uint32_t zeldata_toc_get_language_display_names(const zeldata_toc* toc, zeldata_strings* names)
 {
-    return call(toc, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames,
-                names);
+    return call(toc, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames, names);
 }
 
 std::uint32_t zeldata_toc_get_language_native_display_names(const zeldata_toc* toc,
@@ -1507,8 +1484,7 @@ std::uint32_t zeldata_toc_set_frame_rate(zeldata_toc* toc, std::uint64_t rate)
 
 std::uint32_t zeldata_toc_get_frame_rate(const zeldata_toc* toc, std::uint64_t* rate)
 {
-    return call(toc, "getFrameRate", &i_ZelDataToc::getFrameRate,
-                rate);
+    return call(toc, "getFrameRate", &i_ZelDataToc::getFrameRate, rate);
 }
 
 std::uint32_t zeldata_toc_set_image_file(zeldata_toc* toc, const char* name,
@@ -1539,8 +1515,7 @@ std::uint32_t zeldata_toc_create_item(const zeldata_toc* toc, zeldata_toc_item**
 
 std::uint32_t zeldata_toc_remove_item(zeldata_toc* toc, std::uint64_t index)
 {
-    return call(toc, "removeTocItemAt", &i_ZelDataToc::removeTocItemAt,
-                index);
+    return call(toc, "removeTocItemAt", &i_ZelDataToc::removeTocItemAt, index);
 }
 
 std::uint32_t zeldata_toc_remove_items_for_language(zeldata_toc* toc, const char* language_id,
@@ -1552,8 +1527,7 @@ std::uint32_t zeldata_toc_remove_items_for_language(zeldata_toc* toc, const char
 
 std::uint32_t zeldata_toc_get_item_count(const zeldata_toc* toc, std::uint64_t* count)
 {
-    return call(toc, "getTocItemCount", &i_ZelDataToc::getTocItemCount,
-                count);
+    return call(toc, "getTocItemCount", &i_ZelDataToc::getTocItemCount, count);
 }
 
 std::uint32_t zeldata_toc_get_item(const zeldata_toc* toc, zeldata_toc_item** out,
@@ -1626,14 +1600,12 @@ std::uint32_t zeldata_toc_item_set_image_file(zeldata_toc_item* toc_item, const 
 
 std::uint32_t zeldata_toc_item_set_image_index(zeldata_toc_item* toc_item, std::uint64_t index)
 {
-    return call(toc_item, "setImageIndex", &i_ZelDataTocItem::setImageIndex,
-                index);
+    return call(toc_item, "setImageIndex", &i_ZelDataTocItem::setImageIndex, index);
 }
 
 std::uint32_t zeldata_toc_item_set_image_offset(zeldata_toc_item* toc_item, std::uint64_t offset)
 {
-    return call(toc_item, "setImageOffset", &i_ZelDataTocItem::setImageOffset,
-                offset);
+    return call(toc_item, "setImageOffset", &i_ZelDataTocItem::setImageOffset, offset);
 }
 
 std::uint32_t zeldata_toc_item_remove_text_for_language(zeldata_toc_item* toc_item,
@@ -1660,8 +1632,7 @@ std::uint32_t zeldata_toc_item_get_text_for_language(const zeldata_toc_item* toc
 
 std::uint32_t zeldata_toc_item_get_start(const zeldata_toc_item* toc_item, std::int64_t* start)
 {
-    return call(toc_item, "getStart", &i_ZelDataTocItem::getStart,
-                start);
+    return call(toc_item, "getStart", &i_ZelDataTocItem::getStart, start);
 }
 
 std::uint32_t zeldata_toc_item_get_image_file(const zeldata_toc_item* toc_item,
@@ -1673,15 +1644,13 @@ std::uint32_t zeldata_toc_item_get_image_file(const zeldata_toc_item* toc_item,
 std::uint32_t zeldata_toc_item_get_image_index(const zeldata_toc_item* toc_item,
                                                std::uint64_t* index)
 {
-    return call(toc_item, "getImageIndex", &i_ZelDataTocItem::getImageIndex,
-                index);
+    return call(toc_item, "getImageIndex", &i_ZelDataTocItem::getImageIndex, index);
 }
 
 std::uint32_t zeldata_toc_item_get_image_offset(const zeldata_toc_item* toc_item,
                                                 std::uint64_t* offset)
 {
-    return call(toc_item, "getImageOffset", &i_ZelDataTocItem::getImageOffset,
-                offset);
+    return call(toc_item, "getImageOffset", &i_ZelDataTocItem::getImageOffset, offset);
 }
 
 std::uint32_t zeldata_toc_item_copy_from(zeldata_toc_item* toc_item, const zeldata_toc_item* source)
@@ -1727,15 +1696,13 @@ std::uint32_t zeldata_screen_text_make_consistent(zeldata_screen_text* screen_te
 std::uint32_t zeldata_screen_text_set_frame_rate(zeldata_screen_text* screen_text,
                                                  std::uint64_t rate)
 {
-    return call(screen_text, "setFrameRate", &i_ZelDataScreenText::setFrameRate,
-                rate);
+    return call(screen_text, "setFrameRate", &i_ZelDataScreenText::setFrameRate, rate);
 }
 
 std::uint32_t zeldata_screen_text_get_frame_rate(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* rate)
 {
-    return call(screen_text, "getFrameRate", &i_ZelDataScreenText::getFrameRate,
-                rate);
+    return call(screen_text, "getFrameRate", &i_ZelDataScreenText::getFrameRate, rate);
 }
 
 std::uint32_t zeldata_screen_text_clear_items(zeldata_screen_text* screen_text)
@@ -1746,13 +1713,15 @@ std::uint32_t zeldata_screen_text_clear_items(zeldata_screen_text* screen_text)
 std::uint32_t zeldata_screen_text_add_item(zeldata_screen_text* screen_text,
                                            const zeldata_screen_text_item* item)
 {
-    return callWith<&i_ZelDataScreenText::addScreenTextItem>(screen_text, "addScreenTextItem", item);
+    return callWith<&i_ZelDataScreenText::addScreenTextItem>(screen_text, "addScreenTextItem",
+                                                             item);
 }
 
 std::uint32_t zeldata_screen_text_create_item(const zeldata_screen_text* screen_text,
                                               zeldata_screen_text_item** out)
 {
-    return make<&i_ZelDataScreenText::createScreenTextItem>(screen_text, "createScreenTextItem", out);
+    return make<&i_ZelDataScreenText::createScreenTextItem>(screen_text, "createScreenTextItem",
+                                                            out);
 }
 
 std::uint32_t zeldata_screen_text_remove_item(zeldata_screen_text* screen_text, std::uint64_t index)
@@ -1771,7 +1740,8 @@ std::uint32_t zeldata_screen_text_get_item_count(const zeldata_screen_text* scre
 std::uint32_t zeldata_screen_text_get_item(const zeldata_screen_text* screen_text,
                                            zeldata_screen_text_item** out, std::uint64_t index)
 {
-    return make<&i_ZelDataScreenText::getScreenTextItemAt>(screen_text, "getScreenTextItemAt", out, index);
+    return make<&i_ZelDataScreenText::getScreenTextItemAt>(screen_text, "getScreenTextItemAt", out,
+                                                           index);
 }
 
 std::uint32_t zeldata_screen_text_copy_from(zeldata_screen_text* screen_text,
@@ -1832,22 +1802,19 @@ std::uint32_t zeldata_screen_text_item_set_text(zeldata_screen_text_item* screen
 std::uint32_t zeldata_screen_text_item_set_start(zeldata_screen_text_item* screen_text_item,
                                                  std::int64_t start)
 {
-    return call(screen_text_item, "setStart", &i_ZelDataScreenTextItem::setStart,
-                start);
+    return call(screen_text_item, "setStart", &i_ZelDataScreenTextItem::setStart, start);
 }
 
 std::uint32_t zeldata_screen_text_item_set_end(zeldata_screen_text_item* screen_text_item,
                                                std::int64_t end)
 {
-    return call(screen_text_item, "setEnd", &i_ZelDataScreenTextItem::setEnd,
-                end);
+    return call(screen_text_item, "setEnd", &i_ZelDataScreenTextItem::setEnd, end);
 }
 
 std::uint32_t zeldata_screen_text_item_set_duration(zeldata_screen_text_item* screen_text_item,
                                                     std::int64_t duration)
 {
-    return call(screen_text_item, "setDuration", &i_ZelDataScreenTextItem::setDuration,
-                duration);
+    return call(screen_text_item, "setDuration", &i_ZelDataScreenTextItem::setDuration, duration);
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_file(zeldata_screen_text_item* screen_text_item,
@@ -1860,8 +1827,7 @@ std::uint32_t zeldata_screen_text_item_set_image_file(zeldata_screen_text_item* 
 std::uint32_t zeldata_screen_text_item_set_image_index(zeldata_screen_text_item* screen_text_item,
                                                        std::uint64_t index)
 {
-    return call(screen_text_item, "setImageIndex", &i_ZelDataScreenTextItem::setImageIndex,
-                index);
+    return call(screen_text_item, "setImageIndex", &i_ZelDataScreenTextItem::setImageIndex, index);
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_offset(zeldata_screen_text_item* screen_text_item,
@@ -1874,8 +1840,7 @@ std::uint32_t zeldata_screen_text_item_set_image_offset(zeldata_screen_text_item
 std::uint32_t zeldata_screen_text_item_set_group_id(zeldata_screen_text_item* screen_text_item,
                                                     std::uint64_t id)
 {
-    return call(screen_text_item, "setGroupId", &i_ZelDataScreenTextItem::setGroupId,
-                id);
+    return call(screen_text_item, "setGroupId", &i_ZelDataScreenTextItem::setGroupId, id);
 }
 
 std::uint32_t zeldata_screen_text_item_get_text(const zeldata_screen_text_item* screen_text_item,
@@ -1887,39 +1852,34 @@ std::uint32_t zeldata_screen_text_item_get_text(const zeldata_screen_text_item* 
 std::uint32_t zeldata_screen_text_item_get_start(const zeldata_screen_text_item* screen_text_item,
                                                  std::int64_t* start)
 {
-    return call(screen_text_item, "getStart", &i_ZelDataScreenTextItem::getStart,
-                start);
+    return call(screen_text_item, "getStart", &i_ZelDataScreenTextItem::getStart, start);
 }
 
 std::uint32_t zeldata_screen_text_item_get_end(const zeldata_screen_text_item* screen_text_item,
                                                std::int64_t* end)
 {
-    return call(screen_text_item, "getEnd", &i_ZelDataScreenTextItem::getEnd,
-                end);
+    return call(screen_text_item, "getEnd", &i_ZelDataScreenTextItem::getEnd, end);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_duration(const zeldata_screen_text_item* screen_text_item,
                                       std::int64_t* duration)
 {
-    return call(screen_text_item, "getDuration", &i_ZelDataScreenTextItem::getDuration,
-                duration);
+    return call(screen_text_item, "getDuration", &i_ZelDataScreenTextItem::getDuration, duration);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_image_file(const zeldata_screen_text_item* screen_text_item,
                                         zeldata_string* name)
 {
-    return call(screen_text_item, "getImageFile", &i_ZelDataScreenTextItem::getImageFile,
-                name);
+    return call(screen_text_item, "getImageFile", &i_ZelDataScreenTextItem::getImageFile, name);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_image_index(const zeldata_screen_text_item* screen_text_item,
                                          std::uint64_t* index)
 {
-    return call(screen_text_item, "getImageIndex", &i_ZelDataScreenTextItem::getImageIndex,
-                index);
+    return call(screen_text_item, "getImageIndex", &i_ZelDataScreenTextItem::getImageIndex, index);
 }
 
 std::uint32_t
@@ -1934,8 +1894,7 @@ std::uint32_t
 zeldata_screen_text_item_get_group_id(const zeldata_screen_text_item* screen_text_item,
                                       std::uint64_t* id)
 {
-    return call(screen_text_item, "getGroupId", &i_ZelDataScreenTextItem::getGroupId,
-                id);
+    return call(screen_text_item, "getGroupId", &i_ZelDataScreenTextItem::getGroupId, id);
 }
 
 std::uint32_t zeldata_screen_text_item_copy_from(zeldata_screen_text_item* screen_text_item,
@@ -1973,8 +1932,8 @@ std::uint32_t
 zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
                                       zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call(header_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
-                format, Flag{flag});
+    return call(header_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out, format,
+                Flag{flag});
 }
 
 std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* header_formatter,
@@ -2013,14 +1972,15 @@ std::uint32_t
 zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
                                        zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call(caption_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
-                format, Flag{flag});
+    return call(caption_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out, format,
+                Flag{flag});
 }
 
 std::uint32_t zeldata_caption_formatter_set_captions(zeldata_caption_formatter* caption_formatter,
                                                      const zeldata_captions* captions)
 {
-    return callWith<&i_ZelDataCaptionFormatter::setCaptions>(caption_formatter, "setCaptions", captions);
+    return callWith<&i_ZelDataCaptionFormatter::setCaptions>(caption_formatter, "setCaptions",
+                                                             captions);
 }
 
 // Formatters of tables of contents.
@@ -2050,8 +2010,8 @@ std::uint32_t zeldata_toc_formatter_write_string(const zeldata_toc_formatter* to
                                                  zeldata_string* out, std::uint32_t format,
                                                  std::int32_t flag)
 {
-    return call(toc_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
-                format, Flag{flag});
+    return call(toc_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out, format,
+                Flag{flag});
 }
 
 std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
@@ -2082,23 +2042,23 @@ std::uint32_t zeldata_screen_text_formatter_get_last_error(
 std::uint32_t zeldata_screen_text_formatter_set_last_error(
     const zeldata_screen_text_formatter* screen_text_formatter, std::uint32_t code)
 {
-    return call(screen_text_formatter, "setLastError", storeLastError,
-                code);
+    return call(screen_text_formatter, "setLastError", storeLastError, code);
 }
 
 std::uint32_t zeldata_screen_text_formatter_write_string(
     const zeldata_screen_text_formatter* screen_text_formatter, zeldata_string* out,
     std::uint32_t format, std::int32_t flag)
 {
-    return call(screen_text_formatter, "writeString", &i_ZelDataFormatterBase::writeString,
-                out, format, Flag{flag});
+    return call(screen_text_formatter, "writeString", &i_ZelDataFormatterBase::writeString, out,
+                format, Flag{flag});
 }
 
 std::uint32_t
 zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* screen_text_formatter,
                                               const zeldata_screen_text* screen_text)
 {
-    return callWith<&i_ZelDataScreenTextFormatter::setScreenText>(screen_text_formatter, "setScreenText", screen_text);
+    return callWith<&i_ZelDataScreenTextFormatter::setScreenText>(screen_text_formatter,
+                                                                  "setScreenText", screen_text);
 }
 
 // Findings.
@@ -2121,85 +2081,109 @@ std::uint32_t zeldata_findings_get_count(const zeldata_findings* findings, std::
 std::uint32_t zeldata_findings_get_kind(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* kind)
 {
-    return element(findings, index, kind, "kind", [](const ZelDataFinding& finding, std::uint32_t& out) { out = finding.kind; });
+    return element(findings, index, kind, "kind",
+                   [](const ZelDataFinding& finding, std::uint32_t& out) { out = finding.kind; });
 }
 
 std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std::uint64_t index,
                                            std::uint32_t* subject)
 {
-    return element(findings, index, subject, "subject", [](const ZelDataFinding& finding, std::uint32_t& out) { out = finding.subject; });
+    return element(
+        findings, index, subject, "subject",
+        [](const ZelDataFinding& finding, std::uint32_t& out) { out = finding.subject; });
 }
 
 std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
                                               std::uint64_t* item)
 {
-    return element(findings, index, item, "item", [](const ZelDataFinding& finding, std::uint64_t& out) { out = indexOf(finding.item); });
+    return element(
+        findings, index, item, "item",
+        [](const ZelDataFinding& finding, std::uint64_t& out) { out = indexOf(finding.item); });
 }
 
 std::uint32_t zeldata_findings_get_start(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* start)
 {
-    return element(findings, index, start, "start", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.start; });
+    return element(findings, index, start, "start",
+                   [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.start; });
 }
 
 std::uint32_t zeldata_findings_get_language(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* language)
 {
-    return element(findings, index, language, "language", [](const ZelDataFinding& finding, zeldata_string& out) { out.value = finding.language; });
+    return element(
+        findings, index, language, "language",
+        [](const ZelDataFinding& finding, zeldata_string& out) { out.value = finding.language; });
 }
 
 std::uint32_t zeldata_findings_get_property(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* property)
 {
-    return element(findings, index, property, "property", [](const ZelDataFinding& finding, zeldata_string& out) { out.value = finding.property; });
+    return element(
+        findings, index, property, "property",
+        [](const ZelDataFinding& finding, zeldata_string& out) { out.value = finding.property; });
 }
 
 std::uint32_t zeldata_findings_get_component(const zeldata_findings* findings, std::uint64_t index,
                                              float* component)
 {
-    return element(findings, index, component, "component", [](const ZelDataFinding& finding, float& out) { out = finding.component; });
+    return element(findings, index, component, "component",
+                   [](const ZelDataFinding& finding, float& out) { out = finding.component; });
 }
 
 std::uint32_t zeldata_findings_get_value(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* value)
 {
-    return element(findings, index, value, "value", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.value; });
+    return element(findings, index, value, "value",
+                   [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.value; });
 }
 
 std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* limit)
 {
-    return element(findings, index, limit, "limit", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.limit; });
+    return element(findings, index, limit, "limit",
+                   [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.limit; });
 }
 
 std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
                                                     std::uint64_t index, std::uint64_t* later_item)
 {
-    return element(findings, index, later_item, "laterItem", [](const ZelDataFinding& finding, std::uint64_t& out) { out = indexOf(finding.laterItem); });
+    return element(findings, index, later_item, "laterItem",
+                   [](const ZelDataFinding& finding, std::uint64_t& out) {
+                       out = indexOf(finding.laterItem);
+                   });
 }
 
 std::uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                std::uint64_t index, std::int64_t* later_start)
 {
-    return element(findings, index, later_start, "laterStart", [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.laterStart; });
+    return element(
+        findings, index, later_start, "laterStart",
+        [](const ZelDataFinding& finding, std::int64_t& out) { out = finding.laterStart; });
 }
 
 std::uint32_t zeldata_findings_get_severity(const zeldata_findings* findings, std::uint64_t index,
                                             std::uint32_t* severity)
 {
-    return element(findings, index, severity, "severityOf", [](const ZelDataFinding& finding, std::uint32_t& out) { out = severityOf(finding); });
+    return element(
+        findings, index, severity, "severityOf",
+        [](const ZelDataFinding& finding, std::uint32_t& out) { out = severityOf(finding); });
 }
 
 std::uint32_t zeldata_findings_get_code(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* code)
 {
-    return element(findings, index, code, "codeOf", [](const ZelDataFinding& finding, std::uint32_t& out) { out = codeOf(finding); });
+    return element(
+        findings, index, code, "codeOf",
+        [](const ZelDataFinding& finding, std::uint32_t& out) { out = codeOf(finding); });
 }
 
 std::uint32_t zeldata_findings_describe(const zeldata_findings* findings, std::uint64_t index,
                                         zeldata_string* text)
 {
-    return element(findings, index, text, "describe", [](const ZelDataFinding& finding, zeldata_string& out) { out.value = describe(finding); });
+    return element(
+        findings, index, text, "describe",
+        [](const ZelDataFinding& finding, zeldata_string& out) { out.value = describe(finding); });
 }
 
 const char* zeldata_finding_to_string(std::uint32_t kind)
@@ -2237,15 +2221,13 @@ std::uint32_t zeldata_verify_utf8_format(const char* text, std::size_t text_leng
 std::uint32_t zeldata_count_lines_in_utf8(const char* text, std::size_t text_length,
                                           std::uint64_t* count)
 {
-    return store(&ZelDataUtilities::countLinesInUTF8, Text{text, text_length},
-               count);
+    return store(&ZelDataUtilities::countLinesInUTF8, Text{text, text_length}, count);
 }
 
 std::uint32_t zeldata_strip_unsupported_characters(const char* text, std::size_t text_length,
                                                    zeldata_string* result)
 {
-    return store(&ZelDataUtilities::stripUnsupportedCharacters, Text{text, text_length},
-               result);
+    return store(&ZelDataUtilities::stripUnsupportedCharacters, Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_to_text(const char* text, std::size_t text_length,
@@ -2262,40 +2244,37 @@ std::uint32_t zeldata_html_tags_from_text(const char* text, std::size_t text_len
 
 std::uint32_t zeldata_get_vertical_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return store(&ZelDataUtilities::getVerticalAlignment, alignment,
-               result);
+    return store(&ZelDataUtilities::getVerticalAlignment, alignment, result);
 }
 
 std::uint32_t zeldata_get_horizontal_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return store(&ZelDataUtilities::getHorizontalAlignment,
-               alignment, result);
+    return store(&ZelDataUtilities::getHorizontalAlignment, alignment, result);
 }
 
 // Texts of values.
 
 std::uint32_t zeldata_get_value_string_float(float value, zeldata_string* result)
 {
-    return store(static_cast<std::string (*)(float)>(&ZelDataUtilities::getValueString),
-               value, result);
+    return store(static_cast<std::string (*)(float)>(&ZelDataUtilities::getValueString), value,
+                 result);
 }
 
 std::uint32_t zeldata_get_value_string_uint64(std::uint64_t value, zeldata_string* result)
 {
-    return store(static_cast<std::string (*)(unsigned long long)>(&ZelDataUtilities::getValueString),
-        value, result);
+    return store(
+        static_cast<std::string (*)(unsigned long long)>(&ZelDataUtilities::getValueString), value,
+        result);
 }
 
 std::uint32_t zeldata_get_rate_string(std::uint64_t rate, zeldata_string* result)
 {
-    return store(&ZelDataUtilities::getRateString, rate,
-               result);
+    return store(&ZelDataUtilities::getRateString, rate, result);
 }
 
 std::uint32_t zeldata_get_version_string(std::uint64_t version, zeldata_string* result)
 {
-    return store(&ZelDataUtilities::getVersionString, version,
-               result);
+    return store(&ZelDataUtilities::getVersionString, version, result);
 }
 
 std::uint32_t zeldata_get_date_string(std::int64_t seconds, zeldata_string* date)
@@ -2310,6 +2289,5 @@ std::uint32_t zeldata_get_date_string_now(zeldata_string* date)
 
 std::uint32_t zeldata_get_value_string_int64(std::int64_t value, zeldata_string* result)
 {
-    return store(static_cast<std::string (*)(long)>(&getValueString), value,
-               result);
+    return store(static_cast<std::string (*)(long)>(&getValueString), value, result);
 }
