@@ -210,13 +210,22 @@ struct Passed<i_ZelDataResult&, const Object*> {
     const Object* handle;
 };
 
-/// Where a number goes.
+/// Where a number goes. If the types are the same, the operation itself stores it.
 template <class Type, class To>
 struct Passed<Type&, To*, std::enable_if_t<std::is_arithmetic_v<To>>> {
     explicit Passed(To* argument) : out(argument) {}
     bool isUsable() const { return out != nullptr; }
-    Type& passed() { return value; }
-    void deliver() const { *out = static_cast<To>(value); }
+    Type& passed()
+    {
+        if constexpr (std::is_same_v<Type, To>)
+            return *out;
+        else
+            return value;
+    }
+    void deliver() const
+    {
+        if constexpr (!std::is_same_v<Type, To>) *out = static_cast<To>(value);
+    }
     auto shown() const { return std::make_tuple(); }
 
     To* out;
