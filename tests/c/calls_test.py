@@ -15,6 +15,7 @@ ROOT = Path(os.environ["ROOT"])
 LIBRARY = Path(os.environ["LIBRARY"])
 COMPILERS = os.environ["COMPILERS"].split(":")
 FLAGS = os.environ["FLAGS"].split()
+LINK_FLAGS = os.environ["LINK_FLAGS"].split()
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Wundef", "-Werror"]
 SOURCE = ROOT / "tests/c/calls.c"
 
@@ -58,7 +59,7 @@ class Calls(unittest.TestCase):
         for compiler in COMPILERS:
             with self.subTest(compiler):
                 program = self.folder / "calls"
-                self.compile(compiler, "-std=c99", SOURCE, LIBRARY, "-o", program)
+                self.compile(compiler, "-std=c99", SOURCE, LIBRARY, *LINK_FLAGS, "-o", program)
                 ran = run(program, self.folder / "packet.xmp",
                           env={**os.environ, "LD_LIBRARY_PATH": str(LIBRARY.parent)})
                 self.assertEqual((ran.returncode, ran.stdout, ran.stderr), (0, "", ""))
