@@ -88,6 +88,11 @@ Sets fill(const Document& document)
     return sets;
 }
 
+Sets fillFromCharacters(const Document& document)
+{
+    return fill(Document(document));
+}
+
 std::unique_ptr<i_ZelDataCaptions> fillCaptions(const Document& document)
 {
     auto captions = made(&ZelDataUtilities::createCaptionData);

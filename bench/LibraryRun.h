@@ -28,6 +28,9 @@ Sets fill(const Document& document);
 /// The captions alone.
 std::unique_ptr<i_ZelDataCaptions> fillCaptions(const Document& document);
 
+/// The same as fill() for an application whose texts are not in strings: it makes each one first.
+Sets fillFromCharacters(const Document& document);
+
 /// Passes @p sets to a new document object.
 std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
 

@@ -10,6 +10,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <string>
 #include <string_view>
 
 namespace ZelInterchangeData {
@@ -278,6 +280,16 @@ ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, b
         if (position == nullptr) return ZelData_InvalidUtf8;
     }
     return ZelData_Ok;
+}
+
+std::string textOf(const char* text, std::size_t length, bool& isText)
+{
+    isText = false;
+    if (text == nullptr) return {};
+    if (length == SIZE_MAX) length = std::strlen(text);
+    if (length > PTRDIFF_MAX / 2) return {};
+    isText = true;
+    return {text, length};
 }
 
 std::size_t sizeWithEntities(std::string_view text) noexcept

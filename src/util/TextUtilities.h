@@ -13,6 +13,11 @@
 
 namespace ZelInterchangeData {
 
+/// The text that a C program passes: the @p length bytes at @p text or, if @p length is SIZE_MAX, all up
+/// to a zero byte. @p isText becomes false, and the text is empty, for a null pointer or a length for which
+/// std::string throws std::length_error.
+std::string textOf(const char* text, std::size_t length, bool& isText);
+
 /// The approximate size of @p text with its entities: exact for a long text, otherwise the length
 /// of @p text itself.
 std::size_t sizeWithEntities(std::string_view text) noexcept;
