@@ -44,6 +44,7 @@ public:
     template <class... Arguments>
     void emplace_back(Arguments&&... arguments)
     {
+        if (values_.capacity() == 0) values_.reserve(16); // so that the first ones do not move
         values_.emplace_back(std::forward<Arguments>(arguments)...);
     }
 
