@@ -205,9 +205,12 @@ TYPED_TEST(WithoutMemory, AnItemCanCopyAnotherOfOurOwn)
 TYPED_TEST(WithoutMemory, AnItemIsAddedWholeOrNotAtAll)
 {
     const auto added = newItem<TypeParam>(TypeParam::other());
-    sweepMemory(
-        this->collection, ZelData_Ok, [&](auto& data) { return (data.*TypeParam::add)(*added); },
-        this->collectionIsUnchanged);
+    for (const std::size_t count : {0U, 16U}) { // the collection has no room for another one
+        const decltype(TypeParam::items()) items(count, TypeParam::held());
+        sweepMemory([&] { return newCollection<TypeParam>(items); }, ZelData_Ok,
+                    [&](auto& data) { return (data.*TypeParam::add)(*added); },
+                    [&](const auto& data) { EXPECT_EQ(items, valuesOf<TypeParam>(data)); });
+    }
 }
 
 TYPED_TEST(WithoutMemory, OneItemIsHandedOutOrMadeWholeOrNotAtAll)
