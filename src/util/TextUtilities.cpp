@@ -10,8 +10,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
-#include <string>
 #include <string_view>
 
 namespace ZelInterchangeData {
@@ -269,6 +267,11 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
+    return verifyUtf8(text, bmpOnly);
+}
+
+ZelDataResult_tags verifyUtf8(std::string_view text, bool bmpOnly)
+{
     // For a valid text, this is faster than looking for the first error.
     if (!bmpOnly && isWellFormed(text)) return ZelData_Ok;
     const char* position = text.data();
@@ -280,16 +283,6 @@ ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, b
         if (position == nullptr) return ZelData_InvalidUtf8;
     }
     return ZelData_Ok;
-}
-
-std::string textOf(const char* text, std::size_t length, bool& isText)
-{
-    isText = false;
-    if (text == nullptr) return {};
-    if (length == SIZE_MAX) length = std::strlen(text);
-    if (length > PTRDIFF_MAX / 2) return {};
-    isText = true;
-    return {text, length};
 }
 
 std::size_t sizeWithEntities(std::string_view text) noexcept

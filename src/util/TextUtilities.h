@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_UTIL_TEXTUTILITIES_H
 
 #include "ZelInterchangeData/ZelAlignment_tags.h"
+#include "ZelInterchangeData/ZelDataResult_tags.h"
 #include "util/TextBlock.h"
 
 #include <cstddef>
@@ -13,10 +14,8 @@
 
 namespace ZelInterchangeData {
 
-/// The text that a C program passes: the @p length bytes at @p text or, if @p length is SIZE_MAX, all up
-/// to a zero byte. @p isText becomes false, and the text is empty, for a null pointer or a length for which
-/// std::string throws std::length_error.
-std::string textOf(const char* text, std::size_t length, bool& isText);
+/// What ZelDataUtilities::verifyUtf8Format() returns for the bytes of @p text.
+ZelDataResult_tags verifyUtf8(std::string_view text, bool bmpOnly);
 
 /// The approximate size of @p text with its entities: exact for a long text, otherwise the length
 /// of @p text itself.
