@@ -556,9 +556,9 @@ struct TargetOf<Type, std::enable_if_t<std::is_class_v<Type>>> {
     using Target = decltype(Type::object);
 };
 
-/// Stores @p value of an element, such as the kind of a finding.
+/// Stores @p value of an element, such as the kind of a finding. Messages do not show the index.
 template <auto value, class List, class Out>
-ZelDataResult_tags elementOf(const List& list, std::uint64_t index, Out& out)
+ZelDataResult_tags elementOf(const List& list, const std::uint64_t& index, Out& out)
 {
     if (index >= list.size()) return ZelData_InvalidArgument;
     const auto& stored = std::invoke(value, list[static_cast<std::size_t>(index)]);
@@ -572,7 +572,7 @@ template <auto value, class Type, class Out>
 std::uint32_t getElement(const Type* handle, const char* name, std::uint64_t index, Out* out)
 {
     return call<elementOf<value, decltype(Type::object), typename TargetOf<Out>::Target>>(
-        handle, name, index, out);
+        handle, name, &index, out);
 }
 template <class List>
 ZelDataResult_tags countOf(const List& list, std::uint64_t& count)
