@@ -21,6 +21,7 @@
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -251,7 +252,12 @@ void makeStrings(Kind kind, Argument* arguments, std::size_t count, std::string*
                                        Argument* arguments, std::size_t count)
 {
     std::string strings[2];
-    makeStrings(Kind::view, arguments, count, strings);
+    try {
+        makeStrings(Kind::view, arguments, count, strings);
+    } catch (const std::bad_alloc&) {
+        handle.shown = describe(code);
+        return code;
+    }
     const auto shown = [&](std::size_t i) {
         return i < count ? arguments[i].shown() : ZelDataArgument(ZelDataFormat_Xmp);
     };
