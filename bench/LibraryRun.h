@@ -28,6 +28,10 @@ Sets fill(const Document& document);
 /// The captions alone.
 std::unique_ptr<i_ZelDataCaptions> fillCaptions(const Document& document);
 
+/// The same as fill() for an application whose texts are characters: it makes a string of each one for
+/// the call.
+Sets fillFromCharacters(const Document& document);
+
 /// Passes @p sets to a new document object.
 std::unique_ptr<i_ZelInterchangeDataCore> set(const Sets& sets);
 

@@ -2,6 +2,7 @@
 /// A fixed amount of work for callgrind, one dump for each named section.
 
 #include "ZelInterchangeData/ZelDataFace.h"
+#include "bench/CFaceRun.h"
 #include "bench/FaceRun.h"
 #include "bench/LibraryRun.h"
 #include "bench/StraightAppender.h"
@@ -77,6 +78,25 @@ void probeFace()
     section("face", [&] { return tenRounds(throughFace); });
 }
 
+/// Filling through the C face and through the interfaces, in both cases with texts that are
+/// characters.
+void probeCFace()
+{
+    const Document document = makeDocument(1000, Order::shuffled, Pair::enDe);
+    const auto tenFills = [](auto&& fillOnce) {
+        std::size_t captions = 0;
+        for (int round = 0; round < 10; ++round)
+            captions += fillOnce();
+        return captions;
+    };
+    const auto throughC = [&] { return fillThroughC(document); };
+    static_cast<void>(tenFills(throughC));
+    section("fill", [&] {
+        return tenFills([&] { return fillFromCharacters(document).captions ? 1U : 0U; });
+    });
+    section("fill.c", [&] { return tenFills(throughC); });
+}
+
 /// Finds problems in captions that are in order, so that the search for a later one that starts too
 /// early examines all of them.
 void probeFindings(std::size_t size)
@@ -146,6 +166,7 @@ int main()
     }
     probeTexts();
     probeFace();
+    probeCFace();
     for (const std::size_t size : {std::size_t{1000}, std::size_t{8000}}) {
         probeFindings(size);
         probeLanguages(size);

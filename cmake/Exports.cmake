@@ -6,7 +6,7 @@ function(zel_exports target version_script)
         # Exports what the headers mark and nothing else.
     elseif(APPLE)
         # The linker takes a list of the same names, each with another underscore in front.
-        file(STRINGS ${version_script} names REGEX "^ +_Z")
+        file(STRINGS ${version_script} names REGEX "^ +(_Z|zeldata_)")
         list(TRANSFORM names REPLACE "^ +(.*);$" "_\\1")
         list(JOIN names "\n" names)
         file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/exports.list "${names}\n")

@@ -30,6 +30,8 @@ install(TARGETS ${zel_targets} EXPORT ZelInterchangeDataTargets
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ZelInterchangeData
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT ${zel_development}
     FILES_MATCHING PATTERN *.h)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/zeldata.json
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/ZelInterchangeData COMPONENT ${zel_development})
 
 # find_package
 configure_package_config_file(cmake/ZelInterchangeDataConfig.cmake.in

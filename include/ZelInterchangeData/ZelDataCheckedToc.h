@@ -10,6 +10,7 @@
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
+#include <limits>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -134,9 +135,21 @@ private:
         if (call.operation == "isValid") return reasonOfProblem<i_ZelDataToc>(this->object(), call);
         if (call.is("getTocItemAt", ZelData_InvalidArgument) ||
             call.is("removeTocItemAt", ZelData_InvalidArgument))
-            return asking(this->object(), [&] { return reasonOfIndex(call, getTocItemCount()); });
+            return asking(this->object(), [&] { return reasonOfIndex(call, itemCount()); });
         const std::string known = reasonOfFrameRate(call);
-        return known.empty() ? this->reasonOfList(call) : known;
+        return known.empty() ? reasonOfList(this->object(), call) : known;
+    }
+
+    /// If the getter fails, more than any index.
+    unsigned long itemCount() const
+    {
+        if constexpr (std::is_const_v<Object>) {
+            return getTocItemCount();
+        } else {
+            unsigned long count = 0;
+            const bool isKnown = !failed(this->object().getTocItemCount(count));
+            return isKnown ? count : std::numeric_limits<unsigned long>::max();
+        }
     }
 };
 

@@ -39,7 +39,8 @@ std::unique_ptr<Interface> makeObject(const char* operation,
 {
     Interface* made = nullptr;
     if (const auto code = create(&made, arguments...); failed(code))
-        throwZelDataError({operation, code, {ZelDataArgument(arguments)...}}, [] { return ""; });
+        throw zelDataErrorFor({operation, code, {ZelDataArgument(arguments)...}},
+                              [] { return ""; });
     return std::unique_ptr<Interface>(made);
 }
 

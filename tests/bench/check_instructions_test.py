@@ -25,7 +25,7 @@ def counts(write_large=8000):
     for alphabet in check.ALPHABETS:
         result.update({f"utf8.{alphabet}": 30, f"utf8.{alphabet}.plain": 60})
     result.update({"escape": 10, "escape.plain": 40, "face": 101, "codes": 100,
-                   "front.pointers.8000": 224})
+                   "fill": 100, "fill.c": 108, "front.pointers.8000": 224})
     for section in check.GROWING:
         result.update({f"{section}.1000": 7, f"{section}.8000": 56})
     return result
@@ -44,6 +44,7 @@ class Ratios(unittest.TestCase):
         self.assertEqual(measured["utf8/plain.CJK"], 0.5)
         self.assertEqual(measured["escape/plain"], 0.25)
         self.assertEqual(measured["face/codes"], 1.01)
+        self.assertEqual(measured["fill.c/fill"], 1.08)
         for section in check.GROWING:
             self.assertAlmostEqual(measured[f"growth.{section}"], 1)
         self.assertEqual(measured["front/pointers"], 0.25)

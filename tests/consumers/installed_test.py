@@ -13,6 +13,7 @@ from support import (ABSOLUTE, CONSUMERS, CXX, CXXFLAGS, PREFIX, RELEASE_TREE, S
 
 RELEASE_LIBRARY = "libZelInterchangeData.so.1"
 DEBUG_LIBRARY = "libZelInterchangeDatad.so.1"
+C_PROGRAM = SOURCE / "tests/c/calls.c"
 SHARED = "ZelInterchangeData"
 STATIC = "ZelInterchangeDataStatic"
 
@@ -126,6 +127,29 @@ class PkgConfig(ChecksOfPrograms, unittest.TestCase):
         for module in ("ZelInterchangeData", "ZelInterchangeDatad"):
             with self.subTest(module):
                 self.check(PREFIX / "lib", module, [], static=True)
+
+    def check_c(self, *command):
+        """Adds the flags of pkg-config to a command, which links a C program, and runs the program."""
+        environment = dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig"))
+        kind = ["--static"] if "-static" in command else []
+        flags = run("pkg-config", *kind, "--cflags", "--libs", "ZelInterchangeData", env=environment).split()
+        folder = fresh_folder(self.id())
+        run(*command, *flags, "-o", folder / "program")
+        run(folder / "program", folder / "packet.xmp", env=dict(os.environ, LD_LIBRARY_PATH=str(PREFIX / "lib")))
+
+    def test_a_c_compiler_is_enough_for_the_shared_library(self):
+        for compiler in ("gcc", "clang"):
+            with self.subTest(compiler):
+                self.check_c(compiler, "-std=c99", "-Werror", C_PROGRAM)
+
+    def test_the_static_library_is_linked_into_a_c_program_by_the_cxx_compiler(self):
+        made = fresh_folder(f"{self.id()}.object") / "program.o"
+        run("gcc", "-std=c99", "-DZELINTERCHANGEDATA_STATIC", "-I", PREFIX / "include", "-c", C_PROGRAM, "-o", made)
+        self.check_c(CXX, *CXXFLAGS, "-static", made)
+
+    def test_the_list_of_the_c_functions_is_installed(self):
+        installed = PREFIX / "share/ZelInterchangeData/zeldata.json"
+        self.assertEqual(installed.read_bytes(), (SOURCE / "docs/zeldata.json").read_bytes())
 
     def test_only_a_static_link_defines_the_static_macro(self):
         environment = dict(os.environ, PKG_CONFIG_PATH=str(PREFIX / "lib/pkgconfig"))

@@ -20,7 +20,7 @@ TRIPLE, ARCHITECTURE, WINE = {
     "mingw64": ("x86_64-w64-mingw32", "win64", "wine"),
     "mingw32": ("i686-w64-mingw32", "win32", SOURCE / "build/beside/wine32/usr/lib/wine/wine"),
 }[PLATFORM]
-NEEDED = (f"{TRIPLE}-g++-posix", f"{TRIPLE}-objdump", WINE)
+NEEDED = (f"{TRIPLE}-g++-posix", f"{TRIPLE}-objdump", "clang", WINE)
 TREE = WORK / PLATFORM
 DLL = "libZelInterchangeData.dll"
 DATA = SOURCE / "examples" / "data"
@@ -75,6 +75,7 @@ class Windows(unittest.TestCase):
         files = {path for path in self.installed if not path.startswith(("include/", "lib/cmake/"))}
         self.assertEqual(files, {f"bin/{DLL}", "bin/publish_video.exe", f"lib/{DLL}.a",
                                  "lib/libZelInterchangeData.a", "lib/pkgconfig/ZelInterchangeData.pc",
+                                 "share/ZelInterchangeData/zeldata.json",
                                  "share/doc/ZelInterchangeData/preview.html"})
         headers = {f"include/ZelInterchangeData/{path.name}"
                    for path in (SOURCE / "include/ZelInterchangeData").iterdir()}
@@ -109,6 +110,24 @@ class Windows(unittest.TestCase):
 
     def test_a_consumer_of_the_static_library(self):
         self.check_consumer(self.consumer_of("ZelInterchangeDataStatic"), [], EXPECTED_OUTPUT)
+
+    def check_c(self, *command, imported):
+        """Links a C program with the command and runs it beside the DLL."""
+        folder = empty_folder(self.id())
+        run(*command, "-o", folder / "program.exe")
+        self.assertEqual(imported_libraries(folder / "program.exe"), imported)
+        done = wine(folder / "program.exe", "packet.xmp", libraries=[self.prefix / "bin"], folder=folder)
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, b"", b""))
+
+    def test_a_c_program_of_each_compiler_uses_the_shared_library(self):
+        clang = ["clang", f"--target={TRIPLE}", f"-L{compilers_folder('libgcc.a')}"]
+        for compiler in ([f"{TRIPLE}-gcc-posix"], clang):
+            with self.subTest(compiler[0]):
+                self.check_c(*compiler, "-std=c99", "-Werror", "-I", self.prefix / "include",
+                             SOURCE / "tests/c/calls.c", self.prefix / "lib" / f"{DLL}.a", imported=[DLL])
+
+    def test_a_program_loads_the_library_while_it_runs(self):
+        self.check_c(f"{TRIPLE}-gcc-posix", "-std=c99", "-Wall", "-Werror", SOURCE / "tests/c/load_library.c", imported=[])
 
     def test_pkg_config_names_all_that_the_static_library_needs(self):
         folder = empty_folder(self.id())

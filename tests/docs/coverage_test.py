@@ -14,7 +14,7 @@ ROOT = Path(os.environ["ROOT"])
 REGISTERED = Path(os.environ["REGISTERED"])
 
 # A block without a language is shown and not run.
-LANGUAGES = {"", "cmake", "cpp", "sh", "text", "xml"}
+LANGUAGES = {"", "c", "cmake", "cpp", "csharp", "python", "sh", "swift", "text", "xml"}
 
 # Everything that looks like an opening fence with a language, at any indentation.
 ANY_FENCE = re.compile(r"^[ \t>*+-]*(?:`{3,}|~{3,})[ \t]*(\w[^\s`]*)", re.MULTILINE)
@@ -43,7 +43,7 @@ class Coverage(unittest.TestCase):
                 self.assertEqual(fences, seen)
 
     def test_languages_are_known(self):
-        """A program with a language other than cpp would not run."""
+        """A program in another language would not run."""
         for path in documents():
             with self.subTest(document=path.name):
                 self.assertLessEqual({block.language for block in read_blocks(path)}, LANGUAGES)
@@ -53,6 +53,12 @@ class Coverage(unittest.TestCase):
         with_scripts = [path.name for path in documents()
                         if any(block.language == "sh" for block in read_blocks(path))]
         self.assertEqual(with_scripts, ["delivery.md"])
+
+    def test_programs_in_other_languages_are_where_they_run(self):
+        """languages_test.py runs those of its page, except the one in Swift."""
+        with_programs = [path.name for path in documents()
+                         if {block.language for block in read_blocks(path)} & {"c", "csharp", "python", "swift"}]
+        self.assertEqual(with_programs, ["languages.md"])
 
     def test_a_preamble_is_used(self):
         for path in documents():

@@ -2,6 +2,7 @@
 /// Distinct documents in many threads. Each test runs in a process of its own and does not use the
 /// library before its threads start, so that they race for the first use of everything.
 
+#include "ZelInterchangeData/zeldata.h"
 #include "core/TempFile.h"
 #include "robustness/Contents.h"
 #include "robustness/Operation.h"
@@ -418,6 +419,50 @@ TEST(Threads, EachUsesTheUtilities)
     for (const std::string& result : results)
         EXPECT_EQ(results.front(), result);
     EXPECT_NE(std::string::npos, results.front().find("2009-03-05T14:07:09"));
+}
+
+/// What the C face says about a time that is the number of the thread, and the packet with a title
+/// that has it.
+std::string writtenThroughC(std::size_t number)
+{
+    zeldata_caption_item* item = nullptr;
+    zeldata_header* header = nullptr;
+    zeldata_document* document = nullptr;
+    zeldata_string* packet = nullptr;
+    EXPECT_EQ(ZELDATA_OK, zeldata_caption_item_create(&item));
+    EXPECT_EQ(ZELDATA_OK, zeldata_header_create(&header));
+    EXPECT_EQ(ZELDATA_OK, zeldata_document_create(&document));
+    EXPECT_EQ(ZELDATA_OK, zeldata_string_create(&packet));
+    EXPECT_EQ(ZELDATA_OK, zeldata_caption_item_set_start(item, 1000));
+    EXPECT_EQ(ZELDATA_INVALID_ARGUMENT,
+              zeldata_caption_item_set_end(item, static_cast<std::int64_t>(number)));
+    std::string written = zeldata_last_message(item);
+    EXPECT_EQ(ZELDATA_OK,
+              zeldata_header_set_title(header, ownText(number).c_str(), ZELDATA_TERMINATED));
+    EXPECT_EQ(ZELDATA_OK, zeldata_header_set_video_length(header, 1));
+    EXPECT_EQ(ZELDATA_OK, zeldata_header_set_video_width(header, 1));
+    EXPECT_EQ(ZELDATA_OK, zeldata_header_set_video_height(header, 1));
+    EXPECT_EQ(ZELDATA_OK, zeldata_document_set_header(document, header));
+    EXPECT_EQ(ZELDATA_OK, zeldata_document_write_string(document, packet, ZELDATA_FORMAT_XMP, 0));
+    written += dateMasked({zeldata_string_get_data(packet), zeldata_string_get_size(packet)});
+    zeldata_string_destroy(packet);
+    zeldata_document_destroy(document);
+    zeldata_header_destroy(header);
+    zeldata_caption_item_destroy(item);
+    return written;
+}
+
+TEST(Threads, EachUsesItsOwnHandlesOfTheCFace)
+{
+    std::vector<std::string> written(threadCount);
+    race([&](std::size_t number) {
+        for (int i = 0; i < 100; ++i)
+            written[number] = writtenThroughC(number);
+    });
+    for (std::size_t number = 0; number < threadCount; ++number) {
+        EXPECT_EQ(writtenThroughC(number), written[number]);
+        EXPECT_EQ(0U, written[number].find("setEnd(" + std::to_string(number) + "): "));
+    }
 }
 
 } // namespace

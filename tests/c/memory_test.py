@@ -1,0 +1,92 @@
+"""Makes each allocation of every function of the list fail in turn: the function returns
+ZELDATA_OUT_OF_MEMORY or what it returns otherwise, a failed call has a message, and nothing leaks.
+
+failing_new.cpp must be preloaded. The environment names LIBRARY."""
+
+import ctypes
+import os
+import tempfile
+import unittest
+
+from binding import CODES, CONSTANTS, Library
+from world import World, has_message, of_code
+
+LIBRARY = Library(os.environ["LIBRARY"])
+PRELOADED = ctypes.CDLL(None)
+OUT_OF_MEMORY = CONSTANTS["ZELDATA_OUT_OF_MEMORY"]
+OK = CONSTANTS["ZELDATA_OK"]
+
+# A language ID, too, and longer than a std::string holds without an allocation.
+TEXT = b"en-" + b"x" * 60
+
+
+def outcome(function, granted, prepare=lambda world: None):
+    """The code and the message of a call that gets this many allocations, and the blocks that it
+    leaks."""
+    before = PRELOADED.failing_new_alive()
+    world = World(LIBRARY, TEXT)
+    prepare(world)
+    arguments = [world.good(kind) for kind, _ in function["parameters"]]
+    PRELOADED.failing_new_grant(granted)
+    code = LIBRARY.function(function["name"])(*arguments)
+    PRELOADED.failing_new_grant(-1)
+    message = LIBRARY.message(arguments[0]) if has_message(function) else None
+    world.close()
+    return code, message, PRELOADED.failing_new_alive() - before
+
+
+class Memory(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()  # for the files that are written
+        self.addCleanup(folder.cleanup)
+        self.addCleanup(os.chdir, os.getcwd())
+        os.chdir(folder.name)
+
+    def sweep(self, function, prepare=lambda world: None):
+        """Returns how often memory ran out."""
+        expected, wanted, leaked = outcome(function, -1, prepare)
+        self.assertEqual(leaked, 0)
+        for granted in range(2000):
+            code, message, leaked = outcome(function, granted, prepare)
+            self.assertIn(code, (OUT_OF_MEMORY, expected))
+            self.assertEqual(leaked, 0, granted)
+            if message is not None:
+                self.assertEqual(message == "", code == OK)
+            if code == OUT_OF_MEMORY and message is not None:
+                self.assertEqual(message, self.out_of_memory())
+            if code == expected and message == wanted:
+                return granted
+        raise AssertionError("does not end")
+
+    def out_of_memory(self):
+        return LIBRARY.function("zeldata_result_describe")(OUT_OF_MEMORY).decode()
+
+    def test_every_function_survives_every_allocation_that_fails(self):
+        swept = 0
+        for function in of_code():
+            with self.subTest(function["name"]):
+                swept += self.sweep(function) > 0
+        self.assertGreater(swept, 80)
+
+    def test_so_does_the_writing_of_a_whole_document(self):
+        def fill(world):
+            header = world.handles["zeldata_header"]
+            for size in ("length", "width", "height"):
+                getattr(header, f"set_video_{size}")(100)
+            document = world.handles["zeldata_document"]
+            for kind in ("header", "captions", "toc", "screen_text"):
+                getattr(document, f"set_{kind}")(world.handles[f"zeldata_{kind}"])
+        for function in of_code():
+            if function["name"].startswith("zeldata_document_"):
+                with self.subTest(function["name"]):
+                    self.sweep(function, fill)
+
+    def test_a_failure_without_memory_for_its_message_has_the_meaning_of_its_code(self):
+        function = next(one for one in of_code() if one["name"] == "zeldata_header_is_valid")
+        code, message, _ = outcome(function, 0)
+        self.assertEqual(CODES[code], "ZELDATA_INVALID_ARGUMENT")
+        self.assertEqual(message, LIBRARY.function("zeldata_result_describe")(code).decode())
+
+
+if __name__ == "__main__":
+    unittest.main()
