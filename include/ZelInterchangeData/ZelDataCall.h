@@ -113,31 +113,12 @@ inline std::string shown(const std::vector<std::string>* texts)
     return "{" + listed(*texts) + "}";
 }
 
-/// Refers to a function that returns a text. Because of it, the functions that take one are no
-/// templates.
-class TextMaker {
-public:
-    /// Refers to @p make, which must outlive this object.
-    template <class Make>
-    // NOLINTNEXTLINE(google-explicit-constructor): to pass a lambda
-    TextMaker(const Make& make) noexcept
-        : make_(&make),
-          call_([](const void* made) -> std::string { return (*static_cast<const Make*>(made))(); })
-    {
-    }
-    /// Calls the function.
-    std::string operator()() const { return call_(make_); }
-
-private:
-    const void* make_;
-    std::string (*call_)(const void*);
-};
-
 /// What @p make returns; empty if it throws, for example because memory ran out.
-inline std::string orNothing(const TextMaker& make)
+template <class Make>
+std::string orNothing(Make&& make)
 {
     try {
-        return make();
+        return std::forward<Make>(make)();
 #ifdef __GLIBCXX__
     } catch (const abi::__forced_unwind&) {
         throw; // otherwise the C library ends the process
@@ -149,7 +130,8 @@ inline std::string orNothing(const TextMaker& make)
 
 /// What @p ask, which calls getters of @p object, returns. The object keeps its last error; if it
 /// does not let it be set, returns nothing and calls no getter.
-inline std::string asking(const i_ZelDataResult& object, const TextMaker& ask)
+template <class Ask>
+std::string asking(const i_ZelDataResult& object, Ask&& ask)
 {
     const ZelDataResult_tags kept = object.getLastError();
     const ZelDataResult_tags other = kept == ZelData_Ok ? ZelData_InternalError : ZelData_Ok;
@@ -158,7 +140,7 @@ inline std::string asking(const i_ZelDataResult& object, const TextMaker& ask)
     object.setLastError(kept);
     if (!settable || object.getLastError() != kept) return {};
     try {
-        std::string answer = ask();
+        std::string answer = std::forward<Ask>(ask)();
         object.setLastError(kept);
         return answer;
     } catch (...) {
@@ -276,20 +258,20 @@ struct ZelDataCall final {
     }
 };
 
-/// The exception that reports @p call. @p reason returns what is known about the failure.
+/// Throws a ZelDataError for @p call. @p reason returns what is known about the failure.
 ///
 /// If memory runs out, the message is shorter; if there is none for the shortest, throws
 /// `std::bad_alloc`.
-inline ZelDataError zelDataErrorFor(const ZelDataCall& call,
-                                    const ZelDataMessages::TextMaker& reason)
+template <class Reason>
+[[noreturn]] void throwZelDataError(const ZelDataCall& call, Reason&& reason)
 {
     using ZelDataMessages::orNothing;
     const std::string arguments = orNothing([&] { return call.shownArguments(); });
-    const std::string known = orNothing(reason);
+    const std::string known = orNothing(std::forward<Reason>(reason));
     try {
-        return ZelDataError(call.code, call.operation, arguments, known);
+        throw ZelDataError(call.code, call.operation, arguments, known);
     } catch (const std::bad_alloc&) {
-        return ZelDataError(call.code, call.operation);
+        throw ZelDataError(call.code, call.operation);
     }
 }
 

@@ -118,8 +118,8 @@ private:
         if (call.operation == "copyFrom") return reasonOfSource(call);
         if (call.is("setDuration", ZelData_InvalidArgument) && call.get<long long>() == 0)
             return "not positive";
-        const std::string known = reasonOfEnd(this->object(), call);
-        return known.empty() ? reasonOfText(this->object(), call) : known;
+        const std::string known = reasonOfTime(*this, call);
+        return known.empty() ? reasonOfText(*this, call) : known;
     }
 
     std::string reasonOfSource(const ZelDataCall& call) const
@@ -131,12 +131,11 @@ private:
     std::string reasonOfValidity(const ZelDataCall& call) const
     {
         using namespace ZelDataMessages;
-        return asking(this->object(), [&]() -> std::string {
-            long long duration = 0;
-            if (failed(this->object().getDuration(duration))) return {};
+        return asking(this->object(), [&] {
+            const long long duration = getDuration();
             const std::string lasts = "it lasts " + shown(duration) + " ms";
             if (call.code == ZelData_InvalidItem && duration <= 0) return lasts;
-            if (call.code != ZelData_WarnItemGuidelines) return {};
+            if (call.code != ZelData_WarnItemGuidelines) return std::string();
             if (duration >= ZelDataLimits::recommendedDuration) return reasonOfLines();
             return lasts + ", less than " + shown(ZelDataLimits::recommendedDuration) + " ms";
         });
@@ -145,12 +144,8 @@ private:
     std::string reasonOfLines() const
     {
         using namespace ZelDataMessages;
-        std::vector<std::string> ids;
-        if (failed(this->object().getLanguageIDs(ids))) return {};
-        for (const std::string& id : ids) {
-            std::string text;
-            if (failed(this->object().getTextForLanguage(text, id))) return {};
-            const auto lines = ZelDataUtilities::countLinesInUTF8(text);
+        for (const std::string& id : getLanguageIDs()) {
+            const auto lines = ZelDataUtilities::countLinesInUTF8(getTextForLanguage(id));
             if (lines > ZelDataLimits::recommendedLines)
                 return shown(lines) + " lines in " + shown(&id) + ", more than " +
                        shown(ZelDataLimits::recommendedLines);

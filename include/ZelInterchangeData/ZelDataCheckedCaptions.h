@@ -15,7 +15,6 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
-#include <limits>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -189,9 +188,10 @@ private:
         if (call.operation == "addCaptionItem") return reasonOfCaption(call);
         if (call.is("getCaptionItemAt", ZelData_InvalidArgument) ||
             call.is("removeCaptionItemAt", ZelData_InvalidArgument))
-            return asking(this->object(), [&] { return reasonOfIndex(call, itemCount()); });
+            return asking(this->object(),
+                          [&] { return reasonOfIndex(call, getCaptionItemCount()); });
         const std::string known = reasonOfStyle(call);
-        return known.empty() ? reasonOfList(this->object(), call) : known;
+        return known.empty() ? this->reasonOfList(call) : known;
     }
 
     std::string reasonOfStyle(const ZelDataCall& call) const
@@ -219,18 +219,6 @@ private:
                 return std::string(subjects.begin()[i]) + "not from 0.0 to 1.0";
         }
         return {};
-    }
-
-    /// If the getter fails, more than any index.
-    unsigned long itemCount() const
-    {
-        if constexpr (std::is_const_v<Object>) {
-            return getCaptionItemCount();
-        } else {
-            unsigned long count = 0;
-            const bool isKnown = !failed(this->object().getCaptionItemCount(count));
-            return isKnown ? count : std::numeric_limits<unsigned long>::max();
-        }
     }
 };
 

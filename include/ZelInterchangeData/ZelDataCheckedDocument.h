@@ -109,8 +109,7 @@ private:
         if (call.is("getDataToc", ZelData_NoData)) return "the document has no table of contents";
         if (call.is("getDataScreenText", ZelData_NoData)) return "the document has no screen text";
         if (call.operation == "setDataHeader") return ZelDataMessages::reasonOfHeader(call);
-        const bool writes = call.operation == "writeString" || call.operation == "writeFile" ||
-                            call.operation == "replaceFile";
+        const bool writes = call.operation == "writeString" || call.operation == "writeFile";
         return writes ? ZelDataMessages::reasonOfWriting(this->object(), call.code) : std::string();
     }
 };

@@ -192,7 +192,7 @@ private:
             return call.get<unsigned long long>() == 0 ? "not positive" : "";
         if (call.is("copyFrom", ZelData_InvalidArgument)) return reasonOfHeader(call);
         const std::string known = reasonOfContentName(call);
-        return known.empty() ? reasonOfList(this->object(), call) : known;
+        return known.empty() ? this->reasonOfList(call) : known;
     }
 
     std::string reasonOfContentName(const ZelDataCall& call) const
@@ -203,10 +203,8 @@ private:
         const bool adds = call.is("addContentName", ZelData_WarnNoChange);
         if (!adds && !call.is("removeContentName", ZelData_WarnNoChange)) return {};
         return asking(this->object(), [&] {
-            std::string name = call.text();
-            bool exists = false;
-            if (failed(this->object().doesContentNameExist(name, exists)) || exists != adds)
-                return "";
+            const bool exists = doesContentNameExist(call.text());
+            if (exists != adds) return "";
             return exists ? "it is listed already" : "it is not listed";
         });
     }

@@ -6,8 +6,10 @@
 
 #include "ZelInterchangeData/ZelDataCheckedObject.h"
 #include "ZelInterchangeData/ZelDataExport.h"
+#include "ZelInterchangeData/ZelDataReasons.h"
 #include "ZelInterchangeData/i_ZelDataLanguage.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -76,6 +78,41 @@ public:
         return this->done("copyFrom", this->object().copyFrom(other), other);
     }
     /// @}
+
+protected:
+    /// What is known about the failure of @p call, if it is an operation of this list.
+    std::string reasonOfList(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
+        if (call.is("addLanguage", ZelData_WarnAlreadyExists)) return "it is listed already";
+        if (call.is("addLanguage", ZelData_InvalidUtf8) ||
+            call.is("addLanguage", ZelData_UnknownLanguage))
+            return reasonOfLanguage(call.text());
+        if (call.is("removeLanguage", ZelData_WarnNoChange) ||
+            call.is("removeLanguage", ZelData_NotFound))
+            return asking(this->object(),
+                          [&] { return reasonOfMissingLanguage(call, getOrderedLanguageIDs()); });
+        if (call.is("setOrderedLanguageIDs", ZelData_InvalidArgument))
+            return asking(this->object(), [&] { return reasonOfOrder(call); });
+        return {};
+    }
+
+private:
+    std::string reasonOfOrder(const ZelDataCall& call) const
+    {
+        using namespace ZelDataMessages;
+        const auto& ids = *call.get<const std::vector<std::string>*>();
+        const std::vector<std::string> listed = getOrderedLanguageIDs();
+        if (ids.size() != listed.size())
+            return shown(static_cast<unsigned long long>(ids.size())) + ", the list has " +
+                   shown(static_cast<unsigned long long>(listed.size()));
+        const auto unlisted = std::find_if(ids.begin(), ids.end(), [&](const std::string& id) {
+            return std::find(listed.begin(), listed.end(), id) == listed.end();
+        });
+        if (unlisted == ids.end()) return {};
+        return shown(&*unlisted) + " is not listed";
+    }
 };
 
 } // namespace ZelInterchangeData

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <utility>
@@ -53,10 +54,6 @@ public:
 
     /// The object itself.
     Object& object() const noexcept { return *object_; }
-
-    /// What is known about the failure of @p call, which you made without the view; may be empty.
-    /// Call this before you call anything else. May throw `std::bad_alloc`.
-    std::string reasonOf(const ZelDataCall& call) const { return self().reason(call); }
 
 protected:
     /// Returns the view if @p code is not a failure of @p operation; otherwise throws and shows
@@ -131,9 +128,7 @@ protected:
     void require(const char* operation, ZelDataResult_tags code,
                  const Arguments&... arguments) const
     {
-        if (!fails(code)) return;
-        const ZelDataCall call{operation, code, {ZelDataArgument(arguments)...}};
-        throw zelDataErrorFor(call, [&] { return reasonOf(call); });
+        if (fails(code)) fail(operation, code, {ZelDataArgument(arguments)...});
     }
 
     /// Whether the view throws for @p code.
@@ -177,6 +172,13 @@ private:
     };
 
     const Self& self() const noexcept { return static_cast<const Self&>(*this); }
+
+    [[noreturn]] void fail(const char* operation, ZelDataResult_tags code,
+                           std::initializer_list<ZelDataArgument> arguments) const
+    {
+        const ZelDataCall call = {operation, code, arguments};
+        throwZelDataError(call, [&] { return self().reason(call); });
+    }
 
     Object* object_;
     bool warningsPass_ = false;

@@ -10,7 +10,6 @@
 #include "ZelInterchangeData/i_ZelDataScreenText.h"
 #include "ZelInterchangeData/i_ZelDataScreenTextItem.h"
 
-#include <limits>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -117,20 +116,9 @@ private:
         if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
         if (call.is("getScreenTextItemAt", ZelData_InvalidArgument) ||
             call.is("removeScreenTextItemAt", ZelData_InvalidArgument))
-            return asking(this->object(), [&] { return reasonOfIndex(call, itemCount()); });
+            return asking(this->object(),
+                          [&] { return reasonOfIndex(call, getScreenTextItemCount()); });
         return reasonOfFrameRate(call);
-    }
-
-    /// If the getter fails, more than any index.
-    unsigned long itemCount() const
-    {
-        if constexpr (std::is_const_v<Object>) {
-            return getScreenTextItemCount();
-        } else {
-            unsigned long count = 0;
-            const bool isKnown = !failed(this->object().getScreenTextItemCount(count));
-            return isKnown ? count : std::numeric_limits<unsigned long>::max();
-        }
     }
 };
 

@@ -122,7 +122,7 @@ private:
         if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
         if (call.is("setText", ZelData_InvalidItem))
             return isUtf8(call.text()) ? "" : "the text is not UTF-8";
-        return reasonOfEnd(this->object(), call);
+        return reasonOfTime(*this, call);
     }
 };
 

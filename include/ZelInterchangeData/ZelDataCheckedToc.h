@@ -10,7 +10,6 @@
 #include "ZelInterchangeData/i_ZelDataToc.h"
 #include "ZelInterchangeData/i_ZelDataTocItem.h"
 
-#include <limits>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -135,21 +134,9 @@ private:
         if (call.operation == "isValid") return reasonOfProblem<i_ZelDataToc>(this->object(), call);
         if (call.is("getTocItemAt", ZelData_InvalidArgument) ||
             call.is("removeTocItemAt", ZelData_InvalidArgument))
-            return asking(this->object(), [&] { return reasonOfIndex(call, itemCount()); });
+            return asking(this->object(), [&] { return reasonOfIndex(call, getTocItemCount()); });
         const std::string known = reasonOfFrameRate(call);
-        return known.empty() ? reasonOfList(this->object(), call) : known;
-    }
-
-    /// If the getter fails, more than any index.
-    unsigned long itemCount() const
-    {
-        if constexpr (std::is_const_v<Object>) {
-            return getTocItemCount();
-        } else {
-            unsigned long count = 0;
-            const bool isKnown = !failed(this->object().getTocItemCount(count));
-            return isKnown ? count : std::numeric_limits<unsigned long>::max();
-        }
+        return known.empty() ? this->reasonOfList(call) : known;
     }
 };
 

@@ -116,8 +116,8 @@ private:
     {
         using namespace ZelDataMessages;
         if (call.operation == "copyFrom") return reasonOfCopy(this->object(), call);
-        const std::string known = reasonOfTime(call);
-        return known.empty() ? reasonOfText(this->object(), call) : known;
+        const std::string known = reasonOfTime(*this, call);
+        return known.empty() ? reasonOfText(*this, call) : known;
     }
 };
 

@@ -14,41 +14,6 @@
 
 namespace ZelInterchangeData {
 
-namespace ZelDataMessages {
-
-/// "0x" and eight digits.
-ZELINTERCHANGEDATA_INLINE inline std::string numberOf(ZelDataResult_tags code)
-{
-    std::string number = "0x";
-    for (int shift = 28; shift >= 0; shift -= 4)
-        number += "0123456789ABCDEF"[(static_cast<unsigned>(code) >> shift) & 0xFU];
-    return number;
-}
-
-/// The message of ZelDataError.
-ZELINTERCHANGEDATA_INLINE inline std::string messageFor(ZelDataResult_tags code,
-                                                        std::string_view operation,
-                                                        std::string_view arguments,
-                                                        std::string_view reason)
-{
-    std::string message(operation);
-    message.append(arguments).append(": ");
-    if (reason.empty())
-        return message.append(toString(code))
-            .append(" (")
-            .append(numberOf(code))
-            .append("): ")
-            .append(describe(code));
-    return message.append(reason)
-        .append(" (")
-        .append(toString(code))
-        .append(", ")
-        .append(numberOf(code))
-        .append(")");
-}
-
-} // namespace ZelDataMessages
-
 /// Says which operation returned which code. The library itself never throws it: only the headers
 /// that ZelDataFace.h includes do, and these are compiled into the caller.
 ///
@@ -67,8 +32,8 @@ public:
     /// Both may be empty.
     ZELINTERCHANGEDATA_INLINE ZelDataError(ZelDataResult_tags code, std::string_view operation,
                                            std::string_view arguments, std::string_view reason)
-        : std::runtime_error(ZelDataMessages::messageFor(code, operation, arguments, reason)),
-          code_(code), operationLength_(operation.size())
+        : std::runtime_error(messageFor(code, operation, arguments, reason)), code_(code),
+          operationLength_(operation.size())
     {
     }
     /// Copies share the message.
@@ -88,6 +53,34 @@ public:
     }
 
 private:
+    ZELINTERCHANGEDATA_INLINE static std::string messageFor(ZelDataResult_tags code,
+                                                            std::string_view operation,
+                                                            std::string_view arguments,
+                                                            std::string_view reason)
+    {
+        std::string message(operation);
+        message.append(arguments).append(": ");
+        if (reason.empty())
+            return message.append(toString(code))
+                .append(" (")
+                .append(numberOf(code))
+                .append("): ")
+                .append(describe(code));
+        return message.append(reason)
+            .append(" (")
+            .append(toString(code))
+            .append(", ")
+            .append(numberOf(code))
+            .append(")");
+    }
+    ZELINTERCHANGEDATA_INLINE static std::string numberOf(ZelDataResult_tags code)
+    {
+        std::string number = "0x";
+        for (int shift = 28; shift >= 0; shift -= 4)
+            number += "0123456789ABCDEF"[(static_cast<unsigned>(code) >> shift) & 0xFU];
+        return number;
+    }
+
     ZelDataResult_tags code_;
     std::size_t operationLength_;
 };

@@ -39,8 +39,7 @@ std::unique_ptr<Interface> makeObject(const char* operation,
 {
     Interface* made = nullptr;
     if (const auto code = create(&made, arguments...); failed(code))
-        throw zelDataErrorFor({operation, code, {ZelDataArgument(arguments)...}},
-                              [] { return ""; });
+        throwZelDataError({operation, code, {ZelDataArgument(arguments)...}}, [] { return ""; });
     return std::unique_ptr<Interface>(made);
 }
 

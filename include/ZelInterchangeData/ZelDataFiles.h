@@ -15,16 +15,6 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
-namespace ZelDataMessages {
-
-/// The call for the file at @p path, as messages show it.
-inline std::string replacing(const std::string& path)
-{
-    return "replaceFile(\"" + onOneLine(path, isUtf8(path)) + "\")";
-}
-
-} // namespace ZelDataMessages
-
 /// Writes @p document to the file at @p path, completely or not at all: see the function of this
 /// name that returns a code. If the file cannot be written, throws a `std::system_error` with the
 /// system's error number, `std::system_category()` and a message such as
@@ -35,12 +25,16 @@ inline void replaceFile(const i_ZelInterchangeDataCore& document, const std::str
 {
     int systemError = 0;
     const auto code = replaceFile(document, path, systemError, format);
-    if (systemError != 0)
-        throw std::system_error(systemError, std::system_category(),
-                                ZelDataMessages::replacing(path));
-    if (!failed(code)) return;
-    const ZelDataCall call{"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}};
-    throw zelDataErrorFor(call, [&] { return ZelDataMessages::reasonOfWriting(document, code); });
+    if (systemError != 0) {
+        throw std::system_error(
+            systemError, std::system_category(),
+            "replaceFile(\"" + ZelDataMessages::onOneLine(path, ZelDataMessages::isUtf8(path)) +
+                "\")");
+    }
+    if (failed(code)) {
+        throwZelDataError({"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}},
+                          [&] { return ZelDataMessages::reasonOfWriting(document, code); });
+    }
 }
 
 } // namespace ZelInterchangeData

@@ -52,26 +52,6 @@ inline std::string reasonOfLanguage(const std::string& id)
     return reason + "; write " + shown(&hyphenated);
 }
 
-/// A start, an end or a duration.
-inline std::string reasonOfTime(const ZelDataCall& call)
-{
-    const bool setsTime = call.is("setStart", ZelData_InvalidArgument) ||
-                          call.is("setEnd", ZelData_InvalidArgument) ||
-                          call.is("setDuration", ZelData_InvalidArgument);
-    return setsTime && call.get<long long>() < 0 ? "negative" : "";
-}
-
-/// A text that is set, or its language.
-inline std::string reasonOfNewText(const ZelDataCall& call)
-{
-    if (call.is("setTextForLanguage", ZelData_WarnAlreadyExists))
-        return "it replaced an earlier text";
-    if (!call.is("setTextForLanguage", ZelData_InvalidItem)) return {};
-    const std::string reason = reasonOfLanguage(call.text(1));
-    if (!reason.empty() || isUtf8(call.text(0))) return reason;
-    return "the text is not UTF-8";
-}
-
 /// An object that is copied onto itself.
 inline std::string reasonOfCopy(const i_ZelDataResult& target, const ZelDataCall& call)
 {
@@ -101,15 +81,19 @@ inline std::string reasonOfIndex(const ZelDataCall& call, unsigned long count)
     return (count == 1 ? "there is " : "there are ") + shown(count);
 }
 
-/// The end of @p item, or a start or a duration.
-template <class Item>
-std::string reasonOfEnd(const Item& item, const ZelDataCall& call)
+/// A start, an end or a duration of @p item.
+template <class View>
+std::string reasonOfTime(const View& item, const ZelDataCall& call)
 {
-    const std::string known = reasonOfTime(call);
-    if (!known.empty() || !call.is("setEnd", ZelData_InvalidArgument)) return known;
-    return asking(item, [&] {
-        long long start = 0;
-        if (failed(item.getStart(start)) || call.get<long long>() > start) return std::string();
+    if (call.code != ZelData_InvalidArgument) return {};
+    const bool setsEnd = call.operation == "setEnd";
+    if (!setsEnd && call.operation != "setStart" && call.operation != "setDuration") return {};
+    const auto value = call.get<long long>();
+    if (value < 0) return "negative";
+    if (!setsEnd) return {};
+    return asking(item.object(), [&] {
+        const long long start = item.getStart();
+        if (value > start) return std::string();
         return "not after the start, " + shown(start);
     });
 }
@@ -167,70 +151,38 @@ inline std::string reasonOfWriting(const i_ZelInterchangeDataCore& document,
     });
 }
 
-/// The first of @p findings with the code of @p call.
-inline std::string reasonAmong(const std::vector<ZelDataFinding>& findings, const ZelDataCall& call)
-{
-    for (const ZelDataFinding& finding : findings)
-        if (codeOf(finding) == call.code) return describe(finding);
-    return {};
-}
-
 /// The first problem of @p collection for which isValid() returns the code of @p call.
 template <class Collection>
 std::string reasonOfProblem(const Collection& collection, const ZelDataCall& call)
 {
     return asking(collection, [&] {
         std::vector<ZelDataFinding> findings;
-        return failed(findProblems(collection, findings)) ? "" : reasonAmong(findings, call);
+        if (failed(findProblems(collection, findings))) return std::string();
+        const auto found =
+            std::find_if(findings.begin(), findings.end(), [&](const ZelDataFinding& finding) {
+                return codeOf(finding) == call.code;
+            });
+        if (found == findings.end()) return std::string();
+        return describe(*found);
     });
 }
 
 /// A text of @p item or its language.
-template <class Item>
-std::string reasonOfText(const Item& item, const ZelDataCall& call)
+template <class View>
+std::string reasonOfText(const View& item, const ZelDataCall& call)
 {
+    if (call.is("setTextForLanguage", ZelData_WarnAlreadyExists))
+        return "it replaced an earlier text";
+    if (call.is("setTextForLanguage", ZelData_InvalidItem)) {
+        const std::string reason = reasonOfLanguage(call.text(1));
+        if (!reason.empty() || isUtf8(call.text(0))) return reason;
+        return "the text is not UTF-8";
+    }
     if (!call.is("getTextForLanguage", ZelData_InvalidArgument) &&
         !call.is("removeTextForLanguage", ZelData_NotFound))
-        return reasonOfNewText(call);
-    return asking(item, [&] {
-        std::vector<std::string> ids;
-        return failed(item.getLanguageIDs(ids)) ? "" : reasonOfMissingLanguage(call, ids);
-    });
-}
-
-/// The new order of the languages of @p list.
-inline std::string reasonOfOrder(const i_ZelDataLanguage& list, const ZelDataCall& call)
-{
-    return asking(list, [&]() -> std::string {
-        const auto& ids = *call.get<const std::vector<std::string>*>();
-        std::vector<std::string> listed;
-        if (failed(list.getOrderedLanguageIDs(listed))) return {};
-        if (ids.size() != listed.size())
-            return shown(static_cast<unsigned long long>(ids.size())) + ", the list has " +
-                   shown(static_cast<unsigned long long>(listed.size()));
-        for (const std::string& id : ids)
-            if (std::find(listed.begin(), listed.end(), id) == listed.end())
-                return shown(&id) + " is not listed";
         return {};
-    });
-}
-
-/// A language of @p list.
-inline std::string reasonOfList(const i_ZelDataLanguage& list, const ZelDataCall& call)
-{
-    if (call.operation == "copyFrom") return reasonOfCopy(list, call);
-    if (call.is("addLanguage", ZelData_WarnAlreadyExists)) return "it is listed already";
-    if (call.is("addLanguage", ZelData_InvalidUtf8) ||
-        call.is("addLanguage", ZelData_UnknownLanguage))
-        return reasonOfLanguage(call.text());
-    if (call.is("setOrderedLanguageIDs", ZelData_InvalidArgument)) return reasonOfOrder(list, call);
-    if (!call.is("removeLanguage", ZelData_WarnNoChange) &&
-        !call.is("removeLanguage", ZelData_NotFound))
-        return {};
-    return asking(list, [&] {
-        std::vector<std::string> ids;
-        return failed(list.getOrderedLanguageIDs(ids)) ? "" : reasonOfMissingLanguage(call, ids);
-    });
+    return asking(item.object(),
+                  [&] { return reasonOfMissingLanguage(call, item.getLanguageIDs()); });
 }
 /// @}
 
