@@ -67,7 +67,8 @@ bool PackedTexts::holds(std::size_t place, std::string_view languageID) const no
 std::optional<std::string_view> PackedTexts::find(std::string_view languageID,
                                                   std::size_t likely) const noexcept
 {
-    const std::size_t place = holds(likely, languageID) ? likely : placeOf(languageID);
+    if (holds(likely, languageID)) return (*this)[likely].text;
+    const std::size_t place = placeOf(languageID);
     if (!holds(place, languageID)) return std::nullopt;
     return (*this)[place].text;
 }

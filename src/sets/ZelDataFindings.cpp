@@ -2,34 +2,48 @@
 
 #include "ZelInterchangeData/ZelDataOneLine.h"
 #include "ZelInterchangeData/ZelDataUtilities.h"
+#include "util/ValueStrings.h"
 
-#include <initializer_list>
-#include <string_view>
+#include <utility>
 
 namespace ZelInterchangeData {
 
 namespace {
 
-std::string joined(std::initializer_list<std::string_view> parts)
-{
-    std::string text;
-    for (const std::string_view part : parts)
+/// A finding's language, which a sentence shows on one line.
+struct Language {
+    const std::string& id;
+};
+
+/// A text that grows part by part, which takes less code than joining temporary texts.
+struct Sentence {
+    // Deliberate: not one overload for std::string_view; with it, each literal would take more code.
+    Sentence& operator<<(const char* part)
+    {
         text += part;
-    return text;
-}
+        return *this;
+    }
+    Sentence& operator<<(const std::string& part)
+    {
+        text += part;
+        return *this;
+    }
+    Sentence& operator<<(Language language)
+    {
+        const bool isUtf8 = ZelDataMessages::isUtf8(language.id);
+        return *this << ZelDataMessages::onOneLine(language.id, isUtf8);
+    }
+    Sentence& operator<<(long long number) { return *this << decimalText(number); }
+    Sentence& operator<<(unsigned long number)
+    {
+        return *this << ZelDataUtilities::getValueString(number);
+    }
+    Sentence& operator<<(float number) { return *this << ZelDataUtilities::getValueString(number); }
 
-std::string number(long long value)
-{
-    return std::to_string(value);
-}
+    std::string text;
+};
 
-std::string languageOf(const ZelDataFinding& finding)
-{
-    const std::string& language = finding.language;
-    return ZelDataMessages::onOneLine(language, ZelDataMessages::isUtf8(language));
-}
-
-std::string nameOfCollection(ZelDataFindingSubject_tags subject)
+const char* nameOfCollection(ZelDataFindingSubject_tags subject)
 {
     switch (subject) {
     case ZelDataFindingSubject_Caption:
@@ -46,7 +60,7 @@ std::string nameOfCollection(ZelDataFindingSubject_tags subject)
     return "collection";
 }
 
-std::string nameOfItem(ZelDataFindingSubject_tags subject)
+const char* nameOfItem(ZelDataFindingSubject_tags subject)
 {
     switch (subject) {
     case ZelDataFindingSubject_Caption:
@@ -61,164 +75,150 @@ std::string nameOfItem(ZelDataFindingSubject_tags subject)
 }
 
 /// Times of captions are in milliseconds, all others in ticks of the frame rate.
-std::string timeOf(const ZelDataFinding& finding, long long time)
+const char* unitOf(const ZelDataFinding& finding)
 {
-    return number(time) + (finding.subject == ZelDataFindingSubject_Caption ? " ms" : "");
+    return finding.subject == ZelDataFindingSubject_Caption ? " ms" : "";
 }
 
-std::string placeOf(const ZelDataFinding& finding)
+// Each of the following functions appends a part of the description of a finding.
+
+Sentence& place(Sentence& sentence, const ZelDataFinding& finding)
 {
     const bool isInHeader = finding.subject == ZelDataFindingSubject_Header;
     if (finding.item == ZelDataFinding::noItem || isInHeader)
-        return nameOfCollection(finding.subject);
-    return joined({nameOfItem(finding.subject), ZelDataUtilities::getValueString(finding.item),
-                   " at ", timeOf(finding, finding.start)});
+        return sentence << nameOfCollection(finding.subject);
+    return sentence << nameOfItem(finding.subject) << finding.item << " at " << finding.start
+                    << unitOf(finding);
 }
 
-std::string laterItemOf(const ZelDataFinding& finding)
+Sentence& laterItem(Sentence& sentence, const ZelDataFinding& finding)
 {
-    return nameOfItem(finding.subject) + ZelDataUtilities::getValueString(finding.laterItem);
+    return sentence << nameOfItem(finding.subject) << finding.laterItem;
 }
 
-std::string outOfRange(const std::string& what, const ZelDataFinding& finding)
+template <class Number>
+Sentence& outOfRange(Sentence& sentence, Number value, long long limit)
 {
-    const bool below = finding.value < finding.limit;
-    return joined({what, " out of range (", number(finding.value),
-                   below ? ", at least " : ", at most ", number(finding.limit), ")"});
+    const bool below = value < static_cast<Number>(limit);
+    return sentence << " out of range (" << value << (below ? ", at least " : ", at most ") << limit
+                    << ")";
 }
 
-std::string colorOutOfRange(const ZelDataFinding& finding)
+Sentence& shortDuration(Sentence& sentence, const char* what, const ZelDataFinding& finding)
 {
-    const bool below = finding.component < static_cast<float>(finding.limit);
-    return joined({finding.property, " out of range (",
-                   ZelDataUtilities::getValueString(finding.component),
-                   below ? ", at least " : ", at most ", number(finding.limit), ")"});
+    return sentence << what << " (" << finding.value << unitOf(finding) << ", at least "
+                    << finding.limit << unitOf(finding) << ")";
 }
 
-std::string shortDuration(const std::string& what, const ZelDataFinding& finding)
+Sentence& badText(Sentence& sentence, const ZelDataFinding& finding)
 {
-    return joined({what, " (", timeOf(finding, finding.value), ", at least ",
-                   timeOf(finding, finding.limit), ")"});
+    sentence << "the text";
+    if (finding.subject != ZelDataFindingSubject_ScreenText)
+        sentence << " in " << Language{finding.language};
+    return sentence << " is not UTF-8";
 }
 
-std::string badText(const ZelDataFinding& finding)
+Sentence& overlap(Sentence& sentence, const ZelDataFinding& finding)
 {
-    std::string text = "the text";
-    if (finding.subject != ZelDataFindingSubject_ScreenText) text += " in " + languageOf(finding);
-    return text + " is not UTF-8";
+    sentence << "overlap: it ends at " << finding.value << unitOf(finding) << ", ";
+    return laterItem(sentence, finding) << " starts at " << finding.laterStart << unitOf(finding);
 }
 
-std::string tooManyLines(const ZelDataFinding& finding)
+Sentence& outOfOrder(Sentence& sentence, const ZelDataFinding& finding)
 {
-    return joined({"too many lines in ", languageOf(finding), " (", number(finding.value),
-                   ", at most ", number(finding.limit), ")"});
-}
-
-std::string overlap(const ZelDataFinding& finding)
-{
-    return joined({"overlap: it ends at ", timeOf(finding, finding.value), ", ",
-                   laterItemOf(finding), " starts at ", timeOf(finding, finding.laterStart)});
-}
-
-std::string outOfOrder(const ZelDataFinding& finding)
-{
-    return joined({"out of order: ", laterItemOf(finding), " starts before it, at ",
-                   timeOf(finding, finding.laterStart)});
+    return laterItem(sentence << "out of order: ", finding)
+           << " starts before it, at " << finding.laterStart << unitOf(finding);
 }
 
 /// The field that @p finding is about: "the title", "keyword 2", "the text in en".
-std::string fieldOf(const ZelDataFinding& finding)
+Sentence& field(Sentence& sentence, const ZelDataFinding& finding)
 {
     const bool isListed =
         finding.subject == ZelDataFindingSubject_Header && finding.item != ZelDataFinding::noItem;
-    if (isListed)
-        return joined({finding.property, " ", ZelDataUtilities::getValueString(finding.item)});
+    if (isListed) return sentence << finding.property << " " << finding.item;
+    sentence << "the " << finding.property;
+    if (finding.language.empty()) return sentence;
     const bool isLanguage = finding.property == "language";
-    std::string field = "the " + finding.property;
-    if (!finding.language.empty()) field += (isLanguage ? " " : " in ") + languageOf(finding);
-    return field;
+    return sentence << (isLanguage ? " " : " in ") << Language{finding.language};
 }
 
 /// A fault in the field that @p finding is about.
-std::string fault(const ZelDataFinding& finding, const char* what)
+Sentence& fault(Sentence& sentence, const ZelDataFinding& finding, const char* what)
 {
-    return joined({fieldOf(finding), what, " at byte ", number(finding.value)});
+    return field(sentence, finding) << what << " at byte " << finding.value;
 }
 
-std::string entryMissing(const ZelDataFinding& finding)
+Sentence& entryMissing(Sentence& sentence, const ZelDataFinding& finding)
 {
-    const std::string known =
-        joined({"no entry ", number(finding.value), " in the table of contents, "});
-    if (finding.limit < 0) return known + "which has none";
-    return known + "the last is " + number(finding.limit);
+    sentence << "no entry " << finding.value << " in the table of contents, ";
+    if (finding.limit < 0) return sentence << "which has none";
+    return sentence << "the last is " << finding.limit;
 }
 
-std::string notMilliseconds(const ZelDataFinding& finding)
-{
-    return joined({"times are not milliseconds (frame rate ", number(finding.value), ", not ",
-                   number(finding.limit), ")"});
-}
-
-std::string reasonOf(const ZelDataFinding& finding)
+Sentence& reason(Sentence& sentence, const ZelDataFinding& finding)
 {
     switch (finding.kind) {
     case ZelDataFinding_FrameRateOutOfRange:
-        return outOfRange("frame rate", finding);
+        return outOfRange(sentence << "frame rate", finding.value, finding.limit);
     case ZelDataFinding_FontFamilyMissing:
-        return "the font family is empty";
+        return sentence << "the font family is empty";
     case ZelDataFinding_FontSizeOutOfRange:
-        return outOfRange("font size", finding);
+        return outOfRange(sentence << "font size", finding.value, finding.limit);
     case ZelDataFinding_ColorOutOfRange:
-        return colorOutOfRange(finding);
+        return outOfRange(sentence << finding.property, finding.component, finding.limit);
     case ZelDataFinding_NoDuration:
-        return shortDuration("no duration", finding);
+        return shortDuration(sentence, "no duration", finding);
     case ZelDataFinding_TooShort:
-        return shortDuration("too short", finding);
+        return shortDuration(sentence, "too short", finding);
     case ZelDataFinding_BadText:
-        return badText(finding);
+        return badText(sentence, finding);
     case ZelDataFinding_BadLanguage:
-        return joined({"the language ", languageOf(finding), " is not known"});
+        return sentence << "the language " << Language{finding.language} << " is not known";
     case ZelDataFinding_TooManyLines:
-        return tooManyLines(finding);
+        return sentence << "too many lines in " << Language{finding.language} << " ("
+                        << finding.value << ", at most " << finding.limit << ")";
     case ZelDataFinding_MissingText:
-        return "no text in " + languageOf(finding);
+        return sentence << "no text in " << Language{finding.language};
     case ZelDataFinding_Overlap:
-        return overlap(finding);
+        return overlap(sentence, finding);
     case ZelDataFinding_OutOfOrder:
-        return outOfOrder(finding);
+        return outOfOrder(sentence, finding);
     case ZelDataFinding_HeaderMissing:
-        return "no header";
+        return sentence << "no header";
     case ZelDataFinding_SizeMissing:
-        return "no " + finding.property;
+        return sentence << "no " << finding.property;
     case ZelDataFinding_ListedTwice:
-        return fieldOf(finding) + " is listed before";
+        return field(sentence, finding) << " is listed before";
     case ZelDataFinding_NotEscaped:
-        return fault(finding, " has an unescaped \", & or <");
+        return fault(sentence, finding, " has an unescaped \", & or <");
     case ZelDataFinding_ControlCharacter:
-        return fault(finding, " has a control character");
+        return fault(sentence, finding, " has a control character");
     case ZelDataFinding_NotStrictUtf8:
-        return fault(finding, " is not strict UTF-8");
+        return fault(sentence, finding, " is not strict UTF-8");
     case ZelDataFinding_ForbiddenCharacter:
-        return fault(finding, " has U+FFFE or U+FFFF");
+        return fault(sentence, finding, " has U+FFFE or U+FFFF");
     case ZelDataFinding_NoItems:
-        return "no items, so no track";
+        return sentence << "no items, so no track";
     case ZelDataFinding_NoText:
-        return "no text in any language";
+        return sentence << "no text in any language";
     case ZelDataFinding_EmptyText:
-        return joined({"the text in ", languageOf(finding), " is empty"});
+        return sentence << "the text in " << Language{finding.language} << " is empty";
     case ZelDataFinding_EntryMissing:
-        return entryMissing(finding);
+        return entryMissing(sentence, finding);
     case ZelDataFinding_NotMilliseconds:
-        return notMilliseconds(finding);
+        return sentence << "times are not milliseconds (frame rate " << finding.value << ", not "
+                        << finding.limit << ")";
     }
-    return "unknown finding";
+    return sentence << "unknown finding";
 }
 
 } // namespace
 
 std::string describe(const ZelDataFinding& finding)
 {
-    return placeOf(finding) + ": " + reasonOf(finding);
+    Sentence sentence;
+    reason(place(sentence, finding) << ": ", finding);
+    return std::move(sentence.text);
 }
 
 } // namespace ZelInterchangeData
