@@ -224,6 +224,14 @@ typedef struct zeldata_toc_item zeldata_toc_item;
 typedef struct zeldata_screen_text zeldata_screen_text;
 /// See i_ZelDataScreenTextItem.
 typedef struct zeldata_screen_text_item zeldata_screen_text_item;
+/// See i_ZelDataHeaderFormatter.
+typedef struct zeldata_header_formatter zeldata_header_formatter;
+/// See i_ZelDataCaptionFormatter.
+typedef struct zeldata_caption_formatter zeldata_caption_formatter;
+/// See i_ZelDataTocFormatter.
+typedef struct zeldata_toc_formatter zeldata_toc_formatter;
+/// See i_ZelDataScreenTextFormatter.
+typedef struct zeldata_screen_text_formatter zeldata_screen_text_formatter;
 /// @}
 
 /// @name Results
@@ -1023,6 +1031,105 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_item_get_group_id(
 /// group. See i_ZelDataScreenTextItem::copyFrom().
 ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_item_copy_from(
     zeldata_screen_text_item* screen_text_item, const zeldata_screen_text_item* source);
+/// @}
+
+/// @name Header formatters
+/// @{
+
+/// Stores a new formatter without a header in `*out`.
+ZELINTERCHANGEDATA_API uint32_t zeldata_header_formatter_create(zeldata_header_formatter** out,
+                                                                uint32_t format);
+/// Destroys the object; null is allowed.
+ZELINTERCHANGEDATA_API void
+zeldata_header_formatter_destroy(zeldata_header_formatter* header_formatter);
+/// The code of the most recent operation that stored one. Leaves the last message as it is.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_header_formatter_get_last_error(const zeldata_header_formatter* header_formatter);
+/// Stores @p code as the last error.
+ZELINTERCHANGEDATA_API uint32_t zeldata_header_formatter_set_last_error(
+    const zeldata_header_formatter* header_formatter, uint32_t code);
+/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
+/// i_ZelDataHeaderFormatter.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
+                                      zeldata_string* out, uint32_t format, int32_t flag);
+/// Replaces the held copy with a copy of @p header. See i_ZelDataHeaderFormatter::setHeader().
+ZELINTERCHANGEDATA_API uint32_t zeldata_header_formatter_set_header(
+    zeldata_header_formatter* header_formatter, const zeldata_header* header);
+/// @}
+
+/// @name Caption formatters
+/// @{
+
+/// Stores a new formatter without captions in `*out`.
+ZELINTERCHANGEDATA_API uint32_t zeldata_caption_formatter_create(zeldata_caption_formatter** out,
+                                                                 uint32_t format);
+/// Destroys the object; null is allowed.
+ZELINTERCHANGEDATA_API void
+zeldata_caption_formatter_destroy(zeldata_caption_formatter* caption_formatter);
+/// The code of the most recent operation that stored one. Leaves the last message as it is.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_caption_formatter_get_last_error(const zeldata_caption_formatter* caption_formatter);
+/// Stores @p code as the last error.
+ZELINTERCHANGEDATA_API uint32_t zeldata_caption_formatter_set_last_error(
+    const zeldata_caption_formatter* caption_formatter, uint32_t code);
+/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
+/// i_ZelDataCaptionFormatter.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
+                                       zeldata_string* out, uint32_t format, int32_t flag);
+/// Replaces the held copy with a copy of @p captions. See i_ZelDataCaptionFormatter::setCaptions().
+ZELINTERCHANGEDATA_API uint32_t zeldata_caption_formatter_set_captions(
+    zeldata_caption_formatter* caption_formatter, const zeldata_captions* captions);
+/// @}
+
+/// @name Formatters of tables of contents
+/// @{
+
+/// Stores a new formatter without a table of contents in `*out`.
+ZELINTERCHANGEDATA_API uint32_t zeldata_toc_formatter_create(zeldata_toc_formatter** out,
+                                                             uint32_t format);
+/// Destroys the object; null is allowed.
+ZELINTERCHANGEDATA_API void zeldata_toc_formatter_destroy(zeldata_toc_formatter* toc_formatter);
+/// The code of the most recent operation that stored one. Leaves the last message as it is.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_toc_formatter_get_last_error(const zeldata_toc_formatter* toc_formatter);
+/// Stores @p code as the last error.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_toc_formatter_set_last_error(const zeldata_toc_formatter* toc_formatter, uint32_t code);
+/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
+/// i_ZelDataTocFormatter.
+ZELINTERCHANGEDATA_API uint32_t zeldata_toc_formatter_write_string(
+    const zeldata_toc_formatter* toc_formatter, zeldata_string* out, uint32_t format, int32_t flag);
+/// Replaces the held copy with a copy of @p toc. See i_ZelDataTocFormatter::setToc().
+ZELINTERCHANGEDATA_API uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
+                                                              const zeldata_toc* toc);
+/// @}
+
+/// @name Screen text formatters
+/// @{
+
+/// Stores a new formatter without screen text in `*out`.
+ZELINTERCHANGEDATA_API uint32_t
+zeldata_screen_text_formatter_create(zeldata_screen_text_formatter** out, uint32_t format);
+/// Destroys the object; null is allowed.
+ZELINTERCHANGEDATA_API void
+zeldata_screen_text_formatter_destroy(zeldata_screen_text_formatter* screen_text_formatter);
+/// The code of the most recent operation that stored one. Leaves the last message as it is.
+ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_get_last_error(
+    const zeldata_screen_text_formatter* screen_text_formatter);
+/// Stores @p code as the last error.
+ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_set_last_error(
+    const zeldata_screen_text_formatter* screen_text_formatter, uint32_t code);
+/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
+/// i_ZelDataScreenTextFormatter.
+ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_write_string(
+    const zeldata_screen_text_formatter* screen_text_formatter, zeldata_string* out,
+    uint32_t format, int32_t flag);
+/// Replaces the held copy with a copy of @p screen_text. See
+/// i_ZelDataScreenTextFormatter::setScreenText().
+ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_set_screen_text(
+    zeldata_screen_text_formatter* screen_text_formatter, const zeldata_screen_text* screen_text);
 /// @}
 
 /// @name Findings

@@ -7,13 +7,17 @@
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "captions/ZelDataCaptionItem.h"
 #include "captions/ZelDataCaptions.h"
+#include "captions/ZelDataXmpCaptionFormatter.h"
 #include "core/ZelDataCore.h"
 #include "header/ZelDataHeader.h"
+#include "header/ZelDataXmpHeaderFormatter.h"
 #include "screentext/ZelDataScreenText.h"
 #include "screentext/ZelDataScreenTextItem.h"
+#include "screentext/ZelDataXmpScreenTextFormatter.h"
 #include "sets/Factory.h"
 #include "toc/ZelDataToc.h"
 #include "toc/ZelDataTocItem.h"
+#include "toc/ZelDataXmpTocFormatter.h"
 
 #include <cstring>
 #include <exception>
@@ -21,6 +25,7 @@
 #include <initializer_list>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <tuple>
 #include <type_traits>
@@ -58,42 +63,42 @@ struct Value : i_ZelDataResult {
 };
 
 /// Keeps the message of a call that failed, and returns its code.
-[[gnu::noinline]] std::uint32_t keep(Handle& handle, const char* name, Code code,
+[[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
                                      std::initializer_list<ZelDataArgument> arguments,
                                      int systemError = 0) noexcept
 {
-    handle.message = ZelDataMessages::orNothing([&] {
+    if (handle == nullptr) return code;
+    handle->message = ZelDataMessages::orNothing([&] {
         const std::string reason =
             systemError == 0 ? "" : std::system_category().message(systemError);
         const ZelDataCall call = {name, code, arguments};
         return ZelDataError(code, name, call.shownArguments(), reason).what();
     });
-    handle.shown = handle.message.empty() ? describe(code) : handle.message.c_str();
+    handle->shown = handle->message.empty() ? describe(code) : handle->message.c_str();
     return code;
 }
 /// @}
 
 /// @name Arguments
+/// An operation gets passed() for what C passes, and a message shows shown(). If the operation
+/// succeeded, store() stores its result.
 /// @{
 
-/// No operation can take an argument.
+/// No operation can take the argument.
 struct Unusable : std::exception {};
 
-void require(bool isUsable)
+[[noreturn]] void refuse()
 {
-    if (!isUsable) throw Unusable();
+    throw Unusable();
 }
 
-/// As keep() for a call that ended with an exception: all others mean that memory ran out.
-[[gnu::noinline]] std::uint32_t keep(Handle& handle, const char* name,
-                                     const std::exception& exception) noexcept
+/// All other exceptions mean that memory ran out.
+[[gnu::noinline]] Code caughtCode(const std::exception& exception) noexcept
 {
     const bool isUnusable = dynamic_cast<const Unusable*>(&exception) != nullptr;
-    return keep(handle, name, isUnusable ? ZelData_InvalidArgument : ZelData_OutOfMemory, {});
+    return isUnusable ? ZelData_InvalidArgument : ZelData_OutOfMemory;
 }
 
-/// What an operation gets for what C passes: the operation gets passed(), a message shows shown(), and
-/// store() stores the result of an operation that succeeded.
 struct HiddenArgument {
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
@@ -104,16 +109,16 @@ struct Argument : HiddenArgument {
     explicit Argument(Given given) : value(static_cast<Parameter>(given))
     {
         if constexpr (sizeof(Parameter) < sizeof(Given) && !std::is_same_v<Parameter, bool>)
-            require(static_cast<Given>(value) == given);
+            if (static_cast<Given>(value) != given) refuse();
     }
     Parameter passed() const { return value; }
     auto shown() const
     {
-        if constexpr (std::is_pointer_v<Parameter> ||
-                      !std::is_constructible_v<ZelDataArgument, Parameter>)
-            return HiddenArgument::shown();
-        else
+        constexpr bool isShown = std::is_constructible_v<ZelDataArgument, Parameter>;
+        if constexpr (isShown && !std::is_pointer_v<Parameter>)
             return ZelDataArgument(value);
+        else
+            return HiddenArgument::shown();
     }
 
     Parameter value;
@@ -124,24 +129,43 @@ struct Text {
     std::size_t length;
 };
 
+std::string_view viewOf(Text text)
+{
+    if (text.begin == nullptr) refuse();
+    return {text.begin, text.length == ZELDATA_TERMINATED ? std::strlen(text.begin) : text.length};
+}
+
 template <class Parameter>
 struct Argument<Parameter, Text> : HiddenArgument {
-    explicit Argument(Text given) : value(given.begin, lengthOf(given)) {}
-    static std::size_t lengthOf(Text given)
-    {
-        require(given.begin != nullptr);
-        return given.length == ZELDATA_TERMINATED ? std::strlen(given.begin) : given.length;
-    }
+    explicit Argument(Text given) : value(viewOf(given)) {}
     Parameter passed() { return value; }
     ZelDataArgument shown() const { return ZelDataArgument(value); }
 
     std::string value;
 };
 
+/// A text of which the operation needs no string.
+template <>
+struct Argument<std::string_view, Text> : HiddenArgument {
+    explicit Argument(Text given) : value(viewOf(given)) {}
+    std::string_view passed() const { return value; }
+    ZelDataArgument shown()
+    {
+        copy = ZelDataMessages::orNothing([&] { return std::string(value); });
+        return ZelDataArgument(copy);
+    }
+
+    std::string_view value;
+    std::string copy;
+};
+
 /// A number that the operation stores.
 template <class Result, class Given>
 struct Argument<Result&, Given*> : HiddenArgument {
-    explicit Argument(Given* given) : target(given) { require(given != nullptr); }
+    explicit Argument(Given* given) : target(given)
+    {
+        if (given == nullptr) refuse();
+    }
     Result& passed() { return value; }
     void store() const { *target = static_cast<Given>(value); }
 
@@ -151,20 +175,16 @@ struct Argument<Result&, Given*> : HiddenArgument {
 
 template <class Target>
 struct Argument<Target&, Handle*> : HiddenArgument {
-    explicit Argument(Handle* given) : handle(given) { require(given != nullptr); }
+    explicit Argument(Handle* given) : handle(given)
+    {
+        if (given == nullptr) refuse();
+    }
     Target& passed() const
     {
         if constexpr (std::is_base_of_v<i_ZelDataResult, Target>)
             return static_cast<Target&>(*handle->object);
         else
             return static_cast<Value<std::remove_const_t<Target>>&>(*handle->object).value;
-    }
-    ZelDataArgument shown() const
-    {
-        if constexpr (std::is_same_v<Target, const Texts>)
-            return ZelDataArgument(passed());
-        else
-            return HiddenArgument::shown();
     }
 
     Handle* handle;
@@ -177,73 +197,134 @@ struct Argument<Target&, Handle*> : HiddenArgument {
 template <class... Types>
 struct List {
 };
+template <class... Parameters>
+List<Parameters...> parametersOf(Code (*operation)(Parameters...));
+template <class Object, class... Parameters>
+List<Parameters...> parametersOf(Code (Object::*operation)(Parameters...));
+template <class Object, class... Parameters>
+List<Parameters...> parametersOf(Code (Object::*operation)(Parameters...) const);
 
-/// Calls @p operation, a function or a member function of the object, with what C passes for the
-/// @p Parameters.
+/// Calls @p operation, a function or a member function of the object, with what C passes for its
+/// parameters. Operations with the same parameters share an instance.
 template <class Operation, class... Parameters, class... Given>
 [[gnu::noinline]] std::uint32_t perform(Handle* handle, const char* name, Operation operation,
                                         List<Parameters...> /*types*/, Given... given)
 {
-    if (handle == nullptr) return ZelData_InvalidArgument;
-    handle->shown = "";
+    if (handle != nullptr) handle->shown = "";
     const auto invoke = [&](auto&&... argument) -> std::uint32_t {
         Code code;
-        if constexpr (std::is_member_pointer_v<Operation>)
+        if constexpr (std::is_member_pointer_v<Operation>) {
+            if (handle == nullptr) refuse();
             code = (handle->object->*operation)(argument.passed()...);
-        else
+        } else {
             code = operation(argument.passed()...);
-        if (failed(code)) return keep(*handle, name, code, {argument.shown()...});
+        }
+        if (failed(code)) return keep(handle, name, code, {argument.shown()...});
         (argument.store(), ...);
         return code;
     };
     try {
         return invoke(Argument<Parameters, Given>(given)...);
     } catch (const std::exception& exception) {
-        return keep(*handle, name, exception);
+        return keep(handle, name, caughtCode(exception), {});
     }
 }
 
-/// All handles are passed on as the same type, so that operations with the same parameters share code.
+/// What is passed on for an argument: the type is the same for all handles, and for the operations of
+/// all objects.
 template <class Given>
-auto passedOn(Given given)
+auto erased(Given given)
 {
     if constexpr (std::is_convertible_v<Given, const Handle*>)
         return const_cast<Handle*>(static_cast<const Handle*>(given));
     else
         return given;
 }
-
-template <class Object, class... Parameters, class... Given>
-std::uint32_t call(const Handle* handle, const char* name, Code (Object::*operation)(Parameters...),
-                   Given... given)
+template <class Object, class Function>
+auto erased(Function Object::*operation)
 {
-    return perform(passedOn(handle), name,
-                   static_cast<Code (i_ZelDataResult::*)(Parameters...)>(operation),
-                   List<Parameters...>(), passedOn(given)...);
+    return static_cast<Function i_ZelDataResult::*>(operation);
 }
 
-template <class Object, class... Parameters, class... Given>
-std::uint32_t call(const Handle* handle, const char* name,
-                   Code (Object::*operation)(Parameters...) const, Given... given)
+template <class Operation, class... Given>
+std::uint32_t call(const Handle* handle, const char* name, Operation operation, Given... given)
 {
-    return perform(passedOn(handle), name,
-                   static_cast<Code (i_ZelDataResult::*)(Parameters...) const>(operation),
-                   List<Parameters...>(), passedOn(given)...);
+    return perform(erased(handle), name, erased(operation), decltype(parametersOf(operation))(),
+                   erased(given)...);
 }
 
-template <class... Parameters, class... Given>
-std::uint32_t call(const Handle* handle, const char* name, Code (*operation)(Parameters...),
-                   Given... given)
+/// The same without a handle and a message.
+template <class Operation, class... Given>
+std::uint32_t run(Operation operation, Given... given)
 {
-    return perform(passedOn(handle), name, operation, List<Parameters...>(), passedOn(given)...);
+    return call(nullptr, "", operation, given...);
 }
+/// @}
 
-/// The same without a handle, and without a message.
-template <class... Parameters, class... Given>
-std::uint32_t run(Code (*operation)(Parameters...), Given... given)
+/// @name Objects that are none in C++
+/// @{
+
+struct String : Value<std::string> {
+    Code set(const std::string& text)
+    {
+        value = text;
+        return ZelData_Ok;
+    }
+    Code copy(char* buffer, std::size_t capacity, std::size_t* needed) const
+    {
+        if (needed == nullptr) return ZelData_InvalidArgument;
+        *needed = value.size() + 1;
+        if (buffer == nullptr || capacity < *needed) return ZelData_InvalidArgument;
+        std::memcpy(buffer, value.c_str(), *needed);
+        return ZelData_Ok;
+    }
+};
+
+template <class Element>
+struct Elements : Value<std::vector<Element>> {
+    Code clear()
+    {
+        this->value.clear();
+        return ZelData_Ok;
+    }
+    Code add(const Element& element)
+    {
+        this->value.push_back(element);
+        return ZelData_Ok;
+    }
+    Code getCount(unsigned long& count) const
+    {
+        count = static_cast<unsigned long>(this->value.size());
+        return ZelData_Ok;
+    }
+    /// Stores what @p part, a member or a function, is or returns for the element.
+    template <auto part, class Out>
+    Code get(unsigned long index, Out& out) const
+    {
+        if (index >= this->value.size()) return ZelData_InvalidArgument;
+        const Element& element = this->value[index];
+        if constexpr (std::is_class_v<Out>)
+            out = std::invoke(part, element);
+        else
+            out = static_cast<Out>(std::invoke(part, element));
+        return ZelData_Ok;
+    }
+};
+using Strings = Elements<std::string>;
+using FindingList = Elements<ZelDataFinding>;
+
+const std::string& itself(const std::string& text)
 {
-    Handle none;
-    return call(&none, "", operation, given...);
+    return text;
+}
+std::string description(const ZelDataFinding& finding)
+{
+    return describe(finding);
+}
+template <auto item>
+std::uint64_t indexOf(const ZelDataFinding& finding)
+{
+    return finding.*item == ZelDataFinding::noItem ? ZELDATA_NO_ITEM : finding.*item;
 }
 /// @}
 
@@ -307,67 +388,17 @@ Code textFor(const i_ZelDataResult& item, const std::string& languageID, std::st
     return static_cast<const Item&>(item).getTextForLanguage(text, languageID);
 }
 
-/// What @p make returns, stored in an argument.
-template <class Result, class Given, Result (*make)(Given)>
-Code stored(Given given, Result& result)
+/// Stores the text that @p make returns.
+template <class Given, std::string (*make)(Given)>
+Code made(Given given, std::string& text)
 {
-    result = make(given);
+    make(given).swap(text);
     return ZelData_Ok;
-}
-template <std::string (*make)(const std::string&)>
-constexpr auto changed = stored<std::string, const std::string&, make>;
-
-/// A value of a finding.
-template <auto value, class Out>
-Code valueOf(std::uint64_t index, const Findings& findings, Out& out)
-{
-    if (index >= findings.size()) return ZelData_InvalidArgument;
-    out = static_cast<Out>(std::invoke(value, findings[static_cast<std::size_t>(index)]));
-    return ZelData_Ok;
-}
-template <auto item>
-std::uint64_t indexOf(const ZelDataFinding& finding)
-{
-    return finding.*item == ZelDataFinding::noItem ? ZELDATA_NO_ITEM : finding.*item;
-}
-std::string description(const ZelDataFinding& finding)
-{
-    return describe(finding);
 }
 
-Code assign(std::string& target, std::string& text)
+Code linesOf(const std::string& text, unsigned long& count)
 {
-    target.swap(text);
-    return ZelData_Ok;
-}
-Code copyInto(const std::string& text, char* buffer, std::size_t capacity, std::size_t* needed)
-{
-    if (needed == nullptr) return ZelData_InvalidArgument;
-    *needed = text.size() + 1;
-    if (buffer == nullptr || capacity < *needed) return ZelData_InvalidArgument;
-    std::memcpy(buffer, text.c_str(), *needed);
-    return ZelData_Ok;
-}
-Code add(Texts& texts, const std::string& text)
-{
-    texts.push_back(text);
-    return ZelData_Ok;
-}
-Code clear(Texts& texts)
-{
-    texts.clear();
-    return ZelData_Ok;
-}
-template <class List>
-Code countOf(List& list, std::uint64_t& count)
-{
-    count = list.size();
-    return ZelData_Ok;
-}
-Code textAt(std::uint64_t index, Texts& texts, std::string& text)
-{
-    if (index >= texts.size()) return ZelData_InvalidArgument;
-    text = texts[static_cast<std::size_t>(index)];
+    count = ZelDataUtilities::countLinesInUTF8(text);
     return ZelData_Ok;
 }
 
@@ -377,11 +408,10 @@ Code replaceFileWith(const i_ZelInterchangeDataCore& document, const std::string
     if (systemError == nullptr) return ZelData_InvalidArgument;
     return replaceFile(document, path, *systemError, format);
 }
-void keepSystemError(const Handle& handle, const char* path, std::size_t length, int error)
+void keepSystemError(const Handle* handle, const char* path, std::size_t length, int error)
 {
     Argument<const std::string&, Text> shown(Text{path, length});
-    keep(const_cast<Handle&>(handle), "replaceFile", ZelData_FileOpenFailed, {shown.shown()},
-         error);
+    keep(erased(handle), "replaceFile", ZelData_FileOpenFailed, {shown.shown()}, error);
 }
 
 std::string dateOf(long seconds)
@@ -390,7 +420,7 @@ std::string dateOf(long seconds)
 }
 Code dateOfNow(std::string& date)
 {
-    date = ZelDataUtilities::getDateString(nullptr);
+    ZelDataUtilities::getDateString(nullptr).swap(date);
     return ZelData_Ok;
 }
 
@@ -411,9 +441,9 @@ std::uint32_t lastError(const Handle* handle)
 
 } // namespace
 
-struct zeldata_string : Of<Value<std::string>> {};
-struct zeldata_strings : Of<Value<Texts>> {};
-struct zeldata_findings : Of<Value<Findings>> {};
+struct zeldata_string : Of<String> {};
+struct zeldata_strings : Of<Strings> {};
+struct zeldata_findings : Of<FindingList> {};
 struct zeldata_document : Of<ZelDataCore> {};
 struct zeldata_header : Of<ZelDataHeader> {};
 struct zeldata_captions : Of<ZelDataCaptions> {};
@@ -422,6 +452,10 @@ struct zeldata_toc : Of<ZelDataToc> {};
 struct zeldata_toc_item : Of<ZelDataTocItem> {};
 struct zeldata_screen_text : Of<ZelDataScreenText> {};
 struct zeldata_screen_text_item : Of<ZelDataScreenTextItem> {};
+struct zeldata_header_formatter : Of<ZelDataXmpHeaderFormatter> {};
+struct zeldata_caption_formatter : Of<ZelDataXmpCaptionFormatter> {};
+struct zeldata_toc_formatter : Of<ZelDataXmpTocFormatter> {};
+struct zeldata_screen_text_formatter : Of<ZelDataXmpScreenTextFormatter> {};
 
 // Results.
 
@@ -470,7 +504,7 @@ void zeldata_string_destroy(zeldata_string* string)
 
 std::uint32_t zeldata_string_set(zeldata_string* string, const char* text, std::size_t text_length)
 {
-    return call(string, "set", assign, string, Text{text, text_length});
+    return call(string, "set", &String::set, Text{text, text_length});
 }
 
 const char* zeldata_string_get_data(const zeldata_string* string)
@@ -486,7 +520,7 @@ std::size_t zeldata_string_get_size(const zeldata_string* string)
 std::uint32_t zeldata_string_copy(const zeldata_string* string, char* buffer, std::size_t capacity,
                                   std::size_t* needed)
 {
-    return call(string, "copy", copyInto, string, buffer, capacity, needed);
+    return call(string, "copy", &String::copy, buffer, capacity, needed);
 }
 
 // Lists of texts.
@@ -503,24 +537,24 @@ void zeldata_strings_destroy(zeldata_strings* strings)
 
 std::uint32_t zeldata_strings_clear(zeldata_strings* strings)
 {
-    return call(strings, "clear", clear, strings);
+    return call(strings, "clear", &Strings::clear);
 }
 
 std::uint32_t zeldata_strings_add(zeldata_strings* strings, const char* text,
                                   std::size_t text_length)
 {
-    return call(strings, "add", add, strings, Text{text, text_length});
+    return call(strings, "add", &Strings::add, Text{text, text_length});
 }
 
 std::uint32_t zeldata_strings_get_count(const zeldata_strings* strings, std::uint64_t* count)
 {
-    return call(strings, "getCount", countOf<Texts>, strings, count);
+    return call(strings, "getCount", &Strings::getCount, count);
 }
 
 std::uint32_t zeldata_strings_get(const zeldata_strings* strings, std::uint64_t index,
                                   zeldata_string* text)
 {
-    return call(strings, "get", textAt, index, strings, text);
+    return call(strings, "get", &Strings::get<itself, std::string>, index, text);
 }
 
 // Documents.
@@ -641,7 +675,7 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
     const std::uint32_t code = call(document, "replaceFile", replaceFileWith, document,
                                     Text{path, path_length}, format, system_error);
     if (failed(static_cast<Code>(code)) && system_error != nullptr && *system_error != 0)
-        keepSystemError(*document, path, path_length, *system_error);
+        keepSystemError(document, path, path_length, *system_error);
     return code;
 }
 
@@ -1194,7 +1228,7 @@ std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* c
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call(caption_item, "setTextForLanguage", &i_ZelDataCaptionItem::setTextForLanguage,
+    return call(caption_item, "setTextForLanguage", &ZelDataCaptionItem::setCharacters,
                 Text{text, text_length}, Text{language_id, language_id_length});
 }
 
@@ -1479,7 +1513,7 @@ std::uint32_t zeldata_toc_item_set_text_for_language(zeldata_toc_item* toc_item,
                                                      const char* language_id,
                                                      std::size_t language_id_length)
 {
-    return call(toc_item, "setTextForLanguage", &i_ZelDataTocItem::setTextForLanguage,
+    return call(toc_item, "setTextForLanguage", &ZelDataTocItem::setCharacters,
                 Text{text, text_length}, Text{language_id, language_id_length});
 }
 
@@ -1692,7 +1726,7 @@ std::uint32_t zeldata_screen_text_item_clear_text(zeldata_screen_text_item* scre
 std::uint32_t zeldata_screen_text_item_set_text(zeldata_screen_text_item* screen_text_item,
                                                 const char* text, std::size_t text_length)
 {
-    return call(screen_text_item, "setText", &i_ZelDataScreenTextItem::setText,
+    return call(screen_text_item, "setText", &ZelDataScreenTextItem::setCharacters,
                 Text{text, text_length});
 }
 
@@ -1800,6 +1834,165 @@ std::uint32_t zeldata_screen_text_item_copy_from(zeldata_screen_text_item* scree
     return call(screen_text_item, "copyFrom", copyFrom<i_ZelDataScreenTextItem>, source);
 }
 
+// Header formatters.
+
+std::uint32_t zeldata_header_formatter_create(zeldata_header_formatter** out, std::uint32_t format)
+{
+    return createFormatter<zeldata_header_formatter>(out,
+                                                     static_cast<ZelDataFormatType_tags>(format));
+}
+
+void zeldata_header_formatter_destroy(zeldata_header_formatter* header_formatter)
+{
+    delete header_formatter;
+}
+
+std::uint32_t
+zeldata_header_formatter_get_last_error(const zeldata_header_formatter* header_formatter)
+{
+    return lastError(header_formatter);
+}
+
+std::uint32_t
+zeldata_header_formatter_set_last_error(const zeldata_header_formatter* header_formatter,
+                                        std::uint32_t code)
+{
+    return setLastError(header_formatter, code);
+}
+
+std::uint32_t
+zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
+                                      zeldata_string* out, std::uint32_t format, std::int32_t flag)
+{
+    return call(header_formatter, "writeString", writeString, header_formatter, out, format, flag);
+}
+
+std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* header_formatter,
+                                                  const zeldata_header* header)
+{
+    return call(header_formatter, "setHeader", &i_ZelDataHeaderFormatter::setHeader, header);
+}
+
+// Caption formatters.
+
+std::uint32_t zeldata_caption_formatter_create(zeldata_caption_formatter** out,
+                                               std::uint32_t format)
+{
+    return createFormatter<zeldata_caption_formatter>(out,
+                                                      static_cast<ZelDataFormatType_tags>(format));
+}
+
+void zeldata_caption_formatter_destroy(zeldata_caption_formatter* caption_formatter)
+{
+    delete caption_formatter;
+}
+
+std::uint32_t
+zeldata_caption_formatter_get_last_error(const zeldata_caption_formatter* caption_formatter)
+{
+    return lastError(caption_formatter);
+}
+
+std::uint32_t
+zeldata_caption_formatter_set_last_error(const zeldata_caption_formatter* caption_formatter,
+                                         std::uint32_t code)
+{
+    return setLastError(caption_formatter, code);
+}
+
+std::uint32_t
+zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
+                                       zeldata_string* out, std::uint32_t format, std::int32_t flag)
+{
+    return call(caption_formatter, "writeString", writeString, caption_formatter, out, format,
+                flag);
+}
+
+std::uint32_t zeldata_caption_formatter_set_captions(zeldata_caption_formatter* caption_formatter,
+                                                     const zeldata_captions* captions)
+{
+    return call(caption_formatter, "setCaptions", &i_ZelDataCaptionFormatter::setCaptions,
+                captions);
+}
+
+// Formatters of tables of contents.
+
+std::uint32_t zeldata_toc_formatter_create(zeldata_toc_formatter** out, std::uint32_t format)
+{
+    return createFormatter<zeldata_toc_formatter>(out, static_cast<ZelDataFormatType_tags>(format));
+}
+
+void zeldata_toc_formatter_destroy(zeldata_toc_formatter* toc_formatter)
+{
+    delete toc_formatter;
+}
+
+std::uint32_t zeldata_toc_formatter_get_last_error(const zeldata_toc_formatter* toc_formatter)
+{
+    return lastError(toc_formatter);
+}
+
+std::uint32_t zeldata_toc_formatter_set_last_error(const zeldata_toc_formatter* toc_formatter,
+                                                   std::uint32_t code)
+{
+    return setLastError(toc_formatter, code);
+}
+
+std::uint32_t zeldata_toc_formatter_write_string(const zeldata_toc_formatter* toc_formatter,
+                                                 zeldata_string* out, std::uint32_t format,
+                                                 std::int32_t flag)
+{
+    return call(toc_formatter, "writeString", writeString, toc_formatter, out, format, flag);
+}
+
+std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
+                                            const zeldata_toc* toc)
+{
+    return call(toc_formatter, "setToc", &i_ZelDataTocFormatter::setToc, toc);
+}
+
+// Screen text formatters.
+
+std::uint32_t zeldata_screen_text_formatter_create(zeldata_screen_text_formatter** out,
+                                                   std::uint32_t format)
+{
+    return createFormatter<zeldata_screen_text_formatter>(
+        out, static_cast<ZelDataFormatType_tags>(format));
+}
+
+void zeldata_screen_text_formatter_destroy(zeldata_screen_text_formatter* screen_text_formatter)
+{
+    delete screen_text_formatter;
+}
+
+std::uint32_t zeldata_screen_text_formatter_get_last_error(
+    const zeldata_screen_text_formatter* screen_text_formatter)
+{
+    return lastError(screen_text_formatter);
+}
+
+std::uint32_t zeldata_screen_text_formatter_set_last_error(
+    const zeldata_screen_text_formatter* screen_text_formatter, std::uint32_t code)
+{
+    return setLastError(screen_text_formatter, code);
+}
+
+std::uint32_t zeldata_screen_text_formatter_write_string(
+    const zeldata_screen_text_formatter* screen_text_formatter, zeldata_string* out,
+    std::uint32_t format, std::int32_t flag)
+{
+    return call(screen_text_formatter, "writeString", writeString, screen_text_formatter, out,
+                format, flag);
+}
+
+std::uint32_t
+zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* screen_text_formatter,
+                                              const zeldata_screen_text* screen_text)
+{
+    return call(screen_text_formatter, "setScreenText",
+                &i_ZelDataScreenTextFormatter::setScreenText, screen_text);
+}
+
 // Findings.
 
 std::uint32_t zeldata_findings_create(zeldata_findings** out)
@@ -1814,103 +2007,104 @@ void zeldata_findings_destroy(zeldata_findings* findings)
 
 std::uint32_t zeldata_findings_get_count(const zeldata_findings* findings, std::uint64_t* count)
 {
-    return call(findings, "getCount", countOf<Findings>, findings, count);
+    return call(findings, "getCount", &FindingList::getCount, count);
 }
 
 std::uint32_t zeldata_findings_get_kind(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* kind)
 {
-    return call(findings, "kind", valueOf<&ZelDataFinding::kind, std::uint32_t>, index, findings,
+    return call(findings, "kind", &FindingList::get<&ZelDataFinding::kind, std::uint32_t>, index,
                 kind);
 }
 
 std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std::uint64_t index,
                                            std::uint32_t* subject)
 {
-    return call(findings, "subject", valueOf<&ZelDataFinding::subject, std::uint32_t>, index,
-                findings, subject);
+    return call(findings, "subject", &FindingList::get<&ZelDataFinding::subject, std::uint32_t>,
+                index, subject);
 }
 
 std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
                                               std::uint64_t* item)
 {
-    return call(findings, "item", valueOf<indexOf<&ZelDataFinding::item>, std::uint64_t>, index,
-                findings, item);
+    return call(findings, "item", &FindingList::get<indexOf<&ZelDataFinding::item>, std::uint64_t>,
+                index, item);
 }
 
 std::uint32_t zeldata_findings_get_start(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* start)
 {
-    return call(findings, "start", valueOf<&ZelDataFinding::start, std::int64_t>, index, findings,
+    return call(findings, "start", &FindingList::get<&ZelDataFinding::start, std::int64_t>, index,
                 start);
 }
 
 std::uint32_t zeldata_findings_get_language(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* language)
 {
-    return call(findings, "language", valueOf<&ZelDataFinding::language, std::string>, index,
-                findings, language);
+    return call(findings, "language", &FindingList::get<&ZelDataFinding::language, std::string>,
+                index, language);
 }
 
 std::uint32_t zeldata_findings_get_property(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* property)
 {
-    return call(findings, "property", valueOf<&ZelDataFinding::property, std::string>, index,
-                findings, property);
+    return call(findings, "property", &FindingList::get<&ZelDataFinding::property, std::string>,
+                index, property);
 }
 
 std::uint32_t zeldata_findings_get_component(const zeldata_findings* findings, std::uint64_t index,
                                              float* component)
 {
-    return call(findings, "component", valueOf<&ZelDataFinding::component, float>, index, findings,
+    return call(findings, "component", &FindingList::get<&ZelDataFinding::component, float>, index,
                 component);
 }
 
 std::uint32_t zeldata_findings_get_value(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* value)
 {
-    return call(findings, "value", valueOf<&ZelDataFinding::value, std::int64_t>, index, findings,
+    return call(findings, "value", &FindingList::get<&ZelDataFinding::value, std::int64_t>, index,
                 value);
 }
 
 std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* limit)
 {
-    return call(findings, "limit", valueOf<&ZelDataFinding::limit, std::int64_t>, index, findings,
+    return call(findings, "limit", &FindingList::get<&ZelDataFinding::limit, std::int64_t>, index,
                 limit);
 }
 
 std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
                                                     std::uint64_t index, std::uint64_t* later_item)
 {
-    return call(findings, "laterItem", valueOf<indexOf<&ZelDataFinding::laterItem>, std::uint64_t>,
-                index, findings, later_item);
+    return call(findings, "laterItem",
+                &FindingList::get<indexOf<&ZelDataFinding::laterItem>, std::uint64_t>, index,
+                later_item);
 }
 
 std::uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                std::uint64_t index, std::int64_t* later_start)
 {
-    return call(findings, "laterStart", valueOf<&ZelDataFinding::laterStart, std::int64_t>, index,
-                findings, later_start);
+    return call(findings, "laterStart",
+                &FindingList::get<&ZelDataFinding::laterStart, std::int64_t>, index, later_start);
 }
 
 std::uint32_t zeldata_findings_get_severity(const zeldata_findings* findings, std::uint64_t index,
                                             std::uint32_t* severity)
 {
-    return call(findings, "severityOf", valueOf<severityOf, std::uint32_t>, index, findings,
+    return call(findings, "severityOf", &FindingList::get<severityOf, std::uint32_t>, index,
                 severity);
 }
 
 std::uint32_t zeldata_findings_get_code(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* code)
 {
-    return call(findings, "codeOf", valueOf<codeOf, std::uint32_t>, index, findings, code);
+    return call(findings, "codeOf", &FindingList::get<codeOf, std::uint32_t>, index, code);
 }
 
 std::uint32_t zeldata_findings_describe(const zeldata_findings* findings, std::uint64_t index,
                                         zeldata_string* text)
 {
-    return call(findings, "describe", valueOf<description, std::string>, index, findings, text);
+    return call(findings, "describe", &FindingList::get<description, std::string>, index, text);
 }
 
 const char* zeldata_finding_to_string(std::uint32_t kind)
@@ -1948,68 +2142,66 @@ std::uint32_t zeldata_verify_utf8_format(const char* text, std::size_t text_leng
 std::uint32_t zeldata_count_lines_in_utf8(const char* text, std::size_t text_length,
                                           std::uint64_t* count)
 {
-    return run(stored<unsigned long, const std::string&, &ZelDataUtilities::countLinesInUTF8>,
-               Text{text, text_length}, count);
+    return run(linesOf, Text{text, text_length}, count);
 }
 
 std::uint32_t zeldata_strip_unsupported_characters(const char* text, std::size_t text_length,
                                                    zeldata_string* result)
 {
-    return run(changed<&ZelDataUtilities::stripUnsupportedCharacters>, Text{text, text_length},
-               result);
+    return run(made<const std::string&, &ZelDataUtilities::stripUnsupportedCharacters>,
+               Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_to_text(const char* text, std::size_t text_length,
                                         zeldata_string* result)
 {
-    return run(changed<&ZelDataUtilities::htmlTagsToText>, Text{text, text_length}, result);
+    return run(made<const std::string&, &ZelDataUtilities::htmlTagsToText>, Text{text, text_length},
+               result);
 }
 
 std::uint32_t zeldata_html_tags_from_text(const char* text, std::size_t text_length,
                                           zeldata_string* result)
 {
-    return run(changed<&ZelDataUtilities::htmlTagsFromText>, Text{text, text_length}, result);
+    return run(made<const std::string&, &ZelDataUtilities::htmlTagsFromText>,
+               Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_get_vertical_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return run(stored<std::string, ZelAlignment_tags, &ZelDataUtilities::getVerticalAlignment>,
-               alignment, result);
+    return run(made<ZelAlignment_tags, &ZelDataUtilities::getVerticalAlignment>, alignment, result);
 }
 
 std::uint32_t zeldata_get_horizontal_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return run(stored<std::string, ZelAlignment_tags, &ZelDataUtilities::getHorizontalAlignment>,
-               alignment, result);
+    return run(made<ZelAlignment_tags, &ZelDataUtilities::getHorizontalAlignment>, alignment,
+               result);
 }
 
 // Texts of values.
 
 std::uint32_t zeldata_get_value_string_float(float value, zeldata_string* result)
 {
-    return run(stored<std::string, float, &ZelDataUtilities::getValueString>, value, result);
+    return run(made<float, &ZelDataUtilities::getValueString>, value, result);
 }
 
 std::uint32_t zeldata_get_value_string_uint64(std::uint64_t value, zeldata_string* result)
 {
-    return run(stored<std::string, unsigned long long, &ZelDataUtilities::getValueString>, value,
-               result);
+    return run(made<unsigned long long, &ZelDataUtilities::getValueString>, value, result);
 }
 
 std::uint32_t zeldata_get_rate_string(std::uint64_t rate, zeldata_string* result)
 {
-    return run(stored<std::string, unsigned long, &ZelDataUtilities::getRateString>, rate, result);
+    return run(made<unsigned long, &ZelDataUtilities::getRateString>, rate, result);
 }
 
 std::uint32_t zeldata_get_version_string(std::uint64_t version, zeldata_string* result)
 {
-    return run(stored<std::string, unsigned long, &ZelDataUtilities::getVersionString>, version,
-               result);
+    return run(made<unsigned long, &ZelDataUtilities::getVersionString>, version, result);
 }
 
 std::uint32_t zeldata_get_date_string(std::int64_t seconds, zeldata_string* date)
 {
-    return run(stored<std::string, long, dateOf>, seconds, date);
+    return run(made<long, dateOf>, seconds, date);
 }
 
 std::uint32_t zeldata_get_date_string_now(zeldata_string* date)
@@ -2019,5 +2211,5 @@ std::uint32_t zeldata_get_date_string_now(zeldata_string* date)
 
 std::uint32_t zeldata_get_value_string_int64(std::int64_t value, zeldata_string* result)
 {
-    return run(stored<std::string, long, &getValueString>, value, result);
+    return run(made<long, &getValueString>, value, result);
 }

@@ -49,6 +49,12 @@ ZelDataResult_tags ZelDataCaptionItem::clearText()
 ZelDataResult_tags ZelDataCaptionItem::setTextForLanguage(const std::string& text,
                                                           const std::string& languageID)
 {
+    return setCharacters(text, languageID);
+}
+
+ZelDataResult_tags ZelDataCaptionItem::setCharacters(std::string_view text,
+                                                     std::string_view languageID)
+{
     const auto checked = LanguageTexts::check(text, languageID);
     if (failed(checked)) return store(checked);
     return store(state_.changeTexts().set(text, languageID));

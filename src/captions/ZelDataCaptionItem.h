@@ -9,6 +9,7 @@
 #include "sets/TextSummary.h"
 #include "util/TimeSpan.h"
 
+#include <string_view>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -62,6 +63,8 @@ public:
     ZelDataResult_tags getDuration(long long& duration) const override;
     ZelDataResult_tags getAlignment(ZelAlignment_tags& alignment) const override;
 
+    /// As setTextForLanguage().
+    ZelDataResult_tags setCharacters(std::string_view text, std::string_view languageID);
     const CaptionState& state() const noexcept { return state_; }
     /// The code with which a copy of this item ends; leaves the last error that its
     /// getters would.

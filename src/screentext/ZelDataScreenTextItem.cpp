@@ -34,7 +34,12 @@ ZelDataResult_tags ZelDataScreenTextItem::clearText()
 
 ZelDataResult_tags ZelDataScreenTextItem::setText(const std::string& text)
 {
-    if (failed(ZelDataUtilities::verifyUtf8Format(text, false))) return store(ZelData_InvalidItem);
+    return setCharacters(text);
+}
+
+ZelDataResult_tags ZelDataScreenTextItem::setCharacters(std::string_view text)
+{
+    if (failed(verifyUtf8(text, false))) return store(ZelData_InvalidItem);
     return store(guarded([&] {
         state_.setText(text);
         return ZelData_Ok;

@@ -87,6 +87,8 @@ public:
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
     ZelDataResult_tags getGroupId(unsigned long& id) const override;
 
+    /// As setText().
+    ZelDataResult_tags setCharacters(std::string_view text);
     const ScreenTextState& state() const noexcept { return state_; }
     /// The code with which a copy of this item ends; leaves the last error that its
     /// getters would.

@@ -15,13 +15,13 @@ constexpr std::size_t mostPackedBytes = 8192;
 
 } // namespace
 
-ZelDataResult_tags LanguageTexts::check(const std::string& text, const std::string& languageID)
+ZelDataResult_tags LanguageTexts::check(std::string_view text, std::string_view languageID)
 {
     constexpr std::size_t codeLength = 2; // the code of a language is ASCII
-    const bool valid = isLanguage(languageID) &&
-                       (languageID.size() == codeLength ||
-                        !failed(ZelDataUtilities::verifyUtf8Format(languageID, false))) &&
-                       !failed(ZelDataUtilities::verifyUtf8Format(text, false));
+    const bool valid =
+        isLanguage(languageID) &&
+        (languageID.size() == codeLength || !failed(verifyUtf8(languageID, false))) &&
+        !failed(verifyUtf8(text, false));
     return valid ? ZelData_Ok : ZelData_InvalidItem;
 }
 

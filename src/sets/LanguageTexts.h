@@ -27,7 +27,7 @@ class LanguageTexts {
 public:
     /// #ZelData_Ok if both are UTF-8 and the language is in the catalogue, otherwise
     /// #ZelData_InvalidItem.
-    static ZelDataResult_tags check(const std::string& text, const std::string& languageID);
+    static ZelDataResult_tags check(std::string_view text, std::string_view languageID);
 
     std::size_t count() const noexcept;
     /// The approximate number of bytes that all texts and their language IDs take in a packet.

@@ -37,6 +37,11 @@ ZelDataResult_tags ZelDataTocItem::clearText()
 ZelDataResult_tags ZelDataTocItem::setTextForLanguage(const std::string& text,
                                                       const std::string& languageID)
 {
+    return setCharacters(text, languageID);
+}
+
+ZelDataResult_tags ZelDataTocItem::setCharacters(std::string_view text, std::string_view languageID)
+{
     const auto checked = LanguageTexts::check(text, languageID);
     if (failed(checked)) return store(checked);
     return store(guarded([&] { return state_.changeTexts().set(text, languageID); }));

@@ -9,6 +9,7 @@
 #include "sets/TextSummary.h"
 #include "util/SharedText.h"
 
+#include <string_view>
 #include <utility>
 
 namespace ZelInterchangeData {
@@ -69,6 +70,8 @@ public:
     ZelDataResult_tags getImageIndex(unsigned long& index) const override;
     ZelDataResult_tags getImageOffset(unsigned long long& offset) const override;
 
+    /// As setTextForLanguage().
+    ZelDataResult_tags setCharacters(std::string_view text, std::string_view languageID);
     const TocEntryState& state() const noexcept { return state_; }
     /// The code with which a copy of this entry ends; leaves the last error that its
     /// getters would.

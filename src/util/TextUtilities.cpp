@@ -267,6 +267,11 @@ constexpr bool has(ZelAlignment_tags alignment, ZelAlignment_tags flag) noexcept
 
 ZelDataResult_tags ZelDataUtilities::verifyUtf8Format(const std::string& text, bool bmpOnly)
 {
+    return verifyUtf8(text, bmpOnly);
+}
+
+ZelDataResult_tags verifyUtf8(std::string_view text, bool bmpOnly)
+{
     // For a valid text, this is faster than looking for the first error.
     if (!bmpOnly && isWellFormed(text)) return ZelData_Ok;
     const char* position = text.data();

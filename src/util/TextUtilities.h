@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_UTIL_TEXTUTILITIES_H
 
 #include "ZelInterchangeData/ZelAlignment_tags.h"
+#include "ZelInterchangeData/ZelDataResult_tags.h"
 #include "util/TextBlock.h"
 
 #include <cstddef>
@@ -12,6 +13,9 @@
 #include <string_view>
 
 namespace ZelInterchangeData {
+
+/// What ZelDataUtilities::verifyUtf8Format() returns for the bytes of @p text.
+ZelDataResult_tags verifyUtf8(std::string_view text, bool bmpOnly);
 
 /// The approximate size of @p text with its entities: exact for a long text, otherwise the length
 /// of @p text itself.
