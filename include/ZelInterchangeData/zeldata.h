@@ -9,11 +9,10 @@
 /// - **Ownership**: a function with `_create` in its name or `_get_item` at its end stores a handle in
 ///   `*out`, which must be null before; the handle is yours until you pass it to the `_destroy` of its
 ///   type. Nothing else is yours to destroy, and the library keeps none of your pointers.
-/// - **Texts** that you pass are a pointer and a number of bytes; with #ZELDATA_TERMINATED as the
-///   number, the text ends before its first zero byte. Texts that you get are stored in a
+/// - **Texts** that you pass are a pointer and a number of bytes, at most 2147483647; with
+///   #ZELDATA_TERMINATED as the number, the text ends before its first zero byte. Texts that you get are stored in a
 ///   zeldata_string that you created; zeldata_string_copy() copies one into a buffer of yours.
-/// - **Results** are the codes below; zeldata_last_message() says in words why a call failed. A
-///   getter leaves its argument unchanged if it fails, with two exceptions: the target of a
+/// - **Results** are the codes below; zeldata_last_message() says in words what failed. A getter leaves its argument unchanged if it fails, with two exceptions: the target of a
 ///   document's zeldata_document_get_header() (`_captions`, `_toc`, `_screen_text`) is incomplete if
 ///   copying fails, and the display names of languages are those that were found.
 /// - #ZELDATA_INVALID_ARGUMENT, for every function that returns a code: a handle or a pointer is
@@ -237,8 +236,8 @@ typedef struct zeldata_screen_text_formatter zeldata_screen_text_formatter;
 /// @name Results
 /// @{
 
-/// What the last call through @p handle, a handle of any type above, reported: a message if it
-/// failed, otherwise "". For a null handle, the meaning of #ZELDATA_INVALID_ARGUMENT: a `_create` or
+/// What the last call through @p handle, a handle of any type above, reported: if it failed, the C++
+/// operation, its arguments and what the code means, otherwise "". For a null handle, the meaning of #ZELDATA_INVALID_ARGUMENT: a `_create` or
 /// a function without a handle keeps no message; pass its code to zeldata_result_describe(). Never
 /// null; valid until the next call with the handle. If memory ran out, the message is that of
 /// zeldata_result_describe().

@@ -19,6 +19,7 @@
 #include "toc/ZelDataTocItem.h"
 #include "toc/ZelDataXmpTocFormatter.h"
 
+#include <cstdint>
 #include <cstring>
 #include <exception>
 #include <functional>
@@ -132,7 +133,9 @@ struct Text {
 std::string_view viewOf(Text text)
 {
     if (text.begin == nullptr) refuse();
-    return {text.begin, text.length == ZELDATA_TERMINATED ? std::strlen(text.begin) : text.length};
+    if (text.length == ZELDATA_TERMINATED) return text.begin;
+    if (text.length > INT32_MAX) refuse();
+    return {text.begin, text.length};
 }
 
 template <class Parameter>
