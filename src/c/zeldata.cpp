@@ -264,74 +264,7 @@ std::uint32_t run(Operation operation, Given... given)
 }
 /// @}
 
-/// @name Objects that are none in C++
-/// @{
-
-struct String : Value<std::string> {
-    Code set(const std::string& text)
-    {
-        value = text;
-        return ZelData_Ok;
-    }
-    Code copy(char* buffer, std::size_t capacity, std::size_t* needed) const
-    {
-        if (needed == nullptr) return ZelData_InvalidArgument;
-        *needed = value.size() + 1;
-        if (buffer == nullptr || capacity < *needed) return ZelData_InvalidArgument;
-        std::memcpy(buffer, value.c_str(), *needed);
-        return ZelData_Ok;
-    }
-};
-
-template <class Element>
-struct Elements : Value<std::vector<Element>> {
-    Code clear()
-    {
-        this->value.clear();
-        return ZelData_Ok;
-    }
-    Code add(const Element& element)
-    {
-        this->value.push_back(element);
-        return ZelData_Ok;
-    }
-    Code getCount(unsigned long& count) const
-    {
-        count = static_cast<unsigned long>(this->value.size());
-        return ZelData_Ok;
-    }
-    /// Stores what @p part, a member or a function, is or returns for the element.
-    template <auto part, class Out>
-    Code get(unsigned long index, Out& out) const
-    {
-        if (index >= this->value.size()) return ZelData_InvalidArgument;
-        const Element& element = this->value[index];
-        if constexpr (std::is_class_v<Out>)
-            out = std::invoke(part, element);
-        else
-            out = static_cast<Out>(std::invoke(part, element));
-        return ZelData_Ok;
-    }
-};
-using Strings = Elements<std::string>;
-using FindingList = Elements<ZelDataFinding>;
-
-const std::string& itself(const std::string& text)
-{
-    return text;
-}
-std::string description(const ZelDataFinding& finding)
-{
-    return describe(finding);
-}
-template <auto item>
-std::uint64_t indexOf(const ZelDataFinding& finding)
-{
-    return finding.*item == ZelDataFinding::noItem ? ZELDATA_NO_ITEM : finding.*item;
-}
-/// @}
-
-/// @name Operations that C++ does not have, or offers in another form
+/// @name Operations that C++ offers in another form
 /// @{
 
 template <class Made>
@@ -363,18 +296,6 @@ Code copied(unsigned long index, i_ZelDataResult& collection, void* place)
     return code;
 }
 
-Code writeString(const i_ZelDataFormatterBase& formatter, std::string& out,
-                 ZelDataFormatType_tags format, std::int32_t append)
-{
-    return formatter.writeString(out, format, append != 0);
-}
-
-Code writeFile(const i_ZelDataFormatterBase& formatter, const std::string& path,
-               ZelDataFormatType_tags format, std::int32_t flag)
-{
-    return formatter.writeFile(path, format, flag != 0);
-}
-
 template <class Interface>
 constexpr Code (Interface::*copyFrom)(const Interface&) = &Interface::copyFrom;
 
@@ -389,42 +310,6 @@ template <class Item>
 Code textFor(const i_ZelDataResult& item, const std::string& languageID, std::string& text)
 {
     return static_cast<const Item&>(item).getTextForLanguage(text, languageID);
-}
-
-/// Stores the text that @p make returns.
-template <class Given, std::string (*make)(Given)>
-Code made(Given given, std::string& text)
-{
-    make(given).swap(text);
-    return ZelData_Ok;
-}
-
-Code linesOf(const std::string& text, unsigned long& count)
-{
-    count = ZelDataUtilities::countLinesInUTF8(text);
-    return ZelData_Ok;
-}
-
-Code replaceFileWith(const i_ZelInterchangeDataCore& document, const std::string& path,
-                     ZelDataFormatType_tags format, std::int32_t* systemError)
-{
-    if (systemError == nullptr) return ZelData_InvalidArgument;
-    return replaceFile(document, path, *systemError, format);
-}
-void keepSystemError(const Handle* handle, const char* path, std::size_t length, int error)
-{
-    Argument<const std::string&, Text> shown(Text{path, length});
-    keep(erased(handle), "replaceFile", ZelData_FileOpenFailed, {shown.shown()}, error);
-}
-
-std::string dateOf(long seconds)
-{
-    return ZelDataUtilities::getDateString(&seconds);
-}
-Code dateOfNow(std::string& date)
-{
-    ZelDataUtilities::getDateString(nullptr).swap(date);
-    return ZelData_Ok;
 }
 
 Code storeLastError(const i_ZelDataResult& object, ZelDataResult_tags code)
@@ -444,9 +329,6 @@ std::uint32_t lastError(const Handle* handle)
 
 } // namespace
 
-struct zeldata_string : Of<String> {};
-struct zeldata_strings : Of<Strings> {};
-struct zeldata_findings : Of<FindingList> {};
 struct zeldata_document : Of<ZelDataCore> {};
 struct zeldata_header : Of<ZelDataHeader> {};
 struct zeldata_captions : Of<ZelDataCaptions> {};
@@ -495,6 +377,28 @@ std::int32_t zeldata_library_version()
 
 // Texts.
 
+namespace {
+
+struct String : Value<std::string> {
+    Code set(const std::string& text)
+    {
+        value = text;
+        return ZelData_Ok;
+    }
+    Code copy(char* buffer, std::size_t capacity, std::size_t* needed) const
+    {
+        if (needed == nullptr) return ZelData_InvalidArgument;
+        *needed = value.size() + 1;
+        if (buffer == nullptr || capacity < *needed) return ZelData_InvalidArgument;
+        std::memcpy(buffer, value.c_str(), *needed);
+        return ZelData_Ok;
+    }
+};
+
+} // namespace
+
+struct zeldata_string : Of<String> {};
+
 std::uint32_t zeldata_string_create(zeldata_string** out)
 {
     return createObject<zeldata_string>(out);
@@ -527,6 +431,49 @@ std::uint32_t zeldata_string_copy(const zeldata_string* string, char* buffer, st
 }
 
 // Lists of texts.
+
+namespace {
+
+template <class Element>
+struct Elements : Value<std::vector<Element>> {
+    Code clear()
+    {
+        this->value.clear();
+        return ZelData_Ok;
+    }
+    Code add(const Element& element)
+    {
+        this->value.push_back(element);
+        return ZelData_Ok;
+    }
+    Code getCount(unsigned long& count) const
+    {
+        count = static_cast<unsigned long>(this->value.size());
+        return ZelData_Ok;
+    }
+    /// Stores what @p part, a member or a function, is or returns for the element.
+    template <auto part, class Out>
+    Code get(unsigned long index, Out& out) const
+    {
+        if (index >= this->value.size()) return ZelData_InvalidArgument;
+        const Element& element = this->value[index];
+        if constexpr (std::is_class_v<Out>)
+            out = std::invoke(part, element);
+        else
+            out = static_cast<Out>(std::invoke(part, element));
+        return ZelData_Ok;
+    }
+};
+using Strings = Elements<std::string>;
+
+const std::string& itself(const std::string& text)
+{
+    return text;
+}
+
+} // namespace
+
+struct zeldata_strings : Of<Strings> {};
 
 std::uint32_t zeldata_strings_create(zeldata_strings** out)
 {
@@ -561,6 +508,36 @@ std::uint32_t zeldata_strings_get(const zeldata_strings* strings, std::uint64_t 
 }
 
 // Documents.
+
+namespace {
+
+Code writeString(const i_ZelDataFormatterBase& formatter, std::string& out,
+                 ZelDataFormatType_tags format, std::int32_t append)
+{
+    return formatter.writeString(out, format, append != 0);
+}
+
+Code writeFile(const i_ZelDataFormatterBase& formatter, const std::string& path,
+               ZelDataFormatType_tags format, std::int32_t flag)
+{
+    return formatter.writeFile(path, format, flag != 0);
+}
+
+Code replaceFileWith(const i_ZelInterchangeDataCore& document, const std::string& path,
+                     ZelDataFormatType_tags format, std::int32_t* systemError)
+{
+    if (systemError == nullptr) return ZelData_InvalidArgument;
+    return replaceFile(document, path, *systemError, format);
+}
+
+/// Keeps the system's reason instead of the meaning of @p code.
+void keepSystemError(const Handle* document, std::uint32_t code, Text path, int systemError)
+{
+    Argument<std::string_view, Text> shown(path);
+    keep(erased(document), "replaceFile", static_cast<Code>(code), {shown.shown()}, systemError);
+}
+
+} // namespace
 
 std::uint32_t zeldata_document_create(zeldata_document** out)
 {
@@ -678,7 +655,7 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
     const std::uint32_t code = call(document, "replaceFile", replaceFileWith, document,
                                     Text{path, path_length}, format, system_error);
     if (failed(static_cast<Code>(code)) && system_error != nullptr && *system_error != 0)
-        keepSystemError(document, path, path_length, *system_error);
+        keepSystemError(document, code, Text{path, path_length}, *system_error);
     return code;
 }
 
@@ -1998,6 +1975,24 @@ zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* scr
 
 // Findings.
 
+namespace {
+
+using FindingList = Elements<ZelDataFinding>;
+
+std::string description(const ZelDataFinding& finding)
+{
+    return describe(finding);
+}
+template <auto item>
+std::uint64_t indexOf(const ZelDataFinding& finding)
+{
+    return finding.*item == ZelDataFinding::noItem ? ZELDATA_NO_ITEM : finding.*item;
+}
+
+} // namespace
+
+struct zeldata_findings : Of<FindingList> {};
+
 std::uint32_t zeldata_findings_create(zeldata_findings** out)
 {
     return createObject<zeldata_findings>(out);
@@ -2136,6 +2131,24 @@ std::uint32_t zeldata_is_valid_language(const char* id, std::size_t id_length)
 
 // Text helpers.
 
+namespace {
+
+/// Stores the text that @p make returns.
+template <class Given, std::string (*make)(Given)>
+Code made(Given given, std::string& text)
+{
+    make(given).swap(text);
+    return ZelData_Ok;
+}
+
+Code linesOf(const std::string& text, unsigned long& count)
+{
+    count = ZelDataUtilities::countLinesInUTF8(text);
+    return ZelData_Ok;
+}
+
+} // namespace
+
 std::uint32_t zeldata_verify_utf8_format(const char* text, std::size_t text_length,
                                          std::int32_t bmp_only)
 {
@@ -2181,6 +2194,20 @@ std::uint32_t zeldata_get_horizontal_alignment(std::uint32_t alignment, zeldata_
 }
 
 // Texts of values.
+
+namespace {
+
+std::string dateOf(long seconds)
+{
+    return ZelDataUtilities::getDateString(&seconds);
+}
+Code dateOfNow(std::string& date)
+{
+    ZelDataUtilities::getDateString(nullptr).swap(date);
+    return ZelData_Ok;
+}
+
+} // namespace
 
 std::uint32_t zeldata_get_value_string_float(float value, zeldata_string* result)
 {

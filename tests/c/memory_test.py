@@ -35,6 +35,16 @@ def outcome(function, granted, prepare=lambda world: None):
     return code, message, PRELOADED.failing_new_alive() - before
 
 
+def fill(world):
+    """Gives the document everything that it can write."""
+    header = world.handles["zeldata_header"]
+    for size in ("length", "width", "height"):
+        getattr(header, f"set_video_{size}")(100)
+    document = world.handles["zeldata_document"]
+    for kind in ("header", "captions", "toc", "screen_text"):
+        getattr(document, f"set_{kind}")(world.handles[f"zeldata_{kind}"])
+
+
 class Memory(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()  # for the files that are written
@@ -69,17 +79,18 @@ class Memory(unittest.TestCase):
         self.assertGreater(swept, 80)
 
     def test_so_does_the_writing_of_a_whole_document(self):
-        def fill(world):
-            header = world.handles["zeldata_header"]
-            for size in ("length", "width", "height"):
-                getattr(header, f"set_video_{size}")(100)
-            document = world.handles["zeldata_document"]
-            for kind in ("header", "captions", "toc", "screen_text"):
-                getattr(document, f"set_{kind}")(world.handles[f"zeldata_{kind}"])
         for function in of_code():
             if function["name"].startswith("zeldata_document_"):
                 with self.subTest(function["name"]):
                     self.sweep(function, fill)
+
+    def test_so_does_the_message_of_a_file_that_cannot_be_written(self):
+        os.rmdir(os.getcwd())
+        function = next(one for one in of_code() if one["name"] == "zeldata_document_replace_file")
+        code, message, _ = outcome(function, -1, fill)
+        self.assertEqual(CODES[code], "ZELDATA_FILE_OPEN_FAILED")
+        self.assertIn("No such file or directory", message)
+        self.assertGreater(self.sweep(function, fill), 10)
 
     def test_a_failure_without_memory_for_its_message_has_the_meaning_of_its_code(self):
         function = next(one for one in of_code() if one["name"] == "zeldata_header_is_valid")
