@@ -69,7 +69,7 @@ struct Value : i_ZelDataResult {
                                      int systemError = 0) noexcept
 {
     if (handle == nullptr) return code;
-    handle->message = ZelDataMessages::orNothing([&] {
+    handle->message = ZelDataMessages::orNothing([&]() -> std::string {
         const std::string reason =
             systemError == 0 ? "" : std::system_category().message(systemError);
         const ZelDataCall call = {name, code, arguments};
