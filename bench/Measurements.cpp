@@ -3,6 +3,7 @@
 
 #include "bench/Measurements.h"
 
+#include "bench/CFaceRun.h"
 #include "bench/LibraryRun.h"
 #include "bench/Peers.h"
 #include "bench/StraightAppender.h"
@@ -133,7 +134,7 @@ double peerTurn(std::size_t repeats, Write&& writeOnce)
     });
 }
 
-using Round = std::array<double, 8>;
+using Round = std::array<double, 10>;
 
 Round measureRound(const Document& document, const Document& written, std::size_t repeats)
 {
@@ -143,6 +144,8 @@ Round measureRound(const Document& document, const Document& written, std::size_
         own[1],
         own[2],
         own[3],
+        peerTurn(repeats, [&] { return fillFromCharacters(document).captions ? 1U : 0U; }),
+        peerTurn(repeats, [&] { return fillThroughC(document); }),
         peerTurn(repeats, [&] { return appendPacket(written).size(); }),
         peerTurn(repeats, [&] { return writeWithPugixml(written, nullptr); }),
         peerTurn(repeats, [&] { return writeWithTinyxml2(written, nullptr); }),
@@ -240,12 +243,12 @@ Case measureCase(std::size_t size, Order order, Pair pair, const Effort& effort)
     const std::size_t repeats = repeatsOf(size, effort);
     Case result{size, order, pair, 0, {}, {}, {}};
     measureHeap(result, document, written); // also warms everything up
-    Samples<8> samples;
+    Samples<10> samples;
     for (int round = 0; round < roundsOf(size, effort); ++round)
         samples.add(measureRound(document, written, repeats));
     const Round medians = samples.medians();
-    result.times = {medians[0], medians[1], medians[2], medians[3],
-                    medians[4], medians[5], medians[6], medians[7]};
+    result.times = {medians[0], medians[1], medians[2], medians[3], medians[4],
+                    medians[5], medians[6], medians[7], medians[8], medians[9]};
     if (size == coldSize) result.cold = measureCold(document, written, effort);
     return result;
 }

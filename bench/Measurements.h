@@ -30,6 +30,8 @@ struct Times {
     double set = 0;
     double write = 0;
     double release = 0;
+    double fillFromCharacters = 0; // with the release, as fillThroughC
+    double fillThroughC = 0;
     double appender = 0;
     double pugixml = 0;
     double tinyxml2 = 0;
