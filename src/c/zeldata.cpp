@@ -66,12 +66,10 @@ struct Value : i_ZelDataResult {
 /// Keeps the message of a call that failed, and returns its code.
 [[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
                                      std::initializer_list<ZelDataArgument> arguments,
-                                     int systemError = 0) noexcept
+                                     std::string_view reason = {}) noexcept
 {
     if (handle == nullptr) return code;
     handle->message = ZelDataMessages::orNothing([&]() -> std::string {
-        const std::string reason =
-            systemError == 0 ? "" : std::system_category().message(systemError);
         const ZelDataCall call = {name, code, arguments};
         return ZelDataError(code, name, call.shownArguments(), reason).what();
     });
@@ -534,7 +532,9 @@ Code replaceFileWith(const i_ZelInterchangeDataCore& document, const std::string
 void keepSystemError(const Handle* document, std::uint32_t code, Text path, int systemError)
 {
     Argument<std::string_view, Text> shown(path);
-    keep(erased(document), "replaceFile", static_cast<Code>(code), {shown.shown()}, systemError);
+    const std::string reason =
+        ZelDataMessages::orNothing([&] { return std::system_category().message(systemError); });
+    keep(erased(document), "replaceFile", static_cast<Code>(code), {shown.shown()}, reason);
 }
 
 } // namespace
