@@ -30,6 +30,7 @@
 #include <system_error>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 using namespace ZelInterchangeData;
@@ -57,11 +58,9 @@ struct Of : Handle {
     Object own;
 };
 
-/// What is no object in C++.
+/// The object for what is none in C++.
 template <class Type>
-struct Value : i_ZelDataResult {
-    Type value;
-};
+struct Value;
 
 /// Keeps the message of a call that failed, and returns its code.
 [[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
@@ -287,10 +286,10 @@ Code copied(unsigned long index, i_ZelDataResult& collection, void* place)
     Item* item = nullptr;
     Code code = (static_cast<Collection&>(collection).*getter)(&item, index);
     const std::unique_ptr<Item> owner(item);
+    if (!failed(code)) code = createObject<Made>(out);
     if (failed(code)) return code;
-    auto made = std::make_unique<Made>();
-    code = made->own.copyFrom(*item);
-    if (!failed(code)) *out = made.release();
+    code = (*out)->own.copyFrom(*item);
+    if (failed(code)) delete std::exchange(*out, nullptr);
     return code;
 }
 
@@ -377,7 +376,8 @@ std::int32_t zeldata_library_version()
 
 namespace {
 
-struct String : Value<std::string> {
+template <>
+struct Value<std::string> : i_ZelDataResult {
     Code set(const std::string& text)
     {
         value = text;
@@ -391,7 +391,10 @@ struct String : Value<std::string> {
         std::memcpy(buffer, value.c_str(), *needed);
         return ZelData_Ok;
     }
+
+    std::string value;
 };
+using String = Value<std::string>;
 
 } // namespace
 
@@ -433,36 +436,38 @@ std::uint32_t zeldata_string_copy(const zeldata_string* string, char* buffer, st
 namespace {
 
 template <class Element>
-struct Elements : Value<std::vector<Element>> {
+struct Value<std::vector<Element>> : i_ZelDataResult {
     Code clear()
     {
-        this->value.clear();
+        value.clear();
         return ZelData_Ok;
     }
     Code add(const Element& element)
     {
-        this->value.push_back(element);
+        value.push_back(element);
         return ZelData_Ok;
     }
     Code getCount(unsigned long& count) const
     {
-        count = static_cast<unsigned long>(this->value.size());
+        count = static_cast<unsigned long>(value.size());
         return ZelData_Ok;
     }
     /// Stores what @p part, a member or a function, is or returns for the element.
     template <auto part, class Out>
     Code get(unsigned long index, Out& out) const
     {
-        if (index >= this->value.size()) return ZelData_InvalidArgument;
-        const Element& element = this->value[index];
+        if (index >= value.size()) return ZelData_InvalidArgument;
+        const Element& element = value[index];
         if constexpr (std::is_class_v<Out>)
             out = std::invoke(part, element);
         else
             out = static_cast<Out>(std::invoke(part, element));
         return ZelData_Ok;
     }
+
+    std::vector<Element> value;
 };
-using Strings = Elements<std::string>;
+using Strings = Value<Texts>;
 
 const std::string& itself(const std::string& text)
 {
@@ -1977,7 +1982,7 @@ zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* scr
 
 namespace {
 
-using FindingList = Elements<ZelDataFinding>;
+using FindingList = Value<Findings>;
 
 std::string description(const ZelDataFinding& finding)
 {
