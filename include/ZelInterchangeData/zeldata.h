@@ -6,30 +6,34 @@
 /// operation that a comment names says what it does, which codes it returns and what a failure
 /// leaves behind; every code of C++ has the same number here.
 ///
-/// - **Ownership**: a function with `_create` in its name or `_get_item` at its end stores a handle in
-///   `*out`, which must be null before; the handle is yours until you pass it to the `_destroy` of its
-///   type. Nothing else is yours to destroy, and the library keeps none of your pointers.
+/// - **Ownership**: a function with `_create` in its name or `_get_item` at its end stores a handle
+///   in `*out`, which must be null before; the handle is yours until you pass it to the `_destroy`
+///   of its type. Nothing else is yours to destroy, and the library keeps none of your pointers.
 /// - **Texts** that you pass are a pointer and a number of bytes, at most 2147483647; with
-///   #ZELDATA_TERMINATED as the number, the text ends before its first zero byte. Texts that you get are stored in a
-///   zeldata_string that you created; zeldata_string_copy() copies one into a buffer of yours.
-/// - **Results** are the codes below; zeldata_last_message() says in words what failed. A getter leaves its argument unchanged if it fails, with two exceptions: the target of a
-///   document's zeldata_document_get_header() (`_captions`, `_toc`, `_screen_text`) is incomplete if
-///   copying fails, and the display names of languages are those that were found.
+///   #ZELDATA_TERMINATED as the number, the text ends before its first zero byte. Texts that you
+///   get are stored in a zeldata_string that you created; zeldata_string_copy() copies one into a
+///   buffer of yours.
+/// - **Results** are the codes below; zeldata_last_message() says in words what failed. A function
+///   that fails stores nothing, with these exceptions: the target of a document's
+///   zeldata_document_get_header() (`_captions`, `_toc`, `_screen_text`) is incomplete if copying
+///   fails, the display names of languages are those that were found, and zeldata_string_copy() and
+///   zeldata_document_replace_file() say what they store.
 /// - #ZELDATA_INVALID_ARGUMENT, for every function that returns a code: a handle or a pointer is
-///   null, `*out` is not, or a number is too large for the C++ type. In that case, and if memory runs
-///   out before the operation begins, the object stores no last error.
+///   null, `*out` is not, a text is too long, or a number is too large for the C++ type. In that
+///   case, and if memory runs out before the operation begins, the object can keep the last error
+///   that it had.
 /// - **Numbers**: what is `unsigned long` in C++ is `uint64_t`, what is `long` is `int64_t`. Where
 ///   `long` has 32 bits, as on Windows and on 32-bit processors, you can pass a `uint64_t` up to
-///   4294967295, and to zeldata_get_date_string() and zeldata_get_value_string_int64() -2147483648 to
-///   2147483647; what is `long long` in C++, such as the times of items, has its whole range
-///   everywhere. A truth value is an `int32_t`: you get 0 or 1, and everything except 0 that you pass
-///   is true.
+///   4294967295, and to zeldata_get_date_string() and zeldata_get_value_string_int64() -2147483648
+///   to 2147483647; what is `long long` in C++, such as the times of items, has its whole range
+///   everywhere. A truth value is an `int32_t`: you get 0 or 1, and everything except 0 that you
+///   pass is true.
 /// - **Threads**: you can use different objects in different threads. Use one object in one thread
 ///   at a time, also for reading: each call changes the object's last message.
 ///
 /// No exception leaves these functions. The header is C of 1999 or later, and C++ of 2011 or later.
-/// `zeldata.json`, which is installed with the library, lists
-/// them for programs that generate bindings.
+/// `zeldata.json`, which is installed with the library, lists the functions for programs that
+/// generate bindings.
 
 #ifndef ZELINTERCHANGEDATA_ZELDATA_H
 #define ZELINTERCHANGEDATA_ZELDATA_H
@@ -236,10 +240,12 @@ typedef struct zeldata_screen_text_formatter zeldata_screen_text_formatter;
 /// @name Results
 /// @{
 
-/// What the last call through @p handle, a handle of any type above, reported: if it failed, the C++
-/// operation, its arguments and what the code means, otherwise "". For a null handle, the meaning of #ZELDATA_INVALID_ARGUMENT: a `_create` or
-/// a function without a handle keeps no message; pass its code to zeldata_result_describe(). Never
-/// null; valid until the next call with the handle. If memory ran out, the message is that of
+/// What the last call through @p handle, a handle of any type above, reported: if it failed, the
+/// C++ operation, its arguments and what the code means, otherwise "". An operation that C++ does
+/// not have is named after the C function. For a null handle, the meaning of
+/// #ZELDATA_INVALID_ARGUMENT: a function that takes no handle, such as zeldata_header_create(),
+/// keeps no message; pass its code to zeldata_result_describe(). Never null; valid until the next
+/// call with the handle. If there is no memory for the message, it is that of
 /// zeldata_result_describe().
 ZELINTERCHANGEDATA_API const char* zeldata_last_message(const void* handle);
 /// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is not a code.
@@ -370,8 +376,8 @@ zeldata_document_create_screen_text(const zeldata_document* document, zeldata_sc
 /// Replaces @p findings with everything that is wrong. See findProblems() in ZelDataFindings.h.
 ZELINTERCHANGEDATA_API uint32_t zeldata_document_find_problems(const zeldata_document* document,
                                                                zeldata_findings* findings);
-/// Writes the packet to the file at @p path, completely or not at all. See replaceFile() in
-/// ZelDataReplaceFile.h.
+/// Writes the packet to the file at @p path, completely or not at all. `*system_error` gets the
+/// system's error number, 0 if the system reported none. See replaceFile() in ZelDataReplaceFile.h.
 ZELINTERCHANGEDATA_API uint32_t zeldata_document_replace_file(const zeldata_document* document,
                                                               const char* path, size_t path_length,
                                                               int32_t* system_error,

@@ -97,6 +97,7 @@ struct Unusable : std::exception {};
 }
 
 struct HiddenArgument {
+    /// The format that messages do not show.
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
 };
@@ -129,9 +130,10 @@ struct Text {
 std::string_view viewOf(Text text)
 {
     if (text.begin == nullptr) refuse();
-    if (text.length == ZELDATA_TERMINATED) return text.begin;
-    if (text.length > INT32_MAX) refuse();
-    return {text.begin, text.length};
+    const bool isTerminated = text.length == ZELDATA_TERMINATED;
+    const std::size_t length = isTerminated ? std::strlen(text.begin) : text.length;
+    if (length > INT32_MAX) refuse();
+    return {text.begin, length};
 }
 
 template <class Parameter>
@@ -229,8 +231,8 @@ template <class Operation, class... Parameters, class... Given>
     }
 }
 
-/// What is passed on for an argument: the type is the same for all handles, and for the operations of
-/// all objects.
+/// What is passed on for an argument: the type is the same for all handles, and for the operations
+/// of all objects.
 template <class Given>
 auto erased(Given given)
 {
@@ -267,7 +269,7 @@ template <class Made>
 Code createFor(const i_ZelDataResult& object, void* out)
 {
     const Code code = createObject<Made>(static_cast<Made**>(out));
-    if (!failed(code)) object.setLastError(code);
+    object.setLastError(code);
     return code;
 }
 template <class Made>
@@ -285,10 +287,11 @@ Code copied(unsigned long index, i_ZelDataResult& collection, void* place)
     Item* item = nullptr;
     Code code = (static_cast<Collection&>(collection).*getter)(&item, index);
     const std::unique_ptr<Item> owner(item);
-    if (!failed(code)) code = createObject<Made>(out);
     if (failed(code)) return code;
-    code = (*out)->own.copyFrom(*item);
+    code = createObject<Made>(out);
+    if (!failed(code)) code = (*out)->own.copyFrom(*item);
     if (failed(code)) delete std::exchange(*out, nullptr);
+    collection.setLastError(code);
     return code;
 }
 
@@ -2015,70 +2018,70 @@ std::uint32_t zeldata_findings_get_count(const zeldata_findings* findings, std::
 std::uint32_t zeldata_findings_get_kind(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* kind)
 {
-    return call(findings, "kind", &FindingList::get<&ZelDataFinding::kind, std::uint32_t>, index,
+    return call(findings, "getKind", &FindingList::get<&ZelDataFinding::kind, std::uint32_t>, index,
                 kind);
 }
 
 std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std::uint64_t index,
                                            std::uint32_t* subject)
 {
-    return call(findings, "subject", &FindingList::get<&ZelDataFinding::subject, std::uint32_t>,
+    return call(findings, "getSubject", &FindingList::get<&ZelDataFinding::subject, std::uint32_t>,
                 index, subject);
 }
 
 std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
                                               std::uint64_t* item)
 {
-    return call(findings, "item", &FindingList::get<indexOf<&ZelDataFinding::item>, std::uint64_t>,
-                index, item);
+    return call(findings, "getItemIndex",
+                &FindingList::get<indexOf<&ZelDataFinding::item>, std::uint64_t>, index, item);
 }
 
 std::uint32_t zeldata_findings_get_start(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* start)
 {
-    return call(findings, "start", &FindingList::get<&ZelDataFinding::start, std::int64_t>, index,
-                start);
+    return call(findings, "getStart", &FindingList::get<&ZelDataFinding::start, std::int64_t>,
+                index, start);
 }
 
 std::uint32_t zeldata_findings_get_language(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* language)
 {
-    return call(findings, "language", &FindingList::get<&ZelDataFinding::language, std::string>,
+    return call(findings, "getLanguage", &FindingList::get<&ZelDataFinding::language, std::string>,
                 index, language);
 }
 
 std::uint32_t zeldata_findings_get_property(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* property)
 {
-    return call(findings, "property", &FindingList::get<&ZelDataFinding::property, std::string>,
+    return call(findings, "getProperty", &FindingList::get<&ZelDataFinding::property, std::string>,
                 index, property);
 }
 
 std::uint32_t zeldata_findings_get_component(const zeldata_findings* findings, std::uint64_t index,
                                              float* component)
 {
-    return call(findings, "component", &FindingList::get<&ZelDataFinding::component, float>, index,
-                component);
+    return call(findings, "getComponent", &FindingList::get<&ZelDataFinding::component, float>,
+                index, component);
 }
 
 std::uint32_t zeldata_findings_get_value(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* value)
 {
-    return call(findings, "value", &FindingList::get<&ZelDataFinding::value, std::int64_t>, index,
-                value);
+    return call(findings, "getValue", &FindingList::get<&ZelDataFinding::value, std::int64_t>,
+                index, value);
 }
 
 std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* limit)
 {
-    return call(findings, "limit", &FindingList::get<&ZelDataFinding::limit, std::int64_t>, index,
-                limit);
+    return call(findings, "getLimit", &FindingList::get<&ZelDataFinding::limit, std::int64_t>,
+                index, limit);
 }
 
 std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
                                                     std::uint64_t index, std::uint64_t* later_item)
 {
-    return call(findings, "laterItem",
+    return call(findings, "getLaterItemIndex",
                 &FindingList::get<indexOf<&ZelDataFinding::laterItem>, std::uint64_t>, index,
                 later_item);
 }
@@ -2086,21 +2089,21 @@ std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* find
 std::uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                std::uint64_t index, std::int64_t* later_start)
 {
-    return call(findings, "laterStart",
+    return call(findings, "getLaterStart",
                 &FindingList::get<&ZelDataFinding::laterStart, std::int64_t>, index, later_start);
 }
 
 std::uint32_t zeldata_findings_get_severity(const zeldata_findings* findings, std::uint64_t index,
                                             std::uint32_t* severity)
 {
-    return call(findings, "severityOf", &FindingList::get<severityOf, std::uint32_t>, index,
+    return call(findings, "getSeverity", &FindingList::get<severityOf, std::uint32_t>, index,
                 severity);
 }
 
 std::uint32_t zeldata_findings_get_code(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* code)
 {
-    return call(findings, "codeOf", &FindingList::get<codeOf, std::uint32_t>, index, code);
+    return call(findings, "getCode", &FindingList::get<codeOf, std::uint32_t>, index, code);
 }
 
 std::uint32_t zeldata_findings_describe(const zeldata_findings* findings, std::uint64_t index,

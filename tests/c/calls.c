@@ -294,6 +294,8 @@ static zeldata_captions* call_captions(void)
     EXPECT(red == 0.5F);
 
     OK(zeldata_captions_create_item(captions, &item));
+    FAILS(ZELDATA_INVALID_ARGUMENT, zeldata_captions_create_item(captions, &item));
+    FAILS(ZELDATA_INVALID_ARGUMENT, zeldata_captions_get_last_error(captions));
     call_caption_item(item);
     OK(zeldata_caption_item_create(&copy));
     OK(zeldata_caption_item_copy_from(copy, item));
@@ -362,6 +364,8 @@ static zeldata_toc* call_toc(void)
     OK(zeldata_toc_get_image_file(toc, text));
     SAME(data(text), "toc.png");
     OK(zeldata_toc_create_item(toc, &item));
+    FAILS(ZELDATA_INVALID_ARGUMENT, zeldata_toc_create_item(toc, &item));
+    FAILS(ZELDATA_INVALID_ARGUMENT, zeldata_toc_get_last_error(toc));
     call_toc_item(item);
     OK(zeldata_toc_item_create(&copy));
     OK(zeldata_toc_item_copy_from(copy, item));
@@ -429,6 +433,8 @@ static zeldata_screen_text* call_screen_text(void)
     OK(zeldata_screen_text_get_frame_rate(texts_on_screen, &number));
     EXPECT(number == 50);
     OK(zeldata_screen_text_create_item(texts_on_screen, &item));
+    FAILS(ZELDATA_INVALID_ARGUMENT, zeldata_screen_text_create_item(texts_on_screen, &item));
+    FAILS(ZELDATA_INVALID_ARGUMENT, zeldata_screen_text_get_last_error(texts_on_screen));
     call_screen_text_item(item);
     OK(zeldata_screen_text_item_create(&copy));
     OK(zeldata_screen_text_item_copy_from(copy, item));

@@ -9,12 +9,14 @@
 namespace {
 
 std::atomic<long> granted{-1}; // no limit
+std::atomic<long> failing{-1}; // none
 std::atomic<long> alive{0};
 
 void* blockOrNull(std::size_t size) noexcept
 {
     if (granted == 0) return nullptr;
     if (granted > 0) --granted;
+    if (failing >= 0 && failing-- == 0) return nullptr;
     void* const block = std::malloc(size == 0 ? 1 : size);
     if (block != nullptr) ++alive;
     return block;
@@ -28,6 +30,12 @@ extern "C" {
 void failing_new_grant(long allocations)
 {
     granted = allocations;
+}
+
+/// Lets one allocation fail, after that many others; any number below 0 lets none fail.
+void failing_new_fail(long after)
+{
+    failing = after;
 }
 
 /// The number of blocks that are alive.

@@ -1,5 +1,5 @@
-"""Makes each allocation of every function of the list fail in turn: the function returns
-ZELDATA_OUT_OF_MEMORY or what it returns otherwise, a failed call has a message, and nothing leaks.
+"""Makes each allocation of every function of the list fail in turn, alone and with all after it: the
+function returns ZELDATA_OUT_OF_MEMORY or what it returns otherwise, a failed call has a message, and nothing leaks.
 
 failing_new.cpp must be preloaded. The environment names LIBRARY."""
 
@@ -20,16 +20,19 @@ OK = CONSTANTS["ZELDATA_OK"]
 TEXT = b"en-" + b"x" * 60
 
 
-def outcome(function, granted, prepare=lambda world: None):
-    """The code and the message of a call that gets this many allocations, and the blocks that it
-    leaks."""
+FROM_THEN_ON, ONCE = PRELOADED.failing_new_grant, PRELOADED.failing_new_fail
+
+
+def outcome(function, granted, prepare=lambda world: None, fail=FROM_THEN_ON):
+    """The code and the message of a call of which an allocation fails after this many, and the blocks
+    that it leaks."""
     before = PRELOADED.failing_new_alive()
     world = World(LIBRARY, TEXT)
     prepare(world)
     arguments = [world.good(kind) for kind, _ in function["parameters"]]
-    PRELOADED.failing_new_grant(granted)
+    fail(granted)
     code = LIBRARY.function(function["name"])(*arguments)
-    PRELOADED.failing_new_grant(-1)
+    fail(-1)
     message = LIBRARY.message(arguments[0]) if has_message(function) else None
     world.close()
     return code, message, PRELOADED.failing_new_alive() - before
@@ -53,17 +56,21 @@ class Memory(unittest.TestCase):
         os.chdir(folder.name)
 
     def sweep(self, function, prepare=lambda world: None):
-        """Returns how often memory ran out."""
+        """Returns how often memory ran out at an allocation and all after it."""
+        self.sweep_each(function, prepare, ONCE)
+        return self.sweep_each(function, prepare, FROM_THEN_ON)
+
+    def sweep_each(self, function, prepare, fail):
         expected, wanted, leaked = outcome(function, -1, prepare)
         self.assertEqual(leaked, 0)
         for granted in range(2000):
-            code, message, leaked = outcome(function, granted, prepare)
+            code, message, leaked = outcome(function, granted, prepare, fail)
             self.assertIn(code, (OUT_OF_MEMORY, expected))
             self.assertEqual(leaked, 0, granted)
             if message is not None:
                 self.assertEqual(message == "", code == OK)
             if code == OUT_OF_MEMORY and message is not None:
-                self.assertEqual(message, self.out_of_memory())
+                self.assertTrue(message.endswith(self.out_of_memory()), message)
             if code == expected and message == wanted:
                 return granted
         raise AssertionError("does not end")
@@ -91,6 +98,22 @@ class Memory(unittest.TestCase):
         self.assertEqual(CODES[code], "ZELDATA_FILE_OPEN_FAILED")
         self.assertIn("No such file or directory", message)
         self.assertGreater(self.sweep(function, fill), 10)
+
+    def test_a_collection_that_cannot_give_an_item_stores_that_memory_ran_out(self):
+        for kind in ("captions", "toc", "screen_text"):
+            for fail in (ONCE, FROM_THEN_ON):
+                codes = []
+                while not codes or codes[-1] != OK:
+                    world = World(LIBRARY, TEXT)
+                    collection, place = world.handles[f"zeldata_{kind}"], ctypes.c_void_p()
+                    fail(len(codes))
+                    codes.append(LIBRARY.code(f"{kind}_get_item", collection, ctypes.byref(place), 0))
+                    fail(-1)
+                    self.assertEqual(LIBRARY.code(f"{kind}_get_last_error", collection), codes[-1])
+                    self.assertEqual(place.value is None, codes[-1] != OK)
+                    LIBRARY.function(f"zeldata_{kind.removesuffix('s')}_item_destroy")(place)
+                    world.close()
+                self.assertGreater(codes.count(OUT_OF_MEMORY), 1)
 
     def test_a_failure_without_memory_for_its_message_has_the_meaning_of_its_code(self):
         function = next(one for one in of_code() if one["name"] == "zeldata_header_is_valid")
