@@ -245,7 +245,7 @@ typedef struct zeldata_screen_text_formatter zeldata_screen_text_formatter;
 /// not have is named after the C function. For a null handle, the meaning of
 /// #ZELDATA_INVALID_ARGUMENT: a function that takes no handle, such as zeldata_header_create(),
 /// keeps no message; pass its code to zeldata_result_describe(). Never null; valid until the next
-/// call with the handle. If there is no memory for the message, it is that of
+/// call with the handle. If memory ran out, also if only for the message, it is that of
 /// zeldata_result_describe().
 ZELINTERCHANGEDATA_API const char* zeldata_last_message(const void* handle);
 /// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is not a code.

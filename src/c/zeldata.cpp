@@ -68,6 +68,7 @@ struct Value;
 {
     if (handle == nullptr) return code;
     handle->message = ZelDataMessages::orNothing([&]() -> std::string {
+        if (code == ZelData_OutOfMemory) return {};
         const ZelDataCall call = {name, code, arguments};
         return ZelDataError(code, name, call.shownArguments(), reason).what();
     });

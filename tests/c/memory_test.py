@@ -70,7 +70,7 @@ class Memory(unittest.TestCase):
             if message is not None:
                 self.assertEqual(message == "", code == OK)
             if code == OUT_OF_MEMORY and message is not None:
-                self.assertTrue(message.endswith(self.out_of_memory()), message)
+                self.assertEqual(message, self.out_of_memory())
             if code == expected and message == wanted:
                 return granted
         raise AssertionError("does not end")
