@@ -78,7 +78,7 @@ inline std::string shown(ZelDataFormatType_tags value)
 
 /// How many bytes of @p text a message shows. It cuts a long text; if that is UTF-8, between two
 /// characters.
-inline std::size_t shownLength(const std::string& text, bool utf8)
+inline std::size_t shownLength(std::string_view text, bool utf8)
 {
     constexpr std::size_t longest = 40;
     if (text.size() <= longest) return text.size();
@@ -89,12 +89,12 @@ inline std::size_t shownLength(const std::string& text, bool utf8)
 }
 
 /// @p text on one line and in quotation marks. A text that was cut ends with three dots.
-inline std::string shown(const std::string* text)
+inline std::string shown(std::string_view text)
 {
-    const bool utf8 = isUtf8(*text);
-    const std::size_t length = shownLength(*text, utf8);
-    const std::string line = onOneLine(std::string_view(*text).substr(0, length), utf8);
-    return "\"" + line + (length < text->size() ? "\xE2\x80\xA6\"" : "\"");
+    const bool utf8 = isUtf8(std::string(text));
+    const std::size_t length = shownLength(text, utf8);
+    const std::string line = onOneLine(text.substr(0, length), utf8);
+    return "\"" + line + (length < text.size() ? "\xE2\x80\xA6\"" : "\"");
 }
 
 /// The first few of @p texts, with commas.
@@ -103,7 +103,7 @@ inline std::string listed(const std::vector<std::string>& texts)
     constexpr std::size_t most = 5;
     std::string result;
     for (std::size_t i = 0; i < texts.size() && i < most; ++i)
-        result.append(i == 0 ? "" : ", ").append(shown(&texts[i]));
+        result.append(i == 0 ? "" : ", ").append(shown(texts[i]));
     return result.append(texts.size() > most ? ", \xE2\x80\xA6" : "");
 }
 
@@ -177,7 +177,7 @@ public:
     /// A format.
     explicit ZelDataArgument(ZelDataFormatType_tags value) noexcept : value_(value) {}
     /// A text.
-    explicit ZelDataArgument(const std::string& value) noexcept : value_(&value) {}
+    explicit ZelDataArgument(std::string_view value) noexcept : value_(value) {}
     /// Texts.
     explicit ZelDataArgument(const Texts& value) noexcept : value_(&value) {}
     /// An object.
@@ -194,8 +194,8 @@ public:
         return std::visit([](auto value) { return ZelDataMessages::shown(value); }, value_);
     }
 
-    /// The argument if it is a @p Value, otherwise null. A text is a `const std::string*`, an object
-    /// a pointer, too.
+    /// The argument if it is a @p Value, otherwise null. A text is a `std::string_view`, an object
+    /// a pointer.
     template <class Value>
     const Value* as() const noexcept
     {
@@ -216,7 +216,7 @@ public:
 
 private:
     std::variant<bool, long long, unsigned long long, float, ZelAlignment_tags,
-                 ZelDataFormatType_tags, const std::string*, const Texts*, const i_ZelDataResult*,
+                 ZelDataFormatType_tags, std::string_view, const Texts*, const i_ZelDataResult*,
                  const i_ZelDataHeader*, const i_ZelDataCaptionItem*>
         value_;
 };
@@ -244,7 +244,10 @@ struct ZelDataCall final {
         return *value;
     }
     /// The text at @p index.
-    const std::string& text(std::size_t index = 0) const { return *get<const std::string*>(index); }
+    std::string text(std::size_t index = 0) const
+    {
+        return std::string(get<std::string_view>(index));
+    }
 
     /// The arguments that can be shown, in parentheses; empty if there are none.
     std::string shownArguments() const

@@ -147,7 +147,7 @@ private:
         for (const std::string& id : getLanguageIDs()) {
             const auto lines = ZelDataUtilities::countLinesInUTF8(getTextForLanguage(id));
             if (lines > ZelDataLimits::recommendedLines)
-                return shown(lines) + " lines in " + shown(&id) + ", more than " +
+                return shown(lines) + " lines in " + shown(id) + ", more than " +
                        shown(ZelDataLimits::recommendedLines);
         }
         return {};

@@ -111,7 +111,7 @@ private:
             return std::find(listed.begin(), listed.end(), id) == listed.end();
         });
         if (unlisted == ids.end()) return {};
-        return shown(&*unlisted) + " is not listed";
+        return shown(*unlisted) + " is not listed";
     }
 };
 

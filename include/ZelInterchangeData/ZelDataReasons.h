@@ -45,11 +45,11 @@ inline std::string reasonOfLanguage(const std::string& id)
 {
     if (!isUtf8(id)) return "the language ID is not UTF-8";
     if (!failed(ZelDataUtilities::isValidLanguage(id))) return {};
-    const std::string reason = shown(&id) + " is no language of ISO 639-1";
+    const std::string reason = shown(id) + " is no language of ISO 639-1";
     std::string hyphenated = id;
     std::replace(hyphenated.begin(), hyphenated.end(), '_', '-');
     if (failed(ZelDataUtilities::isValidLanguage(hyphenated))) return reason;
-    return reason + "; write " + shown(&hyphenated);
+    return reason + "; write " + shown(hyphenated);
 }
 
 /// An object that is copied onto itself.

@@ -63,7 +63,7 @@ struct Value;
 
 /// Keeps the message of a call that failed, and returns its code.
 [[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
-                                     std::initializer_list<ZelDataArgument> arguments,
+                                     std::initializer_list<ZelDataArgument> arguments = {},
                                      std::string_view reason = {}) noexcept
 {
     if (handle == nullptr) return code;
@@ -82,42 +82,28 @@ struct Value;
 /// succeeded, store() stores its result.
 /// @{
 
-/// No operation can take the argument.
-struct Unusable : std::exception {};
-
-[[noreturn]] void refuse()
-{
-    throw Unusable();
-}
-
-/// All other exceptions mean that memory ran out.
-[[gnu::noinline]] Code caughtCode(const std::exception& exception) noexcept
-{
-    const bool isUnusable = dynamic_cast<const Unusable*>(&exception) != nullptr;
-    return isUnusable ? ZelData_InvalidArgument : ZelData_OutOfMemory;
-}
-
-struct HiddenArgument {
-    /// The format that messages do not show.
+struct Unshown {
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
+
+    bool usable = true;
 };
 
 template <class Parameter, class Given>
-struct Argument : HiddenArgument {
+struct Argument : Unshown {
     explicit Argument(Given given) : value(static_cast<Parameter>(given))
     {
         if constexpr (sizeof(Parameter) < sizeof(Given) && !std::is_same_v<Parameter, bool>)
-            if (static_cast<Given>(value) != given) refuse();
+            usable = static_cast<Given>(value) == given;
     }
     Parameter passed() const { return value; }
-    auto shown() const
+    ZelDataArgument shown() const
     {
         constexpr bool isShown = std::is_constructible_v<ZelDataArgument, Parameter>;
         if constexpr (isShown && !std::is_pointer_v<Parameter>)
             return ZelDataArgument(value);
         else
-            return HiddenArgument::shown();
+            return Unshown::shown();
     }
 
     Parameter value;
@@ -128,46 +114,26 @@ struct Text {
     std::size_t length;
 };
 
-std::string_view viewOf(Text text)
-{
-    if (text.begin == nullptr) refuse();
-    const bool isTerminated = text.length == ZELDATA_TERMINATED;
-    const std::size_t length = isTerminated ? std::strlen(text.begin) : text.length;
-    if (length > INT32_MAX) refuse();
-    return {text.begin, length};
-}
-
+/// The value is a string or a view, as the operation takes it.
 template <class Parameter>
-struct Argument<Parameter, Text> : HiddenArgument {
-    explicit Argument(Text given) : value(viewOf(given)) {}
-    Parameter passed() { return value; }
+struct Argument<Parameter, Text> : Unshown {
+    explicit Argument(Text given)
+    {
+        usable = given.begin != nullptr;
+        if (usable && given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.begin);
+        usable = usable && given.length <= INT32_MAX;
+        if (usable) value = std::string_view(given.begin, given.length);
+    }
+    auto& passed() { return value; }
     ZelDataArgument shown() const { return ZelDataArgument(value); }
 
-    std::string value;
-};
-
-/// A text of which the operation needs no string.
-template <>
-struct Argument<std::string_view, Text> : HiddenArgument {
-    explicit Argument(Text given) : value(viewOf(given)) {}
-    std::string_view passed() const { return value; }
-    ZelDataArgument shown()
-    {
-        copy = ZelDataMessages::orNothing([&] { return std::string(value); });
-        return ZelDataArgument(copy);
-    }
-
-    std::string_view value;
-    std::string copy;
+    std::decay_t<Parameter> value;
 };
 
 /// A number that the operation stores.
 template <class Result, class Given>
-struct Argument<Result&, Given*> : HiddenArgument {
-    explicit Argument(Given* given) : target(given)
-    {
-        if (given == nullptr) refuse();
-    }
+struct Argument<Result&, Given*> : Unshown {
+    explicit Argument(Given* given) : target(given) { usable = given != nullptr; }
     Result& passed() { return value; }
     void store() const { *target = static_cast<Given>(value); }
 
@@ -176,11 +142,8 @@ struct Argument<Result&, Given*> : HiddenArgument {
 };
 
 template <class Target>
-struct Argument<Target&, Handle*> : HiddenArgument {
-    explicit Argument(Handle* given) : handle(given)
-    {
-        if (given == nullptr) refuse();
-    }
+struct Argument<Target&, Handle*> : Unshown {
+    explicit Argument(Handle* given) : handle(given) { usable = given != nullptr; }
     Target& passed() const
     {
         if constexpr (std::is_base_of_v<i_ZelDataResult, Target>)
@@ -196,44 +159,31 @@ struct Argument<Target&, Handle*> : HiddenArgument {
 /// @name Calls
 /// @{
 
-template <class... Types>
-struct List {
-};
-template <class... Parameters>
-List<Parameters...> parametersOf(Code (*operation)(Parameters...));
-template <class Object, class... Parameters>
-List<Parameters...> parametersOf(Code (Object::*operation)(Parameters...));
-template <class Object, class... Parameters>
-List<Parameters...> parametersOf(Code (Object::*operation)(Parameters...) const);
-
-/// Calls @p operation, a function or a member function of the object, with what C passes for its
-/// parameters. Operations with the same parameters share an instance.
-template <class Operation, class... Parameters, class... Given>
-[[gnu::noinline]] std::uint32_t perform(Handle* handle, const char* name, Operation operation,
-                                        List<Parameters...> /*types*/, Given... given)
+/// Calls @p operation with what C passes for its parameters. If the first is a handle, it keeps the
+/// message, which shows the others.
+template <class Object, class... Parameters, class Operation, class First, class... Given>
+[[gnu::noinline]] std::uint32_t perform(const char* name, Operation operation, First first,
+                                        Given... given)
 {
+    Handle* handle = nullptr;
+    if constexpr (std::is_same_v<First, Handle*>) handle = first;
     if (handle != nullptr) handle->shown = "";
-    const auto invoke = [&](auto&&... argument) -> std::uint32_t {
-        Code code;
-        if constexpr (std::is_member_pointer_v<Operation>) {
-            if (handle == nullptr) refuse();
-            code = (handle->object->*operation)(argument.passed()...);
-        } else {
-            code = operation(argument.passed()...);
-        }
+    const auto run = [&](auto&& object, auto&&... argument) -> std::uint32_t {
+        if (!(object.usable && ... && argument.usable))
+            return keep(handle, name, ZelData_InvalidArgument);
+        const Code code = std::invoke(operation, object.passed(), argument.passed()...);
         if (failed(code)) return keep(handle, name, code, {argument.shown()...});
         (argument.store(), ...);
         return code;
     };
     try {
-        return invoke(Argument<Parameters, Given>(given)...);
-    } catch (const std::exception& exception) {
-        return keep(handle, name, caughtCode(exception), {});
+        return run(Argument<Object, First>(first), Argument<Parameters, Given>(given)...);
+    } catch (const std::exception&) { // memory ran out, or a text became too long
+        return keep(handle, name, ZelData_OutOfMemory);
     }
 }
 
-/// What is passed on for an argument: the type is the same for all handles, and for the operations
-/// of all objects.
+/// The type of all handles: with it, operations that take the same parameters share an instance.
 template <class Given>
 auto erased(Given given)
 {
@@ -242,24 +192,25 @@ auto erased(Given given)
     else
         return given;
 }
-template <class Object, class Function>
-auto erased(Function Object::*operation)
-{
-    return static_cast<Function i_ZelDataResult::*>(operation);
-}
 
-template <class Operation, class... Given>
-std::uint32_t call(const Handle* handle, const char* name, Operation operation, Given... given)
+template <class Object, class... Parameters, class... Given>
+std::uint32_t call(const char* name, Code (Object::*operation)(Parameters...), Given... given)
 {
-    return perform(erased(handle), name, erased(operation), decltype(parametersOf(operation))(),
-                   erased(given)...);
+    using Operation = Code (i_ZelDataResult::*)(Parameters...);
+    return perform<i_ZelDataResult&, Parameters...>(name, static_cast<Operation>(operation),
+                                                    erased(given)...);
 }
-
-/// The same without a handle and a message.
-template <class Operation, class... Given>
-std::uint32_t run(Operation operation, Given... given)
+template <class Object, class... Parameters, class... Given>
+std::uint32_t call(const char* name, Code (Object::*operation)(Parameters...) const, Given... given)
 {
-    return call(nullptr, "", operation, given...);
+    using Operation = Code (i_ZelDataResult::*)(Parameters...) const;
+    return perform<i_ZelDataResult&, Parameters...>(name, static_cast<Operation>(operation),
+                                                    erased(given)...);
+}
+template <class... Parameters, class... Given>
+std::uint32_t call(const char* name, Code (*operation)(Parameters...), Given... given)
+{
+    return perform<Parameters...>(name, operation, erased(given)...);
 }
 /// @}
 
@@ -276,12 +227,12 @@ Code createFor(const i_ZelDataResult& object, void* out)
 template <class Made>
 std::uint32_t make(const Handle* handle, const char* name, Made** out)
 {
-    return call(handle, name, createFor<Made>, handle, static_cast<void*>(out));
+    return call(name, createFor<Made>, handle, static_cast<void*>(out));
 }
 
 /// Stores a handle of a copy of the item that @p getter returns.
 template <auto getter, class Collection, class Item, class Made>
-Code copied(unsigned long index, i_ZelDataResult& collection, void* place)
+Code copied(i_ZelDataResult& collection, unsigned long index, void* place)
 {
     const auto out = static_cast<Made**>(place);
     if (!isEmptyOutPointer(out)) return ZelData_InvalidArgument;
@@ -305,13 +256,6 @@ Code findProblemsOf(const i_ZelDataResult& object, Findings& findings)
     return findProblems(static_cast<const Interface&>(object), findings);
 }
 
-/// The first argument that a message shows is the language.
-template <class Item>
-Code textFor(const i_ZelDataResult& item, const std::string& languageID, std::string& text)
-{
-    return static_cast<const Item&>(item).getTextForLanguage(text, languageID);
-}
-
 Code storeLastError(const i_ZelDataResult& object, ZelDataResult_tags code)
 {
     object.setLastError(code);
@@ -319,7 +263,7 @@ Code storeLastError(const i_ZelDataResult& object, ZelDataResult_tags code)
 }
 std::uint32_t setLastError(const Handle* handle, std::uint32_t code)
 {
-    return call(handle, "setLastError", storeLastError, handle, code);
+    return call("setLastError", storeLastError, handle, code);
 }
 std::uint32_t lastError(const Handle* handle)
 {
@@ -415,7 +359,7 @@ void zeldata_string_destroy(zeldata_string* string)
 
 std::uint32_t zeldata_string_set(zeldata_string* string, const char* text, std::size_t text_length)
 {
-    return call(string, "set", &String::set, Text{text, text_length});
+    return call("set", &String::set, string, Text{text, text_length});
 }
 
 const char* zeldata_string_get_data(const zeldata_string* string)
@@ -431,7 +375,7 @@ std::size_t zeldata_string_get_size(const zeldata_string* string)
 std::uint32_t zeldata_string_copy(const zeldata_string* string, char* buffer, std::size_t capacity,
                                   std::size_t* needed)
 {
-    return call(string, "copy", &String::copy, buffer, capacity, needed);
+    return call("copy", &String::copy, string, buffer, capacity, needed);
 }
 
 // Lists of texts.
@@ -493,24 +437,24 @@ void zeldata_strings_destroy(zeldata_strings* strings)
 
 std::uint32_t zeldata_strings_clear(zeldata_strings* strings)
 {
-    return call(strings, "clear", &Strings::clear);
+    return call("clear", &Strings::clear, strings);
 }
 
 std::uint32_t zeldata_strings_add(zeldata_strings* strings, const char* text,
                                   std::size_t text_length)
 {
-    return call(strings, "add", &Strings::add, Text{text, text_length});
+    return call("add", &Strings::add, strings, Text{text, text_length});
 }
 
 std::uint32_t zeldata_strings_get_count(const zeldata_strings* strings, std::uint64_t* count)
 {
-    return call(strings, "getCount", &Strings::getCount, count);
+    return call("getCount", &Strings::getCount, strings, count);
 }
 
 std::uint32_t zeldata_strings_get(const zeldata_strings* strings, std::uint64_t index,
                                   zeldata_string* text)
 {
-    return call(strings, "get", &Strings::get<itself, std::string>, index, text);
+    return call("get", &Strings::get<itself, std::string>, strings, index, text);
 }
 
 // Documents.
@@ -570,59 +514,59 @@ std::uint32_t zeldata_document_set_last_error(const zeldata_document* document, 
 std::uint32_t zeldata_document_write_string(const zeldata_document* document, zeldata_string* out,
                                             std::uint32_t format, std::int32_t flag)
 {
-    return call(document, "writeString", writeString, document, out, format, flag);
+    return call("writeString", writeString, document, out, format, flag);
 }
 
 std::uint32_t zeldata_document_write_file(const zeldata_document* document, const char* path,
                                           std::size_t path_length, std::uint32_t format,
                                           std::int32_t flag)
 {
-    return call(document, "writeFile", writeFile, document, Text{path, path_length}, format, flag);
+    return call("writeFile", writeFile, document, Text{path, path_length}, format, flag);
 }
 
 std::uint32_t zeldata_document_get_header(const zeldata_document* document, zeldata_header* target)
 {
-    return call(document, "getDataHeader", &i_ZelInterchangeDataCore::getDataHeader, target);
+    return call("getDataHeader", &i_ZelInterchangeDataCore::getDataHeader, document, target);
 }
 
 std::uint32_t zeldata_document_set_header(zeldata_document* document, const zeldata_header* source)
 {
-    return call(document, "setDataHeader", &i_ZelInterchangeDataCore::setDataHeader, source);
+    return call("setDataHeader", &i_ZelInterchangeDataCore::setDataHeader, document, source);
 }
 
 std::uint32_t zeldata_document_get_captions(const zeldata_document* document,
                                             zeldata_captions* target)
 {
-    return call(document, "getDataCaptions", &i_ZelInterchangeDataCore::getDataCaptions, target);
+    return call("getDataCaptions", &i_ZelInterchangeDataCore::getDataCaptions, document, target);
 }
 
 std::uint32_t zeldata_document_set_captions(zeldata_document* document,
                                             const zeldata_captions* source)
 {
-    return call(document, "setDataCaptions", &i_ZelInterchangeDataCore::setDataCaptions, source);
+    return call("setDataCaptions", &i_ZelInterchangeDataCore::setDataCaptions, document, source);
 }
 
 std::uint32_t zeldata_document_get_toc(const zeldata_document* document, zeldata_toc* target)
 {
-    return call(document, "getDataToc", &i_ZelInterchangeDataCore::getDataToc, target);
+    return call("getDataToc", &i_ZelInterchangeDataCore::getDataToc, document, target);
 }
 
 std::uint32_t zeldata_document_set_toc(zeldata_document* document, const zeldata_toc* source)
 {
-    return call(document, "setDataToc", &i_ZelInterchangeDataCore::setDataToc, source);
+    return call("setDataToc", &i_ZelInterchangeDataCore::setDataToc, document, source);
 }
 
 std::uint32_t zeldata_document_get_screen_text(const zeldata_document* document,
                                                zeldata_screen_text* target)
 {
-    return call(document, "getDataScreenText", &i_ZelInterchangeDataCore::getDataScreenText,
+    return call("getDataScreenText", &i_ZelInterchangeDataCore::getDataScreenText, document,
                 target);
 }
 
 std::uint32_t zeldata_document_set_screen_text(zeldata_document* document,
                                                const zeldata_screen_text* source)
 {
-    return call(document, "setDataScreenText", &i_ZelInterchangeDataCore::setDataScreenText,
+    return call("setDataScreenText", &i_ZelInterchangeDataCore::setDataScreenText, document,
                 source);
 }
 
@@ -651,8 +595,7 @@ std::uint32_t zeldata_document_create_screen_text(const zeldata_document* docume
 std::uint32_t zeldata_document_find_problems(const zeldata_document* document,
                                              zeldata_findings* findings)
 {
-    return call(document, "findProblems", findProblemsOf<i_ZelInterchangeDataCore>, document,
-                findings);
+    return call("findProblems", findProblemsOf<i_ZelInterchangeDataCore>, document, findings);
 }
 
 std::uint32_t zeldata_document_replace_file(const zeldata_document* document, const char* path,
@@ -660,7 +603,7 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
                                             std::uint32_t format)
 {
     if (system_error != nullptr) *system_error = 0;
-    const std::uint32_t code = call(document, "replaceFile", replaceFileWith, document,
+    const std::uint32_t code = call("replaceFile", replaceFileWith, document,
                                     Text{path, path_length}, format, system_error);
     if (failed(static_cast<Code>(code)) && system_error != nullptr && *system_error != 0)
         keepSystemError(document, code, Text{path, path_length}, *system_error);
@@ -691,252 +634,252 @@ std::uint32_t zeldata_header_set_last_error(const zeldata_header* header, std::u
 
 std::uint32_t zeldata_header_clear_languages(zeldata_header* header)
 {
-    return call(header, "clearLanguages", &i_ZelDataLanguage::clearLanguages);
+    return call("clearLanguages", &i_ZelDataLanguage::clearLanguages, header);
 }
 
 std::uint32_t zeldata_header_add_language(zeldata_header* header, const char* id,
                                           std::size_t id_length)
 {
-    return call(header, "addLanguage", &i_ZelDataLanguage::addLanguage, Text{id, id_length});
+    return call("addLanguage", &i_ZelDataLanguage::addLanguage, header, Text{id, id_length});
 }
 
 std::uint32_t zeldata_header_remove_language(zeldata_header* header, const char* id,
                                              std::size_t id_length)
 {
-    return call(header, "removeLanguage", &i_ZelDataLanguage::removeLanguage, Text{id, id_length});
+    return call("removeLanguage", &i_ZelDataLanguage::removeLanguage, header, Text{id, id_length});
 }
 
 std::uint32_t zeldata_header_set_ordered_language_ids(zeldata_header* header,
                                                       const zeldata_strings* ids)
 {
-    return call(header, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, ids);
+    return call("setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, header, ids);
 }
 
 std::uint32_t zeldata_header_get_ordered_language_ids(const zeldata_header* header,
                                                       zeldata_strings* ids)
 {
-    return call(header, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, ids);
+    return call("getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, header, ids);
 }
 
 std::uint32_t zeldata_header_get_language_count(const zeldata_header* header, std::uint64_t* count)
 {
-    return call(header, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount, count);
+    return call("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, header, count);
 }
 
 std::uint32_t zeldata_header_get_language_display_names(const zeldata_header* header,
                                                         zeldata_strings* names)
 {
-    return call(header, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames,
+    return call("getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames, header,
                 names);
 }
 
 std::uint32_t zeldata_header_get_language_native_display_names(const zeldata_header* header,
                                                                zeldata_strings* names)
 {
-    return call(header, "getLanguageNativeDisplayNames",
-                &i_ZelDataLanguage::getLanguageNativeDisplayNames, names);
+    return call("getLanguageNativeDisplayNames", &i_ZelDataLanguage::getLanguageNativeDisplayNames,
+                header, names);
 }
 
 std::uint32_t zeldata_header_does_language_exist(const zeldata_header* header, const char* id,
                                                  std::size_t id_length, std::int32_t* exists)
 {
-    return call(header, "doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist,
+    return call("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, header,
                 Text{id, id_length}, exists);
 }
 
 std::uint32_t zeldata_header_copy_languages_from_header(zeldata_header* header,
                                                         const zeldata_header* source)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, header, source);
 }
 
 std::uint32_t zeldata_header_copy_languages_from_captions(zeldata_header* header,
                                                           const zeldata_captions* source)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, header, source);
 }
 
 std::uint32_t zeldata_header_copy_languages_from_toc(zeldata_header* header,
                                                      const zeldata_toc* source)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, header, source);
 }
 
 std::uint32_t zeldata_header_is_valid(const zeldata_header* header)
 {
-    return call(header, "isValid", &i_ZelDataHeader::isValid);
+    return call("isValid", &i_ZelDataHeader::isValid, header);
 }
 
 std::uint32_t zeldata_header_clear(zeldata_header* header)
 {
-    return call(header, "clearHeader", &i_ZelDataHeader::clearHeader);
+    return call("clearHeader", &i_ZelDataHeader::clearHeader, header);
 }
 
 std::uint32_t zeldata_header_set_app_name(zeldata_header* header, const char* name,
                                           std::size_t name_length)
 {
-    return call(header, "setAppName", &i_ZelDataHeader::setAppName, Text{name, name_length});
+    return call("setAppName", &i_ZelDataHeader::setAppName, header, Text{name, name_length});
 }
 
 std::uint32_t zeldata_header_set_app_version(zeldata_header* header, const char* version,
                                              std::size_t version_length)
 {
-    return call(header, "setAppVersion", &i_ZelDataHeader::setAppVersion,
+    return call("setAppVersion", &i_ZelDataHeader::setAppVersion, header,
                 Text{version, version_length});
 }
 
 std::uint32_t zeldata_header_set_title(zeldata_header* header, const char* title,
                                        std::size_t title_length)
 {
-    return call(header, "setTitle", &i_ZelDataHeader::setTitle, Text{title, title_length});
+    return call("setTitle", &i_ZelDataHeader::setTitle, header, Text{title, title_length});
 }
 
 std::uint32_t zeldata_header_set_creator(zeldata_header* header, const char* creator,
                                          std::size_t creator_length)
 {
-    return call(header, "setCreator", &i_ZelDataHeader::setCreator, Text{creator, creator_length});
+    return call("setCreator", &i_ZelDataHeader::setCreator, header, Text{creator, creator_length});
 }
 
 std::uint32_t zeldata_header_set_description(zeldata_header* header, const char* description,
                                              std::size_t description_length)
 {
-    return call(header, "setDescription", &i_ZelDataHeader::setDescription,
+    return call("setDescription", &i_ZelDataHeader::setDescription, header,
                 Text{description, description_length});
 }
 
 std::uint32_t zeldata_header_set_keywords(zeldata_header* header, const zeldata_strings* keywords)
 {
-    return call(header, "setKeywords", &i_ZelDataHeader::setKeywords, keywords);
+    return call("setKeywords", &i_ZelDataHeader::setKeywords, header, keywords);
 }
 
 std::uint32_t zeldata_header_set_ipod_explicit(zeldata_header* header, std::int32_t is_explicit)
 {
-    return call(header, "setIPodExplicit", &i_ZelDataHeader::setIPodExplicit, is_explicit);
+    return call("setIPodExplicit", &i_ZelDataHeader::setIPodExplicit, header, is_explicit);
 }
 
 std::uint32_t zeldata_header_set_video_length(zeldata_header* header, std::uint64_t milliseconds)
 {
-    return call(header, "setVideoLength", &i_ZelDataHeader::setVideoLength, milliseconds);
+    return call("setVideoLength", &i_ZelDataHeader::setVideoLength, header, milliseconds);
 }
 
 std::uint32_t zeldata_header_set_video_width(zeldata_header* header, std::uint64_t pixels)
 {
-    return call(header, "setVideoWidth", &i_ZelDataHeader::setVideoWidth, pixels);
+    return call("setVideoWidth", &i_ZelDataHeader::setVideoWidth, header, pixels);
 }
 
 std::uint32_t zeldata_header_set_video_height(zeldata_header* header, std::uint64_t pixels)
 {
-    return call(header, "setVideoHeight", &i_ZelDataHeader::setVideoHeight, pixels);
+    return call("setVideoHeight", &i_ZelDataHeader::setVideoHeight, header, pixels);
 }
 
 std::uint32_t zeldata_header_get_app_name(const zeldata_header* header, zeldata_string* name)
 {
-    return call(header, "getAppName", &i_ZelDataHeader::getAppName, name);
+    return call("getAppName", &i_ZelDataHeader::getAppName, header, name);
 }
 
 std::uint32_t zeldata_header_get_app_version(const zeldata_header* header, zeldata_string* version)
 {
-    return call(header, "getAppVersion", &i_ZelDataHeader::getAppVersion, version);
+    return call("getAppVersion", &i_ZelDataHeader::getAppVersion, header, version);
 }
 
 std::uint32_t zeldata_header_get_title(const zeldata_header* header, zeldata_string* title)
 {
-    return call(header, "getTitle", &i_ZelDataHeader::getTitle, title);
+    return call("getTitle", &i_ZelDataHeader::getTitle, header, title);
 }
 
 std::uint32_t zeldata_header_get_creator(const zeldata_header* header, zeldata_string* creator)
 {
-    return call(header, "getCreator", &i_ZelDataHeader::getCreator, creator);
+    return call("getCreator", &i_ZelDataHeader::getCreator, header, creator);
 }
 
 std::uint32_t zeldata_header_get_description(const zeldata_header* header,
                                              zeldata_string* description)
 {
-    return call(header, "getDescription", &i_ZelDataHeader::getDescription, description);
+    return call("getDescription", &i_ZelDataHeader::getDescription, header, description);
 }
 
 std::uint32_t zeldata_header_get_keywords(const zeldata_header* header, zeldata_strings* keywords)
 {
-    return call(header, "getKeywords", &i_ZelDataHeader::getKeywords, keywords);
+    return call("getKeywords", &i_ZelDataHeader::getKeywords, header, keywords);
 }
 
 std::uint32_t zeldata_header_get_ipod_explicit(const zeldata_header* header,
                                                std::int32_t* is_explicit)
 {
-    return call(header, "getIPodExplicit", &i_ZelDataHeader::getIPodExplicit, is_explicit);
+    return call("getIPodExplicit", &i_ZelDataHeader::getIPodExplicit, header, is_explicit);
 }
 
 std::uint32_t zeldata_header_get_video_length(const zeldata_header* header,
                                               std::uint64_t* milliseconds)
 {
-    return call(header, "getVideoLength", &i_ZelDataHeader::getVideoLength, milliseconds);
+    return call("getVideoLength", &i_ZelDataHeader::getVideoLength, header, milliseconds);
 }
 
 std::uint32_t zeldata_header_get_video_width(const zeldata_header* header, std::uint64_t* pixels)
 {
-    return call(header, "getVideoWidth", &i_ZelDataHeader::getVideoWidth, pixels);
+    return call("getVideoWidth", &i_ZelDataHeader::getVideoWidth, header, pixels);
 }
 
 std::uint32_t zeldata_header_get_video_height(const zeldata_header* header, std::uint64_t* pixels)
 {
-    return call(header, "getVideoHeight", &i_ZelDataHeader::getVideoHeight, pixels);
+    return call("getVideoHeight", &i_ZelDataHeader::getVideoHeight, header, pixels);
 }
 
 std::uint32_t zeldata_header_clear_content_names(zeldata_header* header)
 {
-    return call(header, "clearContentNames", &i_ZelDataHeader::clearContentNames);
+    return call("clearContentNames", &i_ZelDataHeader::clearContentNames, header);
 }
 
 std::uint32_t zeldata_header_add_content_name(zeldata_header* header, const char* name,
                                               std::size_t name_length)
 {
-    return call(header, "addContentName", &i_ZelDataHeader::addContentName,
+    return call("addContentName", &i_ZelDataHeader::addContentName, header,
                 Text{name, name_length});
 }
 
 std::uint32_t zeldata_header_remove_content_name(zeldata_header* header, const char* name,
                                                  std::size_t name_length)
 {
-    return call(header, "removeContentName", &i_ZelDataHeader::removeContentName,
+    return call("removeContentName", &i_ZelDataHeader::removeContentName, header,
                 Text{name, name_length});
 }
 
 std::uint32_t zeldata_header_get_content_name_count(const zeldata_header* header,
                                                     std::uint64_t* count)
 {
-    return call(header, "getContentNameCount", &i_ZelDataHeader::getContentNameCount, count);
+    return call("getContentNameCount", &i_ZelDataHeader::getContentNameCount, header, count);
 }
 
 std::uint32_t zeldata_header_get_content_names(const zeldata_header* header, zeldata_strings* names)
 {
-    return call(header, "getContentNames", &i_ZelDataHeader::getContentNames, names);
+    return call("getContentNames", &i_ZelDataHeader::getContentNames, header, names);
 }
 
 std::uint32_t zeldata_header_does_content_name_exist(const zeldata_header* header, const char* name,
                                                      std::size_t name_length, std::int32_t* exists)
 {
-    return call(header, "doesContentNameExist", &i_ZelDataHeader::doesContentNameExist,
+    return call("doesContentNameExist", &i_ZelDataHeader::doesContentNameExist, header,
                 Text{name, name_length}, exists);
 }
 
 std::uint32_t zeldata_header_set_show_search_bar(zeldata_header* header, std::int32_t show)
 {
-    return call(header, "setShowSearchBar", &i_ZelDataHeader::setShowSearchBar, show);
+    return call("setShowSearchBar", &i_ZelDataHeader::setShowSearchBar, header, show);
 }
 
 std::uint32_t zeldata_header_get_show_search_bar(const zeldata_header* header, std::int32_t* show)
 {
-    return call(header, "getShowSearchBar", &i_ZelDataHeader::getShowSearchBar, show);
+    return call("getShowSearchBar", &i_ZelDataHeader::getShowSearchBar, header, show);
 }
 
 std::uint32_t zeldata_header_copy_from(zeldata_header* header, const zeldata_header* other)
 {
-    return call(header, "copyFrom", copyFrom<i_ZelDataHeader>, other);
+    return call("copyFrom", copyFrom<i_ZelDataHeader>, header, other);
 }
 
 std::uint32_t zeldata_header_find_problems(const zeldata_header* header, zeldata_findings* findings)
 {
-    return call(header, "findProblems", findProblemsOf<i_ZelDataHeader>, header, findings);
+    return call("findProblems", findProblemsOf<i_ZelDataHeader>, header, findings);
 }
 
 // Captions.
@@ -963,172 +906,172 @@ std::uint32_t zeldata_captions_set_last_error(const zeldata_captions* captions, 
 
 std::uint32_t zeldata_captions_clear_languages(zeldata_captions* captions)
 {
-    return call(captions, "clearLanguages", &i_ZelDataLanguage::clearLanguages);
+    return call("clearLanguages", &i_ZelDataLanguage::clearLanguages, captions);
 }
 
 std::uint32_t zeldata_captions_add_language(zeldata_captions* captions, const char* id,
                                             std::size_t id_length)
 {
-    return call(captions, "addLanguage", &i_ZelDataLanguage::addLanguage, Text{id, id_length});
+    return call("addLanguage", &i_ZelDataLanguage::addLanguage, captions, Text{id, id_length});
 }
 
 std::uint32_t zeldata_captions_remove_language(zeldata_captions* captions, const char* id,
                                                std::size_t id_length)
 {
-    return call(captions, "removeLanguage", &i_ZelDataLanguage::removeLanguage,
+    return call("removeLanguage", &i_ZelDataLanguage::removeLanguage, captions,
                 Text{id, id_length});
 }
 
 std::uint32_t zeldata_captions_set_ordered_language_ids(zeldata_captions* captions,
                                                         const zeldata_strings* ids)
 {
-    return call(captions, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, ids);
+    return call("setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, captions, ids);
 }
 
 std::uint32_t zeldata_captions_get_ordered_language_ids(const zeldata_captions* captions,
                                                         zeldata_strings* ids)
 {
-    return call(captions, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, ids);
+    return call("getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, captions, ids);
 }
 
 std::uint32_t zeldata_captions_get_language_count(const zeldata_captions* captions,
                                                   std::uint64_t* count)
 {
-    return call(captions, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount, count);
+    return call("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, captions, count);
 }
 
 std::uint32_t zeldata_captions_get_language_display_names(const zeldata_captions* captions,
                                                           zeldata_strings* names)
 {
-    return call(captions, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames,
+    return call("getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames, captions,
                 names);
 }
 
 std::uint32_t zeldata_captions_get_language_native_display_names(const zeldata_captions* captions,
                                                                  zeldata_strings* names)
 {
-    return call(captions, "getLanguageNativeDisplayNames",
-                &i_ZelDataLanguage::getLanguageNativeDisplayNames, names);
+    return call("getLanguageNativeDisplayNames", &i_ZelDataLanguage::getLanguageNativeDisplayNames,
+                captions, names);
 }
 
 std::uint32_t zeldata_captions_does_language_exist(const zeldata_captions* captions, const char* id,
                                                    std::size_t id_length, std::int32_t* exists)
 {
-    return call(captions, "doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist,
+    return call("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, captions,
                 Text{id, id_length}, exists);
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_header(zeldata_captions* captions,
                                                           const zeldata_header* source)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, captions, source);
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_captions(zeldata_captions* captions,
                                                             const zeldata_captions* source)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, captions, source);
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_toc(zeldata_captions* captions,
                                                        const zeldata_toc* source)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, captions, source);
 }
 
 std::uint32_t zeldata_captions_is_valid(const zeldata_captions* captions, std::int32_t strict)
 {
-    return call(captions, "isValid", &i_ZelDataCaptions::isValid, strict);
+    return call("isValid", &i_ZelDataCaptions::isValid, captions, strict);
 }
 
 std::uint32_t zeldata_captions_make_consistent(zeldata_captions* captions)
 {
-    return call(captions, "makeCaptionsConsistent", &i_ZelDataCaptions::makeCaptionsConsistent);
+    return call("makeCaptionsConsistent", &i_ZelDataCaptions::makeCaptionsConsistent, captions);
 }
 
 std::uint32_t zeldata_captions_set_frame_rate(zeldata_captions* captions, std::uint64_t rate)
 {
-    return call(captions, "setFrameRate", &i_ZelDataCaptions::setFrameRate, rate);
+    return call("setFrameRate", &i_ZelDataCaptions::setFrameRate, captions, rate);
 }
 
 std::uint32_t zeldata_captions_get_frame_rate(const zeldata_captions* captions, std::uint64_t* rate)
 {
-    return call(captions, "getFrameRate", &i_ZelDataCaptions::getFrameRate, rate);
+    return call("getFrameRate", &i_ZelDataCaptions::getFrameRate, captions, rate);
 }
 
 std::uint32_t zeldata_captions_set_font_family(zeldata_captions* captions, const char* family,
                                                std::size_t family_length)
 {
-    return call(captions, "setFontFamily", &i_ZelDataCaptions::setFontFamily,
+    return call("setFontFamily", &i_ZelDataCaptions::setFontFamily, captions,
                 Text{family, family_length});
 }
 
 std::uint32_t zeldata_captions_get_font_family(const zeldata_captions* captions,
                                                zeldata_string* family)
 {
-    return call(captions, "getFontFamily", &i_ZelDataCaptions::getFontFamily, family);
+    return call("getFontFamily", &i_ZelDataCaptions::getFontFamily, captions, family);
 }
 
 std::uint32_t zeldata_captions_set_font_size(zeldata_captions* captions, std::uint64_t size)
 {
-    return call(captions, "setFontSize", &i_ZelDataCaptions::setFontSize, size);
+    return call("setFontSize", &i_ZelDataCaptions::setFontSize, captions, size);
 }
 
 std::uint32_t zeldata_captions_get_font_size(const zeldata_captions* captions, std::uint64_t* size)
 {
-    return call(captions, "getFontSize", &i_ZelDataCaptions::getFontSize, size);
+    return call("getFontSize", &i_ZelDataCaptions::getFontSize, captions, size);
 }
 
 std::uint32_t zeldata_captions_set_foreground_color(zeldata_captions* captions, float red,
                                                     float green, float blue)
 {
-    return call(captions, "setForegroundColor", &i_ZelDataCaptions::setForegroundColor, red, green,
+    return call("setForegroundColor", &i_ZelDataCaptions::setForegroundColor, captions, red, green,
                 blue);
 }
 
 std::uint32_t zeldata_captions_get_foreground_color(const zeldata_captions* captions, float* red,
                                                     float* green, float* blue)
 {
-    return call(captions, "getForegroundColor", &i_ZelDataCaptions::getForegroundColor, red, green,
+    return call("getForegroundColor", &i_ZelDataCaptions::getForegroundColor, captions, red, green,
                 blue);
 }
 
 std::uint32_t zeldata_captions_set_background_color(zeldata_captions* captions, float red,
                                                     float green, float blue)
 {
-    return call(captions, "setBackgroundColor", &i_ZelDataCaptions::setBackgroundColor, red, green,
+    return call("setBackgroundColor", &i_ZelDataCaptions::setBackgroundColor, captions, red, green,
                 blue);
 }
 
 std::uint32_t zeldata_captions_get_background_color(const zeldata_captions* captions, float* red,
                                                     float* green, float* blue)
 {
-    return call(captions, "getBackgroundColor", &i_ZelDataCaptions::getBackgroundColor, red, green,
+    return call("getBackgroundColor", &i_ZelDataCaptions::getBackgroundColor, captions, red, green,
                 blue);
 }
 
 std::uint32_t zeldata_captions_set_background_opacity(zeldata_captions* captions, float opacity)
 {
-    return call(captions, "setBackgroundOpacity", &i_ZelDataCaptions::setBackgroundOpacity,
+    return call("setBackgroundOpacity", &i_ZelDataCaptions::setBackgroundOpacity, captions,
                 opacity);
 }
 
 std::uint32_t zeldata_captions_get_background_opacity(const zeldata_captions* captions,
                                                       float* opacity)
 {
-    return call(captions, "getBackgroundOpacity", &i_ZelDataCaptions::getBackgroundOpacity,
+    return call("getBackgroundOpacity", &i_ZelDataCaptions::getBackgroundOpacity, captions,
                 opacity);
 }
 
 std::uint32_t zeldata_captions_clear_items(zeldata_captions* captions)
 {
-    return call(captions, "clearCaptionItems", &i_ZelDataCaptions::clearCaptionItems);
+    return call("clearCaptionItems", &i_ZelDataCaptions::clearCaptionItems, captions);
 }
 
 std::uint32_t zeldata_captions_add_item(zeldata_captions* captions,
                                         const zeldata_caption_item* item)
 {
-    return call(captions, "addCaptionItem", &i_ZelDataCaptions::addCaptionItem, item);
+    return call("addCaptionItem", &i_ZelDataCaptions::addCaptionItem, captions, item);
 }
 
 std::uint32_t zeldata_captions_create_item(const zeldata_captions* captions,
@@ -1139,42 +1082,41 @@ std::uint32_t zeldata_captions_create_item(const zeldata_captions* captions,
 
 std::uint32_t zeldata_captions_remove_item(zeldata_captions* captions, std::uint64_t index)
 {
-    return call(captions, "removeCaptionItemAt", &i_ZelDataCaptions::removeCaptionItemAt, index);
+    return call("removeCaptionItemAt", &i_ZelDataCaptions::removeCaptionItemAt, captions, index);
 }
 
 std::uint32_t zeldata_captions_remove_items_for_language(zeldata_captions* captions,
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call(captions, "removeCaptionItemsForLanguage",
-                &i_ZelDataCaptions::removeCaptionItemsForLanguage,
-                Text{language_id, language_id_length});
+    return call("removeCaptionItemsForLanguage", &i_ZelDataCaptions::removeCaptionItemsForLanguage,
+                captions, Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_captions_get_item_count(const zeldata_captions* captions,
                                               std::uint64_t* count)
 {
-    return call(captions, "getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount, count);
+    return call("getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount, captions, count);
 }
 
 std::uint32_t zeldata_captions_get_item(const zeldata_captions* captions,
                                         zeldata_caption_item** out, std::uint64_t index)
 {
-    return call(captions, "getCaptionItemAt",
+    return call("getCaptionItemAt",
                 copied<&i_ZelDataCaptions::getCaptionItemAt, i_ZelDataCaptions,
                        i_ZelDataCaptionItem, zeldata_caption_item>,
-                index, captions, static_cast<void*>(out));
+                captions, index, static_cast<void*>(out));
 }
 
 std::uint32_t zeldata_captions_copy_from(zeldata_captions* captions, const zeldata_captions* other)
 {
-    return call(captions, "copyFrom", copyFrom<i_ZelDataCaptions>, other);
+    return call("copyFrom", copyFrom<i_ZelDataCaptions>, captions, other);
 }
 
 std::uint32_t zeldata_captions_find_problems(const zeldata_captions* captions,
                                              zeldata_findings* findings)
 {
-    return call(captions, "findProblems", findProblemsOf<i_ZelDataCaptions>, captions, findings);
+    return call("findProblems", findProblemsOf<i_ZelDataCaptions>, captions, findings);
 }
 
 // Caption items.
@@ -1203,12 +1145,12 @@ std::uint32_t zeldata_caption_item_set_last_error(const zeldata_caption_item* ca
 std::uint32_t zeldata_caption_item_is_valid(const zeldata_caption_item* caption_item,
                                             std::int32_t strict)
 {
-    return call(caption_item, "isValid", &i_ZelDataCaptionItem::isValid, strict);
+    return call("isValid", &i_ZelDataCaptionItem::isValid, caption_item, strict);
 }
 
 std::uint32_t zeldata_caption_item_clear_text(zeldata_caption_item* caption_item)
 {
-    return call(caption_item, "clearText", &i_ZelDataCaptionItem::clearText);
+    return call("clearText", &i_ZelDataCaptionItem::clearText, caption_item);
 }
 
 std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* caption_item,
@@ -1216,44 +1158,44 @@ std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* c
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call(caption_item, "setTextForLanguage", &ZelDataCaptionItem::setCharacters,
+    return call("setTextForLanguage", &ZelDataCaptionItem::setCharacters, caption_item,
                 Text{text, text_length}, Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_set_start(zeldata_caption_item* caption_item, std::int64_t start)
 {
-    return call(caption_item, "setStart", &i_ZelDataCaptionItem::setStart, start);
+    return call("setStart", &i_ZelDataCaptionItem::setStart, caption_item, start);
 }
 
 std::uint32_t zeldata_caption_item_set_end(zeldata_caption_item* caption_item, std::int64_t end)
 {
-    return call(caption_item, "setEnd", &i_ZelDataCaptionItem::setEnd, end);
+    return call("setEnd", &i_ZelDataCaptionItem::setEnd, caption_item, end);
 }
 
 std::uint32_t zeldata_caption_item_set_duration(zeldata_caption_item* caption_item,
                                                 std::int64_t duration)
 {
-    return call(caption_item, "setDuration", &i_ZelDataCaptionItem::setDuration, duration);
+    return call("setDuration", &i_ZelDataCaptionItem::setDuration, caption_item, duration);
 }
 
 std::uint32_t zeldata_caption_item_set_alignment(zeldata_caption_item* caption_item,
                                                  std::uint32_t alignment)
 {
-    return call(caption_item, "setAlignment", &i_ZelDataCaptionItem::setAlignment, alignment);
+    return call("setAlignment", &i_ZelDataCaptionItem::setAlignment, caption_item, alignment);
 }
 
 std::uint32_t zeldata_caption_item_remove_text_for_language(zeldata_caption_item* caption_item,
                                                             const char* language_id,
                                                             std::size_t language_id_length)
 {
-    return call(caption_item, "removeTextForLanguage", &i_ZelDataCaptionItem::removeTextForLanguage,
+    return call("removeTextForLanguage", &i_ZelDataCaptionItem::removeTextForLanguage, caption_item,
                 Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_get_language_ids(const zeldata_caption_item* caption_item,
                                                     zeldata_strings* ids)
 {
-    return call(caption_item, "getLanguageIDs", &i_ZelDataCaptionItem::getLanguageIDs, ids);
+    return call("getLanguageIDs", &i_ZelDataCaptionItem::getLanguageIDs, caption_item, ids);
 }
 
 std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_item* caption_item,
@@ -1261,38 +1203,38 @@ std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_i
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call(caption_item, "getTextForLanguage", textFor<i_ZelDataCaptionItem>, caption_item,
-                Text{language_id, language_id_length}, text);
+    return call("getTextForLanguage", &i_ZelDataCaptionItem::getTextForLanguage, caption_item, text,
+                Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_get_start(const zeldata_caption_item* caption_item,
                                              std::int64_t* start)
 {
-    return call(caption_item, "getStart", &i_ZelDataCaptionItem::getStart, start);
+    return call("getStart", &i_ZelDataCaptionItem::getStart, caption_item, start);
 }
 
 std::uint32_t zeldata_caption_item_get_end(const zeldata_caption_item* caption_item,
                                            std::int64_t* end)
 {
-    return call(caption_item, "getEnd", &i_ZelDataCaptionItem::getEnd, end);
+    return call("getEnd", &i_ZelDataCaptionItem::getEnd, caption_item, end);
 }
 
 std::uint32_t zeldata_caption_item_get_duration(const zeldata_caption_item* caption_item,
                                                 std::int64_t* duration)
 {
-    return call(caption_item, "getDuration", &i_ZelDataCaptionItem::getDuration, duration);
+    return call("getDuration", &i_ZelDataCaptionItem::getDuration, caption_item, duration);
 }
 
 std::uint32_t zeldata_caption_item_get_alignment(const zeldata_caption_item* caption_item,
                                                  std::uint32_t* alignment)
 {
-    return call(caption_item, "getAlignment", &i_ZelDataCaptionItem::getAlignment, alignment);
+    return call("getAlignment", &i_ZelDataCaptionItem::getAlignment, caption_item, alignment);
 }
 
 std::uint32_t zeldata_caption_item_copy_from(zeldata_caption_item* caption_item,
                                              const zeldata_caption_item* other)
 {
-    return call(caption_item, "copyFrom", copyFrom<i_ZelDataCaptionItem>, other);
+    return call("copyFrom", copyFrom<i_ZelDataCaptionItem>, caption_item, other);
 }
 
 // Tables of contents.
@@ -1319,108 +1261,108 @@ std::uint32_t zeldata_toc_set_last_error(const zeldata_toc* toc, std::uint32_t c
 
 std::uint32_t zeldata_toc_clear_languages(zeldata_toc* toc)
 {
-    return call(toc, "clearLanguages", &i_ZelDataLanguage::clearLanguages);
+    return call("clearLanguages", &i_ZelDataLanguage::clearLanguages, toc);
 }
 
 std::uint32_t zeldata_toc_add_language(zeldata_toc* toc, const char* id, std::size_t id_length)
 {
-    return call(toc, "addLanguage", &i_ZelDataLanguage::addLanguage, Text{id, id_length});
+    return call("addLanguage", &i_ZelDataLanguage::addLanguage, toc, Text{id, id_length});
 }
 
 std::uint32_t zeldata_toc_remove_language(zeldata_toc* toc, const char* id, std::size_t id_length)
 {
-    return call(toc, "removeLanguage", &i_ZelDataLanguage::removeLanguage, Text{id, id_length});
+    return call("removeLanguage", &i_ZelDataLanguage::removeLanguage, toc, Text{id, id_length});
 }
 
 std::uint32_t zeldata_toc_set_ordered_language_ids(zeldata_toc* toc, const zeldata_strings* ids)
 {
-    return call(toc, "setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, ids);
+    return call("setOrderedLanguageIDs", &i_ZelDataLanguage::setOrderedLanguageIDs, toc, ids);
 }
 
 std::uint32_t zeldata_toc_get_ordered_language_ids(const zeldata_toc* toc, zeldata_strings* ids)
 {
-    return call(toc, "getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, ids);
+    return call("getOrderedLanguageIDs", &i_ZelDataLanguage::getOrderedLanguageIDs, toc, ids);
 }
 
 std::uint32_t zeldata_toc_get_language_count(const zeldata_toc* toc, std::uint64_t* count)
 {
-    return call(toc, "getLanguageCount", &i_ZelDataLanguage::getLanguageCount, count);
+    return call("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, toc, count);
 }
 
 std::uint32_t zeldata_toc_get_language_display_names(const zeldata_toc* toc, zeldata_strings* names)
 {
-    return call(toc, "getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames, names);
+    return call("getLanguageDisplayNames", &i_ZelDataLanguage::getLanguageDisplayNames, toc, names);
 }
 
 std::uint32_t zeldata_toc_get_language_native_display_names(const zeldata_toc* toc,
                                                             zeldata_strings* names)
 {
-    return call(toc, "getLanguageNativeDisplayNames",
-                &i_ZelDataLanguage::getLanguageNativeDisplayNames, names);
+    return call("getLanguageNativeDisplayNames", &i_ZelDataLanguage::getLanguageNativeDisplayNames,
+                toc, names);
 }
 
 std::uint32_t zeldata_toc_does_language_exist(const zeldata_toc* toc, const char* id,
                                               std::size_t id_length, std::int32_t* exists)
 {
-    return call(toc, "doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist,
+    return call("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, toc,
                 Text{id, id_length}, exists);
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_header(zeldata_toc* toc, const zeldata_header* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, toc, source);
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_captions(zeldata_toc* toc,
                                                        const zeldata_captions* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, toc, source);
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_toc(zeldata_toc* toc, const zeldata_toc* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataLanguage>, source);
+    return call("copyFrom", copyFrom<i_ZelDataLanguage>, toc, source);
 }
 
 std::uint32_t zeldata_toc_is_valid(const zeldata_toc* toc, std::int32_t deep)
 {
-    return call(toc, "isValid", &i_ZelDataToc::isValid, deep);
+    return call("isValid", &i_ZelDataToc::isValid, toc, deep);
 }
 
 std::uint32_t zeldata_toc_make_consistent(zeldata_toc* toc)
 {
-    return call(toc, "makeTocConsistent", &i_ZelDataToc::makeTocConsistent);
+    return call("makeTocConsistent", &i_ZelDataToc::makeTocConsistent, toc);
 }
 
 std::uint32_t zeldata_toc_set_frame_rate(zeldata_toc* toc, std::uint64_t rate)
 {
-    return call(toc, "setFrameRate", &i_ZelDataToc::setFrameRate, rate);
+    return call("setFrameRate", &i_ZelDataToc::setFrameRate, toc, rate);
 }
 
 std::uint32_t zeldata_toc_get_frame_rate(const zeldata_toc* toc, std::uint64_t* rate)
 {
-    return call(toc, "getFrameRate", &i_ZelDataToc::getFrameRate, rate);
+    return call("getFrameRate", &i_ZelDataToc::getFrameRate, toc, rate);
 }
 
 std::uint32_t zeldata_toc_set_image_file(zeldata_toc* toc, const char* name,
                                          std::size_t name_length)
 {
-    return call(toc, "setImageFile", &i_ZelDataToc::setImageFile, Text{name, name_length});
+    return call("setImageFile", &i_ZelDataToc::setImageFile, toc, Text{name, name_length});
 }
 
 std::uint32_t zeldata_toc_get_image_file(const zeldata_toc* toc, zeldata_string* name)
 {
-    return call(toc, "getImageFile", &i_ZelDataToc::getImageFile, name);
+    return call("getImageFile", &i_ZelDataToc::getImageFile, toc, name);
 }
 
 std::uint32_t zeldata_toc_clear_items(zeldata_toc* toc)
 {
-    return call(toc, "clearTocItems", &i_ZelDataToc::clearTocItems);
+    return call("clearTocItems", &i_ZelDataToc::clearTocItems, toc);
 }
 
 std::uint32_t zeldata_toc_add_item(zeldata_toc* toc, const zeldata_toc_item* item)
 {
-    return call(toc, "addTocItem", &i_ZelDataToc::addTocItem, item);
+    return call("addTocItem", &i_ZelDataToc::addTocItem, toc, item);
 }
 
 std::uint32_t zeldata_toc_create_item(const zeldata_toc* toc, zeldata_toc_item** out)
@@ -1430,38 +1372,38 @@ std::uint32_t zeldata_toc_create_item(const zeldata_toc* toc, zeldata_toc_item**
 
 std::uint32_t zeldata_toc_remove_item(zeldata_toc* toc, std::uint64_t index)
 {
-    return call(toc, "removeTocItemAt", &i_ZelDataToc::removeTocItemAt, index);
+    return call("removeTocItemAt", &i_ZelDataToc::removeTocItemAt, toc, index);
 }
 
 std::uint32_t zeldata_toc_remove_items_for_language(zeldata_toc* toc, const char* language_id,
                                                     std::size_t language_id_length)
 {
-    return call(toc, "removeTocItemsForLanguage", &i_ZelDataToc::removeTocItemsForLanguage,
+    return call("removeTocItemsForLanguage", &i_ZelDataToc::removeTocItemsForLanguage, toc,
                 Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_toc_get_item_count(const zeldata_toc* toc, std::uint64_t* count)
 {
-    return call(toc, "getTocItemCount", &i_ZelDataToc::getTocItemCount, count);
+    return call("getTocItemCount", &i_ZelDataToc::getTocItemCount, toc, count);
 }
 
 std::uint32_t zeldata_toc_get_item(const zeldata_toc* toc, zeldata_toc_item** out,
                                    std::uint64_t index)
 {
     return call(
-        toc, "getTocItemAt",
-        copied<&i_ZelDataToc::getTocItemAt, i_ZelDataToc, i_ZelDataTocItem, zeldata_toc_item>,
-        index, toc, static_cast<void*>(out));
+        "getTocItemAt",
+        copied<&i_ZelDataToc::getTocItemAt, i_ZelDataToc, i_ZelDataTocItem, zeldata_toc_item>, toc,
+        index, static_cast<void*>(out));
 }
 
 std::uint32_t zeldata_toc_copy_from(zeldata_toc* toc, const zeldata_toc* source)
 {
-    return call(toc, "copyFrom", copyFrom<i_ZelDataToc>, source);
+    return call("copyFrom", copyFrom<i_ZelDataToc>, toc, source);
 }
 
 std::uint32_t zeldata_toc_find_problems(const zeldata_toc* toc, zeldata_findings* findings)
 {
-    return call(toc, "findProblems", findProblemsOf<i_ZelDataToc>, toc, findings);
+    return call("findProblems", findProblemsOf<i_ZelDataToc>, toc, findings);
 }
 
 // Entries of a table of contents.
@@ -1488,12 +1430,12 @@ std::uint32_t zeldata_toc_item_set_last_error(const zeldata_toc_item* toc_item, 
 
 std::uint32_t zeldata_toc_item_is_valid(const zeldata_toc_item* toc_item, std::int32_t deep)
 {
-    return call(toc_item, "isValid", &i_ZelDataTocItem::isValid, deep);
+    return call("isValid", &i_ZelDataTocItem::isValid, toc_item, deep);
 }
 
 std::uint32_t zeldata_toc_item_clear_text(zeldata_toc_item* toc_item)
 {
-    return call(toc_item, "clearText", &i_ZelDataTocItem::clearText);
+    return call("clearText", &i_ZelDataTocItem::clearText, toc_item);
 }
 
 std::uint32_t zeldata_toc_item_set_text_for_language(zeldata_toc_item* toc_item, const char* text,
@@ -1501,79 +1443,79 @@ std::uint32_t zeldata_toc_item_set_text_for_language(zeldata_toc_item* toc_item,
                                                      const char* language_id,
                                                      std::size_t language_id_length)
 {
-    return call(toc_item, "setTextForLanguage", &ZelDataTocItem::setCharacters,
+    return call("setTextForLanguage", &ZelDataTocItem::setCharacters, toc_item,
                 Text{text, text_length}, Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_toc_item_set_start(zeldata_toc_item* toc_item, std::int64_t start)
 {
-    return call(toc_item, "setStart", &i_ZelDataTocItem::setStart, start);
+    return call("setStart", &i_ZelDataTocItem::setStart, toc_item, start);
 }
 
 std::uint32_t zeldata_toc_item_set_image_file(zeldata_toc_item* toc_item, const char* name,
                                               std::size_t name_length)
 {
-    return call(toc_item, "setImageFile", &i_ZelDataTocItem::setImageFile, Text{name, name_length});
+    return call("setImageFile", &i_ZelDataTocItem::setImageFile, toc_item, Text{name, name_length});
 }
 
 std::uint32_t zeldata_toc_item_set_image_index(zeldata_toc_item* toc_item, std::uint64_t index)
 {
-    return call(toc_item, "setImageIndex", &i_ZelDataTocItem::setImageIndex, index);
+    return call("setImageIndex", &i_ZelDataTocItem::setImageIndex, toc_item, index);
 }
 
 std::uint32_t zeldata_toc_item_set_image_offset(zeldata_toc_item* toc_item, std::uint64_t offset)
 {
-    return call(toc_item, "setImageOffset", &i_ZelDataTocItem::setImageOffset, offset);
+    return call("setImageOffset", &i_ZelDataTocItem::setImageOffset, toc_item, offset);
 }
 
 std::uint32_t zeldata_toc_item_remove_text_for_language(zeldata_toc_item* toc_item,
                                                         const char* language_id,
                                                         std::size_t language_id_length)
 {
-    return call(toc_item, "removeTextForLanguage", &i_ZelDataTocItem::removeTextForLanguage,
+    return call("removeTextForLanguage", &i_ZelDataTocItem::removeTextForLanguage, toc_item,
                 Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_toc_item_get_language_ids(const zeldata_toc_item* toc_item,
                                                 zeldata_strings* ids)
 {
-    return call(toc_item, "getLanguageIDs", &i_ZelDataTocItem::getLanguageIDs, ids);
+    return call("getLanguageIDs", &i_ZelDataTocItem::getLanguageIDs, toc_item, ids);
 }
 
 std::uint32_t zeldata_toc_item_get_text_for_language(const zeldata_toc_item* toc_item,
                                                      zeldata_string* text, const char* language_id,
                                                      std::size_t language_id_length)
 {
-    return call(toc_item, "getTextForLanguage", textFor<i_ZelDataTocItem>, toc_item,
-                Text{language_id, language_id_length}, text);
+    return call("getTextForLanguage", &i_ZelDataTocItem::getTextForLanguage, toc_item, text,
+                Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_toc_item_get_start(const zeldata_toc_item* toc_item, std::int64_t* start)
 {
-    return call(toc_item, "getStart", &i_ZelDataTocItem::getStart, start);
+    return call("getStart", &i_ZelDataTocItem::getStart, toc_item, start);
 }
 
 std::uint32_t zeldata_toc_item_get_image_file(const zeldata_toc_item* toc_item,
                                               zeldata_string* name)
 {
-    return call(toc_item, "getImageFile", &i_ZelDataTocItem::getImageFile, name);
+    return call("getImageFile", &i_ZelDataTocItem::getImageFile, toc_item, name);
 }
 
 std::uint32_t zeldata_toc_item_get_image_index(const zeldata_toc_item* toc_item,
                                                std::uint64_t* index)
 {
-    return call(toc_item, "getImageIndex", &i_ZelDataTocItem::getImageIndex, index);
+    return call("getImageIndex", &i_ZelDataTocItem::getImageIndex, toc_item, index);
 }
 
 std::uint32_t zeldata_toc_item_get_image_offset(const zeldata_toc_item* toc_item,
                                                 std::uint64_t* offset)
 {
-    return call(toc_item, "getImageOffset", &i_ZelDataTocItem::getImageOffset, offset);
+    return call("getImageOffset", &i_ZelDataTocItem::getImageOffset, toc_item, offset);
 }
 
 std::uint32_t zeldata_toc_item_copy_from(zeldata_toc_item* toc_item, const zeldata_toc_item* source)
 {
-    return call(toc_item, "copyFrom", copyFrom<i_ZelDataTocItem>, source);
+    return call("copyFrom", copyFrom<i_ZelDataTocItem>, toc_item, source);
 }
 
 // Screen text.
@@ -1602,36 +1544,36 @@ std::uint32_t zeldata_screen_text_set_last_error(const zeldata_screen_text* scre
 std::uint32_t zeldata_screen_text_is_valid(const zeldata_screen_text* screen_text,
                                            std::int32_t deep)
 {
-    return call(screen_text, "isValid", &i_ZelDataScreenText::isValid, deep);
+    return call("isValid", &i_ZelDataScreenText::isValid, screen_text, deep);
 }
 
 std::uint32_t zeldata_screen_text_make_consistent(zeldata_screen_text* screen_text)
 {
-    return call(screen_text, "makeScreenTextConsistent",
-                &i_ZelDataScreenText::makeScreenTextConsistent);
+    return call("makeScreenTextConsistent", &i_ZelDataScreenText::makeScreenTextConsistent,
+                screen_text);
 }
 
 std::uint32_t zeldata_screen_text_set_frame_rate(zeldata_screen_text* screen_text,
                                                  std::uint64_t rate)
 {
-    return call(screen_text, "setFrameRate", &i_ZelDataScreenText::setFrameRate, rate);
+    return call("setFrameRate", &i_ZelDataScreenText::setFrameRate, screen_text, rate);
 }
 
 std::uint32_t zeldata_screen_text_get_frame_rate(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* rate)
 {
-    return call(screen_text, "getFrameRate", &i_ZelDataScreenText::getFrameRate, rate);
+    return call("getFrameRate", &i_ZelDataScreenText::getFrameRate, screen_text, rate);
 }
 
 std::uint32_t zeldata_screen_text_clear_items(zeldata_screen_text* screen_text)
 {
-    return call(screen_text, "clearScreenTextItems", &i_ZelDataScreenText::clearScreenTextItems);
+    return call("clearScreenTextItems", &i_ZelDataScreenText::clearScreenTextItems, screen_text);
 }
 
 std::uint32_t zeldata_screen_text_add_item(zeldata_screen_text* screen_text,
                                            const zeldata_screen_text_item* item)
 {
-    return call(screen_text, "addScreenTextItem", &i_ZelDataScreenText::addScreenTextItem, item);
+    return call("addScreenTextItem", &i_ZelDataScreenText::addScreenTextItem, screen_text, item);
 }
 
 std::uint32_t zeldata_screen_text_create_item(const zeldata_screen_text* screen_text,
@@ -1642,37 +1584,36 @@ std::uint32_t zeldata_screen_text_create_item(const zeldata_screen_text* screen_
 
 std::uint32_t zeldata_screen_text_remove_item(zeldata_screen_text* screen_text, std::uint64_t index)
 {
-    return call(screen_text, "removeScreenTextItemAt", &i_ZelDataScreenText::removeScreenTextItemAt,
+    return call("removeScreenTextItemAt", &i_ZelDataScreenText::removeScreenTextItemAt, screen_text,
                 index);
 }
 
 std::uint32_t zeldata_screen_text_get_item_count(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* count)
 {
-    return call(screen_text, "getScreenTextItemCount", &i_ZelDataScreenText::getScreenTextItemCount,
+    return call("getScreenTextItemCount", &i_ZelDataScreenText::getScreenTextItemCount, screen_text,
                 count);
 }
 
 std::uint32_t zeldata_screen_text_get_item(const zeldata_screen_text* screen_text,
                                            zeldata_screen_text_item** out, std::uint64_t index)
 {
-    return call(screen_text, "getScreenTextItemAt",
+    return call("getScreenTextItemAt",
                 copied<&i_ZelDataScreenText::getScreenTextItemAt, i_ZelDataScreenText,
                        i_ZelDataScreenTextItem, zeldata_screen_text_item>,
-                index, screen_text, static_cast<void*>(out));
+                screen_text, index, static_cast<void*>(out));
 }
 
 std::uint32_t zeldata_screen_text_copy_from(zeldata_screen_text* screen_text,
                                             const zeldata_screen_text* source)
 {
-    return call(screen_text, "copyFrom", copyFrom<i_ZelDataScreenText>, source);
+    return call("copyFrom", copyFrom<i_ZelDataScreenText>, screen_text, source);
 }
 
 std::uint32_t zeldata_screen_text_find_problems(const zeldata_screen_text* screen_text,
                                                 zeldata_findings* findings)
 {
-    return call(screen_text, "findProblems", findProblemsOf<i_ZelDataScreenText>, screen_text,
-                findings);
+    return call("findProblems", findProblemsOf<i_ZelDataScreenText>, screen_text, findings);
 }
 
 // Screen text items.
@@ -1703,109 +1644,109 @@ zeldata_screen_text_item_set_last_error(const zeldata_screen_text_item* screen_t
 std::uint32_t zeldata_screen_text_item_is_valid(const zeldata_screen_text_item* screen_text_item,
                                                 std::int32_t deep)
 {
-    return call(screen_text_item, "isValid", &i_ZelDataScreenTextItem::isValid, deep);
+    return call("isValid", &i_ZelDataScreenTextItem::isValid, screen_text_item, deep);
 }
 
 std::uint32_t zeldata_screen_text_item_clear_text(zeldata_screen_text_item* screen_text_item)
 {
-    return call(screen_text_item, "clearText", &i_ZelDataScreenTextItem::clearText);
+    return call("clearText", &i_ZelDataScreenTextItem::clearText, screen_text_item);
 }
 
 std::uint32_t zeldata_screen_text_item_set_text(zeldata_screen_text_item* screen_text_item,
                                                 const char* text, std::size_t text_length)
 {
-    return call(screen_text_item, "setText", &ZelDataScreenTextItem::setCharacters,
+    return call("setText", &ZelDataScreenTextItem::setCharacters, screen_text_item,
                 Text{text, text_length});
 }
 
 std::uint32_t zeldata_screen_text_item_set_start(zeldata_screen_text_item* screen_text_item,
                                                  std::int64_t start)
 {
-    return call(screen_text_item, "setStart", &i_ZelDataScreenTextItem::setStart, start);
+    return call("setStart", &i_ZelDataScreenTextItem::setStart, screen_text_item, start);
 }
 
 std::uint32_t zeldata_screen_text_item_set_end(zeldata_screen_text_item* screen_text_item,
                                                std::int64_t end)
 {
-    return call(screen_text_item, "setEnd", &i_ZelDataScreenTextItem::setEnd, end);
+    return call("setEnd", &i_ZelDataScreenTextItem::setEnd, screen_text_item, end);
 }
 
 std::uint32_t zeldata_screen_text_item_set_duration(zeldata_screen_text_item* screen_text_item,
                                                     std::int64_t duration)
 {
-    return call(screen_text_item, "setDuration", &i_ZelDataScreenTextItem::setDuration, duration);
+    return call("setDuration", &i_ZelDataScreenTextItem::setDuration, screen_text_item, duration);
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_file(zeldata_screen_text_item* screen_text_item,
                                                       const char* name, std::size_t name_length)
 {
-    return call(screen_text_item, "setImageFile", &i_ZelDataScreenTextItem::setImageFile,
+    return call("setImageFile", &i_ZelDataScreenTextItem::setImageFile, screen_text_item,
                 Text{name, name_length});
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_index(zeldata_screen_text_item* screen_text_item,
                                                        std::uint64_t index)
 {
-    return call(screen_text_item, "setImageIndex", &i_ZelDataScreenTextItem::setImageIndex, index);
+    return call("setImageIndex", &i_ZelDataScreenTextItem::setImageIndex, screen_text_item, index);
 }
 
 std::uint32_t zeldata_screen_text_item_set_image_offset(zeldata_screen_text_item* screen_text_item,
                                                         std::uint64_t offset)
 {
-    return call(screen_text_item, "setImageOffset", &i_ZelDataScreenTextItem::setImageOffset,
+    return call("setImageOffset", &i_ZelDataScreenTextItem::setImageOffset, screen_text_item,
                 offset);
 }
 
 std::uint32_t zeldata_screen_text_item_set_group_id(zeldata_screen_text_item* screen_text_item,
                                                     std::uint64_t id)
 {
-    return call(screen_text_item, "setGroupId", &i_ZelDataScreenTextItem::setGroupId, id);
+    return call("setGroupId", &i_ZelDataScreenTextItem::setGroupId, screen_text_item, id);
 }
 
 std::uint32_t zeldata_screen_text_item_get_text(const zeldata_screen_text_item* screen_text_item,
                                                 zeldata_string* text)
 {
-    return call(screen_text_item, "getText", &i_ZelDataScreenTextItem::getText, text);
+    return call("getText", &i_ZelDataScreenTextItem::getText, screen_text_item, text);
 }
 
 std::uint32_t zeldata_screen_text_item_get_start(const zeldata_screen_text_item* screen_text_item,
                                                  std::int64_t* start)
 {
-    return call(screen_text_item, "getStart", &i_ZelDataScreenTextItem::getStart, start);
+    return call("getStart", &i_ZelDataScreenTextItem::getStart, screen_text_item, start);
 }
 
 std::uint32_t zeldata_screen_text_item_get_end(const zeldata_screen_text_item* screen_text_item,
                                                std::int64_t* end)
 {
-    return call(screen_text_item, "getEnd", &i_ZelDataScreenTextItem::getEnd, end);
+    return call("getEnd", &i_ZelDataScreenTextItem::getEnd, screen_text_item, end);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_duration(const zeldata_screen_text_item* screen_text_item,
                                       std::int64_t* duration)
 {
-    return call(screen_text_item, "getDuration", &i_ZelDataScreenTextItem::getDuration, duration);
+    return call("getDuration", &i_ZelDataScreenTextItem::getDuration, screen_text_item, duration);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_image_file(const zeldata_screen_text_item* screen_text_item,
                                         zeldata_string* name)
 {
-    return call(screen_text_item, "getImageFile", &i_ZelDataScreenTextItem::getImageFile, name);
+    return call("getImageFile", &i_ZelDataScreenTextItem::getImageFile, screen_text_item, name);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_image_index(const zeldata_screen_text_item* screen_text_item,
                                          std::uint64_t* index)
 {
-    return call(screen_text_item, "getImageIndex", &i_ZelDataScreenTextItem::getImageIndex, index);
+    return call("getImageIndex", &i_ZelDataScreenTextItem::getImageIndex, screen_text_item, index);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_image_offset(const zeldata_screen_text_item* screen_text_item,
                                           std::uint64_t* offset)
 {
-    return call(screen_text_item, "getImageOffset", &i_ZelDataScreenTextItem::getImageOffset,
+    return call("getImageOffset", &i_ZelDataScreenTextItem::getImageOffset, screen_text_item,
                 offset);
 }
 
@@ -1813,13 +1754,13 @@ std::uint32_t
 zeldata_screen_text_item_get_group_id(const zeldata_screen_text_item* screen_text_item,
                                       std::uint64_t* id)
 {
-    return call(screen_text_item, "getGroupId", &i_ZelDataScreenTextItem::getGroupId, id);
+    return call("getGroupId", &i_ZelDataScreenTextItem::getGroupId, screen_text_item, id);
 }
 
 std::uint32_t zeldata_screen_text_item_copy_from(zeldata_screen_text_item* screen_text_item,
                                                  const zeldata_screen_text_item* source)
 {
-    return call(screen_text_item, "copyFrom", copyFrom<i_ZelDataScreenTextItem>, source);
+    return call("copyFrom", copyFrom<i_ZelDataScreenTextItem>, screen_text_item, source);
 }
 
 // Header formatters.
@@ -1852,13 +1793,13 @@ std::uint32_t
 zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
                                       zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call(header_formatter, "writeString", writeString, header_formatter, out, format, flag);
+    return call("writeString", writeString, header_formatter, out, format, flag);
 }
 
 std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* header_formatter,
                                                   const zeldata_header* header)
 {
-    return call(header_formatter, "setHeader", &i_ZelDataHeaderFormatter::setHeader, header);
+    return call("setHeader", &i_ZelDataHeaderFormatter::setHeader, header_formatter, header);
 }
 
 // Caption formatters.
@@ -1892,14 +1833,13 @@ std::uint32_t
 zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
                                        zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call(caption_formatter, "writeString", writeString, caption_formatter, out, format,
-                flag);
+    return call("writeString", writeString, caption_formatter, out, format, flag);
 }
 
 std::uint32_t zeldata_caption_formatter_set_captions(zeldata_caption_formatter* caption_formatter,
                                                      const zeldata_captions* captions)
 {
-    return call(caption_formatter, "setCaptions", &i_ZelDataCaptionFormatter::setCaptions,
+    return call("setCaptions", &i_ZelDataCaptionFormatter::setCaptions, caption_formatter,
                 captions);
 }
 
@@ -1930,13 +1870,13 @@ std::uint32_t zeldata_toc_formatter_write_string(const zeldata_toc_formatter* to
                                                  zeldata_string* out, std::uint32_t format,
                                                  std::int32_t flag)
 {
-    return call(toc_formatter, "writeString", writeString, toc_formatter, out, format, flag);
+    return call("writeString", writeString, toc_formatter, out, format, flag);
 }
 
 std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
                                             const zeldata_toc* toc)
 {
-    return call(toc_formatter, "setToc", &i_ZelDataTocFormatter::setToc, toc);
+    return call("setToc", &i_ZelDataTocFormatter::setToc, toc_formatter, toc);
 }
 
 // Screen text formatters.
@@ -1969,16 +1909,15 @@ std::uint32_t zeldata_screen_text_formatter_write_string(
     const zeldata_screen_text_formatter* screen_text_formatter, zeldata_string* out,
     std::uint32_t format, std::int32_t flag)
 {
-    return call(screen_text_formatter, "writeString", writeString, screen_text_formatter, out,
-                format, flag);
+    return call("writeString", writeString, screen_text_formatter, out, format, flag);
 }
 
 std::uint32_t
 zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* screen_text_formatter,
                                               const zeldata_screen_text* screen_text)
 {
-    return call(screen_text_formatter, "setScreenText",
-                &i_ZelDataScreenTextFormatter::setScreenText, screen_text);
+    return call("setScreenText", &i_ZelDataScreenTextFormatter::setScreenText,
+                screen_text_formatter, screen_text);
 }
 
 // Findings.
@@ -2013,104 +1952,104 @@ void zeldata_findings_destroy(zeldata_findings* findings)
 
 std::uint32_t zeldata_findings_get_count(const zeldata_findings* findings, std::uint64_t* count)
 {
-    return call(findings, "getCount", &FindingList::getCount, count);
+    return call("getCount", &FindingList::getCount, findings, count);
 }
 
 std::uint32_t zeldata_findings_get_kind(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* kind)
 {
-    return call(findings, "getKind", &FindingList::get<&ZelDataFinding::kind, std::uint32_t>, index,
+    return call("getKind", &FindingList::get<&ZelDataFinding::kind, std::uint32_t>, findings, index,
                 kind);
 }
 
 std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std::uint64_t index,
                                            std::uint32_t* subject)
 {
-    return call(findings, "getSubject", &FindingList::get<&ZelDataFinding::subject, std::uint32_t>,
+    return call("getSubject", &FindingList::get<&ZelDataFinding::subject, std::uint32_t>, findings,
                 index, subject);
 }
 
 std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
                                               std::uint64_t* item)
 {
-    return call(findings, "getItemIndex",
-                &FindingList::get<indexOf<&ZelDataFinding::item>, std::uint64_t>, index, item);
+    return call("getItemIndex", &FindingList::get<indexOf<&ZelDataFinding::item>, std::uint64_t>,
+                findings, index, item);
 }
 
 std::uint32_t zeldata_findings_get_start(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* start)
 {
-    return call(findings, "getStart", &FindingList::get<&ZelDataFinding::start, std::int64_t>,
+    return call("getStart", &FindingList::get<&ZelDataFinding::start, std::int64_t>, findings,
                 index, start);
 }
 
 std::uint32_t zeldata_findings_get_language(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* language)
 {
-    return call(findings, "getLanguage", &FindingList::get<&ZelDataFinding::language, std::string>,
+    return call("getLanguage", &FindingList::get<&ZelDataFinding::language, std::string>, findings,
                 index, language);
 }
 
 std::uint32_t zeldata_findings_get_property(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* property)
 {
-    return call(findings, "getProperty", &FindingList::get<&ZelDataFinding::property, std::string>,
+    return call("getProperty", &FindingList::get<&ZelDataFinding::property, std::string>, findings,
                 index, property);
 }
 
 std::uint32_t zeldata_findings_get_component(const zeldata_findings* findings, std::uint64_t index,
                                              float* component)
 {
-    return call(findings, "getComponent", &FindingList::get<&ZelDataFinding::component, float>,
+    return call("getComponent", &FindingList::get<&ZelDataFinding::component, float>, findings,
                 index, component);
 }
 
 std::uint32_t zeldata_findings_get_value(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* value)
 {
-    return call(findings, "getValue", &FindingList::get<&ZelDataFinding::value, std::int64_t>,
+    return call("getValue", &FindingList::get<&ZelDataFinding::value, std::int64_t>, findings,
                 index, value);
 }
 
 std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* limit)
 {
-    return call(findings, "getLimit", &FindingList::get<&ZelDataFinding::limit, std::int64_t>,
+    return call("getLimit", &FindingList::get<&ZelDataFinding::limit, std::int64_t>, findings,
                 index, limit);
 }
 
 std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
                                                     std::uint64_t index, std::uint64_t* later_item)
 {
-    return call(findings, "getLaterItemIndex",
-                &FindingList::get<indexOf<&ZelDataFinding::laterItem>, std::uint64_t>, index,
-                later_item);
+    return call("getLaterItemIndex",
+                &FindingList::get<indexOf<&ZelDataFinding::laterItem>, std::uint64_t>, findings,
+                index, later_item);
 }
 
 std::uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                std::uint64_t index, std::int64_t* later_start)
 {
-    return call(findings, "getLaterStart",
-                &FindingList::get<&ZelDataFinding::laterStart, std::int64_t>, index, later_start);
+    return call("getLaterStart", &FindingList::get<&ZelDataFinding::laterStart, std::int64_t>,
+                findings, index, later_start);
 }
 
 std::uint32_t zeldata_findings_get_severity(const zeldata_findings* findings, std::uint64_t index,
                                             std::uint32_t* severity)
 {
-    return call(findings, "getSeverity", &FindingList::get<severityOf, std::uint32_t>, index,
+    return call("getSeverity", &FindingList::get<severityOf, std::uint32_t>, findings, index,
                 severity);
 }
 
 std::uint32_t zeldata_findings_get_code(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* code)
 {
-    return call(findings, "getCode", &FindingList::get<codeOf, std::uint32_t>, index, code);
+    return call("getCode", &FindingList::get<codeOf, std::uint32_t>, findings, index, code);
 }
 
 std::uint32_t zeldata_findings_describe(const zeldata_findings* findings, std::uint64_t index,
                                         zeldata_string* text)
 {
-    return call(findings, "describe", &FindingList::get<description, std::string>, index, text);
+    return call("describe", &FindingList::get<description, std::string>, findings, index, text);
 }
 
 const char* zeldata_finding_to_string(std::uint32_t kind)
@@ -2123,18 +2062,18 @@ const char* zeldata_finding_to_string(std::uint32_t kind)
 std::uint32_t zeldata_english_name_for_language(const char* id, std::size_t id_length,
                                                 zeldata_string* name)
 {
-    return run(&ZelDataUtilities::englishNameForLanguage, Text{id, id_length}, name);
+    return call("", &ZelDataUtilities::englishNameForLanguage, Text{id, id_length}, name);
 }
 
 std::uint32_t zeldata_native_name_for_language(const char* id, std::size_t id_length,
                                                zeldata_string* name)
 {
-    return run(&ZelDataUtilities::nativeNameForLanguage, Text{id, id_length}, name);
+    return call("", &ZelDataUtilities::nativeNameForLanguage, Text{id, id_length}, name);
 }
 
 std::uint32_t zeldata_is_valid_language(const char* id, std::size_t id_length)
 {
-    return run(&ZelDataUtilities::isValidLanguage, Text{id, id_length});
+    return call("", &ZelDataUtilities::isValidLanguage, Text{id, id_length});
 }
 
 // Text helpers.
@@ -2160,45 +2099,46 @@ Code linesOf(const std::string& text, unsigned long& count)
 std::uint32_t zeldata_verify_utf8_format(const char* text, std::size_t text_length,
                                          std::int32_t bmp_only)
 {
-    return run(&ZelDataUtilities::verifyUtf8Format, Text{text, text_length}, bmp_only);
+    return call("", &ZelDataUtilities::verifyUtf8Format, Text{text, text_length}, bmp_only);
 }
 
 std::uint32_t zeldata_count_lines_in_utf8(const char* text, std::size_t text_length,
                                           std::uint64_t* count)
 {
-    return run(linesOf, Text{text, text_length}, count);
+    return call("", linesOf, Text{text, text_length}, count);
 }
 
 std::uint32_t zeldata_strip_unsupported_characters(const char* text, std::size_t text_length,
                                                    zeldata_string* result)
 {
-    return run(made<const std::string&, &ZelDataUtilities::stripUnsupportedCharacters>,
-               Text{text, text_length}, result);
+    return call("", made<const std::string&, &ZelDataUtilities::stripUnsupportedCharacters>,
+                Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_to_text(const char* text, std::size_t text_length,
                                         zeldata_string* result)
 {
-    return run(made<const std::string&, &ZelDataUtilities::htmlTagsToText>, Text{text, text_length},
-               result);
+    return call("", made<const std::string&, &ZelDataUtilities::htmlTagsToText>,
+                Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_from_text(const char* text, std::size_t text_length,
                                           zeldata_string* result)
 {
-    return run(made<const std::string&, &ZelDataUtilities::htmlTagsFromText>,
-               Text{text, text_length}, result);
+    return call("", made<const std::string&, &ZelDataUtilities::htmlTagsFromText>,
+                Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_get_vertical_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return run(made<ZelAlignment_tags, &ZelDataUtilities::getVerticalAlignment>, alignment, result);
+    return call("", made<ZelAlignment_tags, &ZelDataUtilities::getVerticalAlignment>, alignment,
+                result);
 }
 
 std::uint32_t zeldata_get_horizontal_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return run(made<ZelAlignment_tags, &ZelDataUtilities::getHorizontalAlignment>, alignment,
-               result);
+    return call("", made<ZelAlignment_tags, &ZelDataUtilities::getHorizontalAlignment>, alignment,
+                result);
 }
 
 // Texts of values.
@@ -2219,35 +2159,35 @@ Code dateOfNow(std::string& date)
 
 std::uint32_t zeldata_get_value_string_float(float value, zeldata_string* result)
 {
-    return run(made<float, &ZelDataUtilities::getValueString>, value, result);
+    return call("", made<float, &ZelDataUtilities::getValueString>, value, result);
 }
 
 std::uint32_t zeldata_get_value_string_uint64(std::uint64_t value, zeldata_string* result)
 {
-    return run(made<unsigned long long, &ZelDataUtilities::getValueString>, value, result);
+    return call("", made<unsigned long long, &ZelDataUtilities::getValueString>, value, result);
 }
 
 std::uint32_t zeldata_get_rate_string(std::uint64_t rate, zeldata_string* result)
 {
-    return run(made<unsigned long, &ZelDataUtilities::getRateString>, rate, result);
+    return call("", made<unsigned long, &ZelDataUtilities::getRateString>, rate, result);
 }
 
 std::uint32_t zeldata_get_version_string(std::uint64_t version, zeldata_string* result)
 {
-    return run(made<unsigned long, &ZelDataUtilities::getVersionString>, version, result);
+    return call("", made<unsigned long, &ZelDataUtilities::getVersionString>, version, result);
 }
 
 std::uint32_t zeldata_get_date_string(std::int64_t seconds, zeldata_string* date)
 {
-    return run(made<long, dateOf>, seconds, date);
+    return call("", made<long, dateOf>, seconds, date);
 }
 
 std::uint32_t zeldata_get_date_string_now(zeldata_string* date)
 {
-    return run(dateOfNow, date);
+    return call("", dateOfNow, date);
 }
 
 std::uint32_t zeldata_get_value_string_int64(std::int64_t value, zeldata_string* result)
 {
-    return run(made<long, &getValueString>, value, result);
+    return call("", made<long, &getValueString>, value, result);
 }
