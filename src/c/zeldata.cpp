@@ -78,19 +78,20 @@ struct Value;
 /// @}
 
 /// @name Arguments
-/// An operation gets passed() for what C passes, and a message shows shown(). If the operation
-/// succeeded, store() stores its result.
+/// If all arguments are usable, the operation gets passed() for each; a message shows shown(). If
+/// the operation succeeded, store() stores its result.
 /// @{
 
-struct Unshown {
+struct AnyArgument {
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
 
     bool usable = true;
 };
 
+/// A number, which must fit, or a pointer.
 template <class Parameter, class Given>
-struct Argument : Unshown {
+struct Argument : AnyArgument {
     explicit Argument(Given given) : value(static_cast<Parameter>(given))
     {
         if constexpr (sizeof(Parameter) < sizeof(Given) && !std::is_same_v<Parameter, bool>)
@@ -103,7 +104,7 @@ struct Argument : Unshown {
         if constexpr (isShown && !std::is_pointer_v<Parameter>)
             return ZelDataArgument(value);
         else
-            return Unshown::shown();
+            return AnyArgument::shown();
     }
 
     Parameter value;
@@ -114,9 +115,9 @@ struct Text {
     std::size_t length;
 };
 
-/// The value is a string or a view, as the operation takes it.
+/// A text: a string or a view, as the operation takes it.
 template <class Parameter>
-struct Argument<Parameter, Text> : Unshown {
+struct Argument<Parameter, Text> : AnyArgument {
     explicit Argument(Text given)
     {
         usable = given.begin != nullptr;
@@ -132,7 +133,7 @@ struct Argument<Parameter, Text> : Unshown {
 
 /// A number that the operation stores.
 template <class Result, class Given>
-struct Argument<Result&, Given*> : Unshown {
+struct Argument<Result&, Given*> : AnyArgument {
     explicit Argument(Given* given) : target(given) { usable = given != nullptr; }
     Result& passed() { return value; }
     void store() const { *target = static_cast<Given>(value); }
@@ -141,8 +142,9 @@ struct Argument<Result&, Given*> : Unshown {
     Result value{};
 };
 
+/// An object.
 template <class Target>
-struct Argument<Target&, Handle*> : Unshown {
+struct Argument<Target&, Handle*> : AnyArgument {
     explicit Argument(Handle* given) : handle(given) { usable = given != nullptr; }
     Target& passed() const
     {
