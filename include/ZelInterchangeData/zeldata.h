@@ -14,10 +14,13 @@
 ///   get are stored in a zeldata_string that you created; zeldata_string_copy() copies one into a
 ///   buffer of yours.
 /// - **Results** are the codes below; zeldata_last_message() says in words what failed. A function
-///   that fails stores nothing, with these exceptions: the target of a document's
-///   zeldata_document_get_header() (`_captions`, `_toc`, `_screen_text`) is incomplete if copying
-///   fails, the display names of languages are those that were found, and zeldata_string_copy() and
-///   zeldata_document_replace_file() say what they store.
+///   that fails changes only the last error and the message, with these exceptions:
+///   - `_copy_from`, `_copy_languages_from_header` (`_captions`, `_toc`),
+///     `_remove_items_for_language` and the functions that copy a data set into or out of a
+///     document or into a formatter keep what they did before the failure.
+///   - `_set_text_for_language` stores the text before it returns #ZELDATA_WARN_ALREADY_EXISTS.
+///   - The display names of languages are those that were found.
+///   - zeldata_string_copy() and zeldata_document_replace_file() say what they store.
 /// - #ZELDATA_INVALID_ARGUMENT, for every function that returns a code: a handle or a pointer is
 ///   null, `*out` is not, a text is too long, or a number is too large for the C++ type. In that
 ///   case, and if memory runs out before the operation begins, the object can keep the last error
@@ -25,11 +28,12 @@
 /// - **Numbers**: what is `unsigned long` in C++ is `uint64_t`, what is `long` is `int64_t`. Where
 ///   `long` has 32 bits, as on Windows and on 32-bit processors, you can pass a `uint64_t` up to
 ///   4294967295, and to zeldata_get_date_string() and zeldata_get_value_string_int64() -2147483648
-///   to 2147483647; what is `long long` in C++, such as the times of items, has its whole range
-///   everywhere. A truth value is an `int32_t`: you get 0 or 1, and everything except 0 that you
-///   pass is true.
+///   to 2147483647. What is `long long` or `unsigned long long` in C++ has its whole range
+///   everywhere: the times of items, the offsets of images and the number that you pass to
+///   zeldata_get_value_string_uint64(). A truth value is an `int32_t`: you get 0 or 1, and
+///   everything except 0 that you pass is true.
 /// - **Threads**: you can use different objects in different threads. Use one object in one thread
-///   at a time, also for reading: each call changes the object's last message.
+///   at a time, also for reading: most getters change the object's last message.
 ///
 /// No exception leaves these functions. The header is C of 1999 or later, and C++ of 2011 or later.
 /// `zeldata.json`, which is installed with the library, lists the functions for programs that
@@ -240,13 +244,17 @@ typedef struct zeldata_screen_text_formatter zeldata_screen_text_formatter;
 /// @name Results
 /// @{
 
-/// What the last call through @p handle, a handle of any type above, reported: if it failed, the
-/// C++ operation, its arguments and what the code means, otherwise "". An operation that C++ does
-/// not have is named after the C function. For a null handle, the meaning of
-/// #ZELDATA_INVALID_ARGUMENT: a function that takes no handle, such as zeldata_header_create(),
-/// keeps no message; pass its code to zeldata_result_describe(). Never null; valid until the next
-/// call with the handle. If memory ran out, also if only for the message, it is that of
-/// zeldata_result_describe().
+/// What the last call with @p handle, of any type above, as its first argument reported: "" if it
+/// succeeded, otherwise the C++ operation, its arguments and what the code means. If the system
+/// reports an error to zeldata_document_replace_file(), the message has the system's reason instead
+/// of the meaning. An operation that C++ does not have is named after the C function. If memory ran
+/// out during the call or for the message, the message is only what zeldata_result_describe()
+/// returns for the code. Never null; valid until the next call with the handle.
+///
+/// zeldata_string_get_data(), zeldata_string_get_size() and each `_get_last_error` leave the
+/// message as it is. A function whose first argument is not a handle, such as
+/// zeldata_header_create(), keeps no message: pass its code to zeldata_result_describe(). For a
+/// null handle, this function returns the meaning of #ZELDATA_INVALID_ARGUMENT.
 ZELINTERCHANGEDATA_API const char* zeldata_last_message(const void* handle);
 /// The name of @p code ("ZelData_InvalidUtf8"), "ZelData_Unknown" for a value that is not a code.
 /// Never null.
@@ -451,8 +459,8 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_header_set_app_version(zeldata_header* h
 /// The title of the whole video. See i_ZelDataHeader::setTitle().
 ZELINTERCHANGEDATA_API uint32_t zeldata_header_set_title(zeldata_header* header, const char* title,
                                                          size_t title_length);
-/// Written without escaping: with one of `"&'<>` in it, the packet may not be well-formed XML. See
-/// i_ZelDataHeader::setCreator().
+/// The creator, written without escaping: with one of `"&'<>` in it, the packet may not be
+/// well-formed XML. See i_ZelDataHeader::setCreator().
 ZELINTERCHANGEDATA_API uint32_t zeldata_header_set_creator(zeldata_header* header,
                                                            const char* creator,
                                                            size_t creator_length);
@@ -549,7 +557,7 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_header_find_problems(const zeldata_heade
 /// @name Captions
 /// @{
 
-/// Stores a new collection of captions without items, in the standard styling in `*out`.
+/// Stores a new collection of captions in `*out`, without items and with the standard styling.
 ZELINTERCHANGEDATA_API uint32_t zeldata_captions_create(zeldata_captions** out);
 /// Destroys the object; null is allowed.
 ZELINTERCHANGEDATA_API void zeldata_captions_destroy(zeldata_captions* captions);
@@ -1053,7 +1061,7 @@ zeldata_header_formatter_get_last_error(const zeldata_header_formatter* header_f
 /// Stores @p code as the last error.
 ZELINTERCHANGEDATA_API uint32_t zeldata_header_formatter_set_last_error(
     const zeldata_header_formatter* header_formatter, uint32_t code);
-/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
+/// Replaces @p out with a packet that has the header and no items; @p flag is not used. See
 /// i_ZelDataHeaderFormatter.
 ZELINTERCHANGEDATA_API uint32_t
 zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
@@ -1078,8 +1086,8 @@ zeldata_caption_formatter_get_last_error(const zeldata_caption_formatter* captio
 /// Stores @p code as the last error.
 ZELINTERCHANGEDATA_API uint32_t zeldata_caption_formatter_set_last_error(
     const zeldata_caption_formatter* caption_formatter, uint32_t code);
-/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
-/// i_ZelDataCaptionFormatter.
+/// Replaces @p out with the captions' part of a packet; @p flag is not used. Without items, returns
+/// #ZELDATA_OK and leaves @p out unchanged. See i_ZelDataCaptionFormatter.
 ZELINTERCHANGEDATA_API uint32_t
 zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
                                        zeldata_string* out, uint32_t format, int32_t flag);
@@ -1102,8 +1110,8 @@ zeldata_toc_formatter_get_last_error(const zeldata_toc_formatter* toc_formatter)
 /// Stores @p code as the last error.
 ZELINTERCHANGEDATA_API uint32_t
 zeldata_toc_formatter_set_last_error(const zeldata_toc_formatter* toc_formatter, uint32_t code);
-/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
-/// i_ZelDataTocFormatter.
+/// Replaces @p out with the table's part of a packet; @p flag is not used. Without entries, returns
+/// #ZELDATA_OK and leaves @p out unchanged. See i_ZelDataTocFormatter.
 ZELINTERCHANGEDATA_API uint32_t zeldata_toc_formatter_write_string(
     const zeldata_toc_formatter* toc_formatter, zeldata_string* out, uint32_t format, int32_t flag);
 /// Replaces the held copy with a copy of @p toc. See i_ZelDataTocFormatter::setToc().
@@ -1126,8 +1134,8 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_get_last_error(
 /// Stores @p code as the last error.
 ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_set_last_error(
     const zeldata_screen_text_formatter* screen_text_formatter, uint32_t code);
-/// Stores the part of the packet that it writes in @p out; @p flag is not used. See
-/// i_ZelDataScreenTextFormatter.
+/// Replaces @p out with the screen text's part of a packet; @p flag is not used. Without items,
+/// returns #ZELDATA_OK and leaves @p out unchanged. See i_ZelDataScreenTextFormatter.
 ZELINTERCHANGEDATA_API uint32_t zeldata_screen_text_formatter_write_string(
     const zeldata_screen_text_formatter* screen_text_formatter, zeldata_string* out,
     uint32_t format, int32_t flag);

@@ -1,5 +1,5 @@
 /// @file
-/// The one place that turns exceptions into codes.
+/// Turns exceptions into codes. The C face does so, too, in src/c/zeldata.cpp.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_GUARD_H
 #define ZELINTERCHANGEDATA_UTIL_GUARD_H
