@@ -162,7 +162,7 @@ struct Argument<Target&, Handle*> : AnyArgument {
 /// @{
 
 /// Calls @p operation with what C passes for its parameters. If the first is a handle, it keeps the
-/// message, which shows the others.
+/// message, which shows the others. Member functions are called through their common base.
 template <class Object, class... Parameters, class Operation, class First, class... Given>
 [[gnu::noinline]] std::uint32_t perform(const char* name, Operation operation, First first,
                                         Given... given)
@@ -180,12 +180,12 @@ template <class Object, class... Parameters, class Operation, class First, class
     };
     try {
         return run(Argument<Object, First>(first), Argument<Parameters, Given>(given)...);
-    } catch (const std::exception&) { // memory ran out, or a text became too long
+    } catch (const std::exception&) { // also std::length_error
         return keep(handle, name, ZelData_OutOfMemory);
     }
 }
 
-/// The type of all handles: with it, operations that take the same parameters share an instance.
+/// All handles have one type here, so that operations with the same parameters share an instance.
 template <class Given>
 auto erased(Given given)
 {
