@@ -236,6 +236,15 @@ TEST_F(FileReplacement, ContinuesShortWritesAndRepeatsInterruptedOnes)
     EXPECT_EQ(expected, dateMasked(bytesOf(path())));
 }
 
+TEST_F(FileReplacement, RepeatsAWriteThatTakesNothing)
+{
+    const auto expected = whole();
+    const Writes writes(Trouble::Short, 0, 0);
+    EXPECT_EQ(0, replace());
+    EXPECT_EQ(1U, writes.troubled());
+    EXPECT_EQ(expected, dateMasked(bytesOf(path())));
+}
+
 // Each of the other steps
 
 TEST_F(FileReplacement, FlushesTheFileBeforeItIsRenamedAndTheFolderAfterwards)
