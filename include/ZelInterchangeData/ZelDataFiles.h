@@ -15,6 +15,17 @@
 
 namespace ZELINTERCHANGEDATA_INLINE ZelInterchangeData {
 
+namespace ZelDataMessages {
+
+/// What replaceFile() throws if the system reports @p systemError for the file at @p path.
+inline std::system_error fileError(const std::string& path, int systemError)
+{
+    return {systemError, std::system_category(),
+            "replaceFile(\"" + onOneLine(path, isUtf8(path)) + "\")"};
+}
+
+} // namespace ZelDataMessages
+
 /// Writes @p document to the file at @p path, completely or not at all: see the function of this
 /// name that returns a code. If the file cannot be written, throws a `std::system_error` with the
 /// system's error number, `std::system_category()` and a message such as
@@ -25,12 +36,7 @@ inline void replaceFile(const i_ZelInterchangeDataCore& document, const std::str
 {
     int systemError = 0;
     const auto code = replaceFile(document, path, systemError, format);
-    if (systemError != 0) {
-        throw std::system_error(
-            systemError, std::system_category(),
-            "replaceFile(\"" + ZelDataMessages::onOneLine(path, ZelDataMessages::isUtf8(path)) +
-                "\")");
-    }
+    if (systemError != 0) throw ZelDataMessages::fileError(path, systemError);
     if (failed(code)) {
         throwZelDataError({"replaceFile", code, {ZelDataArgument(path), ZelDataArgument(format)}},
                           [&] { return ZelDataMessages::reasonOfWriting(document, code); });

@@ -19,12 +19,12 @@
 ///     `_remove_items_for_language` and the functions that copy a data set into or out of a
 ///     document or into a formatter keep what they did before the failure.
 ///   - `_set_text_for_language` stores the text before it returns #ZELDATA_WARN_ALREADY_EXISTS.
-///   - The display names of languages are those that were found.
-///   - zeldata_string_copy() and zeldata_document_replace_file() say what they store.
-/// - #ZELDATA_INVALID_ARGUMENT, for every function that returns a code: a handle or a pointer is
-///   null, `*out` is not, a text is too long, or a number is too large for the C++ type. In that
-///   case, and if memory runs out before the operation begins, the object can keep the last error
-///   that it had.
+///   - The functions for display names of languages store those that they found.
+///   - zeldata_string_copy() and zeldata_document_replace_file() store a number.
+/// - Every function that returns a code returns #ZELDATA_INVALID_ARGUMENT if a handle or a pointer
+///   is null, `*out` is not null, a text is too long, or a number is too large for the C++ type. In
+///   that case, and if memory runs out before the operation begins or in an operation of a caption
+///   item, the object can keep the last error that it had.
 /// - **Numbers**: what is `unsigned long` in C++ is `uint64_t`, what is `long` is `int64_t`. Where
 ///   `long` has 32 bits, as on Windows and on 32-bit processors, you can pass a `uint64_t` up to
 ///   4294967295, and to zeldata_get_date_string() and zeldata_get_value_string_int64() -2147483648

@@ -2,8 +2,8 @@
 
 #include "ZelInterchangeData/ZelDataCall.h"
 #include "ZelInterchangeData/ZelDataError.h"
+#include "ZelInterchangeData/ZelDataFiles.h"
 #include "ZelInterchangeData/ZelDataFindings.h"
-#include "ZelInterchangeData/ZelDataReplaceFile.h"
 #include "ZelInterchangeData/ZelInterchangeData.h"
 #include "captions/ZelDataCaptionItem.h"
 #include "captions/ZelDataCaptions.h"
@@ -27,7 +27,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -57,22 +56,28 @@ struct Of : Handle {
     Object own;
 };
 
-/// The object for what is none in C++.
+/// The object of a handle that C++ has as a plain value, such as a std::string.
 template <class Type>
 struct Value;
 
-/// Keeps the message of a call that failed, and returns its code.
-[[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
-                                     std::initializer_list<ZelDataArgument> arguments = {},
-                                     std::string_view reason = {}) noexcept
+/// Shows what @p make returns, or the meaning of @p code if memory runs out.
+template <class Make>
+void show(Handle& handle, Code code, Make&& make)
 {
-    if (handle == nullptr) return code;
-    handle->message = ZelDataMessages::orNothing([&]() -> std::string {
+    handle.message = ZelDataMessages::orNothing(make);
+    handle.shown = handle.message.empty() ? describe(code) : handle.message.c_str();
+}
+
+/// Keeps the message of a call that failed, unless the operation has kept one, and returns its code.
+[[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
+                                     std::initializer_list<ZelDataArgument> arguments = {}) noexcept
+{
+    if (handle == nullptr || *handle->shown != '\0') return code;
+    show(*handle, code, [&]() -> std::string {
         if (code == ZelData_OutOfMemory) return {};
         const ZelDataCall call = {name, code, arguments};
-        return ZelDataError(code, name, call.shownArguments(), reason).what();
+        return ZelDataError(code, name, call.shownArguments(), {}).what();
     });
-    handle->shown = handle->message.empty() ? describe(code) : handle->message.c_str();
     return code;
 }
 /// @}
@@ -83,6 +88,7 @@ struct Value;
 /// @{
 
 struct AnyArgument {
+    /// Of all arguments, a message shows no XMP format.
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
 
@@ -142,7 +148,7 @@ struct Argument<Result&, Given*> : AnyArgument {
     Result value{};
 };
 
-/// An object.
+/// An object; a message shows a list of texts.
 template <class Target>
 struct Argument<Target&, Handle*> : AnyArgument {
     explicit Argument(Handle* given) : handle(given) { usable = given != nullptr; }
@@ -152,6 +158,13 @@ struct Argument<Target&, Handle*> : AnyArgument {
             return static_cast<Target&>(*handle->object);
         else
             return static_cast<Value<std::remove_const_t<Target>>&>(*handle->object).value;
+    }
+    ZelDataArgument shown() const
+    {
+        if constexpr (std::is_same_v<Target, const Texts>)
+            return ZelDataArgument(passed());
+        else
+            return AnyArgument::shown();
     }
 
     Handle* handle;
@@ -180,7 +193,7 @@ template <class Object, class... Parameters, class Operation, class First, class
     };
     try {
         return run(Argument<Object, First>(first), Argument<Parameters, Given>(given)...);
-    } catch (const std::exception&) { // also std::length_error
+    } catch (const std::exception&) { // std::length_error, too
         return keep(handle, name, ZelData_OutOfMemory);
     }
 }
@@ -198,16 +211,15 @@ auto erased(Given given)
 template <class Object, class... Parameters, class... Given>
 std::uint32_t call(const char* name, Code (Object::*operation)(Parameters...), Given... given)
 {
-    using Operation = Code (i_ZelDataResult::*)(Parameters...);
-    return perform<i_ZelDataResult&, Parameters...>(name, static_cast<Operation>(operation),
-                                                    erased(given)...);
+    return perform<i_ZelDataResult&, Parameters...>(
+        name, static_cast<Code (i_ZelDataResult::*)(Parameters...)>(operation), erased(given)...);
 }
 template <class Object, class... Parameters, class... Given>
 std::uint32_t call(const char* name, Code (Object::*operation)(Parameters...) const, Given... given)
 {
-    using Operation = Code (i_ZelDataResult::*)(Parameters...) const;
-    return perform<i_ZelDataResult&, Parameters...>(name, static_cast<Operation>(operation),
-                                                    erased(given)...);
+    return perform<i_ZelDataResult&, Parameters...>(
+        name, static_cast<Code (i_ZelDataResult::*)(Parameters...) const>(operation),
+        erased(given)...);
 }
 template <class... Parameters, class... Given>
 std::uint32_t call(const char* name, Code (*operation)(Parameters...), Given... given)
@@ -242,9 +254,9 @@ Code copied(i_ZelDataResult& collection, unsigned long index, void* place)
     Code code = (static_cast<Collection&>(collection).*getter)(&item, index);
     const std::unique_ptr<Item> owner(item);
     if (failed(code)) return code;
-    code = createObject<Made>(out);
-    if (!failed(code)) code = (*out)->own.copyFrom(*item);
-    if (failed(code)) delete std::exchange(*out, nullptr);
+    std::unique_ptr<Made> made(new (std::nothrow) Made);
+    code = made == nullptr ? ZelData_OutOfMemory : made->own.copyFrom(*item);
+    if (!failed(code)) *out = made.release();
     collection.setLastError(code);
     return code;
 }
@@ -327,12 +339,12 @@ namespace {
 
 template <>
 struct Value<std::string> : i_ZelDataResult {
-    Code set(const std::string& text)
+    Code set(std::string& text)
     {
-        value = text;
+        value.swap(text);
         return ZelData_Ok;
     }
-    Code copy(char* buffer, std::size_t capacity, std::size_t* needed) const
+    Code copy(char* buffer, unsigned long long capacity, std::size_t* needed) const
     {
         if (needed == nullptr) return ZelData_InvalidArgument;
         *needed = value.size() + 1;
@@ -391,9 +403,9 @@ struct Value<std::vector<Element>> : i_ZelDataResult {
         value.clear();
         return ZelData_Ok;
     }
-    Code add(const Element& element)
+    Code add(Element& element)
     {
-        value.push_back(element);
+        value.push_back(std::move(element));
         return ZelData_Ok;
     }
     Code getCount(unsigned long& count) const
@@ -406,11 +418,7 @@ struct Value<std::vector<Element>> : i_ZelDataResult {
     Code get(unsigned long index, Out& out) const
     {
         if (index >= value.size()) return ZelData_InvalidArgument;
-        const Element& element = value[index];
-        if constexpr (std::is_class_v<Out>)
-            out = std::invoke(part, element);
-        else
-            out = static_cast<Out>(std::invoke(part, element));
+        out = static_cast<Out>(std::invoke(part, value[index]));
         return ZelData_Ok;
     }
 
@@ -463,6 +471,7 @@ std::uint32_t zeldata_strings_get(const zeldata_strings* strings, std::uint64_t 
 
 namespace {
 
+// With the flag as a number, a message does not show it.
 Code writeString(const i_ZelDataFormatterBase& formatter, std::string& out,
                  ZelDataFormatType_tags format, std::int32_t append)
 {
@@ -475,20 +484,16 @@ Code writeFile(const i_ZelDataFormatterBase& formatter, const std::string& path,
     return formatter.writeFile(path, format, flag != 0);
 }
 
-Code replaceFileWith(const i_ZelInterchangeDataCore& document, const std::string& path,
-                     ZelDataFormatType_tags format, std::int32_t* systemError)
+/// Keeps the system's message, which the C++ function throws, in @p keeper.
+Code replacedFile(const i_ZelInterchangeDataCore& document, const std::string& path,
+                  ZelDataFormatType_tags format, std::int32_t* systemError, void* keeper)
 {
     if (systemError == nullptr) return ZelData_InvalidArgument;
-    return replaceFile(document, path, *systemError, format);
-}
-
-/// Keeps the system's reason instead of the meaning of @p code.
-void keepSystemError(const Handle* document, std::uint32_t code, Text path, int systemError)
-{
-    Argument<std::string_view, Text> shown(path);
-    const std::string reason =
-        ZelDataMessages::orNothing([&] { return std::system_category().message(systemError); });
-    keep(erased(document), "replaceFile", static_cast<Code>(code), {shown.shown()}, reason);
+    const Code code = replaceFile(document, path, *systemError, format);
+    if (*systemError != 0)
+        show(*static_cast<Handle*>(keeper), code,
+             [&] { return ZelDataMessages::fileError(path, *systemError).what(); });
+    return code;
 }
 
 } // namespace
@@ -605,11 +610,8 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
                                             std::uint32_t format)
 {
     if (system_error != nullptr) *system_error = 0;
-    const std::uint32_t code = call("replaceFile", replaceFileWith, document,
-                                    Text{path, path_length}, format, system_error);
-    if (failed(static_cast<Code>(code)) && system_error != nullptr && *system_error != 0)
-        keepSystemError(document, code, Text{path, path_length}, *system_error);
-    return code;
+    return call("replaceFile", replacedFile, document, Text{path, path_length}, format,
+                system_error, static_cast<void*>(erased(document)));
 }
 
 // Headers.

@@ -5,6 +5,7 @@ The environment names LIBRARY."""
 
 import ctypes
 import os
+import tempfile
 import unittest
 
 from binding import CODES, CONSTANTS, FUNCTIONS, TERMINATED, Library
@@ -93,6 +94,32 @@ class Hostile(unittest.TestCase):
                     self.assertIn("ZelData_InvalidArgument (0x80000003)", LIBRARY.message(arguments[0]))
                     code = self.call(function, self.arguments(function))
                     self.assertEqual(LIBRARY.message(arguments[0]) == "", code == OK)
+
+    def test_the_last_message_is_a_text_like_any_other(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(os.chdir, os.getcwd())
+        os.chdir(folder.name)
+        folder.cleanup()  # no file can be written here
+        last_message = ctypes.CFUNCTYPE(ctypes.c_void_p, ctypes.c_void_p)(
+            ("zeldata_last_message", LIBRARY.loaded))
+        for function in of_code():
+            if not has_message(function):
+                continue
+            for index, (kind, name) in enumerate(function["parameters"]):
+                if kind != "const char*":
+                    continue
+                with self.subTest(f"{function['name']} {name}"):
+                    results = []
+                    for pass_on in (lambda handle: ctypes.cast(last_message(handle), ctypes.c_char_p),
+                                    lambda handle: LIBRARY.message(handle).encode()):
+                        self.setUp()  # a new world
+                        self.world.fill()
+                        arguments = self.arguments(function)
+                        arguments[index] = None
+                        self.assertEqual(self.call(function, arguments), INVALID)
+                        arguments[index] = pass_on(arguments[0])
+                        results.append((self.call(function, arguments), LIBRARY.message(arguments[0])))
+                    self.assertEqual(*results)
 
     def each_hostile_call(self, function):
         """The arguments with one of them replaced by each hostile one of its type."""

@@ -35,6 +35,15 @@ class World:
             self.handles[f"zeldata_{collection}"].add_item(self.handles[f"zeldata_{item}"])
         self.made = []
 
+    def fill(self):
+        """Gives the document everything that it can write."""
+        header = self.handles["zeldata_header"]
+        for size in ("length", "width", "height"):
+            getattr(header, f"set_video_{size}")(100)
+        document = self.handles["zeldata_document"]
+        for kind in ("header", "captions", "toc", "screen_text"):
+            getattr(document, f"set_{kind}")(self.handles[f"zeldata_{kind}"])
+
     def close(self):
         for kind, place in self.made:
             if place:
