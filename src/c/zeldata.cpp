@@ -88,7 +88,7 @@ void show(Handle& handle, Code code, Make&& make)
 /// @{
 
 struct AnyArgument {
-    /// Of all arguments, a message shows no XMP format.
+    /// Nothing: this is the format that no message shows.
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
 
@@ -124,9 +124,8 @@ struct Text {
 /// A text: a string or a view, as the operation takes it.
 template <class Parameter>
 struct Argument<Parameter, Text> : AnyArgument {
-    explicit Argument(Text given)
+    explicit Argument(Text given) : AnyArgument{given.begin != nullptr}
     {
-        usable = given.begin != nullptr;
         if (usable && given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.begin);
         usable = usable && given.length <= INT32_MAX;
         if (usable) value = std::string_view(given.begin, given.length);
@@ -140,7 +139,7 @@ struct Argument<Parameter, Text> : AnyArgument {
 /// A number that the operation stores.
 template <class Result, class Given>
 struct Argument<Result&, Given*> : AnyArgument {
-    explicit Argument(Given* given) : target(given) { usable = given != nullptr; }
+    explicit Argument(Given* given) : AnyArgument{given != nullptr}, target(given) {}
     Result& passed() { return value; }
     void store() const { *target = static_cast<Given>(value); }
 
@@ -148,10 +147,10 @@ struct Argument<Result&, Given*> : AnyArgument {
     Result value{};
 };
 
-/// An object; a message shows a list of texts.
+/// An object. A message shows a list of texts, and nothing for the others.
 template <class Target>
 struct Argument<Target&, Handle*> : AnyArgument {
-    explicit Argument(Handle* given) : handle(given) { usable = given != nullptr; }
+    explicit Argument(Handle* given) : AnyArgument{given != nullptr}, handle(given) {}
     Target& passed() const
     {
         if constexpr (std::is_base_of_v<i_ZelDataResult, Target>)
