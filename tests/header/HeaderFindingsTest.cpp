@@ -136,8 +136,10 @@ TEST(HeaderFindings, WhatNoDocumentAcceptsIsAnError)
                "header: the language e\\x80 is not strict UTF-8 at byte 1",
                "header: the language en is listed before"}),
         linesOf(header));
-    for (const ZelDataFinding& finding : findingsOf(header))
+    for (const ZelDataFinding& finding : findingsOf(header)) {
         EXPECT_EQ(ZelDataFindingSeverity_Error, severityOf(finding));
+        EXPECT_EQ(0, finding.start);
+    }
 }
 
 // Failures
