@@ -64,6 +64,7 @@ struct Value;
 template <class Make>
 void show(Handle& handle, Code code, Make&& make)
 {
+    static_assert(!std::is_pointer_v<decltype(make())>, "the text may end with make()");
     handle.message = ZelDataMessages::orNothing(make);
     handle.shown = handle.message.empty() ? describe(code) : handle.message.c_str();
 }
@@ -490,8 +491,9 @@ Code replacedFile(const i_ZelInterchangeDataCore& document, const std::string& p
     if (systemError == nullptr) return ZelData_InvalidArgument;
     const Code code = replaceFile(document, path, *systemError, format);
     if (*systemError != 0)
-        show(*static_cast<Handle*>(keeper), code,
-             [&] { return ZelDataMessages::fileError(path, *systemError).what(); });
+        show(*static_cast<Handle*>(keeper), code, [&]() -> std::string {
+            return ZelDataMessages::fileError(path, *systemError).what();
+        });
     return code;
 }
 
