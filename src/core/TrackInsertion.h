@@ -5,6 +5,7 @@
 #define ZELINTERCHANGEDATA_CORE_TRACKINSERTION_H
 
 #include "ZelInterchangeData/ZelDataResult_tags.h"
+#include "util/LargePages.h"
 
 #include <cstddef>
 #include <string>
@@ -23,7 +24,7 @@ ZelDataResult_tags insertTracks(std::string& packet, std::size_t size, Append&& 
     const std::size_t place = placeOfTracks(packet);
     if (place == std::string::npos) return ZelData_InternalError;
     const std::string rest = packet.substr(place);
-    packet.reserve(packet.size() + size);
+    reserveAtEnd(packet, size);
     packet.resize(place);
     append(packet);
     packet += rest;

@@ -8,6 +8,7 @@
 #include "sets/ReplaceContents.h"
 #include "util/Ending.h"
 #include "util/Guard.h"
+#include "util/LargePages.h"
 
 #include <cstddef>
 #include <memory>
@@ -84,7 +85,7 @@ public:
             const auto size = formatter.estimateTrack();
             if (!size) return ZelData_Ok; // leaves the text unchanged
             std::string track;
-            track.reserve(*size);
+            reserveAtEnd(track, *size);
             formatter.appendTrack(track);
             out = std::move(track);
             return ZelData_Ok;
