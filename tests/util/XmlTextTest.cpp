@@ -37,11 +37,26 @@ TEST(XmlText, WhatEveryDocumentMayContainIsFine)
 
 TEST(XmlText, AllOtherSequencesAreMalformed)
 {
-    for (const char* text :
-         {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC2", "\xC2\xC2\x80", "\xE0\x9F\xBF",
-          "\xE1\x80", "\xE2\x82x", "\xED\xA0\x80", "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF",
-          "\xF1\x80\x80", "\xF4\x90\x80\x80", "\xF7\xBF\xBF\xBF", "\xF8\x88\x80\x80\x80",
-          "\xFC\x84\x80\x80\x80\x80", "\xFE", "\xFF"}) {
+    for (const char* text : {"\x80",
+                             "\xBF",
+                             "\xC0\x80",
+                             "\xC1\xBF",
+                             "\xC2",
+                             "\xC2\xC2\x80",
+                             "\xE0\x9F\xBF",
+                             "\xE1\x80",
+                             "\xE2\x82x",
+                             "\xED\xA0\x80",
+                             "\xED\xBF\xBF",
+                             "\xF0\x8F\xBF\xBF",
+                             "\xF1\x80\x80",
+                             "\xF4\x90\x80\x80",
+                             "\xF7\xBF\xBF\xBF",
+                             "\xF8\x90\x80\x80",
+                             "\xF8\x88\x80\x80\x80",
+                             "\xFC\x84\x80\x80\x80\x80",
+                             "\xFE",
+                             "\xFF"}) {
         EXPECT_EQ(Places(2, none, none, none), placesIn("ab" + std::string(text))) << text;
     }
 }
@@ -63,9 +78,10 @@ TEST(XmlText, ControlCharactersOtherThanWhiteSpaceAreFound)
 TEST(XmlText, ReferencesAreEscaped)
 {
     for (const char* text : {"&quot;", "&amp;", "&apos;", "&lt;", "&gt;", "&amp;amp;", "&#9;",
-                             "&#10;", "&#x20;", "&#00065;", "&#xd7FF;", "&#xE000;", "&#xFFFD;",
-                             "&#x10000;", "&#1114111;", "&#x0000000000000000000041;"}) {
+                             "&#10;", "&#x20;", "&#xaA;", "&#00065;", "&#xd7FF;", "&#xE000;",
+                             "&#xFFFD;", "&#x10000;", "&#1114111;", "&#x0000000000000000000041;"}) {
         EXPECT_EQ(noFault, placesIn("a" + std::string(text))) << text;
+        EXPECT_EQ(noFault, placesIn(std::string(text) + "b")) << text;
     }
 }
 
