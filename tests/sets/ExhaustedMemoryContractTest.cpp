@@ -361,7 +361,12 @@ TYPED_TEST(ListWithoutMemory, GainsNoLanguageOfAnItemThatIsNotAdded)
             return data;
         },
         ZelData_Ok, [&](typename TypeParam::Data& data) { return (data.*TypeParam::add)(*item); },
-        [&](const typename TypeParam::Data& data) { EXPECT_EQ(listed, languagesOf(data)); });
+        [&](const typename TypeParam::Data& data) {
+            EXPECT_EQ(listed, languagesOf(data));
+            const auto copy = newCollection<TypeParam>(); // lists the languages of its items
+            EXPECT_EQ(ZelData_Ok, copy->copyFrom(data));
+            EXPECT_EQ(std::vector<std::string>(), languagesOf(*copy));
+        });
 }
 
 } // namespace
