@@ -203,6 +203,7 @@ public:
     }
 
     /// Whether the argument is @p object.
+    // NOLINTNEXTLINE(bugprone-exception-escape): there is always a value.
     bool is(const i_ZelDataResult& object) const noexcept
     {
         const auto isObject = [&object](auto value) {
@@ -239,7 +240,7 @@ struct ZelDataCall final {
     template <class Value>
     const Value& get(std::size_t index = 0) const
     {
-        const Value* value = arguments.begin()[index].template as<Value>();
+        const auto* value = arguments.begin()[index].template as<Value>();
         if (value == nullptr) throw std::bad_variant_access();
         return *value;
     }

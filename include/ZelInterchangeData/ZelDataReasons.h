@@ -45,7 +45,7 @@ inline std::string reasonOfLanguage(const std::string& id)
 {
     if (!isUtf8(id)) return "the language ID is not UTF-8";
     if (!failed(ZelDataUtilities::isValidLanguage(id))) return {};
-    const std::string reason = shown(id) + " is no language of ISO 639-1";
+    std::string reason = shown(id) + " is no language of ISO 639-1";
     std::string hyphenated = id;
     std::replace(hyphenated.begin(), hyphenated.end(), '_', '-');
     if (failed(ZelDataUtilities::isValidLanguage(hyphenated))) return reason;
@@ -174,7 +174,7 @@ std::string reasonOfText(const View& item, const ZelDataCall& call)
     if (call.is("setTextForLanguage", ZelData_WarnAlreadyExists))
         return "it replaced an earlier text";
     if (call.is("setTextForLanguage", ZelData_InvalidItem)) {
-        const std::string reason = reasonOfLanguage(call.text(1));
+        std::string reason = reasonOfLanguage(call.text(1));
         if (!reason.empty() || isUtf8(call.text(0))) return reason;
         return "the text is not UTF-8";
     }

@@ -31,6 +31,7 @@ library_was_built_with_another_std_string_or_vector(const std::string&,
 #endif
 
 // The reference that each translation unit makes: one relocation, and no code that runs.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): a constant pointer to a function.
 __attribute__((ZELINTERCHANGEDATA_KEPT)) static void (*const sameStringAndVector)(
     const std::string&, const std::vector<std::string>&) noexcept =
     &library_was_built_with_another_std_string_or_vector;

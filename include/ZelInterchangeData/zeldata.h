@@ -46,6 +46,7 @@
 #include "ZelInterchangeData/ZelDataVersion.h"
 
 // Deliberate: not <cstddef> and <cstdint>, because this is a header of C, too.
+// NOLINTBEGIN(modernize-deprecated-headers, modernize-use-using, readability-identifier-naming)
 #include <stddef.h>
 #include <stdint.h>
 
@@ -1288,5 +1289,6 @@ ZELINTERCHANGEDATA_API uint32_t zeldata_get_value_string_int64(int64_t value,
 #ifdef __cplusplus
 }
 #endif
+// NOLINTEND(modernize-deprecated-headers, modernize-use-using, readability-identifier-naming)
 
 #endif

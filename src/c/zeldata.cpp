@@ -45,8 +45,8 @@ using Findings = std::vector<ZelDataFinding>;
 /// What every handle begins with.
 struct Handle {
     i_ZelDataResult* object = nullptr;
-    const char* shown = "";
-    std::string message;
+    mutable const char* shown = "";
+    mutable std::string message;
 };
 
 template <class Object>
@@ -62,7 +62,7 @@ struct Value;
 
 /// Shows what @p make returns, or the meaning of @p code if memory runs out.
 template <class Make>
-void show(Handle& handle, Code code, Make&& make)
+void show(const Handle& handle, Code code, Make&& make)
 {
     static_assert(!std::is_pointer_v<decltype(make())>, "the text may end with make()");
     handle.message = ZelDataMessages::orNothing(make);
@@ -70,7 +70,7 @@ void show(Handle& handle, Code code, Make&& make)
 }
 
 /// Keeps the message of a call that failed, unless the operation has kept one, and returns its code.
-[[gnu::noinline]] std::uint32_t keep(Handle* handle, const char* name, Code code,
+[[gnu::noinline]] std::uint32_t keep(const Handle* handle, const char* name, Code code,
                                      std::initializer_list<ZelDataArgument> arguments = {}) noexcept
 {
     if (handle == nullptr || *handle->shown != '\0') return code;
@@ -89,11 +89,12 @@ void show(Handle& handle, Code code, Make&& make)
 /// @{
 
 struct AnyArgument {
+    explicit AnyArgument(bool isUsable = true) : usable(isUsable) {}
     /// Nothing: this is the format that no message shows.
     ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
     void store() const {}
 
-    bool usable = true;
+    bool usable;
 };
 
 /// A number, which must fit, or a pointer.
@@ -125,10 +126,11 @@ struct Text {
 /// A text: a string or a view, as the operation takes it.
 template <class Parameter>
 struct Argument<Parameter, Text> : AnyArgument {
-    explicit Argument(Text given) : AnyArgument{given.begin != nullptr}
+    explicit Argument(Text given) : AnyArgument(given.begin != nullptr)
     {
-        if (usable && given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.begin);
-        usable = usable && given.length <= INT32_MAX;
+        if (given.begin == nullptr) return;
+        if (given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.begin);
+        usable = given.length <= INT32_MAX;
         if (usable) value = std::string_view(given.begin, given.length);
     }
     auto& passed() { return value; }
@@ -140,7 +142,7 @@ struct Argument<Parameter, Text> : AnyArgument {
 /// A number that the operation stores.
 template <class Result, class Given>
 struct Argument<Result&, Given*> : AnyArgument {
-    explicit Argument(Given* given) : AnyArgument{given != nullptr}, target(given) {}
+    explicit Argument(Given* given) : AnyArgument(given != nullptr), target(given) {}
     Result& passed() { return value; }
     void store() const { *target = static_cast<Given>(value); }
 
@@ -150,8 +152,8 @@ struct Argument<Result&, Given*> : AnyArgument {
 
 /// An object. A message shows a list of texts, and nothing for the others.
 template <class Target>
-struct Argument<Target&, Handle*> : AnyArgument {
-    explicit Argument(Handle* given) : AnyArgument{given != nullptr}, handle(given) {}
+struct Argument<Target&, const Handle*> : AnyArgument {
+    explicit Argument(const Handle* given) : AnyArgument(given != nullptr), handle(given) {}
     Target& passed() const
     {
         if constexpr (std::is_base_of_v<i_ZelDataResult, Target>)
@@ -167,7 +169,7 @@ struct Argument<Target&, Handle*> : AnyArgument {
             return AnyArgument::shown();
     }
 
-    Handle* handle;
+    const Handle* handle;
 };
 /// @}
 
@@ -180,8 +182,8 @@ template <class Object, class... Parameters, class Operation, class First, class
 [[gnu::noinline]] std::uint32_t perform(const char* name, Operation operation, First first,
                                         Given... given)
 {
-    Handle* handle = nullptr;
-    if constexpr (std::is_same_v<First, Handle*>) handle = first;
+    const Handle* handle = nullptr;
+    if constexpr (std::is_same_v<First, const Handle*>) handle = first;
     if (handle != nullptr) handle->shown = "";
     const auto run = [&](auto&& object, auto&&... argument) -> std::uint32_t {
         if (!(object.usable && ... && argument.usable))
@@ -203,7 +205,7 @@ template <class Given>
 auto erased(Given given)
 {
     if constexpr (std::is_convertible_v<Given, const Handle*>)
-        return const_cast<Handle*>(static_cast<const Handle*>(given));
+        return static_cast<const Handle*>(given);
     else
         return given;
 }
@@ -286,6 +288,8 @@ std::uint32_t lastError(const Handle* handle)
 /// @}
 
 } // namespace
+
+// NOLINTBEGIN(readability-identifier-naming): the names are those of the header.
 
 struct zeldata_document : Of<ZelDataCore> {};
 struct zeldata_header : Of<ZelDataHeader> {};
@@ -486,12 +490,12 @@ Code writeFile(const i_ZelDataFormatterBase& formatter, const std::string& path,
 
 /// Keeps the system's message, which the C++ function throws, in @p keeper.
 Code replacedFile(const i_ZelInterchangeDataCore& document, const std::string& path,
-                  ZelDataFormatType_tags format, std::int32_t* systemError, void* keeper)
+                  ZelDataFormatType_tags format, std::int32_t* systemError, const void* keeper)
 {
     if (systemError == nullptr) return ZelData_InvalidArgument;
     const Code code = replaceFile(document, path, *systemError, format);
     if (*systemError != 0)
-        show(*static_cast<Handle*>(keeper), code, [&]() -> std::string {
+        show(*static_cast<const Handle*>(keeper), code, [&]() -> std::string {
             return ZelDataMessages::fileError(path, *systemError).what();
         });
     return code;
@@ -612,7 +616,7 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
 {
     if (system_error != nullptr) *system_error = 0;
     return call("replaceFile", replacedFile, document, Text{path, path_length}, format,
-                system_error, static_cast<void*>(erased(document)));
+                system_error, static_cast<const void*>(erased(document)));
 }
 
 // Headers.
@@ -2196,3 +2200,5 @@ std::uint32_t zeldata_get_value_string_int64(std::int64_t value, zeldata_string*
 {
     return call("", made<long, &getValueString>, value, result);
 }
+
+// NOLINTEND(readability-identifier-naming)

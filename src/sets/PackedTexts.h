@@ -18,8 +18,9 @@ namespace ZelInterchangeData {
 /// operation throws `std::bad_alloc` and changes nothing.
 ///
 /// All of them are in one block of memory that copies share, with room for another text like the one
-/// that was added last, unless that is long. Copying only increments a count, and reading follows only one pointer. A text
-/// that fits is added in place unless the block is shared; each other change copies all texts.
+/// that was added last, unless that is long. Copying only increments a count, and reading follows
+/// only one pointer. A text that fits is added in place unless the block is shared; each other change
+/// copies all texts.
 class PackedTexts {
 public:
     /// A language ID and its text.

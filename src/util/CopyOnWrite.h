@@ -38,6 +38,7 @@ public:
     {
         // The last owner must see what the others did before they released the value.
         if (shared_ != nullptr && shared_->owners.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): not twice, as in an optional's union.
             delete shared_;
         }
     }
