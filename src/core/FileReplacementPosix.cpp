@@ -138,7 +138,7 @@ int followLink(std::string& path)
 int followLinks(std::string& path)
 {
     constexpr int mostLinks = 40;
-    for (int links = 0; links != mostLinks; ++links) {
+    for (int links = 0; links <= mostLinks; ++links) { // after the last link comes the file
         struct stat status {};
         if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? 0 : errno;
         if (!S_ISLNK(status.st_mode)) return 0;

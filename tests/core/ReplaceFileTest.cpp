@@ -3,6 +3,7 @@
 
 #include "ZelInterchangeData/ZelDataReplaceFile.h"
 
+#include "core/FileReplacement.h"
 #include "core/SampleSets.h"
 #include "core/ZelDataCore.h"
 #include "core/ZelDataCoreXmp.h"
@@ -136,6 +137,15 @@ TEST_F(ReplaceFile, ReplacesALongerFileAndLeavesNothingElse)
     EXPECT_EQ(0, systemError);
     EXPECT_EQ("<?xml version=\"1.0\" encoding=\"utf-8\" ?>text", bytes());
     EXPECT_EQ(Names{"talk.xmp"}, folder_.names());
+}
+
+TEST_F(ReplaceFile, NamesTheNewFileWithSixteenDigits)
+{
+    const std::string prefix = ".ZelInterchangeData-";
+    const auto name = temporaryName<char>();
+    EXPECT_EQ(prefix, name.substr(0, prefix.size()));
+    EXPECT_EQ(prefix.size() + 16, name.size());
+    EXPECT_EQ(std::string::npos, name.find_first_not_of("0123456789abcdef", prefix.size()));
 }
 
 TEST_F(ReplaceFile, TakesAPathInUtf8)
@@ -360,6 +370,21 @@ TEST_F(ReplacePosixFile, FollowsTheLongestLink)
     EXPECT_EQ(0, replace(folder_.pathOf("longest")));
     EXPECT_TRUE(fs::is_symlink(folder_.pathOf("longest")));
     expectWritten(folder_.pathOf(name));
+}
+
+TEST_F(ReplacePosixFile, FollowsAsManyLinksAsTheSystem)
+{
+    std::string last = "talk.xmp";
+    for (int links = 1; links != 100; ++links) {
+        const std::string next = "link" + std::to_string(links);
+        fs::create_symlink(last, folder_.pathOf(next));
+        last = next;
+        struct stat status {};
+        const bool isFollowed = stat(folder_.pathOf(last).c_str(), &status) == 0;
+        ASSERT_EQ(isFollowed ? 0 : ELOOP, replace(folder_.pathOf(last))) << links;
+        if (!isFollowed) return;
+    }
+    FAIL() << "the system follows any number of links";
 }
 
 TEST_F(ReplacePosixFile, MakesTheFileThatALinkLeadsTo)

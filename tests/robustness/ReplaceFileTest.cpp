@@ -95,6 +95,20 @@ TEST_F(FileReplacement, KeepsOwnerAndGroupIfTheSystemAllowsIt)
     }));
 }
 
+TEST_F(FileReplacement, KeepsTheGroupIfItCannotKeepTheOwner)
+{
+    expectFine(inChild([&]() -> std::string {
+        if (chown(path().c_str(), 1234, 5678) != 0) return refusal("another owner");
+        if (chmod(path().c_str(), 0664) != 0) return "other permissions";
+        const FileCalls calls(owner, EPERM, 1);
+        if (replace() != 0) return "not replaced";
+        struct stat status {};
+        if (stat(path().c_str(), &status) != 0) return "not there";
+        const bool isKept = status.st_gid == 5678 && (status.st_mode & 0777U) == 0664;
+        return isKept && status.st_uid == geteuid() ? fine : "another owner or group";
+    }));
+}
+
 TEST_F(FileReplacement, GivesNobodyMoreIfItCannotGiveTheFileToItsGroup)
 {
     for (const auto& [before, after] : {std::pair{0640, 0600}, {0664, 0644}, {0604, 0600}}) {
