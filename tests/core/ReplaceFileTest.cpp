@@ -451,6 +451,19 @@ TEST_F(ReplacePosixFile, TakesTheLongestName)
     EXPECT_EQ(2U, folder_.names().size());
 }
 
+TEST_F(ReplacePosixFile, ClosesADescriptorThatIsZero)
+{
+    const int input = dup(STDIN_FILENO);
+    close(STDIN_FILENO); // so that the next file to be opened has its number
+    const int found = replace(path());
+    const bool isClosed = fcntl(STDIN_FILENO, F_GETFD) == -1;
+    dup2(input, STDIN_FILENO);
+    close(input);
+    EXPECT_EQ(0, found);
+    EXPECT_TRUE(isClosed);
+    expectWritten(path());
+}
+
 TEST_F(ReplacePosixFile, ReportsALimitOfFileSizesAndLeavesTheFolderAsItWas)
 {
     const auto before = std::signal(SIGXFSZ, SIG_IGN);
