@@ -37,7 +37,7 @@ public:
     Entry operator[](std::size_t index) const noexcept
     {
         const Block& block = Block::in(bytes_);
-        const auto [begin, textBegin, end] = block.spans()[index];
+        const auto& [begin, textBegin, end] = block.spans()[index];
         const char* const characters = block.characters();
         return {{characters + begin, textBegin - begin}, {characters + textBegin, end - textBegin}};
     }

@@ -145,18 +145,26 @@ constexpr bool needsEntity(char c) noexcept
     return entityPlaces[byteOf(c)] != noEntity;
 }
 
+/// Sets the highest bit of the first byte of @p block that needs an entity, and perhaps those of bytes
+/// after it and of bytes that are not ASCII. The lower bits mean nothing.
+constexpr ByteBlock entityBits(ByteBlock block) noexcept
+{
+    // Two of the characters differ in one bit, and so do another two: one test covers both.
+    return ((block ^ repeated('"')) - repeated(0x01)) |
+           (((block & repeated(0xFE)) ^ repeated('&')) - repeated(0x01)) |
+           (((block & repeated(0xFD)) ^ repeated('<')) - repeated(0x01));
+}
+
 /// Marks the bytes of @p block that need an entity; the first mark is exact.
 constexpr ByteBlock needingEntity(ByteBlock block) noexcept
 {
-    // Two of the characters differ in one bit, and so do another two: one test covers both.
-    return zeroBytes(block ^ repeated('"')) | zeroBytes((block & repeated(0xFE)) ^ repeated('&')) |
-           zeroBytes((block & repeated(0xFD)) ^ repeated('<'));
+    return highBits(entityBits(block) & ~block);
 }
 
 /// Marks the bytes of @p block that need an entity or are below the space; the first mark is exact.
 constexpr ByteBlock needingEntityOrControl(ByteBlock block) noexcept
 {
-    return needingEntity(block) | zeroBytes(block & repeated(0xE0));
+    return highBits((entityBits(block) | (block - repeated(' '))) & ~block);
 }
 
 /// Returns the end of the bytes of @p text from @p position on that are written as they are. @p mark
