@@ -24,12 +24,12 @@ struct Effort {
 };
 
 /// Medians over the rounds, in seconds for one document. Each includes releasing what it created,
-/// except for the caller's sets and the document object: `release` is for those.
+/// except that `fill` and `set` leave the caller's sets and the document object to `allSteps`.
 struct Times {
     double fill = 0;
     double set = 0;
     double write = 0;
-    double release = 0;
+    double allSteps = 0;           // fill, set, write and release
     double fillFromCharacters = 0; // with the release, as fillThroughC
     double fillThroughC = 0;
     double appender = 0;

@@ -57,12 +57,6 @@ std::string whereOf(const Case& aCase)
            std::string(nameOf(aCase.pair));
 }
 
-double allSteps(const Times& times)
-{
-    // Includes the release, because the peers' times include theirs.
-    return times.fill + times.set + times.write + times.release;
-}
-
 double allocationsPerCaption(const Case& aCase)
 {
     return static_cast<double>(aCase.heap.allocations) / static_cast<double>(aCase.size);
@@ -222,7 +216,7 @@ std::string caseLine(const Case& aCase)
     std::string line = "| " + std::to_string(aCase.size) + " | " +
                        std::string(nameOf(aCase.order)) + " | " + std::string(nameOf(aCase.pair));
     for (const double value :
-         {t.fill / t.appender, t.set / t.appender, t.write / t.appender, allSteps(t) / t.appender,
+         {t.fill / t.appender, t.set / t.appender, t.write / t.appender, t.allSteps / t.appender,
           t.pugixml / t.appender, t.tinyxml2 / t.appender, t.libxml2 / t.appender,
           allocationsPerCaption(aCase), peakPerByte(aCase),
           t.appender * 1e9 / static_cast<double>(aCase.size),
@@ -244,7 +238,7 @@ std::vector<Row> ratioRows(const Results& results)
                   [](const Case& c) { return c.times.write / c.times.appender; }),
         coldRow(cases),
         worstCase(cases, "fill + set + write + release ÷ pugixml", 0.6, 0.45,
-                  [](const Case& c) { return allSteps(c.times) / c.times.pugixml; }),
+                  [](const Case& c) { return c.times.allSteps / c.times.pugixml; }),
         worstCase(cases, "fill ÷ straight appender", 0.9, 0.6,
                   [](const Case& c) { return c.times.fill / c.times.appender; }),
         worstCase(cases, "fill through the C face ÷ the C++ calls, each text made a string", 1.1, 1,

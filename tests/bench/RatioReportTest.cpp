@@ -15,7 +15,7 @@ Case caseOf(std::size_t size, Order order, double write)
     result.size = size;
     result.order = order;
     result.bytes = size * 500;
-    result.times = {1, 1, write, 1, 5, 6, 10, 20, 30, 40};
+    result.times = {1, 1, write, write + 3, 5, 6, 10, 20, 30, 40};
     result.heap = {size * 2, size * 1000};
     return result;
 }
