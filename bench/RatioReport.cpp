@@ -189,7 +189,7 @@ struct TextLimits {
 constexpr std::array<TextLimits, 5> textLimits = {{
     {"UTF-8 check, short ASCII texts", 2, 4, 2.4},
     {"UTF-8 check, short Latin texts", 1, 2, 1.5},
-    {"UTF-8 check, short CJK texts", 2, 4, 2},
+    {"UTF-8 check, short CJK texts", 2, 4, 1.8},
     {"escape and strip, caption-length texts", 1.2, 2, 3.4},
     {"escape, a text of only \"&\", output", 0.4, 1, 1},
 }};
