@@ -19,12 +19,13 @@ ZelDataResult_tags LanguageList::add(const std::string& id)
 void LanguageList::addLanguagesOf(const LanguageTexts& texts)
 {
     std::size_t place = 0; // most items have the listed languages in the listed order
+    bool allListed = true;
     texts.forEach([&](std::string_view id, std::string_view /*text*/) {
-        if (ids_.isAt(place, id)) {
-            ++place;
-        } else if (!contains(id)) {
-            ids_.append(id);
-        }
+        allListed = ids_.isAt(place++, id) && allListed;
+    });
+    if (allListed) return;
+    texts.forEach([&](std::string_view id, std::string_view /*text*/) {
+        if (!contains(id)) ids_.append(id);
     });
 }
 

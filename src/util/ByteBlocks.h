@@ -71,11 +71,11 @@ constexpr std::size_t bytesBeforeFirst(ByteBlock bits) noexcept
 #endif
 }
 
-/// Sets the highest bit of the first zero byte of @p block, and perhaps those of bytes after it.
-/// Returns zero if no byte is zero.
-constexpr ByteBlock zeroBytes(ByteBlock block) noexcept
+/// Sets the highest bit of the first byte of @p block that is below @p limit, which is at most 0x80,
+/// and perhaps those of bytes after it and of bytes that are not ASCII. The lower bits mean nothing.
+constexpr ByteBlock firstBelow(ByteBlock block, unsigned char limit) noexcept
 {
-    return (block - repeated(0x01)) & ~block & repeated(0x80);
+    return block - repeated(limit);
 }
 
 } // namespace ZelInterchangeData

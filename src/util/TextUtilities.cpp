@@ -66,7 +66,7 @@ public:
         const ByteBlock lead3 = lead & block << 2;
         const ByteBlock lead4 = lead3 & block << 3;
         ByteBlock expected = open_ | lead << 8 | lead3 << 16;
-        ByteBlock neverLead = zeroBytes((block & repeated(0xFE)) ^ repeated(0xC0));
+        ByteBlock neverLead = firstBelow((block & repeated(0xFE)) ^ repeated(0xC0), 1) & high;
         open_ = lead >> 56 | lead3 >> 48;
         if (lead4 != 0) { // rare, and most texts have none
             const ByteBlock lead5 = lead4 & block << 4;
@@ -78,9 +78,6 @@ public:
         return ((high ^ lead ^ expected) | neverLead) == 0; // the other high bytes continue
     }
 
-    /// Whether a sequence is incomplete at the end of the block added last.
-    bool isOpen() const noexcept { return open_ != 0; }
-
 private:
     ByteBlock open_ = 0; // the bytes of the next block that must continue a sequence
 };
@@ -89,17 +86,18 @@ private:
 /// there are no others.
 inline bool isWellFormed(std::string_view text) noexcept
 {
-    SequenceBlocks sequences;
     const char* position = text.data();
     const char* const end = position + text.size();
-    for (; end - position >= static_cast<std::ptrdiff_t>(blockSize); position += blockSize) {
-        const ByteBlock block = loadBlock(position);
-        if (highBits(block) == 0 && !sequences.isOpen()) continue;
-        if (!sequences.addBlock(block)) return false;
+    const auto hasBlock = [&] { return end - position >= static_cast<std::ptrdiff_t>(blockSize); };
+    while (hasBlock() && highBits(loadBlock(position)) == 0)
+        position += blockSize; // ASCII
+    // From here on, all blocks are added: which of them are ASCII would be unpredictable.
+    SequenceBlocks sequences;
+    for (; hasBlock(); position += blockSize) {
+        if (!sequences.addBlock(loadBlock(position))) return false;
     }
     const ByteBlock last = lastBytes(text, static_cast<std::size_t>(end - position));
-    // It ends with a zero byte, which completes no sequence.
-    return (highBits(last) == 0 && !sequences.isOpen()) || sequences.addBlock(last);
+    return sequences.addBlock(last); // it ends with a zero byte, which completes no sequence
 }
 
 /// The control characters below the space, most of which XML forbids, except the line feed.
@@ -145,14 +143,14 @@ constexpr bool needsEntity(char c) noexcept
     return entityPlaces[byteOf(c)] != noEntity;
 }
 
-/// Sets the highest bit of the first byte of @p block that needs an entity, and perhaps those of bytes
-/// after it and of bytes that are not ASCII. The lower bits mean nothing.
+/// Sets the highest bit of the first byte of @p block that needs an entity, and perhaps more, as
+/// firstBelow() does.
 constexpr ByteBlock entityBits(ByteBlock block) noexcept
 {
     // Two of the characters differ in one bit, and so do another two: one test covers both.
-    return ((block ^ repeated('"')) - repeated(0x01)) |
-           (((block & repeated(0xFE)) ^ repeated('&')) - repeated(0x01)) |
-           (((block & repeated(0xFD)) ^ repeated('<')) - repeated(0x01));
+    return firstBelow(block ^ repeated('"'), 1) |
+           firstBelow((block & repeated(0xFE)) ^ repeated('&'), 1) |
+           firstBelow((block & repeated(0xFD)) ^ repeated('<'), 1);
 }
 
 /// Marks the bytes of @p block that need an entity; the first mark is exact.
@@ -164,7 +162,7 @@ constexpr ByteBlock needingEntity(ByteBlock block) noexcept
 /// Marks the bytes of @p block that need an entity or are below the space; the first mark is exact.
 constexpr ByteBlock needingEntityOrControl(ByteBlock block) noexcept
 {
-    return highBits((entityBits(block) | (block - repeated(' '))) & ~block);
+    return highBits((entityBits(block) | firstBelow(block, ' ')) & ~block);
 }
 
 /// Returns the end of the bytes of @p text from @p position on that are written as they are. @p mark

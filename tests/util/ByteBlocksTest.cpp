@@ -39,13 +39,20 @@ TEST(ByteBlocks, TheLastBytesAreReadFromTheTextAlone)
     }
 }
 
-TEST(ByteBlocks, HighBitsAndZeroBytesAreFound)
+TEST(ByteBlocks, HighBitsAreFound)
 {
     EXPECT_EQ(0x8000000000000080U, highBits(0xFF7F000000007F80U));
-    EXPECT_EQ(0U, zeroBytes(repeated(0x01)));
-    for (std::size_t place = 0; place < blockSize; ++place) {
-        const ByteBlock block = repeated(0x81) & ~(ByteBlock{0xFF} << (8 * place));
-        EXPECT_EQ(place, bytesBeforeFirst(zeroBytes(block)));
+}
+
+TEST(ByteBlocks, TheFirstLowByteIsFound)
+{
+    for (unsigned char limit = 0x01; limit < 0x80; ++limit) {
+        EXPECT_EQ(0U, highBits(firstBelow(repeated(limit), limit)));
+        EXPECT_EQ(0U, highBits(firstBelow(repeated(0x7F), limit)));
+        for (std::size_t place = 0; place < blockSize; ++place) {
+            const ByteBlock lower = repeated(limit) - (ByteBlock{0x01} << (8 * place));
+            EXPECT_EQ(place, bytesBeforeFirst(highBits(firstBelow(lower, limit))));
+        }
     }
 }
 
