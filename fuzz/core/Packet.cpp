@@ -11,22 +11,18 @@ namespace fuzz {
 
 namespace {
 
-std::string bytesOf(const xmlChar* text)
+/// Whether @p node, an element or an attribute, has this @p name, prefix included.
+template <class Node>
+bool isNamed(const Node& node, const std::string& name)
 {
-    return text == nullptr ? std::string() : reinterpret_cast<const char*>(text);
-}
-
-/// The name with its prefix, as the packet has it.
-std::string nameOf(const xmlNs* space, const xmlChar* name)
-{
-    const bool hasPrefix = space != nullptr && space->prefix != nullptr;
-    return (hasPrefix ? bytesOf(space->prefix) + ":" : std::string()) + bytesOf(name);
+    const xmlChar* prefix = node.ns == nullptr ? nullptr : node.ns->prefix;
+    return xmlStrQEqual(prefix, node.name, reinterpret_cast<const xmlChar*>(name.c_str())) == 1;
 }
 
 std::string takenText(xmlChar* text)
 {
     const std::unique_ptr<xmlChar, void (*)(void*)> owned(text, xmlFree);
-    return bytesOf(text);
+    return text == nullptr ? std::string() : reinterpret_cast<const char*>(text);
 }
 
 struct FreeContext {
@@ -35,14 +31,10 @@ struct FreeContext {
 
 } // namespace
 
-std::string Element::name() const
-{
-    return nameOf(node_->ns, node_->name);
-}
-
 std::vector<Element> Element::children() const
 {
     std::vector<Element> elements;
+    elements.reserve(xmlChildElementCount(node_));
     for (xmlNode* child = xmlFirstElementChild(node_); child != nullptr;
          child = xmlNextElementSibling(child))
         elements.emplace_back(child);
@@ -52,7 +44,7 @@ std::vector<Element> Element::children() const
 bool Element::has(const std::string& name) const
 {
     for (const Element& child : children())
-        if (child.name() == name) return true;
+        if (isNamed(*child.node_, name)) return true;
     return false;
 }
 
@@ -61,7 +53,7 @@ Element Element::child(const std::string& name) const
     const Element* found = nullptr;
     const std::vector<Element> all = children();
     for (const Element& child : all) {
-        if (child.name() != name) continue;
+        if (!isNamed(*child.node_, name)) continue;
         require(found == nullptr, "an element occurs twice");
         found = &child;
     }
@@ -79,7 +71,7 @@ Element Element::at(const std::string& path) const
 std::string Element::attribute(const std::string& name) const
 {
     for (xmlAttr* attribute = node_->properties; attribute != nullptr; attribute = attribute->next)
-        if (nameOf(attribute->ns, attribute->name) == name)
+        if (isNamed(*attribute, name))
             return takenText(xmlNodeListGetString(node_->doc, attribute->children, 1));
     report("no attribute " + name);
 }

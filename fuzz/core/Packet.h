@@ -18,10 +18,8 @@ class Element {
 public:
     explicit Element(xmlNode* node) : node_(node) {}
 
-    /// Prefix and name.
-    std::string name() const;
     std::vector<Element> children() const;
-    /// Whether a child of this @p name exists.
+    /// Whether a child of this @p name, prefix included, exists.
     bool has(const std::string& name) const;
     /// The element at the end of @p path; each step is the only child of its name.
     Element at(const std::string& path) const;
