@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <string_view>
 #include <type_traits>
 
 #ifdef _WIN32
@@ -27,15 +28,12 @@ namespace ZelInterchangeData {
 
 namespace {
 
-/// Large enough for every 64-bit number in decimal and for every double with six digits.
-using NumberBuffer = std::array<char, 32>;
-
 /// Formats @p value with std::to_chars; @p format holds the arguments after the value.
 template <class Number, class... Format>
 std::string numberText(Number value, Format... format)
 {
     static_assert(std::is_integral_v<Number> || sizeof...(Format) != 0);
-    NumberBuffer buffer;
+    std::array<char, std::string_view("18446744073709551615").size()> buffer; // the longest text
     char* const begin = buffer.data();
     const auto result = std::to_chars(begin, begin + buffer.size(), value, format...);
     return std::string(begin, result.ptr);
@@ -68,7 +66,7 @@ std::string finiteText(double value)
 /// The calendar date and the time of day; the year in 64 bits, because it may exceed an int.
 std::string dateAndTime(const std::tm& utc)
 {
-    std::array<char, 128> buffer{};
+    std::array<char, sizeof "-2147481748-01-01T00:00:00"> buffer{}; // the longest text
     const int length = std::snprintf(
         buffer.data(), buffer.size(), "%04lld-%02d-%02dT%02d:%02d:%02d", utc.tm_year + 1900LL,
         utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
