@@ -18,13 +18,12 @@
 #include "toc/ZelDataToc.h"
 #include "toc/ZelDataTocItem.h"
 #include "toc/ZelDataXmpTocFormatter.h"
+#include "util/Guard.h"
+#include "util/GuardedCopy.h"
 
 #include <cstdint>
 #include <cstring>
-#include <exception>
 #include <functional>
-#include <initializer_list>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -39,253 +38,127 @@ using Code = ZelDataResult_tags;
 using Texts = std::vector<std::string>;
 using Findings = std::vector<ZelDataFinding>;
 
-/// @name Handles
-/// @{
-
-/// What every handle begins with.
+/// What every handle begins with: what zeldata_last_message() shows. During a call, a text that C
+/// passes uses the memory of the message.
 struct Handle {
-    i_ZelDataResult* object = nullptr;
-    mutable const char* shown = "";
+    mutable Code code = ZelData_Ok;
     mutable std::string message;
 };
 
+/// The object is mutable because some getters of C++ are not const.
 template <class Object>
 struct Of : Handle {
-    Of() { object = &own; }
-
-    Object own;
+    mutable Object own;
 };
 
-/// The object of a handle that C++ has as a plain value, such as a std::string.
-template <class Type>
-struct Value;
-
-/// Shows what @p make returns, or the meaning of @p code if memory runs out.
-template <class Make>
-void show(const Handle& handle, Code code, Make&& make)
-{
-    static_assert(!std::is_pointer_v<decltype(make())>, "the text may end with make()");
-    handle.message = ZelDataMessages::orNothing(make);
-    handle.shown = handle.message.empty() ? describe(code) : handle.message.c_str();
-}
-
-/// Keeps the message of a call that failed, unless the operation has kept one, and returns its code.
-[[gnu::noinline]] std::uint32_t keep(const Handle* handle, const char* name, Code code,
-                                     std::initializer_list<ZelDataArgument> arguments = {}) noexcept
-{
-    if (handle == nullptr || *handle->shown != '\0') return code;
-    show(*handle, code, [&]() -> std::string {
-        if (code == ZelData_OutOfMemory) return {};
-        const ZelDataCall call = {name, code, arguments};
-        return ZelDataError(code, name, call.shownArguments(), {}).what();
-    });
-    return code;
-}
-/// @}
-
-/// @name Arguments
-/// If all arguments are usable, the operation gets passed() for each; a message shows shown(). If
-/// the operation succeeded, store() stores its result.
-/// @{
-
-struct AnyArgument {
-    explicit AnyArgument(bool isUsable = true) : usable(isUsable) {}
-    /// Nothing: this is the format that no message shows.
-    ZelDataArgument shown() const { return ZelDataArgument(ZelDataFormat_Xmp); }
-    void store() const {}
-
-    bool usable;
-};
-
-/// A number, which must fit, or a pointer.
-template <class Parameter, class Given>
-struct Argument : AnyArgument {
-    explicit Argument(Given given) : value(static_cast<Parameter>(given))
+/// A text that C passes.
+struct Characters {
+    /// Finds the length. Returns whether the text is usable.
+    bool measure()
     {
-        if constexpr (sizeof(Parameter) < sizeof(Given) && !std::is_same_v<Parameter, bool>)
-            usable = static_cast<Given>(value) == given;
+        if (begin == nullptr) return false;
+        if (length == ZELDATA_TERMINATED) length = std::strlen(begin);
+        return length <= INT32_MAX;
     }
-    Parameter passed() const { return value; }
-    ZelDataArgument shown() const
-    {
-        constexpr bool isShown = std::is_constructible_v<ZelDataArgument, Parameter>;
-        if constexpr (isShown && !std::is_pointer_v<Parameter>)
-            return ZelDataArgument(value);
-        else
-            return AnyArgument::shown();
-    }
+    // No operation changes its text and then fails, so a message can show it.
+    // NOLINTNEXTLINE(google-explicit-constructor, clang-analyzer-cplusplus.InnerPointer)
+    operator std::string_view() const { return {begin, length}; }
 
-    Parameter value;
-};
-
-struct Text {
     const char* begin;
     std::size_t length;
 };
 
-/// A text: a string or a view, as the operation takes it.
-template <class Parameter>
-struct Argument<Parameter, Text> : AnyArgument {
-    explicit Argument(Text given) : AnyArgument(given.begin != nullptr)
-    {
-        if (given.begin == nullptr) return;
-        if (given.length == ZELDATA_TERMINATED) given.length = std::strlen(given.begin);
-        usable = given.length <= INT32_MAX;
-        if (usable) value = std::string_view(given.begin, given.length);
-    }
-    auto& passed() { return value; }
-    ZelDataArgument shown() const { return ZelDataArgument(value); }
+/// A text for an operation that takes a string.
+struct Text : Characters {};
 
-    std::decay_t<Parameter> value;
-};
-
-/// A number that the operation stores.
-template <class Result, class Given>
-struct Argument<Result&, Given*> : AnyArgument {
-    explicit Argument(Given* given) : AnyArgument(given != nullptr), target(given) {}
-    Result& passed() { return value; }
-    void store() const { *target = static_cast<Given>(value); }
-
-    Given* target;
-    Result value{};
-};
-
-/// An object. A message shows a list of texts, and nothing for the others.
-template <class Target>
-struct Argument<Target&, const Handle*> : AnyArgument {
-    explicit Argument(const Handle* given) : AnyArgument(given != nullptr), handle(given) {}
-    Target& passed() const
-    {
-        if constexpr (std::is_base_of_v<i_ZelDataResult, Target>)
-            return static_cast<Target&>(*handle->object);
-        else
-            return static_cast<Value<std::remove_const_t<Target>>&>(*handle->object).value;
-    }
-    ZelDataArgument shown() const
-    {
-        if constexpr (std::is_same_v<Target, const Texts>)
-            return ZelDataArgument(passed());
-        else
-            return AnyArgument::shown();
-    }
-
-    const Handle* handle;
-};
-/// @}
-
-/// @name Calls
-/// @{
-
-/// Calls @p operation with what C passes for its parameters. If the first is a handle, it keeps the
-/// message, which shows the others. Member functions are called through their common base.
-template <class Object, class... Parameters, class Operation, class First, class... Given>
-[[gnu::noinline]] std::uint32_t perform(const char* name, Operation operation, First first,
-                                        Given... given)
+/// Whether the operation can get an argument. A `uint64_t` is for an `unsigned long`.
+template <class Given>
+Code prepare([[maybe_unused]] const Handle& handle, [[maybe_unused]] Given& given)
 {
-    const Handle* handle = nullptr;
-    if constexpr (std::is_same_v<First, const Handle*>) handle = first;
-    if (handle != nullptr) handle->shown = "";
-    const auto run = [&](auto&& object, auto&&... argument) -> std::uint32_t {
-        if (!(object.usable && ... && argument.usable))
-            return keep(handle, name, ZelData_InvalidArgument);
-        const Code code = std::invoke(operation, object.passed(), argument.passed()...);
-        if (failed(code)) return keep(handle, name, code, {argument.shown()...});
-        (argument.store(), ...);
+    bool usable = true;
+    if constexpr (std::is_pointer_v<Given>) usable = given != nullptr;
+    if constexpr (std::is_same_v<Given, std::uint64_t>)
+        usable = static_cast<unsigned long>(given) == given;
+    if constexpr (std::is_base_of_v<Characters, Given>) usable = given.measure();
+    if (!usable) return ZelData_InvalidArgument;
+    if constexpr (std::is_same_v<Given, Text>) {
+        const Code code = guardedCopy(handle.message, given);
+        given.begin = handle.message.data(); // it can have been the last message
         return code;
-    };
-    try {
-        return run(Argument<Object, First>(first), Argument<Parameters, Given>(given)...);
-    } catch (const std::exception&) { // std::length_error, too
-        return keep(handle, name, ZelData_OutOfMemory);
     }
+    return ZelData_Ok;
 }
 
-/// All handles have one type here, so that operations with the same parameters share an instance.
+/// What the operation gets for an argument.
 template <class Given>
-auto erased(Given given)
+auto& passed([[maybe_unused]] const Handle& handle, Given& given)
 {
-    if constexpr (std::is_convertible_v<Given, const Handle*>)
-        return static_cast<const Handle*>(given);
+    if constexpr (std::is_same_v<Given, Text>)
+        return handle.message;
+    else if constexpr (std::is_base_of_v<Handle, std::remove_pointer_t<Given>>)
+        return given->own;
+    else if constexpr (std::is_pointer_v<Given>)
+        return *given;
     else
         return given;
 }
 
-template <class Object, class... Parameters, class... Given>
-std::uint32_t call(const char* name, Code (Object::*operation)(Parameters...), Given... given)
+/// What a message shows of an argument: nothing of a pointer, except to a list of texts.
+template <class Given>
+ZelDataArgument shown(const Given& given)
 {
-    return perform<i_ZelDataResult&, Parameters...>(
-        name, static_cast<Code (i_ZelDataResult::*)(Parameters...)>(operation), erased(given)...);
+    if constexpr (std::is_same_v<Given, const zeldata_strings*>)
+        return ZelDataArgument(given->own);
+    else if constexpr (std::is_pointer_v<Given>)
+        return ZelDataArgument(ZelDataFormat_Xmp);
+    else if constexpr (std::is_same_v<Given, std::int64_t>)
+        return ZelDataArgument(static_cast<long long>(given));
+    else
+        return ZelDataArgument(given);
 }
-template <class Object, class... Parameters, class... Given>
-std::uint32_t call(const char* name, Code (Object::*operation)(Parameters...) const, Given... given)
-{
-    return perform<i_ZelDataResult&, Parameters...>(
-        name, static_cast<Code (i_ZelDataResult::*)(Parameters...) const>(operation),
-        erased(given)...);
-}
-template <class... Parameters, class... Given>
-std::uint32_t call(const char* name, Code (*operation)(Parameters...), Given... given)
-{
-    return perform<Parameters...>(name, operation, erased(given)...);
-}
-/// @}
 
-/// @name Operations that C++ offers in another form
-/// @{
-
-template <class Made>
-Code createFor(const i_ZelDataResult& object, void* out)
+/// Keeps the message of a call that failed, none if memory runs out. Returns the code.
+std::uint32_t keep(const Handle& handle, const ZelDataCall& call)
 {
-    const Code code = createObject<Made>(static_cast<Made**>(out));
-    object.setLastError(code);
+    handle.code = call.code;
+    handle.message = ZelDataMessages::orNothing([&]() -> std::string {
+        if (call.code == ZelData_OutOfMemory) return {};
+        return ZelDataError(call.code, call.operation, call.shownArguments(), {}).what();
+    });
+    return call.code;
+}
+template <class... Given>
+[[gnu::noinline]] std::uint32_t keep(const Handle& handle, const char* name, Code code,
+                                     Given... given)
+{
+    return keep(handle, {name, code, {shown(given)...}});
+}
+
+/// Calls @p operation for the object of @p handle, which keeps the message.
+template <class Type, class Operation, class... Given>
+std::uint32_t call(const char* name, Operation operation, Type* handle, Given... given)
+{
+    static_assert((std::is_same_v<Given, Text> + ... + 0) <= 1, "the memory is for one text");
+    if (handle == nullptr) return ZelData_InvalidArgument;
+    handle->code = ZelData_Ok;
+    Code code = ZelData_Ok;
+    if ((failed(code = prepare(*handle, given)) || ...)) return keep(*handle, name, code);
+    code = std::invoke(operation, handle->own, passed(*handle, given)...);
+    return failed(code) ? keep(*handle, name, code, given...) : code;
+}
+
+/// As call(), for an operation that stores a @p Value in its last parameter.
+template <class Value, class Operation, class Type, class Place, class... Given>
+std::uint32_t get(const char* name, Operation operation, Type* handle, Place* place, Given... given)
+{
+    if constexpr (std::is_same_v<Value, Place>)
+        return call(name, operation, handle, given..., place);
+    Value value{};
+    Value* const target = place == nullptr ? nullptr : &value;
+    const std::uint32_t code = call(name, operation, handle, given..., target);
+    if (code == ZelData_Ok) *place = static_cast<Place>(value);
     return code;
 }
-template <class Made>
-std::uint32_t make(const Handle* handle, const char* name, Made** out)
-{
-    return call(name, createFor<Made>, handle, static_cast<void*>(out));
-}
-
-/// Stores a handle of a copy of the item that @p getter returns.
-template <auto getter, class Collection, class Item, class Made>
-Code copied(i_ZelDataResult& collection, unsigned long index, void* place)
-{
-    const auto out = static_cast<Made**>(place);
-    if (!isEmptyOutPointer(out)) return ZelData_InvalidArgument;
-    Item* item = nullptr;
-    Code code = (static_cast<Collection&>(collection).*getter)(&item, index);
-    const std::unique_ptr<Item> owner(item);
-    if (failed(code)) return code;
-    std::unique_ptr<Made> made(new (std::nothrow) Made);
-    code = made == nullptr ? ZelData_OutOfMemory : made->own.copyFrom(*item);
-    if (!failed(code)) *out = made.release();
-    collection.setLastError(code);
-    return code;
-}
-
-template <class Interface>
-constexpr Code (Interface::*copyFrom)(const Interface&) = &Interface::copyFrom;
-
-template <class Interface>
-Code findProblemsOf(const i_ZelDataResult& object, Findings& findings)
-{
-    return findProblems(static_cast<const Interface&>(object), findings);
-}
-
-Code storeLastError(const i_ZelDataResult& object, ZelDataResult_tags code)
-{
-    object.setLastError(code);
-    return ZelData_Ok;
-}
-std::uint32_t setLastError(const Handle* handle, std::uint32_t code)
-{
-    return call("setLastError", storeLastError, handle, code);
-}
-std::uint32_t lastError(const Handle* handle)
-{
-    return handle == nullptr ? ZelData_InvalidArgument : handle->object->getLastError();
-}
-/// @}
 
 } // namespace
 
@@ -309,7 +182,9 @@ struct zeldata_screen_text_formatter : Of<ZelDataXmpScreenTextFormatter> {};
 const char* zeldata_last_message(const void* handle)
 {
     if (handle == nullptr) return describe(ZelData_InvalidArgument);
-    return static_cast<const Handle*>(handle)->shown;
+    const Handle& kept = *static_cast<const Handle*>(handle);
+    if (kept.code == ZelData_Ok) return "";
+    return kept.message.empty() ? describe(kept.code) : kept.message.c_str();
 }
 
 const char* zeldata_result_to_string(std::uint32_t code)
@@ -339,31 +214,7 @@ std::int32_t zeldata_library_version()
 
 // Texts.
 
-namespace {
-
-template <>
-struct Value<std::string> : i_ZelDataResult {
-    Code set(std::string& text)
-    {
-        value.swap(text);
-        return ZelData_Ok;
-    }
-    Code copy(char* buffer, unsigned long long capacity, std::size_t* needed) const
-    {
-        if (needed == nullptr) return ZelData_InvalidArgument;
-        *needed = value.size() + 1;
-        if (buffer == nullptr || capacity < *needed) return ZelData_InvalidArgument;
-        std::memcpy(buffer, value.c_str(), *needed);
-        return ZelData_Ok;
-    }
-
-    std::string value;
-};
-using String = Value<std::string>;
-
-} // namespace
-
-struct zeldata_string : Of<String> {};
+struct zeldata_string : Of<std::string> {};
 
 std::uint32_t zeldata_string_create(zeldata_string** out)
 {
@@ -377,58 +228,62 @@ void zeldata_string_destroy(zeldata_string* string)
 
 std::uint32_t zeldata_string_set(zeldata_string* string, const char* text, std::size_t text_length)
 {
-    return call("set", &String::set, string, Text{text, text_length});
+    const auto set = [](std::string& target, std::string& given) {
+        target.swap(given);
+        return ZelData_Ok;
+    };
+    return call("set", set, string, Text{text, text_length});
 }
 
 const char* zeldata_string_get_data(const zeldata_string* string)
 {
-    return string == nullptr ? "" : string->own.value.c_str();
+    return string == nullptr ? "" : string->own.c_str();
 }
 
 std::size_t zeldata_string_get_size(const zeldata_string* string)
 {
-    return string == nullptr ? 0 : string->own.value.size();
+    return string == nullptr ? 0 : string->own.size();
 }
 
 std::uint32_t zeldata_string_copy(const zeldata_string* string, char* buffer, std::size_t capacity,
                                   std::size_t* needed)
 {
-    return call("copy", &String::copy, string, buffer, capacity, needed);
+    const auto copy = [=](const std::string& text, std::size_t& size, const ZelDataArgument&) {
+        size = text.size() + 1;
+        if (buffer == nullptr || capacity < size) return ZelData_InvalidArgument;
+        std::memcpy(buffer, text.c_str(), size);
+        return ZelData_Ok;
+    };
+    return call("copy", copy, string, needed,
+                ZelDataArgument(static_cast<unsigned long long>(capacity)));
 }
 
 // Lists of texts.
 
 namespace {
 
-template <class Element>
-struct Value<std::vector<Element>> : i_ZelDataResult {
-    Code clear()
-    {
-        value.clear();
-        return ZelData_Ok;
-    }
-    Code add(Element& element)
-    {
-        value.push_back(std::move(element));
-        return ZelData_Ok;
-    }
-    Code getCount(unsigned long& count) const
-    {
-        count = static_cast<unsigned long>(value.size());
-        return ZelData_Ok;
-    }
-    /// Stores what @p part, a member or a function, is or returns for the element.
-    template <auto part, class Out>
-    Code get(unsigned long index, Out& out) const
-    {
-        if (index >= value.size()) return ZelData_InvalidArgument;
-        out = static_cast<Out>(std::invoke(part, value[index]));
-        return ZelData_Ok;
-    }
+/// An operation that throws `std::bad_alloc` if memory runs out, with a code for it.
+template <class Operation>
+auto guardedOperation(Operation operation)
+{
+    return [operation](auto&... given) {
+        return guarded([&] { return std::invoke(operation, given...); });
+    };
+}
 
-    std::vector<Element> value;
+constexpr auto countOf = [](const auto& list, std::uint64_t& count) {
+    count = list.size();
+    return ZelData_Ok;
 };
-using Strings = Value<Texts>;
+
+/// Stores what @p part, a member or a function, is or returns for an element.
+template <auto part>
+constexpr auto partAt = [](const auto& list, std::uint64_t index, auto& out) {
+    if (index >= list.size()) return ZelData_InvalidArgument;
+    const auto& element = list[static_cast<std::size_t>(index)];
+    out = static_cast<std::remove_reference_t<decltype(out)>>(std::invoke(part, element));
+    return ZelData_Ok;
+};
 
 const std::string& itself(const std::string& text)
 {
@@ -437,7 +292,7 @@ const std::string& itself(const std::string& text)
 
 } // namespace
 
-struct zeldata_strings : Of<Strings> {};
+struct zeldata_strings : Of<Texts> {};
 
 std::uint32_t zeldata_strings_create(zeldata_strings** out)
 {
@@ -451,54 +306,80 @@ void zeldata_strings_destroy(zeldata_strings* strings)
 
 std::uint32_t zeldata_strings_clear(zeldata_strings* strings)
 {
-    return call("clear", &Strings::clear, strings);
+    const auto clear = [](Texts& texts) {
+        texts.clear();
+        return ZelData_Ok;
+    };
+    return call("clear", clear, strings);
 }
 
 std::uint32_t zeldata_strings_add(zeldata_strings* strings, const char* text,
                                   std::size_t text_length)
 {
-    return call("add", &Strings::add, strings, Text{text, text_length});
+    const auto add = [](Texts& texts, std::string& given) {
+        texts.push_back(std::move(given));
+        return ZelData_Ok;
+    };
+    return call("add", guardedOperation(add), strings, Text{text, text_length});
 }
 
 std::uint32_t zeldata_strings_get_count(const zeldata_strings* strings, std::uint64_t* count)
 {
-    return call("getCount", &Strings::getCount, strings, count);
+    return call("getCount", countOf, strings, count);
 }
 
 std::uint32_t zeldata_strings_get(const zeldata_strings* strings, std::uint64_t index,
                                   zeldata_string* text)
 {
-    return call("get", &Strings::get<itself, std::string>, strings, index, text);
+    return call("get", guardedOperation(partAt<itself>), strings, index, text);
 }
 
 // Documents.
 
 namespace {
 
-// With the flag as a number, a message does not show it.
-Code writeString(const i_ZelDataFormatterBase& formatter, std::string& out,
-                 ZelDataFormatType_tags format, std::int32_t append)
+template <class Type>
+std::uint32_t lastError(const Type* handle)
 {
-    return formatter.writeString(out, format, append != 0);
+    return handle == nullptr ? ZelData_InvalidArgument : handle->own.getLastError();
 }
 
-Code writeFile(const i_ZelDataFormatterBase& formatter, const std::string& path,
-               ZelDataFormatType_tags format, std::int32_t flag)
+template <class Type>
+std::uint32_t setLastError(const Type* handle, std::uint32_t code)
 {
-    return formatter.writeFile(path, format, flag != 0);
+    if (handle == nullptr) return ZelData_InvalidArgument;
+    handle->code = ZelData_Ok;
+    handle->own.setLastError(static_cast<Code>(code));
+    return ZelData_Ok;
 }
 
-/// Keeps the system's message, which the C++ function throws, in @p keeper.
-Code replacedFile(const i_ZelInterchangeDataCore& document, const std::string& path,
-                  ZelDataFormatType_tags format, std::int32_t* systemError, const void* keeper)
-{
-    if (systemError == nullptr) return ZelData_InvalidArgument;
-    const Code code = replaceFile(document, path, *systemError, format);
-    if (*systemError != 0)
-        show(*static_cast<const Handle*>(keeper), code, [&]() -> std::string {
-            return ZelDataMessages::fileError(path, *systemError).what();
-        });
+constexpr auto findAll = [](const auto& set, Findings& findings) {
+    return findProblems(set, findings);
+};
+
+/// Stores a new handle.
+constexpr auto create = [](const i_ZelDataResult& object, auto*& out) {
+    const Code code = createObject<std::remove_reference_t<decltype(*out)>>(&out);
+    object.setLastError(code);
     return code;
+};
+
+// The operations capture the flags: no message shows them.
+
+auto writeString(std::int32_t append)
+{
+    return [append](const i_ZelDataFormatterBase& formatter, std::string& out,
+                    ZelDataFormatType_tags format) {
+        return formatter.writeString(out, format, append != 0);
+    };
+}
+
+auto writeFile(std::int32_t flag)
+{
+    return [flag](const i_ZelDataFormatterBase& formatter, const std::string& path,
+                  ZelDataFormatType_tags format) {
+        return formatter.writeFile(path, format, flag != 0);
+    };
 }
 
 } // namespace
@@ -526,14 +407,16 @@ std::uint32_t zeldata_document_set_last_error(const zeldata_document* document, 
 std::uint32_t zeldata_document_write_string(const zeldata_document* document, zeldata_string* out,
                                             std::uint32_t format, std::int32_t flag)
 {
-    return call("writeString", writeString, document, out, format, flag);
+    return call("writeString", writeString(flag), document, out,
+                static_cast<ZelDataFormatType_tags>(format));
 }
 
 std::uint32_t zeldata_document_write_file(const zeldata_document* document, const char* path,
                                           std::size_t path_length, std::uint32_t format,
                                           std::int32_t flag)
 {
-    return call("writeFile", writeFile, document, Text{path, path_length}, format, flag);
+    return call("writeFile", writeFile(flag), document, Text{path, path_length},
+                static_cast<ZelDataFormatType_tags>(format));
 }
 
 std::uint32_t zeldata_document_get_header(const zeldata_document* document, zeldata_header* target)
@@ -584,30 +467,30 @@ std::uint32_t zeldata_document_set_screen_text(zeldata_document* document,
 
 std::uint32_t zeldata_document_create_header(const zeldata_document* document, zeldata_header** out)
 {
-    return make(document, "createDataHeader", out);
+    return call("createDataHeader", create, document, out);
 }
 
 std::uint32_t zeldata_document_create_captions(const zeldata_document* document,
                                                zeldata_captions** out)
 {
-    return make(document, "createDataCaptions", out);
+    return call("createDataCaptions", create, document, out);
 }
 
 std::uint32_t zeldata_document_create_toc(const zeldata_document* document, zeldata_toc** out)
 {
-    return make(document, "createDataToc", out);
+    return call("createDataToc", create, document, out);
 }
 
 std::uint32_t zeldata_document_create_screen_text(const zeldata_document* document,
                                                   zeldata_screen_text** out)
 {
-    return make(document, "createDataScreenText", out);
+    return call("createDataScreenText", create, document, out);
 }
 
 std::uint32_t zeldata_document_find_problems(const zeldata_document* document,
                                              zeldata_findings* findings)
 {
-    return call("findProblems", findProblemsOf<i_ZelInterchangeDataCore>, document, findings);
+    return call("findProblems", findAll, document, findings);
 }
 
 std::uint32_t zeldata_document_replace_file(const zeldata_document* document, const char* path,
@@ -615,11 +498,31 @@ std::uint32_t zeldata_document_replace_file(const zeldata_document* document, co
                                             std::uint32_t format)
 {
     if (system_error != nullptr) *system_error = 0;
-    return call("replaceFile", replacedFile, document, Text{path, path_length}, format,
-                system_error, static_cast<const void*>(erased(document)));
+    std::string reason;
+    const auto replace = [&reason](const i_ZelInterchangeDataCore& core, const std::string& name,
+                                   ZelDataFormatType_tags kind, std::int32_t& error) {
+        const Code code = replaceFile(core, name, error, kind);
+        const auto make = [&]() -> std::string {
+            return ZelDataMessages::fileError(name, error).what();
+        };
+        if (error != 0) reason = ZelDataMessages::orNothing(make);
+        return code;
+    };
+    const std::uint32_t code = call("replaceFile", replace, document, Text{path, path_length},
+                                    static_cast<ZelDataFormatType_tags>(format), system_error);
+    // The C++ function throws the same.
+    if (system_error != nullptr && *system_error != 0) document->message.swap(reason);
+    return code;
 }
 
 // Headers.
+
+namespace {
+
+template <class Interface>
+constexpr Code (Interface::*copyFrom)(const Interface&) = &Interface::copyFrom;
+
+} // namespace
 
 std::uint32_t zeldata_header_create(zeldata_header** out)
 {
@@ -672,7 +575,8 @@ std::uint32_t zeldata_header_get_ordered_language_ids(const zeldata_header* head
 
 std::uint32_t zeldata_header_get_language_count(const zeldata_header* header, std::uint64_t* count)
 {
-    return call("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, header, count);
+    return get<unsigned long>("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, header,
+                              count);
 }
 
 std::uint32_t zeldata_header_get_language_display_names(const zeldata_header* header,
@@ -692,8 +596,8 @@ std::uint32_t zeldata_header_get_language_native_display_names(const zeldata_hea
 std::uint32_t zeldata_header_does_language_exist(const zeldata_header* header, const char* id,
                                                  std::size_t id_length, std::int32_t* exists)
 {
-    return call("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, header,
-                Text{id, id_length}, exists);
+    return get<bool>("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, header, exists,
+                     Text{id, id_length});
 }
 
 std::uint32_t zeldata_header_copy_languages_from_header(zeldata_header* header,
@@ -763,7 +667,7 @@ std::uint32_t zeldata_header_set_keywords(zeldata_header* header, const zeldata_
 
 std::uint32_t zeldata_header_set_ipod_explicit(zeldata_header* header, std::int32_t is_explicit)
 {
-    return call("setIPodExplicit", &i_ZelDataHeader::setIPodExplicit, header, is_explicit);
+    return call("setIPodExplicit", &i_ZelDataHeader::setIPodExplicit, header, is_explicit != 0);
 }
 
 std::uint32_t zeldata_header_set_video_length(zeldata_header* header, std::uint64_t milliseconds)
@@ -815,23 +719,24 @@ std::uint32_t zeldata_header_get_keywords(const zeldata_header* header, zeldata_
 std::uint32_t zeldata_header_get_ipod_explicit(const zeldata_header* header,
                                                std::int32_t* is_explicit)
 {
-    return call("getIPodExplicit", &i_ZelDataHeader::getIPodExplicit, header, is_explicit);
+    return get<bool>("getIPodExplicit", &i_ZelDataHeader::getIPodExplicit, header, is_explicit);
 }
 
 std::uint32_t zeldata_header_get_video_length(const zeldata_header* header,
                                               std::uint64_t* milliseconds)
 {
-    return call("getVideoLength", &i_ZelDataHeader::getVideoLength, header, milliseconds);
+    return get<unsigned long>("getVideoLength", &i_ZelDataHeader::getVideoLength, header,
+                              milliseconds);
 }
 
 std::uint32_t zeldata_header_get_video_width(const zeldata_header* header, std::uint64_t* pixels)
 {
-    return call("getVideoWidth", &i_ZelDataHeader::getVideoWidth, header, pixels);
+    return get<unsigned long>("getVideoWidth", &i_ZelDataHeader::getVideoWidth, header, pixels);
 }
 
 std::uint32_t zeldata_header_get_video_height(const zeldata_header* header, std::uint64_t* pixels)
 {
-    return call("getVideoHeight", &i_ZelDataHeader::getVideoHeight, header, pixels);
+    return get<unsigned long>("getVideoHeight", &i_ZelDataHeader::getVideoHeight, header, pixels);
 }
 
 std::uint32_t zeldata_header_clear_content_names(zeldata_header* header)
@@ -856,7 +761,8 @@ std::uint32_t zeldata_header_remove_content_name(zeldata_header* header, const c
 std::uint32_t zeldata_header_get_content_name_count(const zeldata_header* header,
                                                     std::uint64_t* count)
 {
-    return call("getContentNameCount", &i_ZelDataHeader::getContentNameCount, header, count);
+    return get<unsigned long>("getContentNameCount", &i_ZelDataHeader::getContentNameCount, header,
+                              count);
 }
 
 std::uint32_t zeldata_header_get_content_names(const zeldata_header* header, zeldata_strings* names)
@@ -867,18 +773,18 @@ std::uint32_t zeldata_header_get_content_names(const zeldata_header* header, zel
 std::uint32_t zeldata_header_does_content_name_exist(const zeldata_header* header, const char* name,
                                                      std::size_t name_length, std::int32_t* exists)
 {
-    return call("doesContentNameExist", &i_ZelDataHeader::doesContentNameExist, header,
-                Text{name, name_length}, exists);
+    return get<bool>("doesContentNameExist", &i_ZelDataHeader::doesContentNameExist, header, exists,
+                     Text{name, name_length});
 }
 
 std::uint32_t zeldata_header_set_show_search_bar(zeldata_header* header, std::int32_t show)
 {
-    return call("setShowSearchBar", &i_ZelDataHeader::setShowSearchBar, header, show);
+    return call("setShowSearchBar", &i_ZelDataHeader::setShowSearchBar, header, show != 0);
 }
 
 std::uint32_t zeldata_header_get_show_search_bar(const zeldata_header* header, std::int32_t* show)
 {
-    return call("getShowSearchBar", &i_ZelDataHeader::getShowSearchBar, header, show);
+    return get<bool>("getShowSearchBar", &i_ZelDataHeader::getShowSearchBar, header, show);
 }
 
 std::uint32_t zeldata_header_copy_from(zeldata_header* header, const zeldata_header* other)
@@ -888,10 +794,28 @@ std::uint32_t zeldata_header_copy_from(zeldata_header* header, const zeldata_hea
 
 std::uint32_t zeldata_header_find_problems(const zeldata_header* header, zeldata_findings* findings)
 {
-    return call("findProblems", findProblemsOf<i_ZelDataHeader>, header, findings);
+    return call("findProblems", findAll, header, findings);
 }
 
 // Captions.
+
+namespace {
+
+/// Stores a handle of a copy of the item that @p getter returns.
+template <class Item, auto getter>
+constexpr auto getItem = [](auto& collection, auto*& out, unsigned long index) {
+    Code code = create(collection, out);
+    if (failed(code)) return code;
+    Item* item = nullptr;
+    code = (collection.*getter)(&item, index);
+    const std::unique_ptr<Item> owner(item);
+    if (!failed(code)) code = guardedOperation(copyFrom<Item>)(out->own, *item);
+    if (failed(code)) delete std::exchange(out, nullptr);
+    collection.setLastError(code);
+    return code;
+};
+
+} // namespace
 
 std::uint32_t zeldata_captions_create(zeldata_captions** out)
 {
@@ -946,7 +870,8 @@ std::uint32_t zeldata_captions_get_ordered_language_ids(const zeldata_captions* 
 std::uint32_t zeldata_captions_get_language_count(const zeldata_captions* captions,
                                                   std::uint64_t* count)
 {
-    return call("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, captions, count);
+    return get<unsigned long>("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, captions,
+                              count);
 }
 
 std::uint32_t zeldata_captions_get_language_display_names(const zeldata_captions* captions,
@@ -966,8 +891,8 @@ std::uint32_t zeldata_captions_get_language_native_display_names(const zeldata_c
 std::uint32_t zeldata_captions_does_language_exist(const zeldata_captions* captions, const char* id,
                                                    std::size_t id_length, std::int32_t* exists)
 {
-    return call("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, captions,
-                Text{id, id_length}, exists);
+    return get<bool>("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, captions, exists,
+                     Text{id, id_length});
 }
 
 std::uint32_t zeldata_captions_copy_languages_from_header(zeldata_captions* captions,
@@ -990,7 +915,7 @@ std::uint32_t zeldata_captions_copy_languages_from_toc(zeldata_captions* caption
 
 std::uint32_t zeldata_captions_is_valid(const zeldata_captions* captions, std::int32_t strict)
 {
-    return call("isValid", &i_ZelDataCaptions::isValid, captions, strict);
+    return call("isValid", &i_ZelDataCaptions::isValid, captions, strict != 0);
 }
 
 std::uint32_t zeldata_captions_make_consistent(zeldata_captions* captions)
@@ -1005,7 +930,7 @@ std::uint32_t zeldata_captions_set_frame_rate(zeldata_captions* captions, std::u
 
 std::uint32_t zeldata_captions_get_frame_rate(const zeldata_captions* captions, std::uint64_t* rate)
 {
-    return call("getFrameRate", &i_ZelDataCaptions::getFrameRate, captions, rate);
+    return get<unsigned long>("getFrameRate", &i_ZelDataCaptions::getFrameRate, captions, rate);
 }
 
 std::uint32_t zeldata_captions_set_font_family(zeldata_captions* captions, const char* family,
@@ -1028,7 +953,7 @@ std::uint32_t zeldata_captions_set_font_size(zeldata_captions* captions, std::ui
 
 std::uint32_t zeldata_captions_get_font_size(const zeldata_captions* captions, std::uint64_t* size)
 {
-    return call("getFontSize", &i_ZelDataCaptions::getFontSize, captions, size);
+    return get<unsigned long>("getFontSize", &i_ZelDataCaptions::getFontSize, captions, size);
 }
 
 std::uint32_t zeldata_captions_set_foreground_color(zeldata_captions* captions, float red,
@@ -1086,7 +1011,7 @@ std::uint32_t zeldata_captions_add_item(zeldata_captions* captions,
 std::uint32_t zeldata_captions_create_item(const zeldata_captions* captions,
                                            zeldata_caption_item** out)
 {
-    return make(captions, "createCaptionItem", out);
+    return call("createCaptionItem", create, captions, out);
 }
 
 std::uint32_t zeldata_captions_remove_item(zeldata_captions* captions, std::uint64_t index)
@@ -1105,16 +1030,16 @@ std::uint32_t zeldata_captions_remove_items_for_language(zeldata_captions* capti
 std::uint32_t zeldata_captions_get_item_count(const zeldata_captions* captions,
                                               std::uint64_t* count)
 {
-    return call("getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount, captions, count);
+    return get<unsigned long>("getCaptionItemCount", &i_ZelDataCaptions::getCaptionItemCount,
+                              captions, count);
 }
 
 std::uint32_t zeldata_captions_get_item(const zeldata_captions* captions,
                                         zeldata_caption_item** out, std::uint64_t index)
 {
     return call("getCaptionItemAt",
-                copied<&i_ZelDataCaptions::getCaptionItemAt, i_ZelDataCaptions,
-                       i_ZelDataCaptionItem, zeldata_caption_item>,
-                captions, index, static_cast<void*>(out));
+                getItem<i_ZelDataCaptionItem, &i_ZelDataCaptions::getCaptionItemAt>, captions, out,
+                index);
 }
 
 std::uint32_t zeldata_captions_copy_from(zeldata_captions* captions, const zeldata_captions* other)
@@ -1125,7 +1050,7 @@ std::uint32_t zeldata_captions_copy_from(zeldata_captions* captions, const zelda
 std::uint32_t zeldata_captions_find_problems(const zeldata_captions* captions,
                                              zeldata_findings* findings)
 {
-    return call("findProblems", findProblemsOf<i_ZelDataCaptions>, captions, findings);
+    return call("findProblems", findAll, captions, findings);
 }
 
 // Caption items.
@@ -1154,12 +1079,12 @@ std::uint32_t zeldata_caption_item_set_last_error(const zeldata_caption_item* ca
 std::uint32_t zeldata_caption_item_is_valid(const zeldata_caption_item* caption_item,
                                             std::int32_t strict)
 {
-    return call("isValid", &i_ZelDataCaptionItem::isValid, caption_item, strict);
+    return call("isValid", &i_ZelDataCaptionItem::isValid, caption_item, strict != 0);
 }
 
 std::uint32_t zeldata_caption_item_clear_text(zeldata_caption_item* caption_item)
 {
-    return call("clearText", &i_ZelDataCaptionItem::clearText, caption_item);
+    return call("clearText", guardedOperation(&i_ZelDataCaptionItem::clearText), caption_item);
 }
 
 std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* caption_item,
@@ -1167,8 +1092,9 @@ std::uint32_t zeldata_caption_item_set_text_for_language(zeldata_caption_item* c
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call("setTextForLanguage", &ZelDataCaptionItem::setCharacters, caption_item,
-                Text{text, text_length}, Text{language_id, language_id_length});
+    return call("setTextForLanguage", guardedOperation(&ZelDataCaptionItem::setCharacters),
+                caption_item, Characters{text, text_length},
+                Characters{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_set_start(zeldata_caption_item* caption_item, std::int64_t start)
@@ -1190,21 +1116,24 @@ std::uint32_t zeldata_caption_item_set_duration(zeldata_caption_item* caption_it
 std::uint32_t zeldata_caption_item_set_alignment(zeldata_caption_item* caption_item,
                                                  std::uint32_t alignment)
 {
-    return call("setAlignment", &i_ZelDataCaptionItem::setAlignment, caption_item, alignment);
+    return call("setAlignment", &i_ZelDataCaptionItem::setAlignment, caption_item,
+                static_cast<ZelAlignment_tags>(alignment));
 }
 
 std::uint32_t zeldata_caption_item_remove_text_for_language(zeldata_caption_item* caption_item,
                                                             const char* language_id,
                                                             std::size_t language_id_length)
 {
-    return call("removeTextForLanguage", &i_ZelDataCaptionItem::removeTextForLanguage, caption_item,
+    return call("removeTextForLanguage",
+                guardedOperation(&i_ZelDataCaptionItem::removeTextForLanguage), caption_item,
                 Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_get_language_ids(const zeldata_caption_item* caption_item,
                                                     zeldata_strings* ids)
 {
-    return call("getLanguageIDs", &i_ZelDataCaptionItem::getLanguageIDs, caption_item, ids);
+    return call("getLanguageIDs", guardedOperation(&i_ZelDataCaptionItem::getLanguageIDs),
+                caption_item, ids);
 }
 
 std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_item* caption_item,
@@ -1212,38 +1141,40 @@ std::uint32_t zeldata_caption_item_get_text_for_language(const zeldata_caption_i
                                                          const char* language_id,
                                                          std::size_t language_id_length)
 {
-    return call("getTextForLanguage", &i_ZelDataCaptionItem::getTextForLanguage, caption_item, text,
-                Text{language_id, language_id_length});
+    return call("getTextForLanguage", guardedOperation(&i_ZelDataCaptionItem::getTextForLanguage),
+                caption_item, text, Text{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_caption_item_get_start(const zeldata_caption_item* caption_item,
                                              std::int64_t* start)
 {
-    return call("getStart", &i_ZelDataCaptionItem::getStart, caption_item, start);
+    return get<long long>("getStart", &i_ZelDataCaptionItem::getStart, caption_item, start);
 }
 
 std::uint32_t zeldata_caption_item_get_end(const zeldata_caption_item* caption_item,
                                            std::int64_t* end)
 {
-    return call("getEnd", &i_ZelDataCaptionItem::getEnd, caption_item, end);
+    return get<long long>("getEnd", &i_ZelDataCaptionItem::getEnd, caption_item, end);
 }
 
 std::uint32_t zeldata_caption_item_get_duration(const zeldata_caption_item* caption_item,
                                                 std::int64_t* duration)
 {
-    return call("getDuration", &i_ZelDataCaptionItem::getDuration, caption_item, duration);
+    return get<long long>("getDuration", &i_ZelDataCaptionItem::getDuration, caption_item,
+                          duration);
 }
 
 std::uint32_t zeldata_caption_item_get_alignment(const zeldata_caption_item* caption_item,
                                                  std::uint32_t* alignment)
 {
-    return call("getAlignment", &i_ZelDataCaptionItem::getAlignment, caption_item, alignment);
+    return get<ZelAlignment_tags>("getAlignment", &i_ZelDataCaptionItem::getAlignment, caption_item,
+                                  alignment);
 }
 
 std::uint32_t zeldata_caption_item_copy_from(zeldata_caption_item* caption_item,
                                              const zeldata_caption_item* other)
 {
-    return call("copyFrom", copyFrom<i_ZelDataCaptionItem>, caption_item, other);
+    return call("copyFrom", guardedOperation(copyFrom<i_ZelDataCaptionItem>), caption_item, other);
 }
 
 // Tables of contents.
@@ -1295,7 +1226,7 @@ std::uint32_t zeldata_toc_get_ordered_language_ids(const zeldata_toc* toc, zelda
 
 std::uint32_t zeldata_toc_get_language_count(const zeldata_toc* toc, std::uint64_t* count)
 {
-    return call("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, toc, count);
+    return get<unsigned long>("getLanguageCount", &i_ZelDataLanguage::getLanguageCount, toc, count);
 }
 
 std::uint32_t zeldata_toc_get_language_display_names(const zeldata_toc* toc, zeldata_strings* names)
@@ -1313,8 +1244,8 @@ std::uint32_t zeldata_toc_get_language_native_display_names(const zeldata_toc* t
 std::uint32_t zeldata_toc_does_language_exist(const zeldata_toc* toc, const char* id,
                                               std::size_t id_length, std::int32_t* exists)
 {
-    return call("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, toc,
-                Text{id, id_length}, exists);
+    return get<bool>("doesLanguageExist", &i_ZelDataLanguage::doesLanguageExist, toc, exists,
+                     Text{id, id_length});
 }
 
 std::uint32_t zeldata_toc_copy_languages_from_header(zeldata_toc* toc, const zeldata_header* source)
@@ -1335,7 +1266,7 @@ std::uint32_t zeldata_toc_copy_languages_from_toc(zeldata_toc* toc, const zeldat
 
 std::uint32_t zeldata_toc_is_valid(const zeldata_toc* toc, std::int32_t deep)
 {
-    return call("isValid", &i_ZelDataToc::isValid, toc, deep);
+    return call("isValid", &i_ZelDataToc::isValid, toc, deep != 0);
 }
 
 std::uint32_t zeldata_toc_make_consistent(zeldata_toc* toc)
@@ -1350,7 +1281,7 @@ std::uint32_t zeldata_toc_set_frame_rate(zeldata_toc* toc, std::uint64_t rate)
 
 std::uint32_t zeldata_toc_get_frame_rate(const zeldata_toc* toc, std::uint64_t* rate)
 {
-    return call("getFrameRate", &i_ZelDataToc::getFrameRate, toc, rate);
+    return get<unsigned long>("getFrameRate", &i_ZelDataToc::getFrameRate, toc, rate);
 }
 
 std::uint32_t zeldata_toc_set_image_file(zeldata_toc* toc, const char* name,
@@ -1376,7 +1307,7 @@ std::uint32_t zeldata_toc_add_item(zeldata_toc* toc, const zeldata_toc_item* ite
 
 std::uint32_t zeldata_toc_create_item(const zeldata_toc* toc, zeldata_toc_item** out)
 {
-    return make(toc, "createTocItem", out);
+    return call("createTocItem", create, toc, out);
 }
 
 std::uint32_t zeldata_toc_remove_item(zeldata_toc* toc, std::uint64_t index)
@@ -1393,16 +1324,14 @@ std::uint32_t zeldata_toc_remove_items_for_language(zeldata_toc* toc, const char
 
 std::uint32_t zeldata_toc_get_item_count(const zeldata_toc* toc, std::uint64_t* count)
 {
-    return call("getTocItemCount", &i_ZelDataToc::getTocItemCount, toc, count);
+    return get<unsigned long>("getTocItemCount", &i_ZelDataToc::getTocItemCount, toc, count);
 }
 
 std::uint32_t zeldata_toc_get_item(const zeldata_toc* toc, zeldata_toc_item** out,
                                    std::uint64_t index)
 {
-    return call(
-        "getTocItemAt",
-        copied<&i_ZelDataToc::getTocItemAt, i_ZelDataToc, i_ZelDataTocItem, zeldata_toc_item>, toc,
-        index, static_cast<void*>(out));
+    return call("getTocItemAt", getItem<i_ZelDataTocItem, &i_ZelDataToc::getTocItemAt>, toc, out,
+                index);
 }
 
 std::uint32_t zeldata_toc_copy_from(zeldata_toc* toc, const zeldata_toc* source)
@@ -1412,7 +1341,7 @@ std::uint32_t zeldata_toc_copy_from(zeldata_toc* toc, const zeldata_toc* source)
 
 std::uint32_t zeldata_toc_find_problems(const zeldata_toc* toc, zeldata_findings* findings)
 {
-    return call("findProblems", findProblemsOf<i_ZelDataToc>, toc, findings);
+    return call("findProblems", findAll, toc, findings);
 }
 
 // Entries of a table of contents.
@@ -1439,7 +1368,7 @@ std::uint32_t zeldata_toc_item_set_last_error(const zeldata_toc_item* toc_item, 
 
 std::uint32_t zeldata_toc_item_is_valid(const zeldata_toc_item* toc_item, std::int32_t deep)
 {
-    return call("isValid", &i_ZelDataTocItem::isValid, toc_item, deep);
+    return call("isValid", &i_ZelDataTocItem::isValid, toc_item, deep != 0);
 }
 
 std::uint32_t zeldata_toc_item_clear_text(zeldata_toc_item* toc_item)
@@ -1453,7 +1382,7 @@ std::uint32_t zeldata_toc_item_set_text_for_language(zeldata_toc_item* toc_item,
                                                      std::size_t language_id_length)
 {
     return call("setTextForLanguage", &ZelDataTocItem::setCharacters, toc_item,
-                Text{text, text_length}, Text{language_id, language_id_length});
+                Characters{text, text_length}, Characters{language_id, language_id_length});
 }
 
 std::uint32_t zeldata_toc_item_set_start(zeldata_toc_item* toc_item, std::int64_t start)
@@ -1474,7 +1403,9 @@ std::uint32_t zeldata_toc_item_set_image_index(zeldata_toc_item* toc_item, std::
 
 std::uint32_t zeldata_toc_item_set_image_offset(zeldata_toc_item* toc_item, std::uint64_t offset)
 {
-    return call("setImageOffset", &i_ZelDataTocItem::setImageOffset, toc_item, offset);
+    return call(
+        "setImageOffset", [offset](i_ZelDataTocItem& item) { return item.setImageOffset(offset); },
+        toc_item);
 }
 
 std::uint32_t zeldata_toc_item_remove_text_for_language(zeldata_toc_item* toc_item,
@@ -1501,7 +1432,7 @@ std::uint32_t zeldata_toc_item_get_text_for_language(const zeldata_toc_item* toc
 
 std::uint32_t zeldata_toc_item_get_start(const zeldata_toc_item* toc_item, std::int64_t* start)
 {
-    return call("getStart", &i_ZelDataTocItem::getStart, toc_item, start);
+    return get<long long>("getStart", &i_ZelDataTocItem::getStart, toc_item, start);
 }
 
 std::uint32_t zeldata_toc_item_get_image_file(const zeldata_toc_item* toc_item,
@@ -1513,13 +1444,14 @@ std::uint32_t zeldata_toc_item_get_image_file(const zeldata_toc_item* toc_item,
 std::uint32_t zeldata_toc_item_get_image_index(const zeldata_toc_item* toc_item,
                                                std::uint64_t* index)
 {
-    return call("getImageIndex", &i_ZelDataTocItem::getImageIndex, toc_item, index);
+    return get<unsigned long>("getImageIndex", &i_ZelDataTocItem::getImageIndex, toc_item, index);
 }
 
 std::uint32_t zeldata_toc_item_get_image_offset(const zeldata_toc_item* toc_item,
                                                 std::uint64_t* offset)
 {
-    return call("getImageOffset", &i_ZelDataTocItem::getImageOffset, toc_item, offset);
+    return get<unsigned long long>("getImageOffset", &i_ZelDataTocItem::getImageOffset, toc_item,
+                                   offset);
 }
 
 std::uint32_t zeldata_toc_item_copy_from(zeldata_toc_item* toc_item, const zeldata_toc_item* source)
@@ -1553,7 +1485,7 @@ std::uint32_t zeldata_screen_text_set_last_error(const zeldata_screen_text* scre
 std::uint32_t zeldata_screen_text_is_valid(const zeldata_screen_text* screen_text,
                                            std::int32_t deep)
 {
-    return call("isValid", &i_ZelDataScreenText::isValid, screen_text, deep);
+    return call("isValid", &i_ZelDataScreenText::isValid, screen_text, deep != 0);
 }
 
 std::uint32_t zeldata_screen_text_make_consistent(zeldata_screen_text* screen_text)
@@ -1571,7 +1503,8 @@ std::uint32_t zeldata_screen_text_set_frame_rate(zeldata_screen_text* screen_tex
 std::uint32_t zeldata_screen_text_get_frame_rate(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* rate)
 {
-    return call("getFrameRate", &i_ZelDataScreenText::getFrameRate, screen_text, rate);
+    return get<unsigned long>("getFrameRate", &i_ZelDataScreenText::getFrameRate, screen_text,
+                              rate);
 }
 
 std::uint32_t zeldata_screen_text_clear_items(zeldata_screen_text* screen_text)
@@ -1588,7 +1521,7 @@ std::uint32_t zeldata_screen_text_add_item(zeldata_screen_text* screen_text,
 std::uint32_t zeldata_screen_text_create_item(const zeldata_screen_text* screen_text,
                                               zeldata_screen_text_item** out)
 {
-    return make(screen_text, "createScreenTextItem", out);
+    return call("createScreenTextItem", create, screen_text, out);
 }
 
 std::uint32_t zeldata_screen_text_remove_item(zeldata_screen_text* screen_text, std::uint64_t index)
@@ -1600,17 +1533,16 @@ std::uint32_t zeldata_screen_text_remove_item(zeldata_screen_text* screen_text, 
 std::uint32_t zeldata_screen_text_get_item_count(const zeldata_screen_text* screen_text,
                                                  std::uint64_t* count)
 {
-    return call("getScreenTextItemCount", &i_ZelDataScreenText::getScreenTextItemCount, screen_text,
-                count);
+    return get<unsigned long>("getScreenTextItemCount",
+                              &i_ZelDataScreenText::getScreenTextItemCount, screen_text, count);
 }
 
 std::uint32_t zeldata_screen_text_get_item(const zeldata_screen_text* screen_text,
                                            zeldata_screen_text_item** out, std::uint64_t index)
 {
     return call("getScreenTextItemAt",
-                copied<&i_ZelDataScreenText::getScreenTextItemAt, i_ZelDataScreenText,
-                       i_ZelDataScreenTextItem, zeldata_screen_text_item>,
-                screen_text, index, static_cast<void*>(out));
+                getItem<i_ZelDataScreenTextItem, &i_ZelDataScreenText::getScreenTextItemAt>,
+                screen_text, out, index);
 }
 
 std::uint32_t zeldata_screen_text_copy_from(zeldata_screen_text* screen_text,
@@ -1622,7 +1554,7 @@ std::uint32_t zeldata_screen_text_copy_from(zeldata_screen_text* screen_text,
 std::uint32_t zeldata_screen_text_find_problems(const zeldata_screen_text* screen_text,
                                                 zeldata_findings* findings)
 {
-    return call("findProblems", findProblemsOf<i_ZelDataScreenText>, screen_text, findings);
+    return call("findProblems", findAll, screen_text, findings);
 }
 
 // Screen text items.
@@ -1653,7 +1585,7 @@ zeldata_screen_text_item_set_last_error(const zeldata_screen_text_item* screen_t
 std::uint32_t zeldata_screen_text_item_is_valid(const zeldata_screen_text_item* screen_text_item,
                                                 std::int32_t deep)
 {
-    return call("isValid", &i_ZelDataScreenTextItem::isValid, screen_text_item, deep);
+    return call("isValid", &i_ZelDataScreenTextItem::isValid, screen_text_item, deep != 0);
 }
 
 std::uint32_t zeldata_screen_text_item_clear_text(zeldata_screen_text_item* screen_text_item)
@@ -1665,7 +1597,7 @@ std::uint32_t zeldata_screen_text_item_set_text(zeldata_screen_text_item* screen
                                                 const char* text, std::size_t text_length)
 {
     return call("setText", &ZelDataScreenTextItem::setCharacters, screen_text_item,
-                Text{text, text_length});
+                Characters{text, text_length});
 }
 
 std::uint32_t zeldata_screen_text_item_set_start(zeldata_screen_text_item* screen_text_item,
@@ -1702,8 +1634,10 @@ std::uint32_t zeldata_screen_text_item_set_image_index(zeldata_screen_text_item*
 std::uint32_t zeldata_screen_text_item_set_image_offset(zeldata_screen_text_item* screen_text_item,
                                                         std::uint64_t offset)
 {
-    return call("setImageOffset", &i_ZelDataScreenTextItem::setImageOffset, screen_text_item,
-                offset);
+    return call(
+        "setImageOffset",
+        [offset](i_ZelDataScreenTextItem& item) { return item.setImageOffset(offset); },
+        screen_text_item);
 }
 
 std::uint32_t zeldata_screen_text_item_set_group_id(zeldata_screen_text_item* screen_text_item,
@@ -1721,20 +1655,21 @@ std::uint32_t zeldata_screen_text_item_get_text(const zeldata_screen_text_item* 
 std::uint32_t zeldata_screen_text_item_get_start(const zeldata_screen_text_item* screen_text_item,
                                                  std::int64_t* start)
 {
-    return call("getStart", &i_ZelDataScreenTextItem::getStart, screen_text_item, start);
+    return get<long long>("getStart", &i_ZelDataScreenTextItem::getStart, screen_text_item, start);
 }
 
 std::uint32_t zeldata_screen_text_item_get_end(const zeldata_screen_text_item* screen_text_item,
                                                std::int64_t* end)
 {
-    return call("getEnd", &i_ZelDataScreenTextItem::getEnd, screen_text_item, end);
+    return get<long long>("getEnd", &i_ZelDataScreenTextItem::getEnd, screen_text_item, end);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_duration(const zeldata_screen_text_item* screen_text_item,
                                       std::int64_t* duration)
 {
-    return call("getDuration", &i_ZelDataScreenTextItem::getDuration, screen_text_item, duration);
+    return get<long long>("getDuration", &i_ZelDataScreenTextItem::getDuration, screen_text_item,
+                          duration);
 }
 
 std::uint32_t
@@ -1748,22 +1683,24 @@ std::uint32_t
 zeldata_screen_text_item_get_image_index(const zeldata_screen_text_item* screen_text_item,
                                          std::uint64_t* index)
 {
-    return call("getImageIndex", &i_ZelDataScreenTextItem::getImageIndex, screen_text_item, index);
+    return get<unsigned long>("getImageIndex", &i_ZelDataScreenTextItem::getImageIndex,
+                              screen_text_item, index);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_image_offset(const zeldata_screen_text_item* screen_text_item,
                                           std::uint64_t* offset)
 {
-    return call("getImageOffset", &i_ZelDataScreenTextItem::getImageOffset, screen_text_item,
-                offset);
+    return get<unsigned long long>("getImageOffset", &i_ZelDataScreenTextItem::getImageOffset,
+                                   screen_text_item, offset);
 }
 
 std::uint32_t
 zeldata_screen_text_item_get_group_id(const zeldata_screen_text_item* screen_text_item,
                                       std::uint64_t* id)
 {
-    return call("getGroupId", &i_ZelDataScreenTextItem::getGroupId, screen_text_item, id);
+    return get<unsigned long>("getGroupId", &i_ZelDataScreenTextItem::getGroupId, screen_text_item,
+                              id);
 }
 
 std::uint32_t zeldata_screen_text_item_copy_from(zeldata_screen_text_item* screen_text_item,
@@ -1802,7 +1739,8 @@ std::uint32_t
 zeldata_header_formatter_write_string(const zeldata_header_formatter* header_formatter,
                                       zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call("writeString", writeString, header_formatter, out, format, flag);
+    return call("writeString", writeString(flag), header_formatter, out,
+                static_cast<ZelDataFormatType_tags>(format));
 }
 
 std::uint32_t zeldata_header_formatter_set_header(zeldata_header_formatter* header_formatter,
@@ -1842,7 +1780,8 @@ std::uint32_t
 zeldata_caption_formatter_write_string(const zeldata_caption_formatter* caption_formatter,
                                        zeldata_string* out, std::uint32_t format, std::int32_t flag)
 {
-    return call("writeString", writeString, caption_formatter, out, format, flag);
+    return call("writeString", writeString(flag), caption_formatter, out,
+                static_cast<ZelDataFormatType_tags>(format));
 }
 
 std::uint32_t zeldata_caption_formatter_set_captions(zeldata_caption_formatter* caption_formatter,
@@ -1879,7 +1818,8 @@ std::uint32_t zeldata_toc_formatter_write_string(const zeldata_toc_formatter* to
                                                  zeldata_string* out, std::uint32_t format,
                                                  std::int32_t flag)
 {
-    return call("writeString", writeString, toc_formatter, out, format, flag);
+    return call("writeString", writeString(flag), toc_formatter, out,
+                static_cast<ZelDataFormatType_tags>(format));
 }
 
 std::uint32_t zeldata_toc_formatter_set_toc(zeldata_toc_formatter* toc_formatter,
@@ -1918,7 +1858,8 @@ std::uint32_t zeldata_screen_text_formatter_write_string(
     const zeldata_screen_text_formatter* screen_text_formatter, zeldata_string* out,
     std::uint32_t format, std::int32_t flag)
 {
-    return call("writeString", writeString, screen_text_formatter, out, format, flag);
+    return call("writeString", writeString(flag), screen_text_formatter, out,
+                static_cast<ZelDataFormatType_tags>(format));
 }
 
 std::uint32_t
@@ -1933,8 +1874,6 @@ zeldata_screen_text_formatter_set_screen_text(zeldata_screen_text_formatter* scr
 
 namespace {
 
-using FindingList = Value<Findings>;
-
 std::string description(const ZelDataFinding& finding)
 {
     return describe(finding);
@@ -1947,7 +1886,7 @@ std::uint64_t indexOf(const ZelDataFinding& finding)
 
 } // namespace
 
-struct zeldata_findings : Of<FindingList> {};
+struct zeldata_findings : Of<Findings> {};
 
 std::uint32_t zeldata_findings_create(zeldata_findings** out)
 {
@@ -1961,104 +1900,94 @@ void zeldata_findings_destroy(zeldata_findings* findings)
 
 std::uint32_t zeldata_findings_get_count(const zeldata_findings* findings, std::uint64_t* count)
 {
-    return call("getCount", &FindingList::getCount, findings, count);
+    return call("getCount", countOf, findings, count);
 }
 
 std::uint32_t zeldata_findings_get_kind(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* kind)
 {
-    return call("getKind", &FindingList::get<&ZelDataFinding::kind, std::uint32_t>, findings, index,
-                kind);
+    return call("getKind", partAt<&ZelDataFinding::kind>, findings, index, kind);
 }
 
 std::uint32_t zeldata_findings_get_subject(const zeldata_findings* findings, std::uint64_t index,
                                            std::uint32_t* subject)
 {
-    return call("getSubject", &FindingList::get<&ZelDataFinding::subject, std::uint32_t>, findings,
-                index, subject);
+    return call("getSubject", partAt<&ZelDataFinding::subject>, findings, index, subject);
 }
 
 std::uint32_t zeldata_findings_get_item_index(const zeldata_findings* findings, std::uint64_t index,
                                               std::uint64_t* item)
 {
-    return call("getItemIndex", &FindingList::get<indexOf<&ZelDataFinding::item>, std::uint64_t>,
-                findings, index, item);
+    return call("getItemIndex", partAt<indexOf<&ZelDataFinding::item>>, findings, index, item);
 }
 
 std::uint32_t zeldata_findings_get_start(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* start)
 {
-    return call("getStart", &FindingList::get<&ZelDataFinding::start, std::int64_t>, findings,
-                index, start);
+    return call("getStart", partAt<&ZelDataFinding::start>, findings, index, start);
 }
 
 std::uint32_t zeldata_findings_get_language(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* language)
 {
-    return call("getLanguage", &FindingList::get<&ZelDataFinding::language, std::string>, findings,
-                index, language);
+    return call("getLanguage", guardedOperation(partAt<&ZelDataFinding::language>), findings, index,
+                language);
 }
 
 std::uint32_t zeldata_findings_get_property(const zeldata_findings* findings, std::uint64_t index,
                                             zeldata_string* property)
 {
-    return call("getProperty", &FindingList::get<&ZelDataFinding::property, std::string>, findings,
-                index, property);
+    return call("getProperty", guardedOperation(partAt<&ZelDataFinding::property>), findings, index,
+                property);
 }
 
 std::uint32_t zeldata_findings_get_component(const zeldata_findings* findings, std::uint64_t index,
                                              float* component)
 {
-    return call("getComponent", &FindingList::get<&ZelDataFinding::component, float>, findings,
-                index, component);
+    return call("getComponent", partAt<&ZelDataFinding::component>, findings, index, component);
 }
 
 std::uint32_t zeldata_findings_get_value(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* value)
 {
-    return call("getValue", &FindingList::get<&ZelDataFinding::value, std::int64_t>, findings,
-                index, value);
+    return call("getValue", partAt<&ZelDataFinding::value>, findings, index, value);
 }
 
 std::uint32_t zeldata_findings_get_limit(const zeldata_findings* findings, std::uint64_t index,
                                          std::int64_t* limit)
 {
-    return call("getLimit", &FindingList::get<&ZelDataFinding::limit, std::int64_t>, findings,
-                index, limit);
+    return call("getLimit", partAt<&ZelDataFinding::limit>, findings, index, limit);
 }
 
 std::uint32_t zeldata_findings_get_later_item_index(const zeldata_findings* findings,
                                                     std::uint64_t index, std::uint64_t* later_item)
 {
-    return call("getLaterItemIndex",
-                &FindingList::get<indexOf<&ZelDataFinding::laterItem>, std::uint64_t>, findings,
-                index, later_item);
+    return call("getLaterItemIndex", partAt<indexOf<&ZelDataFinding::laterItem>>, findings, index,
+                later_item);
 }
 
 std::uint32_t zeldata_findings_get_later_start(const zeldata_findings* findings,
                                                std::uint64_t index, std::int64_t* later_start)
 {
-    return call("getLaterStart", &FindingList::get<&ZelDataFinding::laterStart, std::int64_t>,
-                findings, index, later_start);
+    return call("getLaterStart", partAt<&ZelDataFinding::laterStart>, findings, index, later_start);
 }
 
 std::uint32_t zeldata_findings_get_severity(const zeldata_findings* findings, std::uint64_t index,
                                             std::uint32_t* severity)
 {
-    return call("getSeverity", &FindingList::get<severityOf, std::uint32_t>, findings, index,
-                severity);
+    return call("getSeverity", partAt<severityOf>, findings, index, severity);
 }
 
 std::uint32_t zeldata_findings_get_code(const zeldata_findings* findings, std::uint64_t index,
                                         std::uint32_t* code)
 {
-    return call("getCode", &FindingList::get<codeOf, std::uint32_t>, findings, index, code);
+    return call("getCode", partAt<codeOf>, findings, index, code);
 }
 
 std::uint32_t zeldata_findings_describe(const zeldata_findings* findings, std::uint64_t index,
                                         zeldata_string* text)
 {
-    return call("describe", &FindingList::get<description, std::string>, findings, index, text);
+    return call("describe", guardedOperation(partAt<description>), findings, index, text);
 }
 
 const char* zeldata_finding_to_string(std::uint32_t kind)
@@ -2068,21 +1997,35 @@ const char* zeldata_finding_to_string(std::uint32_t kind)
 
 // Language catalogue.
 
+namespace {
+
+/// Calls an operation that needs no object. No handle keeps a message.
+template <class Operation, class... Given>
+std::uint32_t callWithoutObject(Operation operation, Given... given)
+{
+    const Handle memory;
+    Code code = ZelData_Ok;
+    if ((failed(code = prepare(memory, given)) || ...)) return code;
+    return guarded([&] { return std::invoke(operation, passed(memory, given)...); });
+}
+
+} // namespace
+
 std::uint32_t zeldata_english_name_for_language(const char* id, std::size_t id_length,
                                                 zeldata_string* name)
 {
-    return call("", &ZelDataUtilities::englishNameForLanguage, Text{id, id_length}, name);
+    return callWithoutObject(&ZelDataUtilities::englishNameForLanguage, Text{id, id_length}, name);
 }
 
 std::uint32_t zeldata_native_name_for_language(const char* id, std::size_t id_length,
                                                zeldata_string* name)
 {
-    return call("", &ZelDataUtilities::nativeNameForLanguage, Text{id, id_length}, name);
+    return callWithoutObject(&ZelDataUtilities::nativeNameForLanguage, Text{id, id_length}, name);
 }
 
 std::uint32_t zeldata_is_valid_language(const char* id, std::size_t id_length)
 {
-    return call("", &ZelDataUtilities::isValidLanguage, Text{id, id_length});
+    return callWithoutObject(&ZelDataUtilities::isValidLanguage, Text{id, id_length});
 }
 
 // Text helpers.
@@ -2097,7 +2040,7 @@ Code made(Given given, std::string& text)
     return ZelData_Ok;
 }
 
-Code linesOf(const std::string& text, unsigned long& count)
+Code linesOf(const std::string& text, std::uint64_t& count)
 {
     count = ZelDataUtilities::countLinesInUTF8(text);
     return ZelData_Ok;
@@ -2108,46 +2051,48 @@ Code linesOf(const std::string& text, unsigned long& count)
 std::uint32_t zeldata_verify_utf8_format(const char* text, std::size_t text_length,
                                          std::int32_t bmp_only)
 {
-    return call("", &ZelDataUtilities::verifyUtf8Format, Text{text, text_length}, bmp_only);
+    return callWithoutObject(&ZelDataUtilities::verifyUtf8Format, Text{text, text_length},
+                             bmp_only != 0);
 }
 
 std::uint32_t zeldata_count_lines_in_utf8(const char* text, std::size_t text_length,
                                           std::uint64_t* count)
 {
-    return call("", linesOf, Text{text, text_length}, count);
+    return callWithoutObject(linesOf, Text{text, text_length}, count);
 }
 
 std::uint32_t zeldata_strip_unsupported_characters(const char* text, std::size_t text_length,
                                                    zeldata_string* result)
 {
-    return call("", made<const std::string&, &ZelDataUtilities::stripUnsupportedCharacters>,
-                Text{text, text_length}, result);
+    return callWithoutObject(
+        made<const std::string&, &ZelDataUtilities::stripUnsupportedCharacters>,
+        Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_to_text(const char* text, std::size_t text_length,
                                         zeldata_string* result)
 {
-    return call("", made<const std::string&, &ZelDataUtilities::htmlTagsToText>,
-                Text{text, text_length}, result);
+    return callWithoutObject(made<const std::string&, &ZelDataUtilities::htmlTagsToText>,
+                             Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_html_tags_from_text(const char* text, std::size_t text_length,
                                           zeldata_string* result)
 {
-    return call("", made<const std::string&, &ZelDataUtilities::htmlTagsFromText>,
-                Text{text, text_length}, result);
+    return callWithoutObject(made<const std::string&, &ZelDataUtilities::htmlTagsFromText>,
+                             Text{text, text_length}, result);
 }
 
 std::uint32_t zeldata_get_vertical_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return call("", made<ZelAlignment_tags, &ZelDataUtilities::getVerticalAlignment>, alignment,
-                result);
+    return callWithoutObject(made<ZelAlignment_tags, &ZelDataUtilities::getVerticalAlignment>,
+                             static_cast<ZelAlignment_tags>(alignment), result);
 }
 
 std::uint32_t zeldata_get_horizontal_alignment(std::uint32_t alignment, zeldata_string* result)
 {
-    return call("", made<ZelAlignment_tags, &ZelDataUtilities::getHorizontalAlignment>, alignment,
-                result);
+    return callWithoutObject(made<ZelAlignment_tags, &ZelDataUtilities::getHorizontalAlignment>,
+                             static_cast<ZelAlignment_tags>(alignment), result);
 }
 
 // Texts of values.
@@ -2168,37 +2113,44 @@ Code dateOfNow(std::string& date)
 
 std::uint32_t zeldata_get_value_string_float(float value, zeldata_string* result)
 {
-    return call("", made<float, &ZelDataUtilities::getValueString>, value, result);
+    return callWithoutObject(made<float, &ZelDataUtilities::getValueString>, value, result);
 }
 
 std::uint32_t zeldata_get_value_string_uint64(std::uint64_t value, zeldata_string* result)
 {
-    return call("", made<unsigned long long, &ZelDataUtilities::getValueString>, value, result);
+    const auto makeString = [value](std::string& text) {
+        text = ZelDataUtilities::getValueString(static_cast<unsigned long long>(value));
+        return ZelData_Ok;
+    };
+    return callWithoutObject(makeString, result);
 }
 
 std::uint32_t zeldata_get_rate_string(std::uint64_t rate, zeldata_string* result)
 {
-    return call("", made<unsigned long, &ZelDataUtilities::getRateString>, rate, result);
+    return callWithoutObject(made<unsigned long, &ZelDataUtilities::getRateString>, rate, result);
 }
 
 std::uint32_t zeldata_get_version_string(std::uint64_t version, zeldata_string* result)
 {
-    return call("", made<unsigned long, &ZelDataUtilities::getVersionString>, version, result);
+    return callWithoutObject(made<unsigned long, &ZelDataUtilities::getVersionString>, version,
+                             result);
 }
 
 std::uint32_t zeldata_get_date_string(std::int64_t seconds, zeldata_string* date)
 {
-    return call("", made<long, dateOf>, seconds, date);
+    if (static_cast<long>(seconds) != seconds) return ZelData_InvalidArgument;
+    return callWithoutObject(made<long, dateOf>, seconds, date);
 }
 
 std::uint32_t zeldata_get_date_string_now(zeldata_string* date)
 {
-    return call("", dateOfNow, date);
+    return callWithoutObject(dateOfNow, date);
 }
 
 std::uint32_t zeldata_get_value_string_int64(std::int64_t value, zeldata_string* result)
 {
-    return call("", made<long, &getValueString>, value, result);
+    if (static_cast<long>(value) != value) return ZelData_InvalidArgument;
+    return callWithoutObject(made<long, &getValueString>, value, result);
 }
 
 // NOLINTEND(readability-identifier-naming)

@@ -1,5 +1,5 @@
 /// @file
-/// Turns exceptions into codes. The C face does so, too, in src/c/zeldata.cpp.
+/// Turns exceptions into codes.
 
 #ifndef ZELINTERCHANGEDATA_UTIL_GUARD_H
 #define ZELINTERCHANGEDATA_UTIL_GUARD_H
@@ -16,17 +16,16 @@
 
 namespace ZelInterchangeData {
 
-/// Calls @p operation without arguments and returns its code. Lets `std::bad_alloc` pass; any other
-/// exception can only come from a caller's implementation of an interface, and the guard returns
-/// #ZelData_InternalError for it. A thread that ends, by cancellation or `pthread_exit`, unwinds
-/// through every guard, so a function in which that can happen is not `noexcept`.
-template <class Operation>
-[[nodiscard]] ZelDataResult_tags guardedButForMemory(Operation&& operation)
+/// The code for the exception that is being handled: #ZelData_OutOfMemory for `std::bad_alloc`; any
+/// other can only come from a caller's implementation of an interface, and is an
+/// #ZelData_InternalError. A thread that ends, by cancellation or `pthread_exit`, unwinds through
+/// this function, too.
+[[nodiscard]] inline ZelDataResult_tags codeOfException()
 {
     try {
-        return std::forward<Operation>(operation)();
-    } catch (const std::bad_alloc&) {
         throw;
+    } catch (const std::bad_alloc&) {
+        return ZelData_OutOfMemory;
 #ifdef __GLIBCXX__
     } catch (const abi::__forced_unwind&) {
         throw; // otherwise the C library ends the process
@@ -36,14 +35,29 @@ template <class Operation>
     }
 }
 
-/// As guardedButForMemory(), but returns #ZelData_OutOfMemory for `std::bad_alloc`.
+/// Calls @p operation without arguments and returns its code, or the code for its exception. A
+/// thread that ends unwinds through every guard, so a function in which that can happen is not
+/// `noexcept`.
 template <class Operation>
 [[nodiscard]] ZelDataResult_tags guarded(Operation&& operation)
 {
     try {
-        return guardedButForMemory(std::forward<Operation>(operation));
+        return std::forward<Operation>(operation)();
+    } catch (...) {
+        return codeOfException();
+    }
+}
+
+/// As guarded(), but lets `std::bad_alloc` pass.
+template <class Operation>
+[[nodiscard]] ZelDataResult_tags guardedButForMemory(Operation&& operation)
+{
+    try {
+        return std::forward<Operation>(operation)();
     } catch (const std::bad_alloc&) {
-        return ZelData_OutOfMemory;
+        throw;
+    } catch (...) {
+        return codeOfException();
     }
 }
 
